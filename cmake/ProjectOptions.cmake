@@ -1,0 +1,64 @@
+# Settings that hold for every target of the project, and the functions that make targets.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_AUTORCC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+option(WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+set(SANITIZER "" CACHE STRING "Sanitizers to build with: empty, address or thread")
+
+add_library(project_options INTERFACE)
+target_compile_options(project_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wsuggest-override -Woverloaded-virtual
+  $<$<BOOL:${WARNINGS_AS_ERRORS}>:-Werror>)
+target_compile_definitions(project_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_STRICT_ITERATORS
+  QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+
+if(SANITIZER STREQUAL "address")
+  add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer
+    -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=address,undefined)
+elseif(SANITIZER STREQUAL "thread")
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=thread)
+elseif(SANITIZER)
+  message(FATAL_ERROR "SANITIZER is '${SANITIZER}'; it can be empty, address or thread")
+endif()
+
+# add_project_test(<name> LABELS <label>... SOURCES <file>... LIBRARIES <target>...)
+#
+# One test executable, run without a display. A label says what it needs: `unit` nothing, `ui`
+# widgets, `integration` built programs or plug-ins. Tests with the label `thread` also run under
+# ThreadSanitizer.
+function(add_project_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "LABELS;SOURCES;LIBRARIES")
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 120)
+  endif()
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE project_options Qt5::Test ${arg_LIBRARIES})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
+  add_test(NAME ${name} COMMAND ${name})
+  set_tests_properties(${name} PROPERTIES
+    LABELS "${arg_LABELS}"
+    TIMEOUT ${arg_TIMEOUT}
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=*.debug=false;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+endfunction()

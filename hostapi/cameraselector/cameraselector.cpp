@@ -1,0 +1,12 @@
+#include "ideviceselectorservice.h"
+
+namespace Plugin::CameraSelector {
+
+IDeviceSelectorService::IDeviceSelectorService(QObject *parent)
+    : IService(parent)
+{
+}
+
+IDeviceSelectorService::~IDeviceSelectorService() = default;
+
+} // namespace Plugin::CameraSelector

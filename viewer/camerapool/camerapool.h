@@ -1,0 +1,86 @@
+#pragma once
+
+#include "core/iservice.h"
+
+#include <QList>
+#include <QObject>
+#include <QSharedPointer>
+#include <QString>
+
+#include <memory>
+
+class QImage;
+
+namespace Viewer::CameraPool {
+
+class CSimulation;
+
+/// What the pool is started with.
+struct CCameraPoolOptions
+{
+    QString descriptionFile; ///< JSON description of the simulated cameras; empty: the built-in one
+    QString stateFile; ///< where the cameras' firmware versions are remembered; empty: nowhere
+    double speedFactor = 1.0; ///< how many times faster than real cameras the simulation runs
+    bool resetCameras = false; ///< forget what earlier updates wrote
+};
+
+/// What a camera is doing.
+enum class ECameraActivity {
+    Idle,
+    Acquiring,
+    Recording,
+    Updating,
+};
+
+/// The host's camera pool: owns the cameras and the services that plug-ins use. GUI thread.
+class CCameraPool : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Throws `Core::Exception::BaseException`, naming file, line and field, when the description
+    /// is faulty. Nothing is enumerated before start().
+    explicit CCameraPool(const CCameraPoolOptions &options, QObject *parent = nullptr);
+    ~CCameraPool() override;
+
+    /// Begins the first enumeration. Its result is announced even if no camera is found.
+    void start();
+
+    /// The services to publish: enumeration, status, stream control and firmware update.
+    [[nodiscard]] QList<QSharedPointer<Core::Service::IService>> getServices() const;
+
+    [[nodiscard]] ECameraActivity getActivity(const QString &cameraId) const;
+
+    /// Start and stop acquisition of one camera. False, with a sentence in @p error, when the
+    /// camera is gone, being updated, or starts are locked.
+    bool startAcquisition(const QString &cameraId, QString *error = nullptr);
+    void stopAcquisition(const QString &cameraId);
+
+    /// Recording acquires as well and writes each frame as a PNG file into @p folder.
+    bool startRecording(const QString &cameraId, const QString &folder, QString *error = nullptr);
+    void stopRecording(const QString &cameraId);
+
+    /// While locked, no camera can be started: a wizard is open.
+    void setStartsLocked(bool locked);
+
+    /// True while an update job executes, on whatever thread.
+    [[nodiscard]] bool isUpdateRunning() const;
+
+    /// What stands in for cables and people: plug, unplug, make busy.
+    [[nodiscard]] CSimulation &getSimulation();
+
+signals:
+    /// GUI thread; the activity or the presence of a camera has changed.
+    void activityChanged(const QString &cameraId);
+
+    /// GUI thread; one frame of an acquiring camera.
+    void frameReady(const QString &cameraId, const QImage &frame);
+
+    void updateRunningChanged(bool running);
+
+private:
+    struct CPrivate;
+    const std::unique_ptr<CPrivate> d;
+};
+
+} // namespace Viewer::CameraPool
