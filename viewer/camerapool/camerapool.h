@@ -13,7 +13,9 @@ class QImage;
 
 namespace Viewer::CameraPool {
 
+namespace Simulation {
 class CSimulation;
+}
 
 /// What the pool is started with.
 struct CCameraPoolOptions
@@ -30,6 +32,7 @@ enum class ECameraActivity {
     Acquiring,
     Recording,
     Updating,
+    InUseElsewhere, ///< another application acquires from the camera
 };
 
 /// The host's camera pool: owns the cameras and the services that plug-ins use. GUI thread.
@@ -67,7 +70,7 @@ public:
     [[nodiscard]] bool isUpdateRunning() const;
 
     /// What stands in for cables and people: plug, unplug, make busy.
-    [[nodiscard]] CSimulation &getSimulation();
+    [[nodiscard]] Simulation::CSimulation &getSimulation();
 
 signals:
     /// GUI thread; the activity or the presence of a camera has changed.
@@ -76,6 +79,11 @@ signals:
     /// GUI thread; one frame of an acquiring camera.
     void frameReady(const QString &cameraId, const QImage &frame);
 
+    /// GUI thread; acquisition or recording of a camera has ended by itself. @p message is one
+    /// sentence that names the camera and the cause.
+    void streamFailed(const QString &cameraId, const QString &message);
+
+    /// GUI thread.
     void updateRunningChanged(bool running);
 
 private:
