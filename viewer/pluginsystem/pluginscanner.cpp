@@ -1,0 +1,47 @@
+#include "pluginscanner.h"
+
+#include "core/iplugin.h"
+
+#include <QDir>
+#include <QPluginLoader>
+#include <QSet>
+
+namespace Viewer::PluginSystem {
+
+// The part of the interface id before its number: what makes a library claim to be one of ours.
+static QString interfaceFamily()
+{
+    return QStringLiteral(NUVEX_VIEWER_PLUGIN_IID).section(QLatin1Char('/'), 0, 0);
+}
+
+QList<CPluginSpec> CPluginScanner::scan(const QStringList &directories)
+{
+    QList<CPluginSpec> specs;
+    QSet<QString> seen;
+    for (const QString &directory : directories) {
+        const QFileInfoList files = QDir(directory).entryInfoList(
+            {QStringLiteral("*.so")}, QDir::Files | QDir::Readable, QDir::Name);
+        for (const QFileInfo &file : files) {
+            const QString path = file.canonicalFilePath();
+            if (path.isEmpty() || seen.contains(path))
+                continue;
+            seen.insert(path);
+            const QPluginLoader loader(path);
+            const QJsonObject metaData = loader.metaData();
+            if (metaData.isEmpty()) {
+                // A sound library without metadata is no plug-in. A file that is no sound library
+                // at all could have been one, and somebody would miss it.
+                if (loader.errorString().contains(QLatin1String("ELF")))
+                    specs.append(CPluginSpec::createBroken(
+                        path, tr("The file is damaged or is not a library.")));
+                continue;
+            }
+            const QString interfaceId = metaData.value(QLatin1String("IID")).toString();
+            if (interfaceId.section(QLatin1Char('/'), 0, 0) == interfaceFamily())
+                specs.append(CPluginSpec::createFromMetaData(path, metaData));
+        }
+    }
+    return specs;
+}
+
+} // namespace Viewer::PluginSystem
