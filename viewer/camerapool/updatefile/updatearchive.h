@@ -13,6 +13,8 @@ struct zip;
 
 namespace Viewer::CameraPool::UpdateFile {
 
+class CPayloadDevice;
+
 /// The archive of an update file, kept open: a file that takes its place on the disk meanwhile
 /// cannot change what is read. One thread at a time; no thread affinity, so it may be opened on one
 /// thread and used on another.
@@ -50,16 +52,19 @@ public:
 private:
     struct CEntry
     {
-        QString name;
-        quint64 index = 0;
-        qint64 size = 0;
+        QString name; ///< of a folder without the slash at its end
+        quint64 index = 0; ///< within the archive
+        qint64 size = 0; ///< declared, at most one more than the limit of all together
+        bool isFolder = false;
     };
 
     void openFile();
     void readDirectory();
+    [[nodiscard]] CEntry readEntry(quint64 index) const;
     [[nodiscard]] const CEntry *findFile(const QString &name) const;
-    [[nodiscard]] std::unique_ptr<QIODevice> openFile(const CEntry &entry,
-                                                      const QByteArray &sha256) const;
+    [[nodiscard]] const CEntry &getPayloadEntry(const CPayload &payload) const;
+    [[nodiscard]] std::unique_ptr<CPayloadDevice> openFile(const CEntry &entry,
+                                                           const QByteArray &sha256) const;
     [[noreturn]] void fail(const QString &cause) const;
 
     QString m_path;

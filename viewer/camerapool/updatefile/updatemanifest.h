@@ -26,11 +26,17 @@ struct CPayload
     QByteArray sha256; ///< 32 raw bytes
 };
 
+inline bool operator==(const CPayload &left, const CPayload &right)
+{
+    return left.name == right.name && left.size == right.size && left.sha256 == right.sha256;
+}
+
 /// One step of an update. Which members are used depends on the kind.
 struct CUpdateStep
 {
     Plugin::CameraPool::EFirmwareUpdateStep kind = Plugin::CameraPool::EFirmwareUpdateStep::Invalid;
-    std::optional<int> estimatedMs; ///< at least 1; absent: to be estimated by the job
+    std::optional<int>
+        estimatedMs; ///< at least 1; absent only for FileUpload: to be estimated by the job
     QString description; ///< may be empty
 
     QVector<CFeatureValue> preconditions; ///< CheckPreconditions: all must hold; may be empty

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+namespace Viewer::CameraPool::UpdateFile {
+
+/// @p text on one line: a character that cannot be shown becomes a question mark.
+[[nodiscard]] QString toSingleLine(const QString &text);
+
+/// @p text from a file, for use within a sentence: in double quotes, on one line, and cut off when
+/// it is long.
+[[nodiscard]] QString quote(const QString &text);
+
+/// True when @p text has a character that cannot be shown on a line: a control or formatting
+/// character, a line or paragraph separator, half a surrogate pair. @p lineBreaksAllowed lets line
+/// feeds and tabulators pass.
+[[nodiscard]] bool hasUnprintable(const QString &text, bool lineBreaksAllowed = false);
+
+} // namespace Viewer::CameraPool::UpdateFile

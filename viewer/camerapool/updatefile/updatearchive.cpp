@@ -1,0 +1,249 @@
+#include "updatearchive.h"
+
+#include "entryname.h"
+#include "messagetext.h"
+#include "payloaddevice.h"
+#include "updatefileerror.h"
+#include "updatefilelimits.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#include <unistd.h>
+#include <zip.h>
+
+namespace Viewer::CameraPool::UpdateFile {
+
+namespace {
+
+constexpr int BLOCK_SIZE = 64 * 1024;
+
+/// What the first bytes of an archive that is not empty are.
+const QByteArray ARCHIVE_BEGIN = QByteArrayLiteral("PK\x03\x04");
+
+QString describeOpenFault(int zipError, const QByteArray &firstBytes)
+{
+    switch (zipError) {
+    case ZIP_ER_NOZIP:
+        if (firstBytes == ARCHIVE_BEGIN)
+            return QStringLiteral("the archive is cut off at its end; copy the file again");
+        return QStringLiteral("this is not an update file, as it is not a ZIP archive");
+    case ZIP_ER_MULTIDISK:
+        return QStringLiteral("the archive is one part of several; pack it as one file");
+    case ZIP_ER_MEMORY:
+        return QStringLiteral("there is not enough memory to read the archive");
+    case ZIP_ER_READ:
+    case ZIP_ER_SEEK:
+    case ZIP_ER_OPEN:
+        return QStringLiteral("the file cannot be read from the disk");
+    default:
+        return QStringLiteral("the archive is damaged; copy the file again");
+    }
+}
+
+/// Names are taken as they are stored and have to be UTF-8, as guessing another encoding would hide
+/// control characters behind harmless ones.
+QString readEntryName(zip *archive, quint64 index)
+{
+    const char *stored = zip_get_name(archive, index, ZIP_FL_ENC_RAW);
+    const QByteArray bytes(stored ? stored : "");
+    const QString name = QString::fromUtf8(bytes);
+    return name.toUtf8() == bytes ? name : QString();
+}
+
+} // namespace
+
+CUpdateArchive::CUpdateArchive(const QString &path)
+    : m_path(QFileInfo(QDir::fromNativeSeparators(path)).absoluteFilePath())
+{
+    openFile();
+    readDirectory();
+}
+
+CUpdateArchive::~CUpdateArchive() = default;
+
+QString CUpdateArchive::getPath() const
+{
+    return m_path;
+}
+
+QStringList CUpdateArchive::getFileNames() const
+{
+    QStringList names;
+    for (const CEntry &entry : m_files)
+        names.append(entry.name);
+    return names;
+}
+
+QByteArray CUpdateArchive::readManifest() const
+{
+    const CEntry *entry = findFile(getManifestName());
+    if (!entry) {
+        const QString ending = QLatin1Char('/') + getManifestName();
+        for (const CEntry &file : m_files) {
+            if (file.name.endsWith(ending))
+                fail(QStringLiteral("update.json lies in a folder of the archive (%1); it has to "
+                                    "lie at the top")
+                         .arg(quote(file.name)));
+        }
+        fail(QStringLiteral("there is no update.json in the archive"));
+    }
+    if (entry->size > Limits::MANIFEST_SIZE)
+        fail(QStringLiteral("update.json has %1 bytes; %2 are allowed")
+                 .arg(entry->size)
+                 .arg(Limits::MANIFEST_SIZE));
+
+    const auto device = openFile(*entry, QByteArray());
+    const QByteArray manifest = device->readAll();
+    if (!device->getFault().isEmpty())
+        fail(device->getFault());
+    return manifest;
+}
+
+void CUpdateArchive::checkPayload(const CPayload &payload) const
+{
+    const auto device = openFile(getPayloadEntry(payload), payload.sha256);
+    QByteArray block(BLOCK_SIZE, Qt::Uninitialized);
+    while (!device->atEnd())
+        device->read(block.data(), block.size());
+    if (!device->getFault().isEmpty())
+        fail(device->getFault());
+}
+
+std::unique_ptr<QIODevice> CUpdateArchive::openPayload(const CPayload &payload) const
+{
+    return openFile(getPayloadEntry(payload), payload.sha256);
+}
+
+void CUpdateArchive::openFile()
+{
+    const QFileInfo info(m_path);
+    if (!info.exists())
+        fail(QStringLiteral("the file does not exist"));
+    if (info.isDir())
+        fail(QStringLiteral("this is a folder, not a file"));
+    // A pipe or a device could block for ever.
+    if (!info.isFile())
+        fail(QStringLiteral("this is not a regular file"));
+
+    QFile file(m_path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        fail(QStringLiteral("the file cannot be opened; check its access rights"));
+    if (file.size() == 0)
+        fail(QStringLiteral("the file is empty"));
+    if (file.size() > Limits::ARCHIVE_SIZE)
+        fail(QStringLiteral("the file has %1 bytes; %2 are allowed")
+                 .arg(file.size())
+                 .arg(Limits::ARCHIVE_SIZE));
+    const QByteArray firstBytes = file.read(ARCHIVE_BEGIN.size());
+
+    // A second descriptor of the same open file, which the library closes with the archive.
+    const int descriptor = dup(file.handle());
+    if (descriptor < 0)
+        fail(QStringLiteral("the file cannot be opened; too many files are open"));
+    int zipError = ZIP_ER_OK;
+    zip_t *const archive = zip_fdopen(descriptor, 0, &zipError);
+    if (!archive) {
+        ::close(descriptor);
+        fail(describeOpenFault(zipError, firstBytes));
+    }
+    m_zip = std::shared_ptr<zip>(archive, zip_discard);
+}
+
+void CUpdateArchive::readDirectory()
+{
+    const qint64 entryCount = zip_get_num_entries(m_zip.get(), 0);
+    if (entryCount > Limits::ENTRIES)
+        fail(QStringLiteral("the archive has %1 entries; %2 are allowed")
+                 .arg(entryCount)
+                 .arg(Limits::ENTRIES));
+
+    QSet<QString> names;
+    qint64 unpackedSize = 0;
+    for (qint64 index = 0; index < entryCount; ++index) {
+        const CEntry entry = readEntry(static_cast<quint64>(index));
+        if (names.contains(entry.name))
+            fail(QStringLiteral("the archive has two entries named %1").arg(quote(entry.name)));
+        names.insert(entry.name);
+
+        if (entry.size > Limits::UNPACKED_SIZE - unpackedSize)
+            fail(QStringLiteral("the archive unpacks to more than %1 bytes")
+                     .arg(Limits::UNPACKED_SIZE));
+        unpackedSize += entry.size;
+        if (!entry.isFolder)
+            m_files.append(entry);
+    }
+}
+
+CUpdateArchive::CEntry CUpdateArchive::readEntry(quint64 index) const
+{
+    CEntry entry;
+    entry.index = index;
+    entry.name = readEntryName(m_zip.get(), index);
+    if (entry.name.isEmpty())
+        fail(QStringLiteral("entry %1 of the archive has no name, or one that is not UTF-8")
+                 .arg(index + 1));
+    entry.isFolder = entry.name.endsWith(QLatin1Char('/')) && entry.name.size() > 1;
+    if (entry.isFolder)
+        entry.name.chop(1);
+    const QString nameFault = findEntryNameFault(entry.name);
+    if (!nameFault.isEmpty())
+        fail(QStringLiteral("the entry name %1 %2").arg(quote(entry.name), nameFault));
+
+    constexpr zip_uint64_t NEEDED
+        = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_ENCRYPTION_METHOD;
+    zip_stat_t status;
+    zip_stat_init(&status);
+    if (zip_stat_index(m_zip.get(), index, 0, &status) != 0 || (status.valid & NEEDED) != NEEDED)
+        fail(QStringLiteral("the entry %1 of the archive is damaged").arg(quote(entry.name)));
+    if (status.encryption_method != ZIP_EM_NONE)
+        fail(QStringLiteral("the entry %1 is encrypted; pack it without a password")
+                 .arg(quote(entry.name)));
+    if (status.comp_method != ZIP_CM_STORE && status.comp_method != ZIP_CM_DEFLATE)
+        fail(QStringLiteral("the entry %1 is compressed by a method other than Deflate")
+                 .arg(quote(entry.name)));
+    constexpr auto LARGEST = static_cast<zip_uint64_t>(Limits::UNPACKED_SIZE);
+    entry.size = static_cast<qint64>(qMin<zip_uint64_t>(status.size, LARGEST + 1));
+    return entry;
+}
+
+const CUpdateArchive::CEntry *CUpdateArchive::findFile(const QString &name) const
+{
+    for (const CEntry &entry : m_files) {
+        if (entry.name == name)
+            return &entry;
+    }
+    return nullptr;
+}
+
+const CUpdateArchive::CEntry &CUpdateArchive::getPayloadEntry(const CPayload &payload) const
+{
+    const CEntry *entry = findFile(payload.name);
+    if (!entry)
+        fail(QStringLiteral("the payload %1 is missing in the archive").arg(quote(payload.name)));
+    if (entry->size != payload.size)
+        fail(QStringLiteral("the payload %1 is too %2: it has %3 bytes where update.json says %4")
+                 .arg(quote(payload.name),
+                      entry->size < payload.size ? QStringLiteral("short") : QStringLiteral("long"),
+                      QString::number(entry->size), QString::number(payload.size)));
+    return *entry;
+}
+
+std::unique_ptr<CPayloadDevice> CUpdateArchive::openFile(const CEntry &entry,
+                                                         const QByteArray &sha256) const
+{
+    auto device = std::make_unique<CPayloadDevice>(
+        m_zip, CPayloadDevice::CSource{m_path, entry.name, entry.index, entry.size, sha256});
+    if (!device->isOpen())
+        fail(device->getFault());
+    return device;
+}
+
+void CUpdateArchive::fail(const QString &cause) const
+{
+    throw CUpdateFileError(m_path, cause);
+}
+
+} // namespace Viewer::CameraPool::UpdateFile
