@@ -1,0 +1,203 @@
+#include "fakehost.h"
+
+#include "core/baseexception.h"
+
+#include <QWriteLocker>
+
+namespace TestSupport {
+
+using Plugin::CameraPool::CameraInfoPtr;
+using Plugin::CameraPool::DeviceFirmwareUpdatePtr;
+using Plugin::CameraPool::TransportLayerInfoPtr;
+
+namespace {
+
+class CFakeCommand : public Plugin::AppCore::ICommand
+{
+public:
+    CFakeCommand(QAction *action, const Core::CId &id, const QList<Core::CId> &contexts)
+        : m_action(action)
+        , m_id(id)
+        , m_contexts(contexts)
+    {
+    }
+
+    Core::CId getId() const override
+    {
+        return m_id;
+    }
+
+    QAction *getAction() const override
+    {
+        return m_action;
+    }
+
+    QStringList getContexts() const
+    {
+        QStringList texts;
+        for (const Core::CId &context : m_contexts)
+            texts.append(context.toString());
+        return texts;
+    }
+
+private:
+    const QPointer<QAction> m_action;
+    const Core::CId m_id;
+    const QList<Core::CId> m_contexts;
+};
+
+class CFakeContainer : public Plugin::AppCore::IActionContainer
+{
+public:
+    CFakeContainer(CFakeMenuService *menus, const Core::CId &id)
+        : m_menus(menus)
+        , m_id(id)
+    {
+    }
+
+    void addAction(QSharedPointer<Plugin::AppCore::ICommand> command,
+                   const Core::CId &groupId) override
+    {
+        const auto fakeCommand = command.staticCast<CFakeCommand>();
+        m_menus->entries.append({m_id.toString(), groupId.toString(),
+                                 fakeCommand->getId().toString(), fakeCommand->getContexts(),
+                                 fakeCommand->getAction()});
+    }
+
+private:
+    CFakeMenuService *const m_menus;
+    const Core::CId m_id;
+};
+
+} // namespace
+
+void CFakeInitializer::addService(QSharedPointer<Core::Service::IService> service)
+{
+    const QWriteLocker locker(&m_lock);
+    if (!m_services.contains(service))
+        m_services.append(service);
+}
+
+void CFakeInitializer::removeService(QSharedPointer<Core::Service::IService> service)
+{
+    const QWriteLocker locker(&m_lock);
+    m_services.removeAll(service);
+}
+
+QList<QSharedPointer<Core::Service::IService>> CFakeInitializer::getServices() const
+{
+    return m_services;
+}
+
+QReadWriteLock *CFakeInitializer::getServicesLock() const
+{
+    return &m_lock;
+}
+
+QVector<TransportLayerInfoPtr> CFakeEnumerationService::getTransportLayerInfoVector() const
+{
+    return layers;
+}
+
+void CFakeEnumerationService::refreshEnumeration()
+{
+    ++refreshCount;
+}
+
+void CFakeEnumerationService::announce(const QVector<TransportLayerInfoPtr> &newLayers)
+{
+    layers = newLayers;
+    emit enumerationChanged();
+}
+
+bool CFakeStatusService::isCameraBusy(CameraInfoPtr camera) const
+{
+    return busyIds.contains(camera->getId());
+}
+
+void CFakeStreamControlService::stopAllCameras()
+{
+    ++stopCount;
+}
+
+QVector<UpdateInfoPtr> CFakeUpdateService::getFirmwareUpdateInfos(const QString &updateFilePath,
+                                                                  const QString &entryFilter)
+{
+    Q_UNUSED(entryFilter)
+
+    readPaths.append(updateFilePath);
+    if (!readError.isEmpty())
+        throw Core::Exception::BaseException(readError);
+    return entries;
+}
+
+bool CFakeUpdateService::getCompatibleFirmwareUpdates(CameraInfoPtr camera,
+                                                      const QVector<UpdateInfoPtr> &all,
+                                                      QVector<UpdateInfoPtr> &compatible,
+                                                      bool &updatable)
+{
+    checkedIds.append(camera->getId());
+    if (failingIds.contains(camera->getId()))
+        throw Core::Exception::BaseException(QStringLiteral("no answer"));
+    updatable = true;
+    if (!incompatibleIds.contains(camera->getId()))
+        compatible = all;
+    return true;
+}
+
+DeviceFirmwareUpdatePtr
+CFakeUpdateService::createDeviceFirmwareUpdate(CameraInfoPtr camera,
+                                               const UpdateInfoPtr &updateInfo)
+{
+    return createJob ? createJob(camera->getId(), updateInfo) : DeviceFirmwareUpdatePtr();
+}
+
+QWidget *CFakeWindowService::getMainWindow() const
+{
+    return &m_mainWindow;
+}
+
+QSharedPointer<Plugin::AppCore::IActionContainer>
+CFakeMenuService::getActionContainer(const Core::CId &menuId)
+{
+    return QSharedPointer<CFakeContainer>::create(this, menuId);
+}
+
+QSharedPointer<Plugin::AppCore::ICommand>
+CFakeMenuService::registerAction(QAction *action, const Core::CId &commandId,
+                                 const QList<Core::CId> &contexts)
+{
+    return QSharedPointer<CFakeCommand>::create(action, commandId, contexts);
+}
+
+CMenuEntry CFakeMenuService::getEntry(const char *menu) const
+{
+    CMenuEntry found;
+    for (const CMenuEntry &entry : entries) {
+        if (entry.menu == QLatin1String(menu)) {
+            Q_ASSERT(!found.action);
+            found = entry;
+        }
+    }
+    return found;
+}
+
+CFakeHost::CFakeHost()
+    : menus(new CFakeMenuService)
+    , windows(new CFakeWindowService)
+    , enumeration(new CFakeEnumerationService)
+    , status(new CFakeStatusService)
+    , streams(new CFakeStreamControlService)
+    , updates(new CFakeUpdateService)
+    , selector(new CFakeSelectorService)
+{
+    initializer.addService(menus);
+    initializer.addService(windows);
+    initializer.addService(enumeration);
+    initializer.addService(status);
+    initializer.addService(streams);
+    initializer.addService(updates);
+    initializer.addService(selector);
+}
+
+} // namespace TestSupport
