@@ -1,0 +1,133 @@
+#include "guftool.h"
+
+#include "manifestprinter.h"
+#include "updatefilepacker.h"
+#include "viewer/camerapool/updatefile/updatefileerror.h"
+#include "viewer/camerapool/updatefile/updatefilereader.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
+
+namespace Viewer::GufTool {
+
+using CameraPool::UpdateFile::CUpdateFileError;
+using CameraPool::UpdateFile::CUpdateFileReader;
+using CameraPool::UpdateFile::CUpdateManifest;
+
+namespace {
+
+QString getUsage()
+{
+    return QStringLiteral(
+        "Usage: guftool pack DIR FILE\n"
+        "       guftool inspect [--json] FILE\n"
+        "       guftool verify FILE\n"
+        "\n"
+        "pack     makes the update file FILE from DIR/update.json and the payloads\n"
+        "         in DIR that it names; sizes and digests that it leaves out are\n"
+        "         filled in\n"
+        "inspect  checks FILE and shows what it holds, with --json as JSON\n"
+        "verify   checks FILE\n"
+        "\n"
+        "Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong\n"
+        "call of this program.\n");
+}
+
+QCommandLineOption getJsonOption()
+{
+    return QCommandLineOption(QStringLiteral("json"));
+}
+
+QCommandLineOption getHelpOption()
+{
+    return QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+}
+
+} // namespace
+
+CGufTool::CGufTool(QTextStream &output, QTextStream &errorOutput)
+    : m_output(output)
+    , m_errorOutput(errorOutput)
+{
+}
+
+int CGufTool::run(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.addOption(getJsonOption());
+    parser.addOption(getHelpOption());
+    if (!parser.parse(arguments))
+        return reportWrongUsage(parser.errorText());
+    if (parser.isSet(getHelpOption())) {
+        m_output << getUsage();
+        return Success;
+    }
+    try {
+        return runCommand(parser);
+    } catch (const CUpdateFileError &error) {
+        m_errorOutput << error.getMessage() << Qt::endl;
+        return FileFaulty;
+    }
+}
+
+int CGufTool::runCommand(const QCommandLineParser &parser)
+{
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.isEmpty())
+        return reportWrongUsage(QStringLiteral("There is no command."));
+    const QString &command = arguments.constFirst();
+    const bool isPack = command == QLatin1String("pack");
+    const bool isInspect = command == QLatin1String("inspect");
+    if (!isPack && !isInspect && command != QLatin1String("verify"))
+        return reportWrongUsage(QStringLiteral("The command \"%1\" is unknown.").arg(command));
+    if (arguments.size() != (isPack ? 3 : 2))
+        return reportWrongUsage(
+            QStringLiteral("The command \"%1\" has too few or too many arguments.").arg(command));
+    if (parser.isSet(getJsonOption()) && !isInspect)
+        return reportWrongUsage(
+            QStringLiteral("The command \"%1\" has no option --json.").arg(command));
+
+    if (isPack)
+        pack(arguments.at(1), arguments.at(2));
+    else if (isInspect)
+        inspect(arguments.at(1), parser.isSet(getJsonOption()));
+    else
+        verify(arguments.at(1));
+    return Success;
+}
+
+void CGufTool::pack(const QString &folder, const QString &file)
+{
+    const CUpdateManifest manifest = CUpdateFilePacker(folder).pack(file);
+    m_output << QStringLiteral("Packed %1: updates: %2, bytes: %3")
+                    .arg(QDir::toNativeSeparators(file), QString::number(manifest.updates.size()),
+                         QString::number(QFileInfo(file).size()))
+             << Qt::endl;
+}
+
+void CGufTool::inspect(const QString &file, bool asJson)
+{
+    const CUpdateManifest manifest = CUpdateFileReader::read(file);
+    const CManifestPrinter printer(file, manifest);
+    m_output << (asJson ? printer.toJson() : printer.toText());
+    m_output.flush();
+}
+
+void CGufTool::verify(const QString &file)
+{
+    const CUpdateManifest manifest = CUpdateFileReader::read(file);
+    m_output << QStringLiteral("%1 is faultless, updates: %2")
+                    .arg(QDir::toNativeSeparators(file), QString::number(manifest.updates.size()))
+             << Qt::endl;
+}
+
+int CGufTool::reportWrongUsage(const QString &cause)
+{
+    m_errorOutput << cause << "\n\n" << getUsage();
+    m_errorOutput.flush();
+    return WrongUsage;
+}
+
+} // namespace Viewer::GufTool

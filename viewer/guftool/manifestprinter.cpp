@@ -1,0 +1,173 @@
+#include "manifestprinter.h"
+
+#include "viewer/camerapool/updatefile/manifestparser.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QStringList>
+
+namespace Viewer::GufTool {
+
+using CameraPool::UpdateFile::CFeatureValue;
+using CameraPool::UpdateFile::CUpdateEntry;
+using CameraPool::UpdateFile::CUpdateManifest;
+using CameraPool::UpdateFile::CUpdateStep;
+using CameraPool::UpdateFile::getStepKindName;
+using Plugin::CameraPool::EFirmwareUpdateStep;
+
+namespace {
+
+QString toText(const CFeatureValue &feature)
+{
+    return QStringLiteral("%1 = %2").arg(feature.feature, feature.value);
+}
+
+/// What the step works on.
+QString describeStep(const CUpdateStep &step)
+{
+    switch (step.kind) {
+    case EFirmwareUpdateStep::CheckPreconditions: {
+        QStringList conditions;
+        for (const CFeatureValue &condition : step.preconditions)
+            conditions.append(toText(condition));
+        return conditions.join(QStringLiteral(", "));
+    }
+    case EFirmwareUpdateStep::FeatureWrite:
+    case EFirmwareUpdateStep::FeatureAssert:
+        return toText(step.feature);
+    case EFirmwareUpdateStep::FeatureExecute:
+        return step.feature.feature;
+    case EFirmwareUpdateStep::FileUpload:
+        return QStringLiteral("%1 (%2 bytes) to %3")
+            .arg(step.payload.name, QString::number(step.payload.size), step.targetFile);
+    default:
+        return QString();
+    }
+}
+
+QString formatStep(int number, const CUpdateStep &step)
+{
+    const QString estimate = step.estimatedMs ? QStringLiteral("%1 ms").arg(*step.estimatedMs)
+                                              : QStringLiteral("by size");
+    QString line = QStringLiteral("    %1. %2 %3  %4")
+                       .arg(QString::number(number).rightJustified(2),
+                            getStepKindName(step.kind).leftJustified(18),
+                            estimate.rightJustified(11), describeStep(step));
+    if (!step.description.isEmpty())
+        line += QStringLiteral("  [%1]").arg(step.description);
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    return line;
+}
+
+QString orElse(const QString &text, const QString &substitute)
+{
+    return text.isEmpty() ? substitute : text;
+}
+
+void appendUpdate(QStringList &lines, int number, const CUpdateEntry &update)
+{
+    const QString comma = QStringLiteral(", ");
+    QString notes = update.releaseNotes;
+    notes.replace(QLatin1Char('\n'), QStringLiteral("\n                    "));
+    lines.append(QString());
+    lines.append(QStringLiteral("Update %1").arg(number));
+    lines.append(QStringLiteral("  Version:          ") + update.version);
+    lines.append(QStringLiteral("  Description:      ")
+                 + orElse(update.description, QStringLiteral("none")));
+    lines.append(QStringLiteral("  Models:           ") + update.models.join(comma));
+    lines.append(QStringLiteral("  Device versions:  ")
+                 + orElse(update.deviceVersions.join(comma), QStringLiteral("any")));
+    lines.append(QStringLiteral("  Minimum version:  ")
+                 + orElse(update.minimumVersion, QStringLiteral("none")));
+    lines.append(QStringLiteral("  Release notes:    ") + orElse(notes, QStringLiteral("none")));
+    lines.append(QStringLiteral("  Steps:"));
+    for (int index = 0; index < update.steps.size(); ++index)
+        lines.append(formatStep(index + 1, update.steps.at(index)));
+}
+
+QJsonObject toJsonObject(const CFeatureValue &feature)
+{
+    return {{QStringLiteral("feature"), feature.feature}, {QStringLiteral("value"), feature.value}};
+}
+
+QJsonObject toJsonObject(const CUpdateStep &step)
+{
+    QJsonObject object{{QStringLiteral("kind"), getStepKindName(step.kind)},
+                       {QStringLiteral("description"), step.description}};
+    if (step.estimatedMs)
+        object.insert(QStringLiteral("estimatedMs"), *step.estimatedMs);
+    switch (step.kind) {
+    case EFirmwareUpdateStep::CheckPreconditions: {
+        QJsonArray conditions;
+        for (const CFeatureValue &condition : step.preconditions)
+            conditions.append(toJsonObject(condition));
+        object.insert(QStringLiteral("preconditions"), conditions);
+        break;
+    }
+    case EFirmwareUpdateStep::FeatureWrite:
+    case EFirmwareUpdateStep::FeatureAssert:
+        object.insert(QStringLiteral("value"), step.feature.value);
+        Q_FALLTHROUGH();
+    case EFirmwareUpdateStep::FeatureExecute:
+        object.insert(QStringLiteral("feature"), step.feature.feature);
+        break;
+    case EFirmwareUpdateStep::FileUpload:
+        object.insert(QStringLiteral("payload"), step.payload.name);
+        object.insert(QStringLiteral("size"), step.payload.size);
+        object.insert(QStringLiteral("sha256"), QString::fromLatin1(step.payload.sha256.toHex()));
+        object.insert(QStringLiteral("targetFile"), step.targetFile);
+        break;
+    default:
+        break;
+    }
+    return object;
+}
+
+QJsonObject toJsonObject(const CUpdateEntry &update)
+{
+    QJsonArray steps;
+    for (const CUpdateStep &step : update.steps)
+        steps.append(toJsonObject(step));
+    return {{QStringLiteral("version"), update.version},
+            {QStringLiteral("description"), update.description},
+            {QStringLiteral("releaseNotes"), update.releaseNotes},
+            {QStringLiteral("models"), QJsonArray::fromStringList(update.models)},
+            {QStringLiteral("deviceVersions"), QJsonArray::fromStringList(update.deviceVersions)},
+            {QStringLiteral("minimumVersion"), update.minimumVersion},
+            {QStringLiteral("steps"), steps}};
+}
+
+} // namespace
+
+CManifestPrinter::CManifestPrinter(const QString &file, const CUpdateManifest &manifest)
+    : m_file(QDir::toNativeSeparators(file))
+    , m_manifest(manifest)
+{
+}
+
+QString CManifestPrinter::toText() const
+{
+    QStringList lines{QStringLiteral("File:     ") + m_file,
+                      QStringLiteral("Format:   %1").arg(CameraPool::UpdateFile::FORMAT_VERSION),
+                      QStringLiteral("Updates:  %1").arg(m_manifest.updates.size())};
+    for (int index = 0; index < m_manifest.updates.size(); ++index)
+        appendUpdate(lines, index + 1, m_manifest.updates.at(index));
+    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
+
+QString CManifestPrinter::toJson() const
+{
+    QJsonArray updates;
+    for (const CUpdateEntry &update : m_manifest.updates)
+        updates.append(toJsonObject(update));
+    const QJsonObject object{
+        {QStringLiteral("file"), m_file},
+        {QStringLiteral("formatVersion"), CameraPool::UpdateFile::FORMAT_VERSION},
+        {QStringLiteral("updates"), updates}};
+    return QString::fromUtf8(QJsonDocument(object).toJson());
+}
+
+} // namespace Viewer::GufTool

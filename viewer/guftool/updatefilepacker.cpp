@@ -1,0 +1,211 @@
+#include "updatefilepacker.h"
+
+#include "viewer/camerapool/updatefile/entryname.h"
+#include "viewer/camerapool/updatefile/jsontext.h"
+#include "viewer/camerapool/updatefile/manifestparser.h"
+#include "viewer/camerapool/updatefile/messagetext.h"
+#include "viewer/camerapool/updatefile/updatefileerror.h"
+#include "viewer/camerapool/updatefile/updatefilelimits.h"
+#include "viewer/camerapool/updatefile/updatefilereader.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <memory>
+#include <zip.h>
+
+namespace Viewer::GufTool {
+
+using namespace CameraPool::UpdateFile;
+using Plugin::CameraPool::EFirmwareUpdateStep;
+
+namespace {
+
+/// 2 January 1980, the first whole day that an archive can tell, so that the time of packing does
+/// not show in the bytes.
+constexpr zip_uint16_t ENTRY_DATE = (1 << 5) | 2;
+
+using CZipPointer = std::unique_ptr<zip_t, void (*)(zip_t *)>;
+
+/// Adds the file and takes @p source over, also when it fails.
+bool addFile(zip_t *archive, const QString &name, zip_source_t *source)
+{
+    if (!source)
+        return false;
+    const zip_int64_t index
+        = zip_file_add(archive, name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8);
+    if (index < 0) {
+        zip_source_free(source);
+        return false;
+    }
+    return zip_file_set_dostime(archive, static_cast<zip_uint64_t>(index), 0, ENTRY_DATE, 0) == 0;
+}
+
+QStringList collectPayloadNames(const CUpdateManifest &manifest)
+{
+    QStringList names;
+    for (const CUpdateEntry &update : manifest.updates) {
+        for (const CUpdateStep &step : update.steps) {
+            if (step.kind == EFirmwareUpdateStep::FileUpload && !names.contains(step.payload.name))
+                names.append(step.payload.name);
+        }
+    }
+    return names;
+}
+
+/// Returns what went wrong; empty: nothing.
+QString writeArchive(const QString &file, const QByteArray &manifest, const QDir &folder,
+                     const QStringList &payloadNames)
+{
+    int zipError = ZIP_ER_OK;
+    CZipPointer archive(
+        zip_open(QFile::encodeName(file).constData(), ZIP_CREATE | ZIP_EXCL, &zipError),
+        zip_discard);
+    if (!archive)
+        return QStringLiteral("the archive cannot be created");
+    bool isAdded = addFile(archive.get(), getManifestName(),
+                           zip_source_buffer(archive.get(), manifest.constData(),
+                                             static_cast<zip_uint64_t>(manifest.size()), 0));
+    for (const QString &name : payloadNames) {
+        const QByteArray path = QFile::encodeName(folder.filePath(name));
+        isAdded = isAdded
+            && addFile(archive.get(), name,
+                       zip_source_file(archive.get(), path.constData(), 0, -1));
+    }
+    if (isAdded && zip_close(archive.get()) == 0) {
+        static_cast<void>(archive.release());
+        return QString();
+    }
+    return QStringLiteral("the archive cannot be written: %1")
+        .arg(QString::fromUtf8(zip_strerror(archive.get())));
+}
+
+} // namespace
+
+CUpdateFilePacker::CUpdateFilePacker(const QString &folder)
+    : m_folder(folder)
+{
+}
+
+CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
+{
+    const QByteArray json = completeManifest(readSource());
+    const CManifestResult result = parseManifest(json);
+    if (!result.fault.isEmpty())
+        fail(result.fault);
+
+    const QDir folder(m_folder);
+    const QStringList payloadNames = collectPayloadNames(result.manifest);
+    for (const QString &name : payloadNames) {
+        if (!QFileInfo(folder.filePath(name)).isFile())
+            fail(QStringLiteral("the payload %1 is missing in the folder").arg(quote(name)));
+    }
+
+    // Beside the file, as only a rename within one file system replaces it in one go.
+    const QFileInfo target(file);
+    const QTemporaryDir workFolder(
+        target.absoluteDir().filePath(QStringLiteral(".guftool-XXXXXX")));
+    if (!workFolder.isValid())
+        throw CUpdateFileError(file, QStringLiteral("its folder does not exist or is read-only"));
+    const QString draft = workFolder.filePath(QStringLiteral("draft.guf"));
+    const QString writeFault = writeArchive(draft, json, folder, payloadNames);
+    if (!writeFault.isEmpty())
+        throw CUpdateFileError(file, writeFault);
+
+    try {
+        CUpdateManifest manifest = CUpdateFileReader::read(draft);
+        if (std::rename(QFile::encodeName(draft).constData(),
+                        QFile::encodeName(target.absoluteFilePath()).constData())
+            != 0)
+            throw CUpdateFileError(file, QStringLiteral("the file cannot be replaced"));
+        return manifest;
+    } catch (const CUpdateFileError &error) {
+        throw CUpdateFileError(file, error.getCause());
+    }
+}
+
+QByteArray CUpdateFilePacker::readSource() const
+{
+    const QFileInfo info(QDir(m_folder).filePath(getManifestName()));
+    if (!QFileInfo(m_folder).isDir())
+        fail(QStringLiteral("this is not a folder"));
+    if (!info.isFile())
+        fail(QStringLiteral("there is no update.json in the folder"));
+    if (info.size() > Limits::MANIFEST_SIZE)
+        fail(QStringLiteral("update.json has %1 bytes; %2 are allowed")
+                 .arg(info.size())
+                 .arg(Limits::MANIFEST_SIZE));
+    QFile source(info.filePath());
+    if (!source.open(QIODevice::ReadOnly))
+        fail(QStringLiteral("update.json cannot be opened; check its access rights"));
+    return source.readAll();
+}
+
+QByteArray CUpdateFilePacker::completeManifest(const QByteArray &source) const
+{
+    CJsonResult text = parseJsonObject(source, Limits::NESTING);
+    if (!text.fault.isEmpty())
+        fail(QStringLiteral("update.json ") + text.fault);
+
+    // Whatever is not as the format wants it is left alone here and refused when the result is
+    // parsed.
+    const QString updatesField = QStringLiteral("updates");
+    const QString stepsField = QStringLiteral("steps");
+    if (!text.object.value(updatesField).isArray())
+        return source;
+    QJsonArray updates = text.object.value(updatesField).toArray();
+    for (QJsonValueRef updateValue : updates) {
+        QJsonObject update = updateValue.toObject();
+        if (!update.value(stepsField).isArray())
+            continue;
+        QJsonArray steps = update.value(stepsField).toArray();
+        for (QJsonValueRef step : steps) {
+            if (step.isObject())
+                step = completeStep(step.toObject());
+        }
+        update.insert(stepsField, steps);
+        updateValue = update;
+    }
+    text.object.insert(updatesField, updates);
+    return QJsonDocument(text.object).toJson();
+}
+
+QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
+{
+    const QString sizeField = QStringLiteral("size");
+    const QString digestField = QStringLiteral("sha256");
+    const QString name = step.value(QStringLiteral("payload")).toString();
+    const bool isComplete = step.contains(sizeField) && step.contains(digestField);
+    if (isComplete || !findEntryNameFault(name).isEmpty()
+        || step.value(QStringLiteral("kind")).toString()
+            != getStepKindName(EFirmwareUpdateStep::FileUpload))
+        return step;
+
+    const QFileInfo info(QDir(m_folder).filePath(name));
+    if (!info.isFile())
+        fail(QStringLiteral("the payload %1 is missing in the folder").arg(quote(name)));
+    if (info.size() == 0)
+        fail(QStringLiteral("the payload %1 is empty").arg(quote(name)));
+    QFile payload(info.filePath());
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (!payload.open(QIODevice::ReadOnly) || !hash.addData(&payload))
+        fail(QStringLiteral("the payload %1 cannot be read").arg(quote(name)));
+    if (!step.contains(sizeField))
+        step.insert(sizeField, info.size());
+    if (!step.contains(digestField))
+        step.insert(digestField, QString::fromLatin1(hash.result().toHex()));
+    return step;
+}
+
+void CUpdateFilePacker::fail(const QString &cause) const
+{
+    throw CUpdateFileError(m_folder, cause);
+}
+
+} // namespace Viewer::GufTool

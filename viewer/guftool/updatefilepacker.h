@@ -1,0 +1,31 @@
+#pragma once
+
+#include "viewer/camerapool/updatefile/updatemanifest.h"
+
+#include <QJsonObject>
+#include <QString>
+
+namespace Viewer::GufTool {
+
+/// Makes an update file from a folder that holds update.json and the payloads that it names. The
+/// same sources give the same bytes.
+class CUpdateFilePacker
+{
+public:
+    explicit CUpdateFilePacker(const QString &folder);
+
+    /// Writes the update file and returns what it says. The file takes its place only when it is
+    /// whole and has been read back without a fault; until then one that is there already stays as
+    /// it is. Throws CUpdateFileError.
+    CameraPool::UpdateFile::CUpdateManifest pack(const QString &file) const;
+
+private:
+    [[nodiscard]] QByteArray readSource() const;
+    [[nodiscard]] QByteArray completeManifest(const QByteArray &source) const;
+    [[nodiscard]] QJsonObject completeStep(QJsonObject step) const;
+    [[noreturn]] void fail(const QString &cause) const;
+
+    const QString m_folder;
+};
+
+} // namespace Viewer::GufTool
