@@ -11,6 +11,22 @@ bool isDigit(QChar character)
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
+/// Length of the numbers and dots that @p text begins with, without a dot at their end.
+/// QVersionNumber::fromString() could tell it too, but is declared a pure function, so optimizing
+/// compilers drop what it stores through its second argument.
+int getNumberLength(const QString &text)
+{
+    int length = 0;
+    for (int position = 0; position < text.size() && isDigit(text.at(position)); ++position) {
+        while (position < text.size() && isDigit(text.at(position)))
+            ++position;
+        length = position;
+        if (position == text.size() || text.at(position) != QLatin1Char('.'))
+            break;
+    }
+    return length;
+}
+
 bool canBeginSuffix(QChar character)
 {
     return character.isLetter() || QStringLiteral("-+_ ").contains(character);
@@ -65,17 +81,18 @@ int getStage(const QString &suffix)
 std::optional<CFirmwareVersion> CFirmwareVersion::parse(const QString &text)
 {
     const QString trimmed = text.trimmed();
-    int suffixIndex = 0;
-    const QVersionNumber number = QVersionNumber::fromString(trimmed, &suffixIndex);
-    if (number.isNull())
+    const int length = getNumberLength(trimmed);
+    const QString numberText = trimmed.left(length);
+    const QVersionNumber number = QVersionNumber::fromString(numberText);
+    // A segment that is too large for an int ends the number early.
+    if (number.isNull() || number.segmentCount() != numberText.count(QLatin1Char('.')) + 1)
         return std::nullopt;
-    // A number too large for its segment also ends the numeric part; its rest begins with a dot.
-    if (suffixIndex < trimmed.size() && !canBeginSuffix(trimmed.at(suffixIndex)))
+    if (length < trimmed.size() && !canBeginSuffix(trimmed.at(length)))
         return std::nullopt;
 
     CFirmwareVersion version;
     version.m_number = number.normalized();
-    version.m_suffix = trimmed.mid(suffixIndex);
+    version.m_suffix = trimmed.mid(length);
     return version;
 }
 
