@@ -41,9 +41,9 @@ void CDependencyResolver::visit(int place)
     if (m_specs.at(place).getState() != EPluginState::Found)
         return;
     m_path.append(place);
-    const QList<SPluginDependency> dependencies = m_specs.at(place).getDependencies();
+    const QList<CPluginDependency> dependencies = m_specs.at(place).getDependencies();
     QString error;
-    for (const SPluginDependency &dependency : dependencies) {
+    for (const CPluginDependency &dependency : dependencies) {
         error = checkDependency(dependency);
         if (!error.isEmpty())
             break;
@@ -60,7 +60,7 @@ void CDependencyResolver::visit(int place)
     }
 }
 
-QString CDependencyResolver::checkDependency(const SPluginDependency &dependency)
+QString CDependencyResolver::checkDependency(const CPluginDependency &dependency)
 {
     const int place = m_places.value(dependency.name, -1);
     if (place < 0) {

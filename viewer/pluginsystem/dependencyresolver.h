@@ -24,7 +24,7 @@ private:
 
     void collectNames();
     void visit(int place);
-    [[nodiscard]] QString checkDependency(const SPluginDependency &dependency);
+    [[nodiscard]] QString checkDependency(const CPluginDependency &dependency);
 
     QList<CPluginSpec> &m_specs;
     QHash<QString, int> m_places;

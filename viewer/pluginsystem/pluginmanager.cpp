@@ -125,8 +125,7 @@ void CPluginManager::runForAll(const QString &failure, const Operation &operatio
         Core::Plugin::IPlugin &plugin = *m_plugins.at(place);
         if (guarded(reason, [&operation, &plugin] { return operation(plugin); }))
             continue;
-        fail(place, reason.isEmpty() ? tr("%1.").arg(failure)
-                                     : tr("%1: %2.").arg(failure, reason));
+        fail(place, reason.isEmpty() ? tr("%1.").arg(failure) : tr("%1: %2.").arg(failure, reason));
     }
 }
 
@@ -149,8 +148,8 @@ void CPluginManager::destroy(int place)
 
 bool CPluginManager::dependsOnFailed(int place, QString &error) const
 {
-    const QList<SPluginDependency> &dependencies = m_specs.at(place).getDependencies();
-    for (const SPluginDependency &dependency : dependencies) {
+    const QList<CPluginDependency> &dependencies = m_specs.at(place).getDependencies();
+    for (const CPluginDependency &dependency : dependencies) {
         const bool met = std::any_of(m_specs.cbegin(), m_specs.cend(), [&](const auto &spec) {
             return spec.getName() == dependency.name && !spec.hasFailed();
         });

@@ -75,7 +75,7 @@ bool CPluginSpec::readDependencies(const QJsonObject &keys)
     const QJsonArray entries = value.toArray();
     for (const QJsonValue &entry : entries) {
         const QJsonObject object = entry.toObject();
-        SPluginDependency dependency;
+        CPluginDependency dependency;
         dependency.name = object.value(QLatin1String("Name")).toString();
         if (dependency.name.isEmpty()) {
             m_error = tr("A dependency in its metadata has no \"Name\".");
@@ -126,7 +126,7 @@ const QString &CPluginSpec::getVendor() const
     return m_vendor;
 }
 
-const QList<SPluginDependency> &CPluginSpec::getDependencies() const
+const QList<CPluginDependency> &CPluginSpec::getDependencies() const
 {
     return m_dependencies;
 }

@@ -9,7 +9,7 @@
 namespace Viewer::PluginSystem {
 
 /// What a plug-in needs: another plug-in, or a part of the viewer, at a version.
-struct SPluginDependency
+struct CPluginDependency
 {
     QString name;
     QVersionNumber version;
@@ -49,7 +49,7 @@ public:
     [[nodiscard]] const QVersionNumber &getCompatVersion() const;
     [[nodiscard]] const QString &getDescription() const;
     [[nodiscard]] const QString &getVendor() const;
-    [[nodiscard]] const QList<SPluginDependency> &getDependencies() const;
+    [[nodiscard]] const QList<CPluginDependency> &getDependencies() const;
 
     /// The library's absolute path; empty for the viewer's own parts.
     [[nodiscard]] const QString &getFilePath() const;
@@ -81,7 +81,7 @@ private:
     QVersionNumber m_compatVersion;
     QString m_description;
     QString m_vendor;
-    QList<SPluginDependency> m_dependencies;
+    QList<CPluginDependency> m_dependencies;
     QString m_filePath;
     QString m_error;
     EPluginState m_state = EPluginState::Found;

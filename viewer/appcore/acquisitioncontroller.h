@@ -1,0 +1,65 @@
+#pragma once
+
+#include "camerapool/icamerainfo.h"
+#include "viewer/camerapool/camerapool.h"
+
+#include <QImage>
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QToolBar;
+class QWidget;
+
+namespace Viewer::AppCore {
+
+class CActionContainer;
+class CImageView;
+
+/// Starts and stops the selected camera by the actions of menus and tool bar, and shows its image.
+class CAcquisitionController : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All arguments are borrowed and outlive this object; @p window is the parent of dialogs.
+    CAcquisitionController(CameraPool::CCameraPool &pool, CImageView &view, QWidget *window);
+    ~CAcquisitionController() override;
+
+    void addActions(QToolBar *toolBar, QMenu *fileMenu, CActionContainer &contextMenu);
+
+    /// Switches actions and image to @p camera; null: none is selected.
+    void setCamera(const Plugin::CameraPool::CameraInfoPtr &camera);
+
+    /// Tells whether there is anything to select, for the text in place of an image.
+    void setCamerasAvailable(bool available);
+
+signals:
+    /// A sentence for the user: what has happened, or what could not be done.
+    void message(const QString &text);
+
+private:
+    QAction *createAction(const QString &name, const QString &text, const QKeySequence &shortcut);
+    void onActivityChanged(const QString &cameraId);
+    void onFrameReady(const QString &cameraId, const QImage &frame);
+    void start();
+    void stop();
+    void chooseRecordingFolder();
+    void startRecording(const QString &folder);
+    void stopRecording();
+    void updateActions();
+    void updatePlaceholder();
+    [[nodiscard]] CameraPool::ECameraActivity getActivity() const;
+
+    CameraPool::CCameraPool &m_pool;
+    CImageView &m_view;
+    QWidget *const m_window;
+    QAction *const m_startAction;
+    QAction *const m_stopAction;
+    QAction *const m_recordAction;
+    QAction *const m_stopRecordingAction;
+    Plugin::CameraPool::CameraInfoPtr m_camera;
+    bool m_camerasAvailable = false;
+};
+
+} // namespace Viewer::AppCore

@@ -1,0 +1,103 @@
+#include "commandline.h"
+
+#include "language.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+
+namespace Viewer::AppCore {
+
+static QString absolutePath(const QString &path)
+{
+    return path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+}
+
+CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Shows cameras and lets plug-ins work with them."));
+    const QCommandLineOption helpOption = parser.addHelpOption();
+    const QCommandLineOption versionOption = parser.addVersionOption();
+    const QCommandLineOption camerasOption(
+        QStringLiteral("cameras"), tr("Simulate the cameras described in <file>."), tr("file"));
+    const QCommandLineOption resetOption(
+        QStringLiteral("reset-cameras"),
+        tr("Forget the firmware that earlier updates wrote to the simulated cameras."));
+    const QCommandLineOption speedOption(
+        QStringLiteral("speed"),
+        tr("Let the simulated cameras work <n> times faster than real ones (a demonstration: %1).")
+            .arg(DemoSpeedFactor),
+        tr("n"));
+    const QCommandLineOption pluginsOption(
+        QStringLiteral("plugins"),
+        tr("Look for plug-ins in <dir>, too; can be given several times."), tr("dir"));
+    const QCommandLineOption languageOption(
+        QStringLiteral("language"), tr("Use the language en, ko, ja or zh this time."), tr("code"));
+    const QCommandLineOption samplesOption(QStringLiteral("samples"),
+                                           tr("Offer the update files in <dir>."), tr("dir"));
+    const QCommandLineOption demoOption(
+        QStringLiteral("demo"),
+        tr("Walk through the firmware update wizard, save pictures into <dir> and end."),
+        tr("dir"));
+    parser.addOptions({camerasOption, resetOption, speedOption, pluginsOption, languageOption,
+                       samplesOption, demoOption});
+
+    if (!parser.parse(arguments)) {
+        m_message = parser.errorText();
+        return EResult::Error;
+    }
+    if (parser.isSet(helpOption)) {
+        m_message = parser.helpText().trimmed();
+        return EResult::Message;
+    }
+    if (parser.isSet(versionOption)) {
+        m_message = QStringLiteral("nuvexviewer %1").arg(QCoreApplication::applicationVersion());
+        return EResult::Message;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        m_message
+            = tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst());
+        return EResult::Error;
+    }
+    m_options.language = parser.value(languageOption);
+    if (parser.isSet(languageOption) && !CLanguage::isKnown(m_options.language)) {
+        m_message = tr("The language \"%1\" is unknown; it can be en, ko, ja or zh.")
+                        .arg(m_options.language);
+        return EResult::Error;
+    }
+    m_options.demoDirectory = absolutePath(parser.value(demoOption));
+    if (parser.isSet(demoOption) && m_options.demoDirectory.isEmpty()) {
+        m_message = tr("The folder for the demonstration's pictures is empty.");
+        return EResult::Error;
+    }
+    m_options.pool.speedFactor = m_options.demoDirectory.isEmpty() ? 1.0 : DemoSpeedFactor;
+    if (parser.isSet(speedOption)) {
+        bool valid = false;
+        const double speed = parser.value(speedOption).toDouble(&valid);
+        if (!valid || !(speed >= 0.01 && speed <= 10000.0)) {
+            m_message = tr("The speed \"%1\" is not a number from 0.01 to 10000.")
+                            .arg(parser.value(speedOption));
+            return EResult::Error;
+        }
+        m_options.pool.speedFactor = speed;
+    }
+    m_options.pool.descriptionFile = absolutePath(parser.value(camerasOption));
+    m_options.pool.resetCameras = parser.isSet(resetOption);
+    const QStringList pluginDirectories = parser.values(pluginsOption);
+    for (const QString &directory : pluginDirectories)
+        m_options.pluginDirectories.append(absolutePath(directory));
+    m_options.samplesDirectory = absolutePath(parser.value(samplesOption));
+    return EResult::Start;
+}
+
+const CCommandLineOptions &CCommandLine::getOptions() const
+{
+    return m_options;
+}
+
+QString CCommandLine::getMessage() const
+{
+    return m_message;
+}
+
+} // namespace Viewer::AppCore

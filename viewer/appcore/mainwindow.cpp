@@ -1,0 +1,160 @@
+#include "mainwindow.h"
+
+#include "actioncontainer.h"
+#include "language.h"
+#include "menuservice.h"
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+
+namespace Viewer::AppCore {
+
+static const QLatin1String GeometryKey("mainWindow/geometry");
+static const QLatin1String StateKey("mainWindow/state");
+static constexpr int MessageTime = 8000; // milliseconds
+
+CMainWindow::CMainWindow(CMenuService &menus, QWidget *parent)
+    : QMainWindow(parent)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(tr("Nuvex Viewer"));
+    setWindowIcon(QIcon(QStringLiteral(":/viewer/icons/viewer.png")));
+    resize(1080, 640);
+
+    m_toolBar = addToolBar(tr("Acquisition"));
+    m_toolBar->setObjectName(QStringLiteral("acquisitionToolBar"));
+    m_toolBar->setMovable(false);
+    m_toolBar->setIconSize({24, 24});
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    createMenus(menus);
+    statusBar();
+}
+
+CMainWindow::~CMainWindow() = default;
+
+void CMainWindow::createMenus(CMenuService &menus)
+{
+    m_fileMenu = menuBar()->addMenu(tr("&File"));
+    m_viewMenu = menuBar()->addMenu(tr("&View"));
+    m_simulationMenu = menuBar()->addMenu(tr("&Simulation"));
+    QMenu *const toolsMenu = menuBar()->addMenu(tr("&Tools"));
+    m_helpMenu = menuBar()->addMenu(tr("&Help"));
+    m_selectorMenu = new QMenu(this);
+    toolsMenu->setObjectName(QStringLiteral("toolsMenu"));
+    m_selectorMenu->setObjectName(QStringLiteral("selectorMenu"));
+    menus.addMenu(Ids::ToolsMenu, toolsMenu, {Ids::ToolsGroup});
+    menus.addMenu(Ids::CameraSelectorContextMenu, m_selectorMenu,
+                  {Ids::SelectorAcquisitionGroup, Ids::SelectorMiscGroup});
+}
+
+void CMainWindow::setViews(QWidget *cameraTree, QWidget *imageView)
+{
+    auto *const dock = new QDockWidget(tr("Cameras"), this);
+    dock->setObjectName(QStringLiteral("cameraDock"));
+    dock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+    dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    dock->setWidget(cameraTree);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+    resizeDocks({dock}, {460}, Qt::Horizontal);
+    setCentralWidget(imageView);
+
+    m_viewMenu->addAction(dock->toggleViewAction());
+    dock->toggleViewAction()->setText(tr("&Cameras"));
+    m_viewMenu->addAction(m_toolBar->toggleViewAction());
+    m_toolBar->toggleViewAction()->setText(tr("&Tool bar"));
+    m_viewMenu->addSeparator();
+    createLanguageMenu(m_viewMenu->addMenu(tr("&Language")));
+    cameraTree->setFocus();
+}
+
+void CMainWindow::createLanguageMenu(QMenu *menu)
+{
+    auto *const group = new QActionGroup(this);
+    const QString current = CLanguage::choose({});
+    const QList<CLanguageEntry> entries = CLanguage::getEntries();
+    for (const CLanguageEntry &entry : entries) {
+        QAction *const action = menu->addAction(entry.nativeName);
+        action->setObjectName(QStringLiteral("language_%1").arg(entry.code));
+        action->setCheckable(true);
+        action->setChecked(entry.code == current);
+        group->addAction(action);
+        connect(action, &QAction::triggered, this,
+                [this, code = entry.code] { onLanguageTriggered(code); });
+    }
+}
+
+void CMainWindow::onLanguageTriggered(const QString &code)
+{
+    CLanguage::remember(code);
+    showMessage(tr("The language changes when the viewer is started the next time."));
+}
+
+void CMainWindow::setCloseGuard(const CloseGuard &guard)
+{
+    m_closeGuard = guard;
+}
+
+QString CMainWindow::refuseClose()
+{
+    const QString reason = m_closeGuard ? m_closeGuard() : QString();
+    if (!reason.isEmpty())
+        showMessage(reason);
+    return reason;
+}
+
+void CMainWindow::restorePlace()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(GeometryKey).toByteArray());
+    restoreState(settings.value(StateKey).toByteArray());
+}
+
+void CMainWindow::showMessage(const QString &message)
+{
+    statusBar()->showMessage(message, MessageTime);
+}
+
+void CMainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!refuseClose().isEmpty()) {
+        event->ignore();
+        return;
+    }
+    QSettings settings;
+    settings.setValue(GeometryKey, saveGeometry());
+    settings.setValue(StateKey, saveState());
+    event->accept();
+    emit closed();
+}
+
+QMenu *CMainWindow::getFileMenu() const
+{
+    return m_fileMenu;
+}
+
+QMenu *CMainWindow::getSimulationMenu() const
+{
+    return m_simulationMenu;
+}
+
+QMenu *CMainWindow::getHelpMenu() const
+{
+    return m_helpMenu;
+}
+
+QMenu *CMainWindow::getSelectorMenu() const
+{
+    return m_selectorMenu;
+}
+
+QToolBar *CMainWindow::getToolBar() const
+{
+    return m_toolBar;
+}
+
+} // namespace Viewer::AppCore

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <functional>
+
+class QMenu;
+class QToolBar;
+
+namespace Viewer::AppCore {
+
+class CMenuService;
+
+/// The viewer's window: menu bar, tool bar, camera tree in a dock, image in the middle, status bar.
+/// It knows what is where; what the entries do is connected by others.
+class CMainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Says in one sentence why the window must stay open now; empty: it may close.
+    using CloseGuard = std::function<QString()>;
+
+    /// Publishes the menus that plug-ins use in @p menus, which is borrowed and used by nothing
+    /// after the constructor.
+    explicit CMainWindow(CMenuService &menus, QWidget *parent = nullptr);
+    ~CMainWindow() override;
+
+    /// Puts @p cameraTree into the dock and @p imageView into the middle; both become children.
+    void setViews(QWidget *cameraTree, QWidget *imageView);
+
+    void setCloseGuard(const CloseGuard &guard);
+
+    /// The guard's sentence, also shown in the status bar; empty when the window may close.
+    QString refuseClose();
+
+    /// Restores place and size from the last run.
+    void restorePlace();
+
+    /// Shows @p message in the status bar for a while.
+    void showMessage(const QString &message);
+
+    [[nodiscard]] QMenu *getFileMenu() const;
+    [[nodiscard]] QMenu *getSimulationMenu() const;
+    [[nodiscard]] QMenu *getHelpMenu() const;
+    [[nodiscard]] QMenu *getSelectorMenu() const;
+    [[nodiscard]] QToolBar *getToolBar() const;
+
+signals:
+    /// The window has been closed for good.
+    void closed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void createMenus(CMenuService &menus);
+    void createLanguageMenu(QMenu *menu);
+    void onLanguageTriggered(const QString &code);
+
+    QMenu *m_fileMenu = nullptr;
+    QMenu *m_viewMenu = nullptr;
+    QMenu *m_simulationMenu = nullptr;
+    QMenu *m_helpMenu = nullptr;
+    QMenu *m_selectorMenu = nullptr;
+    QToolBar *m_toolBar = nullptr;
+    CloseGuard m_closeGuard;
+};
+
+} // namespace Viewer::AppCore

@@ -1,0 +1,251 @@
+#include "viewer.h"
+
+#include "acquisitioncontroller.h"
+#include "actioncontainer.h"
+#include "imageview.h"
+#include "linkopener.h"
+#include "mainwindow.h"
+#include "menuservice.h"
+#include "modaldialogwatcher.h"
+#include "pluginlistdialog.h"
+#include "simulationmenu.h"
+#include "windowservice.h"
+
+#include "camerapool/icameraenumerationservice.h"
+#include "camerapool/idevicefirmwareupdateservice.h"
+#include "viewer/camerapool/camerapool.h"
+#include "viewer/cameraselector/cameraselectormodel.h"
+#include "viewer/cameraselector/cameraselectorview.h"
+#include "viewer/cameraselector/deviceselectorservice.h"
+#include "viewer/pluginsystem/plugininitializer.h"
+#include "viewer/pluginsystem/pluginmanager.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QMenu>
+#include <QMessageBox>
+#include <QSessionManager>
+#include <QToolBar>
+#include <QUrl>
+
+namespace Viewer::AppCore {
+
+using Plugin::CameraPool::ICameraEnumerationService;
+using Plugin::CameraPool::IDeviceFirmwareUpdateService;
+
+template <typename Service>
+static QSharedPointer<Service> findService(const CameraPool::CCameraPool &pool)
+{
+    const QList<QSharedPointer<Core::Service::IService>> services = pool.getServices();
+    for (const auto &service : services) {
+        if (const auto match = service.dynamicCast<Service>())
+            return match;
+    }
+    return {};
+}
+
+CViewer::CViewer(const CCommandLineOptions &options, const QString &language)
+    : m_options(options)
+    , m_language(language)
+    , m_dialogWatcher(std::make_unique<CModalDialogWatcher>())
+    , m_linkOpener(std::make_unique<CLinkOpener>())
+    , m_pool(std::make_unique<CameraPool::CCameraPool>(options.pool))
+    , m_menuService(QSharedPointer<CMenuService>::create())
+    , m_selectorService(QSharedPointer<CameraSelector::CDeviceSelectorService>::create())
+    , m_window(std::make_unique<CMainWindow>(*m_menuService))
+    , m_initializer(std::make_unique<PluginSystem::CPluginInitializer>())
+    , m_pluginManager(std::make_unique<PluginSystem::CPluginManager>(m_initializer.get()))
+{
+    createWindow();
+    fillMenus();
+    registerServices();
+    addBuiltIns();
+    // While a wizard is open nothing may begin to use the cameras that it works on.
+    connect(m_dialogWatcher.get(), &CModalDialogWatcher::dialogVisibleChanged, m_pool.get(),
+            &CameraPool::CCameraPool::setStartsLocked);
+    connect(m_window.get(), &CMainWindow::closed, qApp, &QCoreApplication::quit,
+            Qt::QueuedConnection);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
+        if (!m_window->refuseClose().isEmpty())
+            session.cancel();
+    });
+}
+
+CViewer::~CViewer()
+{
+    m_pluginManager->shutDown();
+}
+
+void CViewer::createWindow()
+{
+    auto *const imageView = new CImageView;
+    m_selectorView
+        = new CameraSelector::CCameraSelectorView(getEnumerationService(), m_selectorService);
+    m_selectorView->setContextMenu(m_window->getSelectorMenu());
+    m_window->setViews(m_selectorView, imageView);
+    m_window->setCloseGuard([this] { return getReasonToStayOpen(); });
+
+    m_acquisition = std::make_unique<CAcquisitionController>(*m_pool, *imageView, m_window.get());
+    connect(m_acquisition.get(), &CAcquisitionController::message, m_window.get(),
+            &CMainWindow::showMessage);
+    connect(m_selectorService.data(), &CameraSelector::CDeviceSelectorService::selectionChanged,
+            m_acquisition.get(), [this](const auto &info) {
+                m_acquisition->setCamera(
+                    info.template dynamicCast<Plugin::CameraPool::ICameraInfo>());
+            });
+    connect(m_pool.get(), &CameraPool::CCameraPool::activityChanged, m_selectorView,
+            [this](const QString &cameraId) {
+                m_selectorView->getModel()->setActivity(cameraId, m_pool->getActivity(cameraId));
+            });
+    connect(getEnumerationService().data(), &ICameraEnumerationService::enumerationChanged, this,
+            &CViewer::onEnumerationChanged);
+}
+
+void CViewer::fillMenus()
+{
+    QMenu *const fileMenu = m_window->getFileMenu();
+    const auto contextMenu = m_menuService->getActionContainer(Ids::CameraSelectorContextMenu)
+                                 .staticCast<CActionContainer>();
+    m_acquisition->addActions(m_window->getToolBar(), fileMenu, *contextMenu);
+
+    auto *const refreshAction = new QAction(QIcon(QStringLiteral(":/viewer/icons/refresh.png")),
+                                            tr("Re&fresh"), m_window.get());
+    refreshAction->setObjectName(QStringLiteral("refresh"));
+    refreshAction->setShortcut(Qt::Key_F5);
+    refreshAction->setToolTip(tr("Look for cameras (F5)"));
+    connect(refreshAction, &QAction::triggered, getEnumerationService().data(),
+            &ICameraEnumerationService::refreshEnumeration);
+    m_window->getToolBar()->addSeparator();
+    m_window->getToolBar()->addAction(refreshAction);
+    fileMenu->addSeparator();
+    fileMenu->addAction(refreshAction);
+    if (!m_options.samplesDirectory.isEmpty()) {
+        fileMenu->addAction(tr("&Open sample folder"), this, [this] {
+            QDesktopServices::openUrl(QUrl::fromLocalFile(m_options.samplesDirectory));
+        });
+    }
+    fileMenu->addSeparator();
+    QAction *const quitAction
+        = fileMenu->addAction(tr("&Quit"), m_window.get(), &QWidget::close, QKeySequence::Quit);
+    quitAction->setObjectName(QStringLiteral("quit"));
+
+    m_simulationMenu
+        = std::make_unique<CSimulationMenu>(m_pool->getSimulation(), m_window->getSimulationMenu());
+    QMenu *const helpMenu = m_window->getHelpMenu();
+    helpMenu->addAction(tr("&Plug-ins..."), this, &CViewer::showPlugins)
+        ->setObjectName(QStringLiteral("plugins"));
+    helpMenu->addAction(tr("&About"), this, &CViewer::showAbout)
+        ->setObjectName(QStringLiteral("about"));
+}
+
+void CViewer::registerServices()
+{
+    m_initializer->addService(m_menuService);
+    m_initializer->addService(QSharedPointer<CWindowService>::create(m_window.get()));
+    const QList<QSharedPointer<Core::Service::IService>> services = m_pool->getServices();
+    for (const auto &service : services)
+        m_initializer->addService(service);
+    m_initializer->addService(m_selectorService);
+}
+
+void CViewer::addBuiltIns()
+{
+    using PluginSystem::CPluginSpec;
+    m_pluginManager->addBuiltIn(
+        CPluginSpec::createBuiltIn(QStringLiteral("AppCore"), QStringLiteral("1.2.0"),
+                                   QStringLiteral("1.0.0"), tr("Main window and menus")));
+    m_pluginManager->addBuiltIn(
+        CPluginSpec::createBuiltIn(QStringLiteral("CameraSelector"), QStringLiteral("6.2.0"),
+                                   QStringLiteral("6.0.0"), tr("Camera tree and selection")));
+    m_pluginManager->addBuiltIn(CPluginSpec::createBuiltIn(
+        QStringLiteral("CameraPool"), QStringLiteral("1.2.0"), QStringLiteral("1.2.0"),
+        tr("Cameras, update files and firmware updates")));
+    m_pluginManager->addBuiltIn(
+        CPluginSpec::createBuiltIn(QStringLiteral("NuvexViewer"), QStringLiteral("6.2.0"),
+                                   QStringLiteral("6.0.0"), tr("The viewer as a whole")));
+}
+
+bool CViewer::start(QStringList &failures)
+{
+    const QStringList directories
+        = QStringList(QCoreApplication::applicationDirPath()) + m_options.pluginDirectories;
+    const bool complete = m_pluginManager->start(directories, m_language);
+    failures = m_pluginManager->getFailures();
+    if (!complete)
+        return false;
+    m_window->restorePlace();
+    m_window->show();
+    if (!failures.isEmpty())
+        m_window->showMessage(tr("Not all plug-ins are available: see Help > Plug-ins."));
+    m_pool->start();
+    return true;
+}
+
+QString CViewer::getReasonToStayOpen() const
+{
+    if (m_pool->isUpdateRunning())
+        return tr("A firmware update is running. Wait until it has ended before you quit.");
+    if (m_dialogWatcher->isDialogVisible())
+        return tr("A dialog is still open. Close it before you quit.");
+    return {};
+}
+
+void CViewer::onEnumerationChanged()
+{
+    const int count = m_selectorView->getModel()->getCameraCount();
+    m_acquisition->setCamerasAvailable(count > 0);
+    m_window->showMessage(tr("%n camera(s) found.", nullptr, count));
+}
+
+void CViewer::showPlugins()
+{
+    auto *const dialog = new CPluginListDialog(m_pluginManager->getSpecs(), m_window.get());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    CModalDialogWatcher::markAsOwn(dialog);
+    dialog->open();
+}
+
+void CViewer::showAbout()
+{
+    auto *const box = new QMessageBox(
+        QMessageBox::NoIcon, tr("About"),
+        tr("<h3>Nuvex Viewer %1</h3><p>Shows cameras and lets plug-ins work with them.</p>")
+            .arg(QCoreApplication::applicationVersion()),
+        QMessageBox::Close, m_window.get());
+    box->setIconPixmap(m_window->windowIcon().pixmap(m_window->windowHandle(), {64, 64}));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    CModalDialogWatcher::markAsOwn(box);
+    box->open();
+}
+
+CMainWindow &CViewer::getMainWindow() const
+{
+    return *m_window;
+}
+
+CMenuService &CViewer::getMenuService() const
+{
+    return *m_menuService;
+}
+
+CameraPool::CCameraPool &CViewer::getCameraPool() const
+{
+    return *m_pool;
+}
+
+CameraSelector::CCameraSelectorView &CViewer::getCameraSelector() const
+{
+    return *m_selectorView;
+}
+
+QSharedPointer<ICameraEnumerationService> CViewer::getEnumerationService() const
+{
+    return findService<ICameraEnumerationService>(*m_pool);
+}
+
+QSharedPointer<IDeviceFirmwareUpdateService> CViewer::getUpdateService() const
+{
+    return findService<IDeviceFirmwareUpdateService>(*m_pool);
+}
+
+} // namespace Viewer::AppCore

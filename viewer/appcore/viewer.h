@@ -1,0 +1,91 @@
+#pragma once
+
+#include "commandline.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace Viewer::CameraPool {
+class CCameraPool;
+}
+
+namespace Viewer::CameraSelector {
+class CCameraSelectorView;
+class CDeviceSelectorService;
+} // namespace Viewer::CameraSelector
+
+namespace Viewer::PluginSystem {
+class CPluginInitializer;
+class CPluginManager;
+} // namespace Viewer::PluginSystem
+
+namespace Plugin::CameraPool {
+class ICameraEnumerationService;
+class IDeviceFirmwareUpdateService;
+} // namespace Plugin::CameraPool
+
+namespace Viewer::AppCore {
+
+class CAcquisitionController;
+class CLinkOpener;
+class CMainWindow;
+class CMenuService;
+class CModalDialogWatcher;
+class CSimulationMenu;
+
+/// The whole viewer: makes its parts, connects them, starts the plug-ins, and ends all of it in the
+/// reverse order.
+class CViewer : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Makes the parts and publishes their services. @p language is the language of this start.
+    /// Throws `Core::Exception::BaseException` when the description of the cameras is faulty.
+    CViewer(const CCommandLineOptions &options, const QString &language);
+
+    /// Un-initializes the plug-ins, then takes down window and cameras.
+    ~CViewer() override;
+
+    /// Starts the plug-ins, shows the window and begins the first enumeration. False, with one
+    /// line per plug-in in @p failures, when a required plug-in is not available; then nothing is
+    /// shown. Failures of others are in @p failures as well.
+    bool start(QStringList &failures);
+
+    [[nodiscard]] CMainWindow &getMainWindow() const;
+    [[nodiscard]] CMenuService &getMenuService() const;
+    [[nodiscard]] CameraPool::CCameraPool &getCameraPool() const;
+    [[nodiscard]] CameraSelector::CCameraSelectorView &getCameraSelector() const;
+    [[nodiscard]] QSharedPointer<Plugin::CameraPool::ICameraEnumerationService>
+    getEnumerationService() const;
+    [[nodiscard]] QSharedPointer<Plugin::CameraPool::IDeviceFirmwareUpdateService>
+    getUpdateService() const;
+
+private:
+    void createWindow();
+    void fillMenus();
+    void registerServices();
+    void addBuiltIns();
+    [[nodiscard]] QString getReasonToStayOpen() const;
+    void onEnumerationChanged();
+    void showPlugins();
+    void showAbout();
+
+    const CCommandLineOptions m_options;
+    const QString m_language;
+    // In the order of construction; destroyed from the last to the first.
+    std::unique_ptr<CModalDialogWatcher> m_dialogWatcher;
+    std::unique_ptr<CLinkOpener> m_linkOpener;
+    std::unique_ptr<CameraPool::CCameraPool> m_pool;
+    QSharedPointer<CMenuService> m_menuService;
+    QSharedPointer<CameraSelector::CDeviceSelectorService> m_selectorService;
+    std::unique_ptr<CMainWindow> m_window;
+    std::unique_ptr<CAcquisitionController> m_acquisition;
+    std::unique_ptr<CSimulationMenu> m_simulationMenu;
+    std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
+    std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;
+    CameraSelector::CCameraSelectorView *m_selectorView = nullptr; ///< the window's child
+};
+
+} // namespace Viewer::AppCore

@@ -1,0 +1,186 @@
+#include "cameraselectormodel.h"
+
+namespace Viewer::CameraSelector {
+
+using Plugin::CameraPool::CameraInfoPtr;
+using Plugin::CameraPool::TransportLayerInfoPtr;
+
+// The internal id of a layer's index; that of a camera's index is the row of its layer.
+static constexpr quintptr LayerId = ~quintptr(0);
+
+CCameraSelectorModel::CCameraSelectorModel(QObject *parent)
+    : QAbstractItemModel(parent)
+    , m_layerIcon(QStringLiteral(":/viewer/icons/layer.png"))
+    , m_cameraIcon(QStringLiteral(":/viewer/icons/camera.png"))
+{
+}
+
+CCameraSelectorModel::~CCameraSelectorModel() = default;
+
+void CCameraSelectorModel::setTransportLayers(const QVector<TransportLayerInfoPtr> &layers)
+{
+    beginResetModel();
+    m_layers = layers;
+    m_places.clear();
+    m_cameraCount = 0;
+    for (int row = 0; row < m_layers.size(); ++row) {
+        m_places.insert(m_layers.at(row)->getId(), {row, -1});
+        const QVector<CameraInfoPtr> &cameras = m_layers.at(row)->getCameraInfoList();
+        for (int cameraRow = 0; cameraRow < cameras.size(); ++cameraRow)
+            m_places.insert(cameras.at(cameraRow)->getId(), {row, cameraRow});
+        m_cameraCount += cameras.size();
+    }
+    endResetModel();
+}
+
+void CCameraSelectorModel::setActivity(const QString &cameraId,
+                                       CameraPool::ECameraActivity activity)
+{
+    if (m_activities.value(cameraId, CameraPool::ECameraActivity::Idle) == activity)
+        return;
+    m_activities.insert(cameraId, activity);
+    const QModelIndex index = findId(cameraId);
+    if (index.isValid()) {
+        const QModelIndex stateIndex = index.siblingAtColumn(StateColumn);
+        emit dataChanged(stateIndex, stateIndex, {Qt::DisplayRole});
+    }
+}
+
+QSharedPointer<Plugin::CameraPool::IBaseInfo>
+CCameraSelectorModel::getInfo(const QModelIndex &index) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    if (index.internalId() == LayerId)
+        return m_layers.at(index.row());
+    return getCamera(index);
+}
+
+QModelIndex CCameraSelectorModel::findId(const QString &id) const
+{
+    const auto place = m_places.constFind(id);
+    if (place == m_places.constEnd())
+        return {};
+    const QModelIndex layerIndex = index(place->first, NameColumn);
+    return place->second < 0 ? layerIndex : index(place->second, NameColumn, layerIndex);
+}
+
+int CCameraSelectorModel::getCameraCount() const
+{
+    return m_cameraCount;
+}
+
+QModelIndex CCameraSelectorModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column, parent.isValid() ? quintptr(parent.row()) : LayerId);
+}
+
+QModelIndex CCameraSelectorModel::parent(const QModelIndex &child) const
+{
+    if (!child.isValid() || child.internalId() == LayerId)
+        return {};
+    return createIndex(static_cast<int>(child.internalId()), NameColumn, LayerId);
+}
+
+int CCameraSelectorModel::rowCount(const QModelIndex &parent) const
+{
+    if (!parent.isValid())
+        return m_layers.size();
+    if (parent.internalId() != LayerId || parent.column() != NameColumn)
+        return 0;
+    return m_layers.at(parent.row())->getCameraInfoList().size();
+}
+
+int CCameraSelectorModel::columnCount(const QModelIndex &) const
+{
+    return ColumnCount;
+}
+
+QVariant CCameraSelectorModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    if (index.internalId() == LayerId)
+        return getLayerData(index.row(), index.column(), role);
+    return getCameraData(getCamera(index), index.column(), role);
+}
+
+QVariant CCameraSelectorModel::getLayerData(int row, int column, int role) const
+{
+    if (column == NameColumn && role == Qt::DisplayRole)
+        return m_layers.at(row)->getDisplayName();
+    if (column == NameColumn && role == Qt::DecorationRole)
+        return m_layerIcon;
+    return {};
+}
+
+QVariant CCameraSelectorModel::getCameraData(const CameraInfoPtr &camera, int column,
+                                             int role) const
+{
+    if (role == Qt::DecorationRole && column == NameColumn)
+        return m_cameraIcon;
+    if (role == Qt::ToolTipRole) {
+        return tr("%1\nModel: %2\nSerial number: %3\nDevice version: %4\nFirmware: %5")
+            .arg(camera->getDisplayName(), camera->getModelName(), camera->getSerialNumber(),
+                 camera->getDeviceVersion(), camera->getFirmwareVersion());
+    }
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (column) {
+    case NameColumn:
+        return camera->getModelName();
+    case SerialNumberColumn:
+        return camera->getSerialNumber();
+    case FirmwareColumn:
+        return camera->getFirmwareVersion();
+    case StateColumn:
+        return getStateText(*camera);
+    default:
+        return {};
+    }
+}
+
+QString CCameraSelectorModel::getStateText(const Plugin::CameraPool::ICameraInfo &camera) const
+{
+    switch (m_activities.value(camera.getId(), CameraPool::ECameraActivity::Idle)) {
+    case CameraPool::ECameraActivity::Acquiring:
+        return tr("Acquiring");
+    case CameraPool::ECameraActivity::Recording:
+        return tr("Recording");
+    case CameraPool::ECameraActivity::Updating:
+        return tr("Updating");
+    case CameraPool::ECameraActivity::InUseElsewhere:
+        return tr("In use elsewhere");
+    case CameraPool::ECameraActivity::Idle:
+        break;
+    }
+    const qint32 statusCode = camera.getCameraStatusCode();
+    return statusCode == 0 ? tr("Ready") : tr("Status %1").arg(statusCode);
+}
+
+CameraInfoPtr CCameraSelectorModel::getCamera(const QModelIndex &index) const
+{
+    return m_layers.at(static_cast<int>(index.internalId()))->getCameraInfoList().at(index.row());
+}
+
+QVariant CCameraSelectorModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case NameColumn:
+        return tr("Camera");
+    case SerialNumberColumn:
+        return tr("Serial number");
+    case FirmwareColumn:
+        return tr("Firmware");
+    case StateColumn:
+        return tr("State");
+    default:
+        return {};
+    }
+}
+
+} // namespace Viewer::CameraSelector

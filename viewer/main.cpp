@@ -1,0 +1,105 @@
+#include "viewer/appcore/commandline.h"
+#include "viewer/appcore/language.h"
+#include "viewer/appcore/viewer.h"
+#include "viewer/demo/wizarddemo.h"
+
+#include "core/baseexception.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Viewer;
+
+static constexpr int UsageError = 2;
+
+static void printError(const QString &text)
+{
+    std::fprintf(stderr, "nuvexviewer: %s\n", qUtf8Printable(text));
+}
+
+static void setNames()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Nuvex"));
+    QCoreApplication::setApplicationName(QStringLiteral("NuvexViewer"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VIEWER_VERSION));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Nuvex Viewer"));
+}
+
+// Help, version and usage errors need no display, unlike everything else.
+static bool answersWithoutDisplay(int argc, char **argv, int &exitCode)
+{
+    const bool asked = std::any_of(argv + 1, argv + argc, [](const char *argument) {
+        const QLatin1String text(argument);
+        return text == QLatin1String("-h") || text == QLatin1String("--help")
+            || text == QLatin1String("--help-all") || text == QLatin1String("-v")
+            || text == QLatin1String("--version");
+    });
+    if (!asked)
+        return false;
+    const QCoreApplication application(argc, argv);
+    AppCore::CCommandLine commandLine;
+    const auto result = commandLine.parse(QCoreApplication::arguments());
+    if (result == AppCore::CCommandLine::EResult::Message) {
+        std::fprintf(stdout, "%s\n", qUtf8Printable(commandLine.getMessage()));
+        exitCode = EXIT_SUCCESS;
+        return true;
+    }
+    printError(commandLine.getMessage());
+    exitCode = UsageError;
+    return true;
+}
+
+static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language)
+{
+    AppCore::CViewer viewer(options, language);
+    QStringList failures;
+    const bool started = viewer.start(failures);
+    for (const QString &failure : qAsConst(failures))
+        printError(failure);
+    if (!started)
+        return EXIT_FAILURE;
+    if (options.demoDirectory.isEmpty())
+        return QCoreApplication::exec();
+
+    Demo::CWizardDemo demo(viewer, options.samplesDirectory, options.demoDirectory);
+    QObject::connect(&demo, &Demo::CWizardDemo::finished, qApp, &QCoreApplication::exit,
+                     Qt::QueuedConnection);
+    demo.start();
+    return QCoreApplication::exec();
+}
+
+int main(int argc, char **argv)
+{
+    setNames();
+    int exitCode = EXIT_SUCCESS;
+    if (answersWithoutDisplay(argc, argv, exitCode))
+        return exitCode;
+
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    const QApplication application(argc, argv);
+    // The main window alone ends the viewer: between two pages of a wizard no other window shows.
+    QApplication::setQuitOnLastWindowClosed(false);
+    AppCore::CCommandLine commandLine;
+    if (commandLine.parse(QCoreApplication::arguments()) != AppCore::CCommandLine::EResult::Start) {
+        printError(commandLine.getMessage());
+        return UsageError;
+    }
+    AppCore::CCommandLineOptions options = commandLine.getOptions();
+    const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    options.pool.stateFile = QDir(dataFolder).filePath(QStringLiteral("cameras.json"));
+
+    const QString languageCode = AppCore::CLanguage::choose(options.language);
+    const AppCore::CLanguage language(languageCode);
+    try {
+        return runViewer(options, languageCode);
+    } catch (const Core::Exception::BaseException &exception) {
+        printError(exception.getMessage());
+        return EXIT_FAILURE;
+    }
+}
