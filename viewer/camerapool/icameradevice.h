@@ -29,7 +29,8 @@ public:
     virtual void close() noexcept = 0;
 
     /// Reads the feature @p name as text. The features "DeviceModelName", "DeviceVersion",
-    /// "DeviceSerialNumber" and "DeviceFirmwareVersion" exist on every camera.
+    /// "DeviceSerialNumber", "DeviceFirmwareVersion" and "DeviceStatus" exist on every camera; the
+    /// status is a whole number, "0" exactly when the camera can be updated.
     [[nodiscard]] virtual QString readFeature(const QString &name,
                                               std::chrono::milliseconds timeLimit)
         = 0;

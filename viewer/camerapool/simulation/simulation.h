@@ -48,9 +48,6 @@ public:
     void setBusy(const QString &cameraId, bool busy);
     [[nodiscard]] bool isBusy(const QString &cameraId) const;
 
-    /// Forgets what updates wrote: all cameras have their described firmware again.
-    void resetFirmware();
-
     // ICameraDeviceFactory
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &cameraId) override;
 

@@ -1,0 +1,270 @@
+#include "cameradescriptionreader.h"
+
+#include "core/baseexception.h"
+#include "jsonscanner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <limits>
+
+// Not inside a namespace: the macro declares a function of the global one. Without this call a
+// static library's resources would be left out by the linker.
+static void initResources()
+{
+    Q_INIT_RESOURCE(cameras);
+}
+
+namespace Viewer::CameraPool::Simulation {
+
+using Core::Exception::BaseException;
+
+namespace {
+
+/// The members of one object: each at most once, and the required ones at least once.
+class CMembers
+{
+public:
+    explicit CMembers(CJsonScanner &scanner)
+        : m_scanner(scanner)
+        , m_begin(0)
+    {
+        m_scanner.beginObject();
+        m_begin = m_scanner.getPosition();
+    }
+
+    bool next(QString &name)
+    {
+        if (!m_scanner.nextMember(name))
+            return false;
+        if (m_names.contains(name))
+            m_scanner.fail(QStringLiteral("the field is given twice"));
+        m_names.append(name);
+        return true;
+    }
+
+    [[noreturn]] void failUnknown()
+    {
+        m_scanner.fail(QStringLiteral("unknown field"));
+    }
+
+    /// Call it after the last member. Reported where the object begins.
+    void require(std::initializer_list<const char *> names) const
+    {
+        for (const char *name : names) {
+            if (!m_names.contains(QLatin1String(name)))
+                m_scanner.failAt(
+                    m_begin,
+                    QStringLiteral("the field \"%1\" is missing").arg(QLatin1String(name)));
+        }
+    }
+
+private:
+    CJsonScanner &m_scanner;
+    int m_begin;
+    QStringList m_names; // an object has a dozen fields at most
+};
+
+class CReader
+{
+public:
+    CReader(const QByteArray &text, const QString &description)
+        : m_scanner(text, description)
+    {
+    }
+
+    CCameraDescription read()
+    {
+        CCameraDescription description;
+        CMembers members(m_scanner);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("format")) {
+                const qint64 format = m_scanner.readInteger(0, std::numeric_limits<qint32>::max());
+                if (format != 1)
+                    m_scanner.fail(QStringLiteral("format %1 is unknown, only format 1 can be read")
+                                       .arg(format));
+            } else if (name == QLatin1String("layers")) {
+                readLayers(description);
+            } else {
+                members.failUnknown();
+            }
+        }
+        members.require({"format", "layers"});
+        m_scanner.expectEnd();
+        return description;
+    }
+
+private:
+    void readLayers(CCameraDescription &description)
+    {
+        m_scanner.beginArray();
+        while (m_scanner.nextElement()) {
+            if (description.layers.size() == CCameraDescriptionReader::MaximumLayerCount)
+                m_scanner.fail(QStringLiteral("more than %1 transport layers")
+                                   .arg(CCameraDescriptionReader::MaximumLayerCount));
+            description.layers.append(readLayer());
+        }
+    }
+
+    CLayerDescription readLayer()
+    {
+        CLayerDescription layer;
+        CMembers members(m_scanner);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("id"))
+                layer.id = readId();
+            else if (name == QLatin1String("displayName"))
+                layer.displayName = readText();
+            else if (name == QLatin1String("cameras"))
+                readCameras(layer);
+            else
+                members.failUnknown();
+        }
+        members.require({"id", "displayName", "cameras"});
+        return layer;
+    }
+
+    void readCameras(CLayerDescription &layer)
+    {
+        m_scanner.beginArray();
+        while (m_scanner.nextElement()) {
+            if (++m_cameraCount > CCameraDescriptionReader::MaximumCameraCount)
+                m_scanner.fail(QStringLiteral("more than %1 cameras")
+                                   .arg(CCameraDescriptionReader::MaximumCameraCount));
+            layer.cameras.append(readCamera());
+        }
+    }
+
+    CCameraDescriptionEntry readCamera()
+    {
+        CCameraDescriptionEntry entry;
+        CCameraSnapshot &camera = entry.camera;
+        entry.uploadSpeed = CCameraDescriptionReader::DefaultUploadSpeed;
+        CMembers members(m_scanner);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("id"))
+                camera.id = readId();
+            else if (name == QLatin1String("displayName"))
+                camera.displayName = readText();
+            else if (name == QLatin1String("model"))
+                camera.modelName = readText();
+            else if (name == QLatin1String("serialNumber"))
+                camera.serialNumber = readText();
+            else if (name == QLatin1String("deviceVersion"))
+                camera.deviceVersion = readText();
+            else if (name == QLatin1String("firmwareVersion"))
+                camera.firmwareVersion = readText();
+            else if (name == QLatin1String("statusCode"))
+                camera.statusCode = static_cast<qint32>(m_scanner.readInteger(
+                    std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()));
+            else if (name == QLatin1String("uploadSpeed"))
+                entry.uploadSpeed
+                    = m_scanner.readInteger(1, CCameraDescriptionReader::MaximumUploadSpeed);
+            else if (name == QLatin1String("faults"))
+                entry.faults = readFaults();
+            else
+                members.failUnknown();
+        }
+        members.require(
+            {"id", "displayName", "model", "serialNumber", "deviceVersion", "firmwareVersion"});
+        return entry;
+    }
+
+    CScriptedFaults readFaults()
+    {
+        CScriptedFaults faults;
+        CMembers members(m_scanner);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("preconditionNotMet"))
+                faults.preconditionNotMet = m_scanner.readBoolean();
+            else if (name == QLatin1String("writeRefused"))
+                faults.writeRefused = m_scanner.readBoolean();
+            else if (name == QLatin1String("uploadFailsAtByte"))
+                faults.uploadFailsAtByte = readByteCount();
+            else if (name == QLatin1String("vanishesAtByte"))
+                faults.vanishesAtByte = readByteCount();
+            else if (name == QLatin1String("assertFails"))
+                faults.assertFails = m_scanner.readBoolean();
+            else if (name == QLatin1String("neverReturnsFromReset"))
+                faults.neverReturnsFromReset = m_scanner.readBoolean();
+            else if (name == QLatin1String("returnsLate"))
+                faults.returnsLate = m_scanner.readBoolean();
+            else if (name == QLatin1String("returnsWithOldVersion"))
+                faults.returnsWithOldVersion = m_scanner.readBoolean();
+            else
+                members.failUnknown();
+        }
+        return faults;
+    }
+
+    QString readId()
+    {
+        const QString id = readText();
+        const auto other = m_idPositions.constFind(id);
+        if (other != m_idPositions.constEnd())
+            m_scanner.fail(QStringLiteral("the id \"%1\" is already used in line %2")
+                               .arg(id)
+                               .arg(m_scanner.getLine(*other)));
+        m_idPositions.insert(id, m_scanner.getPosition());
+        return id;
+    }
+
+    QString readText()
+    {
+        return m_scanner.readText(CCameraDescriptionReader::MaximumTextLength);
+    }
+
+    qint64 readByteCount()
+    {
+        return m_scanner.readInteger(0, std::numeric_limits<qint32>::max());
+    }
+
+    CJsonScanner m_scanner;
+    int m_cameraCount = 0;
+    QHash<QString, int> m_idPositions; // of cameras and layers, which share one space
+};
+
+} // namespace
+
+CCameraDescription CCameraDescriptionReader::readBuiltIn()
+{
+    initResources();
+    return readFile(QStringLiteral(":/camerapool/cameras.json"));
+}
+
+CCameraDescription CCameraDescriptionReader::readFile(const QString &path)
+{
+    const QString name = QDir::toNativeSeparators(path);
+    QFile file(path);
+    // Asked before opening, since a pipe would be waited for.
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
+        throw BaseException(
+            QStringLiteral("Camera description \"%1\" cannot be read: it is not a regular file")
+                .arg(name));
+    if (!file.open(QIODevice::ReadOnly))
+        throw BaseException(QStringLiteral("Camera description \"%1\" cannot be read: %2")
+                                .arg(name, file.errorString()));
+    // One byte more than allowed is enough to know, whatever size the file claims to have.
+    const QByteArray text = file.read(MaximumFileSize + 1);
+    if (file.error() != QFileDevice::NoError)
+        throw BaseException(QStringLiteral("Camera description \"%1\" cannot be read: %2")
+                                .arg(name, file.errorString()));
+    return read(text, name);
+}
+
+CCameraDescription CCameraDescriptionReader::read(const QByteArray &text, const QString &name)
+{
+    const QString description = QStringLiteral("Camera description \"%1\"").arg(name);
+    if (text.size() > MaximumFileSize)
+        throw BaseException(
+            QStringLiteral("%1 is larger than %2 bytes").arg(description).arg(MaximumFileSize));
+    return CReader(text, description).read();
+}
+
+} // namespace Viewer::CameraPool::Simulation

@@ -1,0 +1,129 @@
+#include "firmwarestatefile.h"
+
+#include "viewer/camerapool/logging.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+namespace Viewer::CameraPool::Simulation {
+
+// 200,000 cameras with long ids fit; anything larger is not ours.
+static constexpr qint64 MaximumSize = 64 * 1024 * 1024;
+static constexpr int MaximumVersionLength = 200;
+
+/// The versions that the text holds, or a sentence in @p fault.
+static QHash<QString, QString> parse(const QByteArray &text, QString &fault)
+{
+    QJsonParseError error;
+    const QJsonObject root = QJsonDocument::fromJson(text, &error).object();
+    if (error.error != QJsonParseError::NoError) {
+        fault = QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset);
+        return {};
+    }
+    if (root.value(QLatin1String("format")).toInt() != 1
+        || !root.value(QLatin1String("firmware")).isObject()) {
+        fault = QStringLiteral("it is not a list of firmware versions of format 1");
+        return {};
+    }
+    const QJsonObject firmware = root.value(QLatin1String("firmware")).toObject();
+    QHash<QString, QString> versions;
+    versions.reserve(firmware.size());
+    for (auto it = firmware.constBegin(); it != firmware.constEnd(); ++it) {
+        const QString version = it.value().toString();
+        if (version.isEmpty() || version.size() > MaximumVersionLength
+            || version != version.simplified()) {
+            fault = QStringLiteral("the version of camera \"%1\" is not a text of one line")
+                        .arg(it.key().left(MaximumVersionLength).simplified());
+            return {};
+        }
+        versions.insert(it.key(), version);
+    }
+    return versions;
+}
+
+CFirmwareStateFile::CFirmwareStateFile(const QString &path)
+    : m_path(path)
+{
+    load();
+}
+
+QString CFirmwareStateFile::getVersion(const QString &cameraId) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_versions.value(cameraId);
+}
+
+void CFirmwareStateFile::setVersion(const QString &cameraId, const QString &version)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_versions.value(cameraId) == version)
+        return;
+    m_versions.insert(cameraId, version);
+    save();
+}
+
+void CFirmwareStateFile::clear()
+{
+    const std::lock_guard lock(m_mutex);
+    m_versions.clear();
+    if (!m_path.isEmpty() && QFile::exists(m_path) && !QFile::remove(m_path))
+        qCWarning(cameraPoolLog).noquote()
+            << QStringLiteral("The firmware versions of the simulated cameras in \"%1\" cannot be "
+                              "forgotten: the file cannot be removed")
+                   .arg(QDir::toNativeSeparators(m_path));
+}
+
+void CFirmwareStateFile::load()
+{
+    if (m_path.isEmpty() || !QFileInfo::exists(m_path))
+        return;
+    const QString name = QDir::toNativeSeparators(m_path);
+    QString fault;
+    QFile file(m_path);
+    if (!QFileInfo(m_path).isFile())
+        fault = QStringLiteral("it is not a regular file");
+    else if (!file.open(QIODevice::ReadOnly))
+        fault = file.errorString();
+    else if (file.size() > MaximumSize)
+        fault = QStringLiteral("it is larger than %1 bytes").arg(MaximumSize);
+    else
+        m_versions = parse(file.readAll(), fault);
+    file.close();
+    if (fault.isEmpty())
+        return;
+
+    const QString aside = m_path + QLatin1String(".damaged");
+    QFile::remove(aside);
+    const QString rescue = QFile::rename(m_path, aside)
+        ? QStringLiteral("it was renamed to \"%1\"").arg(QDir::toNativeSeparators(aside))
+        : QStringLiteral("it could not be put aside");
+    qCWarning(cameraPoolLog).noquote()
+        << QStringLiteral("The firmware versions of the simulated cameras in \"%1\" cannot be "
+                          "read (%2); the cameras start as described, and %3")
+               .arg(name, fault, rescue);
+}
+
+void CFirmwareStateFile::save()
+{
+    if (m_path.isEmpty())
+        return;
+    QJsonObject firmware;
+    for (auto it = m_versions.constBegin(); it != m_versions.constEnd(); ++it)
+        firmware.insert(it.key(), it.value());
+    const QJsonObject root{{QStringLiteral("format"), 1}, {QStringLiteral("firmware"), firmware}};
+
+    QDir().mkpath(QFileInfo(m_path).absolutePath());
+    QSaveFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(root).toJson()) < 0
+        || !file.commit())
+        qCWarning(cameraPoolLog).noquote()
+            << QStringLiteral("The firmware versions of the simulated cameras cannot be written to "
+                              "\"%1\" (%2); the next start will show the old ones")
+                   .arg(QDir::toNativeSeparators(m_path), file.errorString());
+}
+
+} // namespace Viewer::CameraPool::Simulation
