@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ecameraactivity.h"
+
 #include "core/iservice.h"
 
 #include <QList>
@@ -26,15 +28,6 @@ struct CCameraPoolOptions
     bool resetCameras = false; ///< forget what earlier updates wrote
 };
 
-/// What a camera is doing.
-enum class ECameraActivity {
-    Idle,
-    Acquiring,
-    Recording,
-    Updating,
-    InUseElsewhere, ///< another application acquires from the camera
-};
-
 /// The host's camera pool: owns the cameras and the services that plug-ins use. GUI thread.
 class CCameraPool : public QObject
 {
@@ -49,7 +42,8 @@ public:
     /// Begins the first enumeration. Its result is announced even if no camera is found.
     void start();
 
-    /// The services to publish: enumeration, status, stream control and firmware update.
+    /// The services to publish: enumeration, status, stream control and firmware update. They work
+    /// on this pool, so whoever holds them has to let go of them before it is destroyed.
     [[nodiscard]] QList<QSharedPointer<Core::Service::IService>> getServices() const;
 
     [[nodiscard]] ECameraActivity getActivity(const QString &cameraId) const;
@@ -59,7 +53,9 @@ public:
     bool startAcquisition(const QString &cameraId, QString *error = nullptr);
     void stopAcquisition(const QString &cameraId);
 
-    /// Recording acquires as well and writes each frame as a PNG file into @p folder.
+    /// Recording acquires as well and writes each frame as a PNG file into @p folder, which must
+    /// exist. The camera goes on acquiring when the recording ends, whether by stopRecording() or
+    /// by an error; stopAcquisition() ends both.
     bool startRecording(const QString &cameraId, const QString &folder, QString *error = nullptr);
     void stopRecording(const QString &cameraId);
 
@@ -86,7 +82,17 @@ signals:
     /// GUI thread.
     void updateRunningChanged(bool running);
 
+private slots:
+    void onActivityChanged(const QString &cameraId);
+    void onCameraStateChanged(const QString &cameraId);
+    void onRecordingFailed(const QString &cameraId, const QString &cause);
+
 private:
+    [[nodiscard]] bool beginStream(const QString &cameraId, ECameraActivity activity,
+                                   QString *error);
+    void stopAllCameras();
+    [[nodiscard]] QString getDisplayName(const QString &cameraId) const;
+
     struct CPrivate;
     const std::unique_ptr<CPrivate> d;
 };

@@ -1,0 +1,133 @@
+#include "cameraenumerationservice.h"
+
+#include "cameraactivities.h"
+#include "camerainfo.h"
+#include "enumerationworker.h"
+#include "icameraenumerator.h"
+#include "transportlayerinfo.h"
+
+namespace Viewer::CameraPool {
+
+using Plugin::CameraPool::CameraInfoPtr;
+using Plugin::CameraPool::TransportLayerInfoPtr;
+
+CCameraEnumerationService::CCameraEnumerationService(
+    ICameraEnumerator &enumerator, const std::shared_ptr<const CCameraActivities> &activities,
+    QObject *parent)
+    : ICameraEnumerationService(parent)
+    , m_enumerator(enumerator)
+    , m_activities(activities)
+{
+    qRegisterMetaType<QVector<CTransportLayerSnapshot>>();
+    auto *const worker = new CEnumerationWorker(m_enumerator);
+    worker->moveToThread(&m_thread);
+    connect(&m_thread, &QThread::finished, worker, &QObject::deleteLater);
+    connect(this, &CCameraEnumerationService::requested, worker, &CEnumerationWorker::onRequested);
+    connect(worker, &CEnumerationWorker::enumerated, this,
+            &CCameraEnumerationService::onEnumerated);
+    m_thread.setObjectName(QStringLiteral("enumeration"));
+    m_thread.start();
+}
+
+CCameraEnumerationService::~CCameraEnumerationService()
+{
+    m_enumerator.cancel();
+    m_thread.quit();
+    m_thread.wait();
+}
+
+CameraInfoPtr CCameraEnumerationService::findCamera(const QString &cameraId) const
+{
+    return m_cameras.value(cameraId);
+}
+
+QVector<QSharedPointer<Plugin::CameraPool::ITransportLayerInfo>>
+CCameraEnumerationService::getTransportLayerInfoVector() const
+{
+    return m_layers;
+}
+
+void CCameraEnumerationService::refreshEnumeration()
+{
+    m_wantedAnnounced = true;
+    request();
+}
+
+void CCameraEnumerationService::onCamerasChanged()
+{
+    request();
+}
+
+void CCameraEnumerationService::onUpdatesEnded()
+{
+    request();
+}
+
+void CCameraEnumerationService::request()
+{
+    m_wanted = true;
+    // Otherwise the end of the one or the other comes back here.
+    if (m_running || m_activities->isUpdateRunning())
+        return;
+    m_running = true;
+    m_runningAnnounced = m_wantedAnnounced;
+    m_wanted = false;
+    m_wantedAnnounced = false;
+    m_updateCountAtRequest = m_activities->getUpdateCount();
+    emit requested();
+}
+
+void CCameraEnumerationService::onEnumerated(const QVector<CTransportLayerSnapshot> &layers)
+{
+    m_running = false;
+    if (m_activities->isUpdateRunning()
+        || m_activities->getUpdateCount() != m_updateCountAtRequest) {
+        // The result may show a camera in the middle of its restart.
+        m_wantedAnnounced = m_wantedAnnounced || m_runningAnnounced;
+        request();
+        return;
+    }
+    const bool changed = replaceResult(layers);
+    const bool announced = changed || m_runningAnnounced;
+    if (m_wanted)
+        request();
+    if (announced)
+        emit enumerationChanged();
+}
+
+bool CCameraEnumerationService::replaceResult(const QVector<CTransportLayerSnapshot> &layers)
+{
+    QVector<TransportLayerInfoPtr> newLayers;
+    QHash<QString, CameraInfoPtr> newCameras;
+    newCameras.reserve(m_cameras.size());
+    bool changed = layers.size() != m_layers.size();
+    for (int i = 0; i < layers.size(); ++i) {
+        const CTransportLayerSnapshot &layer = layers.at(i);
+        QVector<CameraInfoPtr> cameras;
+        cameras.reserve(layer.cameras.size());
+        for (const CCameraSnapshot &snapshot : layer.cameras) {
+            // What has not changed stays the same object, which plug-ins may hold and compare.
+            CameraInfoPtr camera = m_cameras.value(snapshot.id);
+            const auto *const known = static_cast<const CCameraInfo *>(camera.data());
+            if (!known || known->getSnapshot() != snapshot
+                || known->getTransportLayerId() != layer.id)
+                camera.reset(new CCameraInfo(snapshot, layer.id));
+            cameras.append(camera);
+            newCameras.insert(snapshot.id, camera);
+        }
+        const TransportLayerInfoPtr known = i < m_layers.size() ? m_layers.at(i) : nullptr;
+        if (known && known->getId() == layer.id && known->getDisplayName() == layer.displayName
+            && known->getCameraInfoList() == cameras) {
+            newLayers.append(known);
+        } else {
+            newLayers.append(TransportLayerInfoPtr(
+                new CTransportLayerInfo(layer.id, layer.displayName, cameras)));
+            changed = true;
+        }
+    }
+    m_layers = newLayers;
+    m_cameras = newCameras;
+    return changed;
+}
+
+} // namespace Viewer::CameraPool

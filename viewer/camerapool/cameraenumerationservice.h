@@ -1,0 +1,70 @@
+#pragma once
+
+#include "camerasnapshot.h"
+
+#include "camerapool/icameraenumerationservice.h"
+
+#include <QHash>
+#include <QThread>
+
+#include <memory>
+
+namespace Viewer::CameraPool {
+
+class CCameraActivities;
+class ICameraEnumerator;
+
+/// Enumerates on a thread of its own and announces what has changed. While an update runs nothing
+/// is announced, since the camera's restart would look like a cable pulled and plugged; what piled
+/// up comes at once when the update has ended. GUI thread.
+class CCameraEnumerationService : public Plugin::CameraPool::ICameraEnumerationService
+{
+    Q_OBJECT
+
+public:
+    /// @p enumerator is borrowed and outlives this object, which cancels it.
+    CCameraEnumerationService(ICameraEnumerator &enumerator,
+                              const std::shared_ptr<const CCameraActivities> &activities,
+                              QObject *parent = nullptr);
+    ~CCameraEnumerationService() override;
+
+    /// The camera as found by the last enumeration; null when it was not.
+    [[nodiscard]] Plugin::CameraPool::CameraInfoPtr findCamera(const QString &cameraId) const;
+
+    [[nodiscard]] QVector<QSharedPointer<Plugin::CameraPool::ITransportLayerInfo>>
+    getTransportLayerInfoVector() const override;
+    void refreshEnumeration() override;
+
+public slots:
+    /// Enumerates, and announces the result if it is another one.
+    void onCamerasChanged();
+
+    /// The last running update has ended.
+    void onUpdatesEnded();
+
+signals:
+    /// To the worker.
+    void requested();
+
+private slots:
+    void onEnumerated(const QVector<Viewer::CameraPool::CTransportLayerSnapshot> &layers);
+
+private:
+    void request();
+    [[nodiscard]] bool replaceResult(const QVector<CTransportLayerSnapshot> &layers);
+
+    ICameraEnumerator &m_enumerator;
+    const std::shared_ptr<const CCameraActivities> m_activities;
+    QThread m_thread;
+
+    QVector<Plugin::CameraPool::TransportLayerInfoPtr> m_layers;
+    QHash<QString, Plugin::CameraPool::CameraInfoPtr> m_cameras;
+
+    bool m_wanted = false; // another enumeration has to begin
+    bool m_wantedAnnounced = false; // and its result is announced in any case
+    bool m_running = false;
+    bool m_runningAnnounced = false;
+    int m_updateCountAtRequest = 0;
+};
+
+} // namespace Viewer::CameraPool

@@ -1,0 +1,248 @@
+#include "camerapool.h"
+
+#include "cameraactivities.h"
+#include "cameraenumerationservice.h"
+#include "camerastatusservice.h"
+#include "camerastreamcontrolservice.h"
+#include "devicefirmwareupdateservice.h"
+#include "framestream.h"
+#include "simulation/cameradescriptionreader.h"
+#include "simulation/firmwarestatefile.h"
+#include "simulation/simulation.h"
+
+#include "core/baseexception.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+
+#include <cmath>
+
+namespace Viewer::CameraPool {
+
+using Core::Service::IService;
+using Simulation::CCameraDescription;
+using Simulation::CCameraDescriptionReader;
+using Simulation::CSimulation;
+
+static CCameraDescription readDescription(const CCameraPoolOptions &options)
+{
+    if (!std::isfinite(options.speedFactor) || options.speedFactor <= 0.0)
+        throw Core::Exception::BaseException(
+            QStringLiteral("The simulation's speed must be a number greater than 0"));
+    return options.descriptionFile.isEmpty()
+        ? CCameraDescriptionReader::readBuiltIn()
+        : CCameraDescriptionReader::readFile(options.descriptionFile);
+}
+
+static void setError(QString *error, const QString &text)
+{
+    if (error)
+        *error = text;
+}
+
+struct CCameraPool::CPrivate
+{
+    explicit CPrivate(const CCameraPoolOptions &options)
+        : simulation(readDescription(options), getStateFile(options), options.speedFactor)
+    {
+    }
+
+    static QString getStateFile(const CCameraPoolOptions &options)
+    {
+        if (options.resetCameras)
+            Simulation::CFirmwareStateFile(options.stateFile).clear();
+        return options.stateFile;
+    }
+
+    // The order matters: who is named first is used by those that follow.
+    CSimulation simulation;
+    const std::shared_ptr<CCameraActivities> activities = std::make_shared<CCameraActivities>();
+    CFrameStream stream;
+    QSharedPointer<CCameraEnumerationService> enumeration;
+    QList<QSharedPointer<IService>> services;
+    bool startsLocked = false;
+    bool updateRunning = false; // as announced
+    int updateCount = 0; // of the updates that have been reacted to
+};
+
+CCameraPool::CCameraPool(const CCameraPoolOptions &options, QObject *parent)
+    : QObject(parent)
+    , d(std::make_unique<CPrivate>(options))
+{
+    d->enumeration.reset(new CCameraEnumerationService(d->simulation, d->activities));
+    const auto getActivityOf = [this](const QString &cameraId) { return getActivity(cameraId); };
+    const auto findCamera
+        = [service = d->enumeration.data()](const QString &id) { return service->findCamera(id); };
+    d->services
+        = {d->enumeration, QSharedPointer<IService>(new CCameraStatusService(getActivityOf)),
+           QSharedPointer<IService>(new CCameraStreamControlService([this] { stopAllCameras(); })),
+           QSharedPointer<IService>(
+               new CDeviceFirmwareUpdateService(d->simulation, findCamera, d->activities))};
+
+    connect(&d->simulation, &CSimulation::camerasChanged, d->enumeration.data(),
+            &CCameraEnumerationService::onCamerasChanged);
+    connect(&d->simulation, &CSimulation::cameraStateChanged, this,
+            &CCameraPool::onCameraStateChanged);
+    connect(&d->stream, &CFrameStream::frameReady, this, &CCameraPool::frameReady);
+    connect(&d->stream, &CFrameStream::recordingFailed, this, &CCameraPool::onRecordingFailed);
+    // Jobs report from their own threads.
+    d->activities->setListener([this](const QString &cameraId) {
+        QMetaObject::invokeMethod(
+            this, [this, cameraId] { onActivityChanged(cameraId); }, Qt::QueuedConnection);
+    });
+}
+
+CCameraPool::~CCameraPool()
+{
+    d->activities->setListener({});
+}
+
+void CCameraPool::start()
+{
+    d->enumeration->refreshEnumeration();
+}
+
+QList<QSharedPointer<IService>> CCameraPool::getServices() const
+{
+    return d->services;
+}
+
+ECameraActivity CCameraPool::getActivity(const QString &cameraId) const
+{
+    const ECameraActivity activity = d->activities->get(cameraId);
+    return activity == ECameraActivity::Idle && d->simulation.isBusy(cameraId)
+        ? ECameraActivity::InUseElsewhere
+        : activity;
+}
+
+bool CCameraPool::startAcquisition(const QString &cameraId, QString *error)
+{
+    if (getActivity(cameraId) == ECameraActivity::Recording)
+        return true;
+    return beginStream(cameraId, ECameraActivity::Acquiring, error);
+}
+
+void CCameraPool::stopAcquisition(const QString &cameraId)
+{
+    const ECameraActivity activity = d->activities->get(cameraId);
+    if (activity != ECameraActivity::Acquiring && activity != ECameraActivity::Recording)
+        return;
+    d->stream.stop(cameraId);
+    d->activities->end(cameraId);
+}
+
+bool CCameraPool::startRecording(const QString &cameraId, const QString &folder, QString *error)
+{
+    if (!QFileInfo(folder).isDir()) {
+        setError(error,
+                 tr("The folder \"%1\" does not exist; choose another one.")
+                     .arg(QDir::toNativeSeparators(folder)));
+        return false;
+    }
+    if (!beginStream(cameraId, ECameraActivity::Recording, error))
+        return false;
+    d->stream.setFolder(cameraId, QDir(folder).absolutePath());
+    return true;
+}
+
+void CCameraPool::stopRecording(const QString &cameraId)
+{
+    if (d->activities->get(cameraId) != ECameraActivity::Recording)
+        return;
+    d->stream.setFolder(cameraId, {});
+    d->activities->begin(cameraId, ECameraActivity::Acquiring);
+}
+
+void CCameraPool::setStartsLocked(bool locked)
+{
+    d->startsLocked = locked;
+}
+
+bool CCameraPool::isUpdateRunning() const
+{
+    return d->activities->isUpdateRunning();
+}
+
+CSimulation &CCameraPool::getSimulation()
+{
+    return d->simulation;
+}
+
+void CCameraPool::onActivityChanged(const QString &cameraId)
+{
+    emit activityChanged(cameraId);
+    // This call comes late: updates may have begun and ended since the change that it reports.
+    const bool running = isUpdateRunning();
+    const int updateCount = d->activities->getUpdateCount();
+    const bool hasEnded = !running && (d->updateRunning || updateCount != d->updateCount);
+    const bool hasChanged = running != d->updateRunning;
+    d->updateRunning = running;
+    d->updateCount = updateCount;
+    if (hasEnded)
+        d->enumeration->onUpdatesEnded();
+    if (hasChanged)
+        emit updateRunningChanged(running);
+}
+
+void CCameraPool::onCameraStateChanged(const QString &cameraId)
+{
+    const ECameraActivity activity = d->activities->get(cameraId);
+    if (!d->simulation.isPlugged(cameraId)
+        && (activity == ECameraActivity::Acquiring || activity == ECameraActivity::Recording)) {
+        stopAcquisition(cameraId);
+        emit streamFailed(cameraId,
+                          tr("Camera %1 does not answer any more; its acquisition has ended.")
+                              .arg(getDisplayName(cameraId)));
+    }
+    emit activityChanged(cameraId);
+}
+
+void CCameraPool::onRecordingFailed(const QString &cameraId, const QString &cause)
+{
+    stopRecording(cameraId);
+    emit streamFailed(
+        cameraId,
+        tr("The recording of camera %1 has ended: %2.").arg(getDisplayName(cameraId), cause));
+}
+
+bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity, QString *error)
+{
+    const QString name = getDisplayName(cameraId);
+    if (d->startsLocked) {
+        setError(error,
+                 tr("Camera %1 cannot be started while the firmware updater is open.").arg(name));
+        return false;
+    }
+    if (!d->simulation.isPlugged(cameraId)) {
+        setError(error, tr("Camera %1 does not answer; check its cable.").arg(name));
+        return false;
+    }
+    if (getActivity(cameraId) == ECameraActivity::InUseElsewhere) {
+        setError(error, tr("Camera %1 is used by another application.").arg(name));
+        return false;
+    }
+    if (d->activities->begin(cameraId, activity) == ECameraActivity::Updating) {
+        setError(error, tr("Camera %1 is being updated.").arg(name));
+        return false;
+    }
+    d->stream.start(cameraId);
+    return true;
+}
+
+void CCameraPool::stopAllCameras()
+{
+    for (const Simulation::CSimulatedCameraState &camera : d->simulation.getCameras()) {
+        stopAcquisition(camera.id);
+        // "Stop all cameras" means the other applications' acquisition as well.
+        d->simulation.setBusy(camera.id, false);
+    }
+}
+
+QString CCameraPool::getDisplayName(const QString &cameraId) const
+{
+    const Plugin::CameraPool::CameraInfoPtr camera = d->enumeration->findCamera(cameraId);
+    return camera ? camera->getDisplayName() : cameraId;
+}
+
+} // namespace Viewer::CameraPool

@@ -1,0 +1,151 @@
+#include "devicefirmwareupdate.h"
+
+#include "cameraactivities.h"
+#include "cameraerror.h"
+#include "firmwareupdateinfo.h"
+#include "firmwareversion.h"
+#include "icameradevice.h"
+#include "logging.h"
+#include "updateestimate.h"
+
+namespace Viewer::CameraPool {
+
+using Plugin::CameraPool::EFirmwareUpdateDirection;
+using Plugin::CameraPool::IFirmwareUpdateInfo;
+
+static unsigned int toUnsigned(std::chrono::milliseconds time)
+{
+    return static_cast<unsigned int>(time.count());
+}
+
+CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(const CCamera &camera,
+                                             const QSharedPointer<CFirmwareUpdateInfo> &info,
+                                             std::unique_ptr<ICameraDevice> device,
+                                             const std::shared_ptr<CCameraActivities> &activities)
+    : m_camera(camera)
+    , m_info(info)
+    , m_direction(getDirection(camera.firmwareVersion, info->getVersion()))
+    , m_activities(activities)
+    , m_outOfMemoryText(
+          CCameraError(camera.displayName, QStringLiteral("out of memory")).getMessage())
+    , m_device(std::move(device))
+    , m_firmwareVersion(camera.firmwareVersion)
+{
+}
+
+CDeviceFirmwareUpdate::~CDeviceFirmwareUpdate() = default;
+
+QSharedPointer<IFirmwareUpdateInfo> CDeviceFirmwareUpdate::getFirmwareUpdateInfo() const
+{
+    return m_info;
+}
+
+EFirmwareUpdateDirection CDeviceFirmwareUpdate::getFirmwareUpdateDirection() const
+{
+    return m_direction;
+}
+
+QString CDeviceFirmwareUpdate::getFirmwareVersion() const
+{
+    const std::lock_guard lock(m_versionMutex);
+    return m_firmwareVersion;
+}
+
+void CDeviceFirmwareUpdate::executeFirmwareUpdate()
+{
+    if (m_executed.exchange(true)) {
+        // A series that the user has cancelled executes its last job once more and waits for an
+        // answer: saying nothing would make it ask for ever, "done" would count a camera that was
+        // never touched.
+        announceEnd(QStringLiteral("The series of updates was stopped before this camera"));
+        return;
+    }
+    bool claimed = false;
+    const QString error = execute(claimed);
+    m_device.reset();
+    announceEnd(error);
+    if (claimed)
+        m_activities->end(m_camera.id);
+}
+
+void CDeviceFirmwareUpdate::stepBegun(const UpdateFile::CUpdateStep &step,
+                                      std::chrono::milliseconds estimate)
+{
+    emit firmwareUpdateProgressStepBegin(step.kind, toUnsigned(estimate), step.description);
+}
+
+void CDeviceFirmwareUpdate::stepProgressed(const UpdateFile::CUpdateStep &step, double percent)
+{
+    emit firmwareUpdateProgressStepProgressChanged(step.kind, percent);
+}
+
+void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
+                                     std::chrono::milliseconds estimate)
+{
+    emit firmwareUpdateProgressStepDone(step.kind, toUnsigned(estimate));
+}
+
+QString CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
+{
+    CUpdateRun run(m_camera.displayName, m_info->getEntry(), m_info->getFileName(), *m_device,
+                   *this);
+    QString error;
+    // Whatever happens here, in libraries or in the receivers of signals, the wizard waits for one
+    // last signal.
+    try {
+        const ECameraActivity other = m_activities->begin(m_camera.id, ECameraActivity::Updating);
+        claimed = other == ECameraActivity::Idle;
+        emit firmwareUpdateBegin(
+            m_info, toUnsigned(estimateEntry(m_info->getEntry(), m_device->getUploadRate())));
+        if (other == ECameraActivity::Updating)
+            throw CCameraError(m_camera.displayName, QStringLiteral("it is already being updated"));
+        if (!claimed)
+            throw CCameraError(m_camera.displayName,
+                               QStringLiteral("it is acquiring images; stop that and start the "
+                                              "update again"));
+        run.execute();
+    } catch (const std::bad_alloc &) {
+        error = m_outOfMemoryText;
+    } catch (const Core::Exception::BaseException &exception) {
+        error = getErrorText(exception.getMessage(), run.hasWritten());
+    } catch (const std::exception &exception) {
+        error = getErrorText(QString::fromLocal8Bit(exception.what()), run.hasWritten());
+    } catch (...) {
+        error = getErrorText({}, run.hasWritten());
+    }
+    m_device->close();
+    if (!run.getReportedVersion().isEmpty()) {
+        const std::lock_guard lock(m_versionMutex);
+        m_firmwareVersion = run.getReportedVersion();
+    }
+    return error;
+}
+
+void CDeviceFirmwareUpdate::announceEnd(const QString &error) noexcept
+{
+    try {
+        if (error.isEmpty())
+            emit firmwareUpdateDone();
+        else
+            emit firmwareUpdateError(error);
+    } catch (...) {
+        qCCritical(cameraPoolLog, "a receiver of the update's last signal has thrown an exception");
+    }
+}
+
+QString CDeviceFirmwareUpdate::getErrorText(const QString &message, bool written) const
+{
+    QString text = message.simplified();
+    while (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    if (text.isEmpty())
+        text = QStringLiteral("the update failed for an unknown reason");
+    if (!text.contains(m_camera.displayName))
+        text = CCameraError(m_camera.displayName, text).getMessage();
+    if (written)
+        text += QStringLiteral("; the update had already begun to write, so repeat it before the "
+                               "camera is used");
+    return text;
+}
+
+} // namespace Viewer::CameraPool

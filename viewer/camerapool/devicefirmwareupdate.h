@@ -1,0 +1,69 @@
+#pragma once
+
+#include "updaterun.h"
+
+#include "camerapool/idevicefirmwareupdate.h"
+
+#include <QString>
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+
+namespace Viewer::CameraPool {
+
+class CCameraActivities;
+class CFirmwareUpdateInfo;
+
+/// The update job of one camera, whatever camera that is.
+class CDeviceFirmwareUpdate : public Plugin::CameraPool::IDeviceFirmwareUpdate,
+                              private CUpdateRun::IListener
+{
+    Q_OBJECT
+
+public:
+    struct CCamera
+    {
+        QString id;
+        QString displayName;
+        QString firmwareVersion; ///< the current one
+    };
+
+    /// @p info and @p device are not null; the device is closed.
+    CDeviceFirmwareUpdate(const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
+                          std::unique_ptr<ICameraDevice> device,
+                          const std::shared_ptr<CCameraActivities> &activities);
+    ~CDeviceFirmwareUpdate() override;
+
+    [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
+    getFirmwareUpdateInfo() const override;
+    [[nodiscard]] Plugin::CameraPool::EFirmwareUpdateDirection
+    getFirmwareUpdateDirection() const override;
+    [[nodiscard]] QString getFirmwareVersion() const override;
+    void executeFirmwareUpdate() override;
+
+private:
+    void stepBegun(const UpdateFile::CUpdateStep &step,
+                   std::chrono::milliseconds estimate) override;
+    void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) override;
+    void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
+
+    /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
+    /// counts as being updated.
+    [[nodiscard]] QString execute(bool &claimed) noexcept;
+    void announceEnd(const QString &error) noexcept;
+    [[nodiscard]] QString getErrorText(const QString &message, bool written) const;
+
+    const CCamera m_camera;
+    const QSharedPointer<CFirmwareUpdateInfo> m_info;
+    const Plugin::CameraPool::EFirmwareUpdateDirection m_direction;
+    const std::shared_ptr<CCameraActivities> m_activities;
+    // Made beforehand: when memory runs out there is none for a message.
+    const QString m_outOfMemoryText;
+    std::unique_ptr<ICameraDevice> m_device; // until the execution has ended
+    std::atomic<bool> m_executed = false;
+    mutable std::mutex m_versionMutex;
+    QString m_firmwareVersion;
+};
+
+} // namespace Viewer::CameraPool

@@ -1,0 +1,115 @@
+#include "devicefirmwareupdateservice.h"
+
+#include "devicefirmwareupdate.h"
+#include "firmwareupdateinfo.h"
+#include "firmwareversion.h"
+#include "icameradevice.h"
+#include "icameradevicefactory.h"
+
+#include "core/baseexception.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace Viewer::CameraPool {
+
+using Core::Exception::BaseException;
+using Plugin::CameraPool::ICameraInfo;
+using Plugin::CameraPool::IDeviceFirmwareUpdate;
+using Plugin::CameraPool::IFirmwareUpdateInfo;
+
+static bool fits(const ICameraInfo &camera, const UpdateFile::CUpdateEntry &entry)
+{
+    return entry.models.contains(camera.getModelName())
+        && (entry.deviceVersions.isEmpty()
+            || entry.deviceVersions.contains(camera.getDeviceVersion()))
+        && !isBelow(camera.getFirmwareVersion(), entry.minimumVersion);
+}
+
+/// Unreadable versions come last; a stable order for a stable sort.
+static bool isNewer(const QSharedPointer<IFirmwareUpdateInfo> &left,
+                    const QSharedPointer<IFirmwareUpdateInfo> &right)
+{
+    const std::optional<CFirmwareVersion> leftVersion = CFirmwareVersion::parse(left->getVersion());
+    const std::optional<CFirmwareVersion> rightVersion
+        = CFirmwareVersion::parse(right->getVersion());
+    return leftVersion && (!rightVersion || *leftVersion > *rightVersion);
+}
+
+CDeviceFirmwareUpdateService::CDeviceFirmwareUpdateService(
+    ICameraDeviceFactory &factory, const CameraFinder &findCamera,
+    const std::shared_ptr<CCameraActivities> &activities, QObject *parent)
+    : IDeviceFirmwareUpdateService(parent)
+    , m_factory(factory)
+    , m_findCamera(findCamera)
+    , m_activities(activities)
+{
+}
+
+CDeviceFirmwareUpdateService::~CDeviceFirmwareUpdateService() = default;
+
+QVector<QSharedPointer<IFirmwareUpdateInfo>>
+CDeviceFirmwareUpdateService::getFirmwareUpdateInfos(const QString &updateFilePath,
+                                                     const QString &entryFilter)
+{
+    Q_UNUSED(entryFilter)
+    try {
+        const QSharedPointer<const UpdateFile::CUpdateManifest> manifest
+            = m_cache.read(updateFilePath);
+        const QString path = QDir::fromNativeSeparators(updateFilePath);
+        QVector<QSharedPointer<IFirmwareUpdateInfo>> infos;
+        for (int i = 0; i < manifest->updates.size(); ++i)
+            infos.append(
+                QSharedPointer<IFirmwareUpdateInfo>(new CFirmwareUpdateInfo(manifest, i, path)));
+        return infos;
+    } catch (const BaseException &) {
+        throw;
+    } catch (const std::exception &exception) {
+        // The contract knows one type of exception.
+        throw BaseException(
+            QStringLiteral("Update file %1: cannot be read (%2)")
+                .arg(updateFilePath, QString::fromLocal8Bit(exception.what()).simplified()));
+    }
+}
+
+bool CDeviceFirmwareUpdateService::getCompatibleFirmwareUpdates(
+    QSharedPointer<ICameraInfo> camera, const QVector<QSharedPointer<IFirmwareUpdateInfo>> &all,
+    QVector<QSharedPointer<IFirmwareUpdateInfo>> &compatible, bool &updatable)
+{
+    compatible.clear();
+    updatable = false;
+    if (!camera)
+        return false;
+    updatable = camera->getCameraStatusCode() == 0;
+    if (!updatable)
+        return true;
+    for (const QSharedPointer<IFirmwareUpdateInfo> &info : all) {
+        const auto *const own = dynamic_cast<const CFirmwareUpdateInfo *>(info.data());
+        if (own && fits(*camera, own->getEntry()))
+            compatible.append(info);
+    }
+    std::stable_sort(compatible.begin(), compatible.end(), isNewer);
+    return true;
+}
+
+QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDeviceFirmwareUpdate(
+    QSharedPointer<ICameraInfo> camera, const QSharedPointer<IFirmwareUpdateInfo> &updateInfo)
+{
+    const auto info = updateInfo.dynamicCast<CFirmwareUpdateInfo>();
+    if (!camera || !info)
+        return {};
+    std::unique_ptr<ICameraDevice> device = m_factory.createDevice(camera->getId());
+    if (!device)
+        return {};
+    // The caller may hold an information object from before an update. A camera that has just been
+    // unplugged gets its job too; that one can say what is wrong.
+    const QSharedPointer<ICameraInfo> current = m_findCamera(camera->getId());
+    const CDeviceFirmwareUpdate::CCamera description{
+        camera->getId(), camera->getDisplayName(),
+        (current ? current : camera)->getFirmwareVersion()};
+    return QSharedPointer<IDeviceFirmwareUpdate>(
+        new CDeviceFirmwareUpdate(description, info, std::move(device), m_activities));
+}
+
+} // namespace Viewer::CameraPool

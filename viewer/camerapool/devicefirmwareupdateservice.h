@@ -1,0 +1,53 @@
+#pragma once
+
+#include "updatefile/updatefilecache.h"
+
+#include "camerapool/idevicefirmwareupdateservice.h"
+
+#include <functional>
+#include <memory>
+
+namespace Viewer::CameraPool {
+
+class CCameraActivities;
+class ICameraDeviceFactory;
+
+/// Reads update files, decides which of their entries fit a camera, and makes update jobs.
+class CDeviceFirmwareUpdateService : public Plugin::CameraPool::IDeviceFirmwareUpdateService
+{
+    Q_OBJECT
+
+public:
+    /// The camera as last enumerated, or null.
+    using CameraFinder = std::function<Plugin::CameraPool::CameraInfoPtr(const QString &cameraId)>;
+
+    /// @p factory is borrowed and outlives this object.
+    CDeviceFirmwareUpdateService(ICameraDeviceFactory &factory, const CameraFinder &findCamera,
+                                 const std::shared_ptr<CCameraActivities> &activities,
+                                 QObject *parent = nullptr);
+    ~CDeviceFirmwareUpdateService() override;
+
+    QVector<QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>>
+    getFirmwareUpdateInfos(const QString &updateFilePath, const QString &entryFilter) override;
+
+    /// An entry fits when it lists the camera's model, lists its device version or none, and the
+    /// camera's firmware is not below the entry's minimum. The newest version comes first, so that
+    /// who takes the first entry gets the best one.
+    bool getCompatibleFirmwareUpdates(
+        QSharedPointer<Plugin::CameraPool::ICameraInfo> camera,
+        const QVector<QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>> &all,
+        QVector<QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>> &compatible,
+        bool &updatable) override;
+
+    QSharedPointer<Plugin::CameraPool::IDeviceFirmwareUpdate> createDeviceFirmwareUpdate(
+        QSharedPointer<Plugin::CameraPool::ICameraInfo> camera,
+        const QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo> &updateInfo) override;
+
+private:
+    ICameraDeviceFactory &m_factory;
+    const CameraFinder m_findCamera;
+    const std::shared_ptr<CCameraActivities> m_activities;
+    UpdateFile::CUpdateFileCache m_cache;
+};
+
+} // namespace Viewer::CameraPool

@@ -1,0 +1,224 @@
+#include "updaterun.h"
+
+#include "cameraerror.h"
+#include "firmwareversion.h"
+#include "icameradevice.h"
+#include "updateestimate.h"
+#include "updatefile/updatearchive.h"
+
+#include "core/baseexception.h"
+
+#include <QIODevice>
+
+#include <algorithm>
+
+namespace Viewer::CameraPool {
+
+using namespace std::chrono_literals;
+using Plugin::CameraPool::EFirmwareUpdateStep;
+using UpdateFile::CFeatureValue;
+using UpdateFile::CUpdateStep;
+
+static constexpr std::chrono::milliseconds OpenLimit = 10s;
+static constexpr std::chrono::milliseconds FeatureLimit = 5s;
+
+static QString quote(const QString &text)
+{
+    return QStringLiteral("\"%1\"").arg(text);
+}
+
+CUpdateRun::CUpdateRun(const QString &cameraName, const UpdateFile::CUpdateEntry &entry,
+                       const QString &filePath, ICameraDevice &device, IListener &listener)
+    : m_cameraName(cameraName)
+    , m_entry(entry)
+    , m_filePath(filePath)
+    , m_device(device)
+    , m_listener(listener)
+{
+}
+
+CUpdateRun::~CUpdateRun() = default;
+
+void CUpdateRun::execute()
+{
+    m_device.open(OpenLimit);
+    for (m_currentStep = 0; m_currentStep < m_entry.steps.size(); ++m_currentStep) {
+        const CUpdateStep &step = m_entry.steps.at(m_currentStep);
+        const std::chrono::milliseconds estimate = estimateStep(step, m_device.getUploadRate());
+        m_listener.stepBegun(step, estimate);
+        executeStep(step);
+        m_listener.stepDone(step, estimate);
+    }
+    checkVersion();
+}
+
+bool CUpdateRun::hasWritten() const
+{
+    return m_written;
+}
+
+QString CUpdateRun::getReportedVersion() const
+{
+    return m_reportedVersion;
+}
+
+void CUpdateRun::executeStep(const CUpdateStep &step)
+{
+    const std::chrono::milliseconds limit
+        = getTimeLimit(estimateStep(step, m_device.getUploadRate()));
+    switch (step.kind) {
+    case EFirmwareUpdateStep::CheckPreconditions:
+        checkPreconditions(&step);
+        return;
+    case EFirmwareUpdateStep::AcquireUpdateData:
+        acquireData();
+        return;
+    case EFirmwareUpdateStep::FeatureWrite:
+        prepareWriting();
+        m_device.writeFeature(step.feature.feature, step.feature.value, limit);
+        return;
+    case EFirmwareUpdateStep::FeatureExecute:
+        prepareWriting();
+        m_device.executeCommand(step.feature.feature, limit);
+        return;
+    case EFirmwareUpdateStep::FeatureAssert:
+        assertFeature(step.feature);
+        return;
+    case EFirmwareUpdateStep::FileUpload:
+        prepareWriting();
+        upload(step);
+        return;
+    case EFirmwareUpdateStep::DeviceReset:
+        prepareWriting();
+        m_device.resetAndWait(limit);
+        return;
+    case EFirmwareUpdateStep::Invalid:
+        break;
+    }
+    fail(QStringLiteral("the update file contains a step of an unknown kind"));
+}
+
+void CUpdateRun::checkPreconditions(const CUpdateStep *step)
+{
+    const QString status = readFeature(QStringLiteral("DeviceStatus"));
+    if (status != QLatin1String("0"))
+        fail(QStringLiteral("it cannot be updated now, since it reports status %1").arg(status));
+    const QString model = readFeature(QStringLiteral("DeviceModelName"));
+    if (!m_entry.models.contains(model))
+        fail(QStringLiteral("the update is not for its model %1").arg(quote(model)));
+    const QString deviceVersion = readFeature(QStringLiteral("DeviceVersion"));
+    if (!m_entry.deviceVersions.isEmpty() && !m_entry.deviceVersions.contains(deviceVersion))
+        fail(QStringLiteral("the update is not for its device version %1")
+                 .arg(quote(deviceVersion)));
+    const QString version = readFirmwareVersion();
+    if (isBelow(version, m_entry.minimumVersion))
+        fail(QStringLiteral("its firmware version %1 is below %2, from which on the update can be "
+                            "installed; install an older update first")
+                 .arg(quote(version), m_entry.minimumVersion));
+    if (!step)
+        return;
+    for (const CFeatureValue &precondition : step->preconditions) {
+        const QString value = readFeature(precondition.feature);
+        if (value != precondition.value)
+            fail(QStringLiteral("a precondition of the update is not met: its feature %1 is %2 "
+                                "instead of %3")
+                     .arg(quote(precondition.feature), quote(value), quote(precondition.value)));
+    }
+}
+
+void CUpdateRun::acquireData()
+{
+    if (m_archive)
+        return;
+    try {
+        auto archive = std::make_unique<UpdateFile::CUpdateArchive>(m_filePath);
+        for (const CUpdateStep &step : m_entry.steps) {
+            if (step.kind == EFirmwareUpdateStep::FileUpload)
+                archive->checkPayload(step.payload);
+        }
+        m_archive = std::move(archive);
+    } catch (const Core::Exception::BaseException &error) {
+        fail(error.getMessage());
+    }
+}
+
+void CUpdateRun::prepareWriting()
+{
+    if (m_written)
+        return;
+    // Minutes may have gone by since the wizard looked, and the file's own check may be missing.
+    acquireData();
+    bool checked = false;
+    for (int i = 0; i < m_currentStep; ++i) {
+        const CUpdateStep &step = m_entry.steps.at(i);
+        if (step.kind == EFirmwareUpdateStep::CheckPreconditions) {
+            checkPreconditions(&step);
+            checked = true;
+        }
+    }
+    if (!checked)
+        checkPreconditions(nullptr);
+    m_written = true;
+}
+
+void CUpdateRun::assertFeature(const CFeatureValue &expected)
+{
+    const QString value = expected.feature == QLatin1String("DeviceFirmwareVersion")
+        ? readFirmwareVersion()
+        : readFeature(expected.feature);
+    if (value != expected.value)
+        fail(QStringLiteral("its feature %1 is %2 instead of %3")
+                 .arg(quote(expected.feature), quote(value), quote(expected.value)));
+}
+
+void CUpdateRun::upload(const CUpdateStep &step)
+{
+    std::unique_ptr<QIODevice> source;
+    try {
+        source = m_archive->openPayload(step.payload);
+    } catch (const Core::Exception::BaseException &error) {
+        fail(error.getMessage());
+    }
+    const qint64 size = step.payload.size;
+    int percentDone = 0;
+    const auto progress = [this, &step, size, &percentDone](qint64 bytesDone) {
+        const double percent = std::clamp(
+            100.0 * static_cast<double>(bytesDone) / static_cast<double>(size), 0.0, 100.0);
+        if (static_cast<int>(percent) <= percentDone)
+            return;
+        percentDone = static_cast<int>(percent);
+        m_listener.stepProgressed(step, percent);
+    };
+    // The rate is the camera's best one; a file may well promise less time than that takes.
+    const auto usual = std::chrono::milliseconds(static_cast<qint64>(
+        1000.0 * static_cast<double>(size) / static_cast<double>(m_device.getUploadRate())));
+    const std::chrono::milliseconds estimate
+        = std::max(usual, estimateStep(step, m_device.getUploadRate()));
+    m_device.uploadFile(step.targetFile, *source, size, progress, getTimeLimit(estimate));
+}
+
+void CUpdateRun::checkVersion()
+{
+    const QString version = readFirmwareVersion();
+    if (!isSameVersion(version, m_entry.version))
+        fail(QStringLiteral("after the update it reports firmware version %1 instead of %2")
+                 .arg(quote(version), m_entry.version));
+}
+
+QString CUpdateRun::readFirmwareVersion()
+{
+    m_reportedVersion = readFeature(QStringLiteral("DeviceFirmwareVersion"));
+    return m_reportedVersion;
+}
+
+QString CUpdateRun::readFeature(const QString &name)
+{
+    return m_device.readFeature(name, FeatureLimit);
+}
+
+void CUpdateRun::fail(const QString &cause) const
+{
+    throw CCameraError(m_cameraName, cause);
+}
+
+} // namespace Viewer::CameraPool
