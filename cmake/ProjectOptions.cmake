@@ -24,13 +24,17 @@ endif()
 option(WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 set(SANITIZER "" CACHE STRING "Sanitizers to build with: empty, address or thread")
 
-add_library(project_options INTERFACE)
-target_compile_options(project_options INTERFACE
+# Tests may write plain literals where products say how a text is encoded.
+add_library(test_options INTERFACE)
+target_compile_options(test_options INTERFACE
   -Wall -Wextra -Wpedantic -Wsuggest-override -Woverloaded-virtual
   $<$<BOOL:${WARNINGS_AS_ERRORS}>:-Werror>)
-target_compile_definitions(project_options INTERFACE
-  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_STRICT_ITERATORS
-  QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+target_compile_definitions(test_options INTERFACE
+  QT_NO_FOREACH QT_STRICT_ITERATORS QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+
+add_library(project_options INTERFACE)
+target_link_libraries(project_options INTERFACE test_options)
+target_compile_definitions(project_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII)
 
 if(SANITIZER STREQUAL "address")
   add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer
@@ -54,7 +58,7 @@ function(add_project_test name)
     set(arg_TIMEOUT 120)
   endif()
   add_executable(${name} ${arg_SOURCES})
-  target_link_libraries(${name} PRIVATE project_options Qt5::Test ${arg_LIBRARIES})
+  target_link_libraries(${name} PRIVATE test_options Qt5::Test ${arg_LIBRARIES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES

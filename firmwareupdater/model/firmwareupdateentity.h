@@ -136,13 +136,20 @@ public:
     [[nodiscard]] QVector<QPointer<CFirmwareUpdateEntity>> getChildren() const;
 
 signals:
+    // The enumerations are spelt in full: under these names Qt knows their types.
     void cameraInfoChanged(Plugin::CameraPool::CameraInfoPtr ptrCameraInfo);
     void selectedChanged(bool selected);
     void updateDetailsChanged(Plugin::CameraPool::EFirmwareUpdateDirection updateDetails);
-    void updateStatusChanged(EFirmwareUpdateStatus updateStatus);
-    void updateResultChanged(EFirmwareUpdateResult updateResult);
+    void updateStatusChanged(
+        Plugin::FirmwareUpdater::Internal::Entity::CFirmwareUpdateEntity::EFirmwareUpdateStatus
+            updateStatus);
+    void updateResultChanged(
+        Plugin::FirmwareUpdater::Internal::Entity::CFirmwareUpdateEntity::EFirmwareUpdateResult
+            updateResult);
     void selectedFirmwareChanged(QString selectedFirmware);
-    void entityTypeChanged(EFirmwareUpdateEntityType entityType);
+    void entityTypeChanged(
+        Plugin::FirmwareUpdater::Internal::Entity::CFirmwareUpdateEntity::EFirmwareUpdateEntityType
+            entityType);
     void transportLayerInfoChanged(Plugin::CameraPool::TransportLayerInfoPtr ptrTransportLayerInfo);
     void enabledChanged(bool enabled);
     void deviceFirmwareUpdateChanged(
