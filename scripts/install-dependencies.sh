@@ -1,0 +1,77 @@
+#!/bin/bash
+# Installs the Debian packages that the project needs and that are missing.
+#
+#   scripts/install-dependencies.sh run    to build and to start the viewer
+#   scripts/install-dependencies.sh test   to build, to test and to check the format as well
+set -euo pipefail
+
+run_packages=(
+  cmake
+  g++
+  libzip-dev
+  ninja-build
+  pkg-config
+  qtbase5-dev
+  qttools5-dev
+  qttools5-dev-tools
+  qttranslations5-l10n
+  # A display where there is none, and letters to put on it.
+  fonts-dejavu-core
+  fonts-noto-cjk
+  xauth
+  xvfb
+)
+test_packages=(
+  ccache
+  clang-format
+  git
+  # The address and thread sanitizers' libraries come with the compiler.
+)
+
+case "${1:-}" in
+  run) packages=("${run_packages[@]}") ;;
+  test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
+  *)
+    echo "usage: $0 run|test" >&2
+    exit 2
+    ;;
+esac
+
+if ! command -v dpkg-query > /dev/null; then
+  echo "This is no Debian system. Install what corresponds to these packages: ${packages[*]}" >&2
+  echo "Going on in the hope that they are there." >&2
+  exit 0
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+  # Without word of an architecture: a package counts under whatever architecture it is installed.
+  status=$(dpkg-query --show --showformat='${db:Status-Status}\n' "$package" 2> /dev/null || true)
+  grep --quiet --line-regexp installed <<< "$status" || missing+=("$package")
+done
+if [ ${#missing[@]} -eq 0 ]; then
+  exit 0
+fi
+
+echo "Missing Debian packages: ${missing[*]}" >&2
+if [ "$(id -u)" -eq 0 ]; then
+  as_root=()
+elif command -v sudo > /dev/null && { [ -t 0 ] || sudo --non-interactive true 2> /dev/null; }; then
+  as_root=(sudo)
+else
+  echo "Neither root nor sudo: have an administrator type" >&2
+  echo "  apt-get update && apt-get install --yes ${missing[*]}" >&2
+  echo "and start this again." >&2
+  exit 1
+fi
+
+# With sudo in front, an assignment would be taken for the command.
+install=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install --yes
+  --no-install-recommends "${missing[@]}")
+# The package lists may be absent or too old for what they name: fetch them, but do not insist.
+"${as_root[@]}" apt-get update >&2 || echo "The package lists could not be brought up to date." >&2
+if ! "${install[@]}" >&2; then
+  echo "The packages could not be installed. Type this yourself and see why:" >&2
+  echo "  ${as_root[*]:+sudo }apt-get install ${missing[*]}" >&2
+  exit 1
+fi
