@@ -11,12 +11,38 @@ namespace Viewer::CameraPool::UpdateFile {
 
 namespace {
 
+bool isSpace(char byte)
+{
+    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
+}
+
+/// Offset of what the parser stumbled over. For most errors it reports a place behind that, as it
+/// has taken it and the white space that follows it.
+int findFaultOffset(const QByteArray &text, const QJsonParseError &error)
+{
+    switch (error.error) {
+    case QJsonParseError::UnterminatedObject:
+    case QJsonParseError::UnterminatedArray:
+    case QJsonParseError::MissingNameSeparator:
+    case QJsonParseError::MissingValueSeparator:
+    case QJsonParseError::MissingObject:
+    case QJsonParseError::IllegalValue:
+        break;
+    default:
+        return error.offset;
+    }
+    int offset = error.offset;
+    while (offset > 0 && isSpace(text.at(offset - 1)))
+        --offset;
+    return qMax(0, offset - 1);
+}
+
 /// Line and column of the byte at @p offset, from 1; columns count characters.
 QString describePlace(const QByteArray &text, int offset)
 {
     const QByteArray before = text.left(offset);
     const int lineBegin = before.lastIndexOf('\n') + 1;
-    const int column = QString::fromUtf8(before.mid(lineBegin)).size() + 1;
+    const int column = QString::fromUtf8(before.mid(lineBegin)).toUcs4().size() + 1;
     return QStringLiteral("line %1, column %2").arg(before.count('\n') + 1).arg(column);
 }
 
@@ -25,7 +51,7 @@ QString describeError(QJsonParseError::ParseError error)
 {
     switch (error) {
     case QJsonParseError::UnterminatedObject:
-        return QStringLiteral("a comma or a closing brace is missing");
+        return QStringLiteral("a name in quotation marks, a comma or a closing brace is missing");
     case QJsonParseError::MissingNameSeparator:
         return QStringLiteral("a colon is missing after a name");
     case QJsonParseError::UnterminatedArray:
@@ -80,11 +106,6 @@ int findTooDeepNesting(const QByteArray &text, int maximumNesting)
         ++position;
     }
     return -1;
-}
-
-bool isSpace(char byte)
-{
-    return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
 }
 
 /// The text that a JSON string, quotation marks included, stands for.
@@ -148,7 +169,8 @@ CJsonResult parseJsonObject(const QByteArray &text, int maximumNesting)
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
         return fault(QStringLiteral("is not JSON at %1: %2")
-                         .arg(describePlace(text, error.offset), describeError(error.error)));
+                         .arg(describePlace(text, findFaultOffset(text, error)),
+                              describeError(error.error)));
     if (!document.isObject())
         return fault(QStringLiteral("has to be an object in braces at its top level"));
 
