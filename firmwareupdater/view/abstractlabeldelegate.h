@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include <memory>
+
+class QLabel;
+
+namespace Plugin::FirmwareUpdater::Internal::Entity {
+class CFirmwareUpdateEntity;
+}
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+/// Common base of the delegates that only show a text, with or without an icon: paints it by
+/// rendering a label, and draws its part of the row's frame and of the column separators.
+class CAbstractLabelDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit CAbstractLabelDelegate(QObject *parent = nullptr);
+    ~CAbstractLabelDelegate() override;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+protected:
+    struct SCellContent
+    {
+        QString text;
+        Qt::TextFormat textFormat = Qt::PlainText;
+        bool isBold = false;
+
+        /// Pixels of the cell's width that the text may not take.
+        int reservedWidth = 0;
+
+        /// Whether texts stand behind the place of an icon, also where there is none, so that the
+        /// texts of a column stand below each other.
+        bool hasIconPlace = false;
+
+        /// Resource name of the icon; may be empty.
+        QString iconName;
+    };
+
+    /// What the cell of @p entity in column @p column shows.
+    [[nodiscard]] virtual SCellContent getContent(const Entity::CFirmwareUpdateEntity &entity,
+                                                  int column) const = 0;
+
+private:
+    void showContent(const SCellContent &content, const QRect &cell, int indent) const;
+
+    const std::unique_ptr<QLabel> m_label;
+    QLabel *const m_iconLabel;
+};
+
+} // namespace Plugin::FirmwareUpdater::Internal::View

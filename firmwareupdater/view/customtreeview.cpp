@@ -1,0 +1,114 @@
+#include "customtreeview.h"
+
+#include <QFocusEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+CCustomTreeView::CCustomTreeView(QWidget *parent)
+    : QTreeView(parent)
+{
+}
+
+void CCustomTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                  const QVector<int> &roles)
+{
+    if (topLeft == bottomRight && !isPersistentEditorOpen(topLeft)) {
+        viewport()->update();
+        return;
+    }
+    QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void CCustomTreeView::setVisible(bool visible)
+{
+    QTreeView::setVisible(visible);
+    if (visible) {
+        updateScrollBarGeometry();
+    }
+}
+
+void CCustomTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    if (hint != QAbstractItemDelegate::EditNextItem) {
+        QTreeView::closeEditor(editor, hint);
+    }
+}
+
+void CCustomTreeView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    updateScrollBarGeometry();
+}
+
+void CCustomTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                              const QModelIndex &index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    if (!m_isKeyboardUsed || !hasFocus()
+        || currentIndex().siblingAtColumn(0) != index.siblingAtColumn(0)) {
+        return;
+    }
+    QStyleOptionFocusRect focus;
+    focus.QStyleOption::operator=(option);
+    focus.state |= QStyle::State_KeyboardFocusChange;
+    focus.backgroundColor = option.palette.color(QPalette::Base);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, painter, this);
+}
+
+bool CCustomTreeView::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) {
+        setKeyboardUsed(false);
+    }
+    return QTreeView::viewportEvent(event);
+}
+
+void CCustomTreeView::focusInEvent(QFocusEvent *event)
+{
+    QTreeView::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        setKeyboardUsed(true);
+    }
+}
+
+void CCustomTreeView::keyPressEvent(QKeyEvent *event)
+{
+    setKeyboardUsed(true);
+    // The box of the current row stands in column 0, whichever cell is the current one.
+    if (event->key() == Qt::Key_Space
+        && edit(currentIndex().siblingAtColumn(0), AnyKeyPressed, event)) {
+        event->accept();
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void CCustomTreeView::updateGeometries()
+{
+    QTreeView::updateGeometries();
+    updateScrollBarGeometry();
+}
+
+void CCustomTreeView::updateScrollBarGeometry()
+{
+    if (QScrollBar *scrollBar = verticalScrollBar()) {
+        const QRect headerRect = header()->geometry();
+        QRect rect = scrollBar->geometry();
+        rect.setTop(headerRect.bottom() - headerRect.top() + 15);
+        scrollBar->setGeometry(rect);
+    }
+}
+
+void CCustomTreeView::setKeyboardUsed(bool used)
+{
+    if (m_isKeyboardUsed != used) {
+        m_isKeyboardUsed = used;
+        viewport()->update();
+    }
+}
+
+} // namespace Plugin::FirmwareUpdater::Internal::View

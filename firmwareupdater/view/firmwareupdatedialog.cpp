@@ -1,0 +1,78 @@
+#include "firmwareupdatedialog.h"
+
+#include "model/firmwareupdatetreemodel.h"
+#include "treeviewlabeldelegate.h"
+#include "treeviewstatusdelegate.h"
+#include "ui_firmwareupdatedialog.h"
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+using Entity::CFirmwareUpdateEntity;
+
+CFirmwareUpdateDialog::CFirmwareUpdateDialog(QWidget *parent)
+    : CUpdateDialogBase(parent)
+    , m_ui(std::make_unique<Ui::FirmwareUpdateDialogUi>())
+{
+    m_ui->setupUi(this);
+    setIcon(m_ui->infoIconLabel_1, QStringLiteral("warning_icon_24x24_en"));
+    setIcon(m_ui->infoIconLabel_2, QStringLiteral("warning_icon_24x24_en"));
+    initializeFrame(m_ui->buttonBox);
+    initializeCameraTree(m_ui->cameraTreeView);
+    m_cancelButton = m_ui->buttonBox->button(QDialogButtonBox::Cancel);
+}
+
+CFirmwareUpdateDialog::~CFirmwareUpdateDialog() = default;
+
+void CFirmwareUpdateDialog::setModel(QSharedPointer<Model::CFirmwareUpdateTreeModel> model)
+{
+    auto *treeView = m_ui->cameraTreeView;
+    if (!treeView->model()) {
+        showColumns(model.data(),
+                    {
+                        {CFirmwareUpdateEntity::DisplayName, 94},
+                        {CFirmwareUpdateEntity::CurrentFirmware, 142},
+                        {CFirmwareUpdateEntity::SelectedFirmware, 148},
+                        {CFirmwareUpdateEntity::UpdateStatus, 126},
+                    });
+        auto *labelDelegate = new CTreeViewLabelDelegate(treeView);
+        treeView->setItemDelegateForColumn(CFirmwareUpdateEntity::DisplayName, labelDelegate);
+        treeView->setItemDelegateForColumn(CFirmwareUpdateEntity::CurrentFirmware, labelDelegate);
+        treeView->setItemDelegateForColumn(CFirmwareUpdateEntity::SelectedFirmware, labelDelegate);
+        treeView->setItemDelegateForColumn(CFirmwareUpdateEntity::UpdateStatus,
+                                           new CTreeViewStatusDelegate(treeView));
+    }
+    treeView->expandAll();
+    CUpdateDialogBase::setModel(std::move(model));
+}
+
+void CFirmwareUpdateDialog::updateOverallProgress(int current, int total)
+{
+    m_ui->progressIndicatorLabel->setText(QStringLiteral("%1/%2").arg(current).arg(total));
+}
+
+void CFirmwareUpdateDialog::updateProgress(int value, int maximum)
+{
+    m_ui->progressBar->setMinimum(0);
+    m_ui->progressBar->setMaximum(maximum);
+    m_ui->progressBar->setValue(value);
+}
+
+void CFirmwareUpdateDialog::enableButtons(bool enable)
+{
+    enableDefaultButton(m_cancelButton, enable);
+
+    Qt::WindowFlags flags
+        = Qt::Dialog | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+    flags.setFlag(Qt::WindowCloseButtonHint, enable);
+    setWindowFlags(flags);
+    show();
+}
+
+void CFirmwareUpdateDialog::dialogButtonClicked(QAbstractButton *pButton)
+{
+    if (getButton(pButton) == EButton::Close) {
+        emit closeClicked();
+    }
+}
+
+} // namespace Plugin::FirmwareUpdater::Internal::View

@@ -1,0 +1,25 @@
+#include "treeviewlabeldelegate.h"
+
+#include "model/firmwareupdateentity.h"
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+using Entity::CFirmwareUpdateEntity;
+
+CTreeViewLabelDelegate::CTreeViewLabelDelegate(QObject *parent)
+    : CAbstractLabelDelegate(parent)
+{
+}
+
+CTreeViewLabelDelegate::SCellContent
+CTreeViewLabelDelegate::getContent(const CFirmwareUpdateEntity &entity, int column) const
+{
+    SCellContent content;
+    content.text = entity.getData(column).toString();
+    content.isBold
+        = entity.getUpdateStatus() == CFirmwareUpdateEntity::EFirmwareUpdateStatus::Updating;
+    content.reservedWidth = 15;
+    return content;
+}
+
+} // namespace Plugin::FirmwareUpdater::Internal::View

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "abstractlabeldelegate.h"
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+/// Shows a column's value as it is, in bold while the camera is being updated.
+class CTreeViewLabelDelegate : public CAbstractLabelDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit CTreeViewLabelDelegate(QObject *parent = nullptr);
+
+protected:
+    [[nodiscard]] SCellContent getContent(const Entity::CFirmwareUpdateEntity &entity,
+                                          int column) const override;
+};
+
+} // namespace Plugin::FirmwareUpdater::Internal::View

@@ -1,0 +1,171 @@
+#include "updatedialogbase.h"
+
+#include "model/firmwareupdatetreemodel.h"
+#include "readablepalette.h"
+#include "style/icons.h"
+#include "treeviewheaderview.h"
+
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QTreeView>
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+using Entity::CFirmwareUpdateEntity;
+
+CUpdateDialogBase::CUpdateDialogBase(QWidget *parent)
+    : QDialog(parent,
+              Qt::Window | Qt::WindowMaximizeButtonHint | Qt::CustomizeWindowHint
+                  | Qt::WindowCloseButtonHint)
+{
+}
+
+CUpdateDialogBase::~CUpdateDialogBase() = default;
+
+QSharedPointer<Model::CFirmwareUpdateTreeModel> CUpdateDialogBase::getModel() const
+{
+    return m_model;
+}
+
+void CUpdateDialogBase::setModel(QSharedPointer<Model::CFirmwareUpdateTreeModel> model)
+{
+    m_model = std::move(model);
+}
+
+void CUpdateDialogBase::reject()
+{
+    emit closeClicked();
+}
+
+void CUpdateDialogBase::initializeFrame(QDialogButtonBox *buttonBox)
+{
+    m_buttonBox = buttonBox;
+    connect(buttonBox, &QDialogButtonBox::clicked, this, &CUpdateDialogBase::dialogButtonClicked);
+
+    // Leaving must be a decision: while Next is unavailable, Enter does nothing.
+    const QList<QAbstractButton *> buttons = buttonBox->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (auto *pushButton = qobject_cast<QPushButton *>(button)) {
+            pushButton->setAutoDefault(false);
+        }
+    }
+
+    QPalette readable = palette();
+    setReadableTexts(readable);
+    setPalette(readable);
+}
+
+void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
+{
+    m_treeView = treeView;
+    treeView->setModel(nullptr);
+    treeView->setHeader(new CTreeViewHeaderView);
+}
+
+QPushButton *CUpdateDialogBase::addBackAndNextButtons(const QString &backText,
+                                                      const QString &nextText)
+{
+    m_backButton = m_buttonBox->addButton(backText, QDialogButtonBox::AcceptRole);
+    m_backButton->setAutoDefault(false);
+    QPushButton *nextButton = m_buttonBox->addButton(nextText, QDialogButtonBox::DestructiveRole);
+    setDefaultButton(nextButton, true);
+    return nextButton;
+}
+
+QPushButton *CUpdateDialogBase::addNextButton(const QString &text)
+{
+    QPushButton *nextButton = m_buttonBox->addButton(text, QDialogButtonBox::AcceptRole);
+    setDefaultButton(nextButton, true);
+    return nextButton;
+}
+
+CUpdateDialogBase::EButton CUpdateDialogBase::getButton(QAbstractButton *button) const
+{
+    if (!button) {
+        return EButton::None;
+    }
+    switch (m_buttonBox->buttonRole(button)) {
+    case QDialogButtonBox::RejectRole:
+        return EButton::Close;
+    case QDialogButtonBox::AcceptRole:
+        return m_backButton ? EButton::Back : EButton::Next;
+    case QDialogButtonBox::DestructiveRole:
+        return m_backButton ? EButton::Next : EButton::None;
+    default:
+        return EButton::None;
+    }
+}
+
+void CUpdateDialogBase::setDefaultButton(QPushButton *button, bool isDefault)
+{
+    button->setDefault(isDefault);
+    m_defaultButton = isDefault ? button : nullptr;
+}
+
+void CUpdateDialogBase::enableDefaultButton(QPushButton *button, bool enable)
+{
+    button->setEnabled(enable);
+    setDefaultButton(button, enable);
+}
+
+void CUpdateDialogBase::showColumns(QAbstractItemModel *model, const QVector<STreeColumn> &columns)
+{
+    m_columns = columns;
+    m_treeView->setModel(model);
+    for (int column = 0; column < CFirmwareUpdateEntity::COLUMN_COUNT; ++column) {
+        m_treeView->setColumnHidden(column, true);
+    }
+    for (const STreeColumn &column : columns) {
+        m_treeView->setColumnHidden(column.column, false);
+        m_treeView->setColumnWidth(column.column, column.designWidth);
+    }
+}
+
+void CUpdateDialogBase::setIcon(QLabel *label, const QString &iconName)
+{
+    label->setPixmap(Style::getIconPixmap(iconName));
+}
+
+void CUpdateDialogBase::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    emit closeClicked();
+}
+
+void CUpdateDialogBase::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    // A button box that is shown without a default button chooses one: Back, or a Next that is
+    // unavailable.
+    const QList<QAbstractButton *> buttons = m_buttonBox->buttons();
+    for (QAbstractButton *button : buttons) {
+        if (auto *pushButton = qobject_cast<QPushButton *>(button)) {
+            pushButton->setDefault(pushButton == m_defaultButton);
+        }
+    }
+}
+
+void CUpdateDialogBase::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    if (!m_columns.isEmpty()) {
+        fitColumns();
+    }
+}
+
+void CUpdateDialogBase::fitColumns()
+{
+    const auto treeWidth = static_cast<float>(m_treeView->width());
+    // The last column takes what the others leave, so that no pixel is lost to rounding.
+    int remainder = m_treeView->width();
+    for (int i = 0; i < m_columns.size() - 1; ++i) {
+        const auto designWidth = static_cast<float>(m_columns.at(i).designWidth);
+        const int width = static_cast<int>(treeWidth * designWidth / DEFAULT_TREE_VIEW_WIDTH);
+        m_treeView->setColumnWidth(m_columns.at(i).column, width);
+        remainder -= width;
+    }
+    m_treeView->setColumnWidth(m_columns.last().column, remainder);
+}
+
+} // namespace Plugin::FirmwareUpdater::Internal::View

@@ -1,0 +1,117 @@
+#include "updateselectiondialog.h"
+
+#include "model/firmwareupdatetreemodel.h"
+#include "ui_updateselectiondialog.h"
+
+#include <QDir>
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
+    : CUpdateDialogBase(parent)
+    , m_ui(std::make_unique<Ui::UpdateSelectionDialogUi>())
+{
+    m_ui->setupUi(this);
+    setIcon(m_ui->errorIconLabel, QStringLiteral("error_icon_24x24_en"));
+    setIcon(m_ui->infoIconLabel, QStringLiteral("info_icon_24x24_en"));
+    initializeFrame(m_ui->buttonBox);
+    m_ui->updateFileLineEdit->setText(QDir::toNativeSeparators(QDir::homePath()));
+    m_nextButton = addBackAndNextButtons(tr("Back"), tr("Next"));
+
+    connect(m_ui->browseButton, &QPushButton::clicked, this,
+            &CUpdateSelectionDialog::browseClicked);
+    connect(m_ui->updateFileLineEdit, &QLineEdit::textEdited, this,
+            &CUpdateSelectionDialog::pathChanged);
+}
+
+CUpdateSelectionDialog::~CUpdateSelectionDialog() = default;
+
+void CUpdateSelectionDialog::setKorvaneSupportUrl(const QString &url)
+{
+    m_ui->infoTextLabel->setText(
+        tr("To update the firmware of your cameras, you need a firmware update file from "
+           "<a href=\"%1\">Korvane Support</a>.")
+            .arg(url.toHtmlEscaped()));
+}
+
+void CUpdateSelectionDialog::updateFileSelection(const QString &path)
+{
+    if (m_ui->updateFileLineEdit->text() != path) {
+        m_ui->updateFileLineEdit->setText(path);
+    }
+}
+
+void CUpdateSelectionDialog::updateCompatibility(bool compatible, bool noFile)
+{
+    const bool isError = !compatible && !noFile;
+    m_ui->errorIconLabel->setVisible(isError);
+    m_ui->errorTextLabel->setVisible(isError);
+    if (m_nextButton) {
+        m_nextButton->setEnabled(compatible && !noFile);
+    }
+}
+
+void CUpdateSelectionDialog::updateFirmwareUpdateInfo(
+    QVector<QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>> infos, bool noFile)
+{
+    if (infos.isEmpty()) {
+        m_ui->updateDescriptionTextLabel->setText(noFile ? tr("No file selected")
+                                                         : tr("No details available"));
+        showVersion({});
+        showReleaseNotes({});
+        return;
+    }
+    const auto &info = infos.first();
+    const QString description = info->getDescription();
+    m_ui->updateDescriptionTextLabel->setText(description.isEmpty() ? tr("No details available")
+                                                                    : description);
+    showVersion(info->getVersion());
+    showReleaseNotes(info->getReleaseNotes());
+}
+
+void CUpdateSelectionDialog::setVisible(bool visible)
+{
+    // The file may have changed since the dialog was last shown.
+    if (visible) {
+        emit pathChanged(m_ui->updateFileLineEdit->text());
+    }
+    CUpdateDialogBase::setVisible(visible);
+}
+
+void CUpdateSelectionDialog::dialogButtonClicked(QAbstractButton *pButton)
+{
+    switch (getButton(pButton)) {
+    case EButton::Back:
+        emit backClicked();
+        break;
+    case EButton::Next:
+        emit nextClicked();
+        break;
+    case EButton::Close:
+        emit closeClicked();
+        break;
+    default:
+        break;
+    }
+}
+
+void CUpdateSelectionDialog::showVersion(const QString &version)
+{
+    m_ui->updateVersionTextLabel->setText(version);
+    m_ui->updateVersionLabel->setVisible(!version.isEmpty());
+    m_ui->updateVersionTextLabel->setVisible(!version.isEmpty());
+}
+
+void CUpdateSelectionDialog::showReleaseNotes(const QString &notes)
+{
+    // Notes that mention an address anywhere are taken for one as a whole.
+    const bool isLink = notes.contains(QLatin1String("http"), Qt::CaseInsensitive);
+    m_ui->updateNotesTextLabel->setText(
+        isLink ? QStringLiteral("<a href=\"%1\">%2</a>")
+                     .arg(notes.toHtmlEscaped(), tr("Firmware Release Notes"))
+               : notes);
+    m_ui->updateNotesLabel->setVisible(!notes.isEmpty());
+    m_ui->updateNotesTextLabel->setVisible(!notes.isEmpty());
+}
+
+} // namespace Plugin::FirmwareUpdater::Internal::View
