@@ -1,0 +1,114 @@
+#pragma once
+
+#include "ifirmwareupdaterservice.h"
+
+#include "core/iplugininitializer.h"
+
+#include <QFile>
+#include <QHash>
+#include <QPointer>
+#include <QStateMachine>
+
+class QFileInfo;
+
+namespace Plugin::CameraPool {
+class ITransportLayerInfo;
+} // namespace Plugin::CameraPool
+
+namespace Plugin::FirmwareUpdater::Internal::Model {
+class CFirmwareUpdateTreeModel;
+} // namespace Plugin::FirmwareUpdater::Internal::Model
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+class CCameraSelectionDialog;
+class CFirmwareUpdateDialog;
+class CResultSummaryDialog;
+class CUpdateSelectionDialog;
+class CUpdateSummaryDialog;
+} // namespace Plugin::FirmwareUpdater::Internal::View
+
+namespace Plugin::FirmwareUpdater::Internal::Service {
+
+/// The wizard's controller: owns the two models, the state machine and the log, makes the dialogs,
+/// and checks the update file that the user names. The dialogs belong to the host's main window.
+class CFirmwareUpdaterService : public IFirmwareUpdaterService
+{
+    Q_OBJECT
+
+public:
+    /// @p parent is the plug-in, which also shares the service through a `QSharedPointer`.
+    CFirmwareUpdaterService(QPointer<Core::Plugin::IPluginInitializer> initializer,
+                            QObject *parent);
+    ~CFirmwareUpdaterService() override;
+
+    bool postInitialize() override;
+    void startFirmwareUpdater() override;
+    QString getKorvaneSupportUrl() const override;
+    QSharedPointer<Plugin::CameraPool::ICameraInfo> getSelectedCamera() const override;
+    void setSelectedCamera(QSharedPointer<Plugin::CameraPool::ICameraInfo> camera) override;
+    bool isCompatibleCamera(QSharedPointer<Plugin::CameraPool::ICameraInfo> camera) override;
+    QString getSelectedUpdatePath() const override;
+    void openTemporaryLogFile() override;
+    QString addTemporaryLogMessage(const Core::Logging::ELogLevel &level,
+                                   const QString &message) override;
+    QString getCurrentTemporaryLogFilePath() const override;
+    QString getUpdateFailureMessage() const override;
+    void setUpdateFailureMessage(const QString &message) override;
+    void closeTemporaryLogFile() override;
+    void setDialogPos(const QPoint &pos) override;
+    QPoint getDialogPos() const override;
+    void setDialogSize(const QSize &size) override;
+    QSize getDialogSize() const override;
+    void setDialogWindowState(const Qt::WindowStates &state) override;
+    Qt::WindowStates getDialogWindowState() const override;
+
+public slots:
+    void onEnumerationChanged() override;
+
+private slots:
+    void onRefreshCameraTreeClicked();
+    void onBrowseClicked();
+    void onPathChanged(QString filePath);
+
+private:
+    using TransportLayers = QVector<QSharedPointer<Plugin::CameraPool::ITransportLayerInfo>>;
+
+    void initializeDialogs();
+    void initializeStateMachine();
+    void checkCompatibility(const QFileInfo &fileInfo);
+
+    void selectUpdateFile(const QString &shownPath, const QFileInfo &fileInfo);
+    [[nodiscard]] TransportLayers getTransportLayers() const;
+    [[nodiscard]] bool isAnyCameraBusy(const TransportLayers &layers) const;
+    [[nodiscard]] bool askToStopAllCameras() const;
+    void loadCameraTree(const TransportLayers &layers);
+
+    /// Untranslated words of the levels in the log.
+    static const QHash<int, const char *> LOGLEVEL_TO_I18N_KEYS_MAP;
+
+    // Not owned: children of the host's main window.
+    View::CCameraSelectionDialog *m_cameraSelectionDialog = nullptr;
+    View::CUpdateSelectionDialog *m_updateSelectionDialog = nullptr;
+    View::CUpdateSummaryDialog *m_updateSummaryDialog = nullptr;
+    View::CFirmwareUpdateDialog *m_firmwareUpdateDialog = nullptr;
+    View::CResultSummaryDialog *m_resultSummaryDialog = nullptr;
+
+    QPointer<QStateMachine> m_stateMachine;
+    QPointer<Core::Plugin::IPluginInitializer> m_initializer;
+    QSharedPointer<Plugin::CameraPool::ICameraInfo> m_selectedCamera;
+
+    /// All enumerated cameras with their ticks.
+    QSharedPointer<Model::CFirmwareUpdateTreeModel> m_cameraSelectionModel;
+
+    /// Copies of the cameras chosen for update, with their progress and results.
+    QSharedPointer<Model::CFirmwareUpdateTreeModel> m_cameraUpdateModel;
+
+    QString m_selectedUpdatePath;
+    QPointer<QFile> m_temporaryLogFile;
+    QString m_updateFailureMessage;
+    QPoint m_dialogPos;
+    QSize m_dialogSize;
+    Qt::WindowStates m_dialogWindowState = Qt::WindowNoState;
+};
+
+} // namespace Plugin::FirmwareUpdater::Internal::Service

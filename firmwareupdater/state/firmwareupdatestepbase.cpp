@@ -1,0 +1,65 @@
+#include "firmwareupdatestepbase.h"
+
+namespace Plugin::FirmwareUpdater::Internal::State {
+
+CFirmwareUpdateStepBase::CFirmwareUpdateStepBase(
+    QPointer<Core::Plugin::IPluginInitializer> pluginInitializer, QDialog *dialog, QState *parent)
+    : QState(parent)
+    , m_dialog(dialog)
+    , m_updaterService(pluginInitializer->getService<IFirmwareUpdaterService>())
+{
+}
+
+CFirmwareUpdateStepBase::~CFirmwareUpdateStepBase() = default;
+
+void CFirmwareUpdateStepBase::onEntry(QEvent *event)
+{
+    Q_UNUSED(event)
+
+    if (!m_dialog)
+        return;
+
+    const QSize size = m_updaterService->getDialogSize();
+    const QPoint pos = m_updaterService->getDialogPos();
+    if (size.width() < 0 || size.height() < 0) {
+        m_dialog->show();
+        return;
+    }
+
+    const Qt::WindowStates state = m_updaterService->getDialogWindowState();
+    // A wizard that was full screen comes back maximized: full screen has no title bar to leave by.
+    if (state & (Qt::WindowFullScreen | Qt::WindowMaximized)) {
+        m_dialog->showMaximized();
+        return;
+    }
+
+    m_dialog->setWindowState(state);
+    m_dialog->move(pos);
+    m_dialog->resize(size);
+    m_dialog->show();
+}
+
+void CFirmwareUpdateStepBase::onExit(QEvent *event)
+{
+    Q_UNUSED(event)
+
+    if (!m_dialog)
+        return;
+
+    m_updaterService->setDialogSize(m_dialog->size());
+    m_updaterService->setDialogPos(m_dialog->pos());
+    m_updaterService->setDialogWindowState(m_dialog->windowState());
+    m_dialog->hide();
+}
+
+QPointer<QDialog> CFirmwareUpdateStepBase::getDialog() const
+{
+    return m_dialog;
+}
+
+QSharedPointer<IFirmwareUpdaterService> CFirmwareUpdateStepBase::getUpdaterService() const
+{
+    return m_updaterService;
+}
+
+} // namespace Plugin::FirmwareUpdater::Internal::State
