@@ -3,6 +3,7 @@
 #include "constants.h"
 #include "icons.h"
 
+#include <QHeaderView>
 #include <QPainter>
 #include <QStyleOptionHeader>
 
@@ -81,16 +82,13 @@ void CTreeViewHeaderStyle::drawSection(const QStyleOptionHeader &option, QPainte
         painter->fillRect(rect, background);
     }
 
-    QPen pen = painter->pen();
-    pen.setColor(Constants::GREY_COLOR);
-    painter->setPen(pen);
-    painter->drawLine(rect.left(), titleHeight + 7, rect.right(), titleHeight + 7);
+    // Filled, not stroked: with more than one device pixel per pixel the ends of a line leave a
+    // gap.
+    painter->fillRect(QRect(rect.left(), titleHeight + 7, rect.width(), 1), Constants::GREY_COLOR);
 
     if (option.position != QStyleOptionHeader::End
         && option.position != QStyleOptionHeader::OnlyOneSection) {
-        pen.setWidth(2);
-        pen.setColor(Constants::LIGHT_GREY_COLOR);
-        painter->setPen(pen);
+        painter->setPen(QPen(Constants::LIGHT_GREY_COLOR, 2));
         painter->drawLine(rect.right(), rect.top() + 3, rect.right(), titleHeight - 2);
     }
     painter->restore();
@@ -102,8 +100,13 @@ void CTreeViewHeaderStyle::drawSortArrow(const QStyleOptionHeader &option, QPain
     if (option.sortIndicator == QStyleOptionHeader::None) {
         return;
     }
+    bool pointsUp = option.sortIndicator == QStyleOptionHeader::SortUp;
+    if (const auto *header = qobject_cast<const QHeaderView *>(widget)) {
+        // Qt's headers ask for SortDown at an ascending order. Here the arrow points up then.
+        pointsUp = header->sortIndicatorOrder() == Qt::AscendingOrder;
+    }
     QPixmap arrow = getIconPixmap(QStringLiteral("sort_icon_10x7_en"));
-    if (option.sortIndicator == QStyleOptionHeader::SortUp) {
+    if (pointsUp) {
         arrow = arrow.transformed(QTransform().rotate(180), Qt::FastTransformation);
     }
     painter->drawPixmap(subElementRect(SE_HeaderArrow, &option, widget), arrow);

@@ -3,69 +3,7 @@
 #include "constants.h"
 #include "readablepalette.h"
 
-#include <QPainterPath>
-
 namespace Plugin::FirmwareUpdater::Internal::View {
-
-namespace {
-
-/// What QPainter::begin() sets back.
-class CPainterState
-{
-public:
-    explicit CPainterState(const QPainter &painter)
-        : m_pen(painter.pen())
-        , m_brush(painter.brush())
-        , m_brushOrigin(painter.brushOrigin())
-        , m_background(painter.background())
-        , m_backgroundMode(painter.backgroundMode())
-        , m_font(painter.font())
-        , m_opacity(painter.opacity())
-        , m_compositionMode(painter.compositionMode())
-        , m_renderHints(painter.renderHints())
-        , m_layoutDirection(painter.layoutDirection())
-        , m_transform(painter.worldTransform())
-        , m_isClipped(painter.hasClipping())
-        , m_clip(painter.clipPath())
-    {
-    }
-
-    void restore(QPainter *painter) const
-    {
-        painter->setPen(m_pen);
-        painter->setBrush(m_brush);
-        painter->setBrushOrigin(m_brushOrigin);
-        painter->setBackground(m_background);
-        painter->setBackgroundMode(m_backgroundMode);
-        painter->setFont(m_font);
-        painter->setOpacity(m_opacity);
-        painter->setCompositionMode(m_compositionMode);
-        painter->setRenderHints(painter->renderHints(), false);
-        painter->setRenderHints(m_renderHints);
-        painter->setLayoutDirection(m_layoutDirection);
-        painter->setWorldTransform(m_transform);
-        if (m_isClipped) {
-            painter->setClipPath(m_clip);
-        }
-    }
-
-private:
-    QPen m_pen;
-    QBrush m_brush;
-    QPoint m_brushOrigin;
-    QBrush m_background;
-    Qt::BGMode m_backgroundMode;
-    QFont m_font;
-    qreal m_opacity;
-    QPainter::CompositionMode m_compositionMode;
-    QPainter::RenderHints m_renderHints;
-    Qt::LayoutDirection m_layoutDirection;
-    QTransform m_transform;
-    bool m_isClipped;
-    QPainterPath m_clip;
-};
-
-} // namespace
 
 void setUpCellWidget(QWidget *widget)
 {
@@ -94,25 +32,18 @@ QPalette::ColorRole getBackgroundRole(QStyle::State state)
 
 void renderCellWidget(QPainter *painter, QWidget *widget, const QPoint &position, const QSize &size)
 {
-    QPaintDevice *device = painter->device();
+    const QPaintDevice *device = painter->device();
     if (!device || size.isEmpty()) {
         return;
     }
-    const CPainterState state(*painter);
-    const QPoint target = painter->worldTransform().map(position);
-    QRegion source(QRect(QPoint(0, 0), size));
-    if (painter->hasClipping()) {
-        source &= painter->worldTransform().map(painter->clipRegion()).translated(-target);
-    }
-
-    painter->end();
-    // The source's own corner comes to lie on the target.
-    const QPoint corner = source.boundingRect().topLeft();
-    if (!source.isEmpty()) {
-        widget->render(device, target + corner, source);
-    }
-    painter->begin(device);
-    state.restore(painter);
+    // Through a picture of its own: rendered straight into the device, the widget would miss the
+    // view's place in its window, and it could not be painted at all while the painter is shared
+    // with the widgets around it, as when a whole dialog is rendered.
+    const qreal ratio = device->devicePixelRatioF();
+    QPixmap picture((QSizeF(size) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    widget->render(&picture, QPoint(), QRegion(QRect(QPoint(0, 0), size)));
+    painter->drawPixmap(position, picture);
 }
 
 void drawColumnSeparator(QPainter *painter, const QRect &cell)

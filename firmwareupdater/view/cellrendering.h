@@ -13,10 +13,9 @@ void setUpCellWidget(QWidget *widget);
 /// The palette role in which setUpCellWidget() keeps the background of a cell in this state.
 [[nodiscard]] QPalette::ColorRole getBackgroundRole(QStyle::State state);
 
-/// Renders @p widget and its children, from its top left corner and @p size large, at @p position
-/// of the painter's coordinates. A painter that only moves its origin is followed, one that scales
-/// or rotates is not. The painter is ended for that and begun again with its state restored, but
-/// for what it had saved.
+/// Draws @p widget and its children, from its top left corner and @p size large, at @p position.
+/// The picture is the same in a view and on an image, sharp at each device pixel ratio; the painter
+/// keeps its state.
 void renderCellWidget(QPainter *painter, QWidget *widget, const QPoint &position,
                       const QSize &size);
 

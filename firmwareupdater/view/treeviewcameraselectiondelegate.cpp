@@ -161,6 +161,9 @@ QWidget *CTreeViewCameraSelectionDelegate::createEditor(QWidget *parent,
     layout->setContentsMargins(row.isDirectCamera() ? DIRECT_CAMERA_INDENT : INDENT, top, 0, 0);
 
     auto *checkBox = new CRowCheckBox(editor);
+    // The box looks like the painted one below it, and lets the painted text shine through.
+    setUpCellWidget(checkBox);
+    checkBox->setAutoFillBackground(false);
     checkBox->setBaseSize(option.rect.size());
     checkBox->setFocusPolicy(Qt::NoFocus);
     checkBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

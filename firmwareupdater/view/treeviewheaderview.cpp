@@ -1,5 +1,6 @@
 #include "treeviewheaderview.h"
 
+#include "constants.h"
 #include "readablepalette.h"
 #include "style/treeviewheaderstyle.h"
 
@@ -17,7 +18,8 @@ CTreeViewHeaderView::CTreeViewHeaderView(QWidget *parent)
     setFont(titleFont);
 
     // Titles are drawn in the colour of button texts, but on the white of the tree.
-    QPalette titlePalette = palette();
+    QPalette titlePalette;
+    titlePalette.setColor(QPalette::Base, Constants::WHITE_COLOR);
     setReadableText(titlePalette, QPalette::ButtonText);
     setPalette(titlePalette);
 

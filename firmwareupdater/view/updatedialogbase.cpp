@@ -48,6 +48,8 @@ void CUpdateDialogBase::initializeFrame(QDialogButtonBox *buttonBox)
     for (QAbstractButton *button : buttons) {
         if (auto *pushButton = qobject_cast<QPushButton *>(button)) {
             pushButton->setAutoDefault(false);
+            // Back and Next have no icon either.
+            pushButton->setIcon({});
         }
     }
 
@@ -59,6 +61,8 @@ void CUpdateDialogBase::initializeFrame(QDialogButtonBox *buttonBox)
 void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
 {
     m_treeView = treeView;
+    // A widget with a style sheet of its own inherits no palette.
+    treeView->setPalette(palette());
     treeView->setModel(nullptr);
     treeView->setHeader(new CTreeViewHeaderView);
 }
