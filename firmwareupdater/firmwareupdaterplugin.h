@@ -18,6 +18,7 @@ class CFirmwareUpdaterPlugin : public Core::Plugin::ALocalizedPlugin
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID NUVEX_VIEWER_PLUGIN_IID FILE "firmwareupdater.json")
+    Q_INTERFACES(Core::Plugin::IPlugin)
 
 public:
     explicit CFirmwareUpdaterPlugin(QObject *parent = nullptr);

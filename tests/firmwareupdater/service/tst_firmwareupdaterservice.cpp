@@ -1,0 +1,485 @@
+#include "support/updaterfixture.h"
+#include "view/cameraselectiondialog.h"
+#include "view/firmwareupdatedialog.h"
+#include "view/resultsummarydialog.h"
+#include "view/updateselectiondialog.h"
+#include "view/updatesummarydialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <QtTest>
+
+#include <functional>
+
+using namespace Plugin::FirmwareUpdater::Internal;
+using TestSupport::CScriptedUpdate;
+using TestSupport::CUpdaterFixture;
+
+class CFirmwareUpdaterServiceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void remembersWhatItIsTold();
+    void asksAboutBusyCameras_data();
+    void asksAboutBusyCameras();
+    void startsAtStepOneWithTheRememberedCamera();
+    void startsWithoutARememberedCameraThatIsGone();
+    void checksTheTypedPath_data();
+    void checksTheTypedPath();
+    void keepsTheTypedFormButStoresTheAbsolutePath();
+    void checksTheFirstTickedCameraOnly();
+    void logsAFileThatCannotBeRead();
+    void checksThePathAtEachEntry();
+    void takesAFileFromTheFileDialog();
+    void walksThroughItsSteps();
+    void goesRoundAgain();
+    void staysInStepFourWhenClosed();
+    void rebuildsTheTreeOnlyWhileOpen();
+    void asksTheHostToEnumerate();
+    void refusesToStartBeforeItIsBuilt();
+
+private:
+    template <typename T>
+    [[nodiscard]] T *dialog() const
+    {
+        return m_fixture->host.windows->getMainWindow()->findChild<T *>();
+    }
+
+    template <typename T>
+    [[nodiscard]] bool isShown() const
+    {
+        return dialog<T>()->isVisible();
+    }
+
+    static void click(QDialog *dialog, const char *text);
+    static QPushButton *findButton(const QDialog *dialog, const char *text);
+    void start();
+    void tick(const QString &id);
+    QString makeFile(const QString &name);
+    void typePath(const QString &path);
+    void goToStepThree();
+    void goToStepFour();
+    [[nodiscard]] QString updateText(const char *label) const;
+
+    /// Calls @p answer with the modal widget that the code under test is about to open.
+    void whenModal(const std::function<void(QWidget *)> &answer);
+
+    std::unique_ptr<CUpdaterFixture> m_fixture;
+    QHash<QString, CScriptedUpdate *> m_jobs;
+};
+
+void CFirmwareUpdaterServiceTest::init()
+{
+    m_jobs.clear();
+    m_fixture = std::make_unique<CUpdaterFixture>();
+    auto &host = m_fixture->host;
+    host.enumeration->layers = {TestSupport::makeLayer("l", {{"a"}, {"b"}, {"n", "N"}})};
+    host.updates->entries
+        = {TestSupport::UpdateInfoPtr(new TestSupport::CFakeUpdateInfo("2.0.0", "Fixes"))};
+    host.updates->createJob = [this](const QString &id, const TestSupport::UpdateInfoPtr &) {
+        auto *const job = new CScriptedUpdate;
+        job->begin(10).hold().done();
+        m_jobs.insert(id, job);
+        return Plugin::CameraPool::DeviceFirmwareUpdatePtr(job);
+    };
+    QVERIFY(m_fixture->service->postInitialize());
+    host.windows->getMainWindow()->show();
+}
+
+void CFirmwareUpdaterServiceTest::cleanup()
+{
+    m_fixture.reset();
+}
+
+QPushButton *CFirmwareUpdaterServiceTest::findButton(const QDialog *dialog, const char *text)
+{
+    const auto buttons = dialog->findChildren<QPushButton *>();
+    for (QPushButton *const button : buttons) {
+        if (button->text().remove('&') == text)
+            return button;
+    }
+    return nullptr;
+}
+
+void CFirmwareUpdaterServiceTest::click(QDialog *dialog, const char *text)
+{
+    QVERIFY(dialog->isVisible());
+    QPushButton *const button = findButton(dialog, text);
+    QVERIFY2(button && button->isEnabled(), text);
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void CFirmwareUpdaterServiceTest::start()
+{
+    m_fixture->service->startFirmwareUpdater();
+    QTRY_VERIFY(isShown<View::CCameraSelectionDialog>());
+}
+
+void CFirmwareUpdaterServiceTest::tick(const QString &id)
+{
+    const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
+    const QModelIndex index = model->getModelIndexForCameraId("l", id, 0);
+    QVERIFY(model->setData(index, true, Qt::EditRole));
+    model->updateAllNodesBySelection(index);
+}
+
+QString CFirmwareUpdaterServiceTest::makeFile(const QString &name)
+{
+    const QString path = m_fixture->temporaryFolder.filePath(name);
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) ? path : QString();
+}
+
+void CFirmwareUpdaterServiceTest::typePath(const QString &path)
+{
+    auto *const edit = dialog<View::CUpdateSelectionDialog>()->findChild<QLineEdit *>();
+    edit->selectAll();
+    QTest::keyClicks(edit, path);
+    QCOMPARE(edit->text(), path);
+}
+
+void CFirmwareUpdaterServiceTest::goToStepThree()
+{
+    start();
+    tick("a");
+    tick("b");
+    click(dialog<View::CCameraSelectionDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
+    typePath(makeFile("update.guf"));
+    click(dialog<View::CUpdateSelectionDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CUpdateSummaryDialog>());
+}
+
+void CFirmwareUpdaterServiceTest::goToStepFour()
+{
+    goToStepThree();
+    click(dialog<View::CUpdateSummaryDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CFirmwareUpdateDialog>());
+}
+
+QString CFirmwareUpdaterServiceTest::updateText(const char *label) const
+{
+    return dialog<View::CUpdateSelectionDialog>()->findChild<QLabel *>(label)->text();
+}
+
+void CFirmwareUpdaterServiceTest::whenModal(const std::function<void(QWidget *)> &answer)
+{
+    auto *const poll = new QTimer(this);
+    connect(poll, &QTimer::timeout, this, [poll, answer] {
+        if (QWidget *const widget = QApplication::activeModalWidget()) {
+            poll->deleteLater();
+            answer(widget);
+        }
+    });
+    poll->start(5);
+}
+
+void CFirmwareUpdaterServiceTest::remembersWhatItIsTold()
+{
+    auto &service = *m_fixture->service;
+    QVERIFY(!service.getDialogSize().isValid());
+    QCOMPARE(service.getDialogPos(), QPoint(0, 0));
+    service.setDialogSize({10, 20});
+    service.setDialogPos({-3, 4});
+    service.setDialogWindowState(Qt::WindowMaximized);
+    QCOMPARE(service.getDialogSize(), QSize(10, 20));
+    QCOMPARE(service.getDialogPos(), QPoint(-3, 4));
+    QCOMPARE(service.getDialogWindowState(), Qt::WindowStates(Qt::WindowMaximized));
+
+    TestSupport::CCameraDescription locked{"x"};
+    locked.statusCode = 1;
+    QVERIFY(service.isCompatibleCamera(TestSupport::makeCamera({"x"})));
+    QVERIFY(!service.isCompatibleCamera(TestSupport::makeCamera(locked)));
+    QVERIFY(!service.isCompatibleCamera({}));
+}
+
+void CFirmwareUpdaterServiceTest::asksAboutBusyCameras_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<bool>("started");
+    QTest::newRow("yes") << int(QMessageBox::Yes) << true;
+    QTest::newRow("no") << int(QMessageBox::No) << false;
+    QTest::newRow("closed") << int(QMessageBox::NoButton) << false;
+}
+
+void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
+{
+    QFETCH(int, answer);
+    QFETCH(bool, started);
+
+    m_fixture->host.status->busyIds = {"b"};
+    bool asked = false;
+    whenModal([&asked, answer](QWidget *widget) {
+        auto *const box = qobject_cast<QMessageBox *>(widget);
+        asked = box && box->windowTitle() == "Fimware Updater"
+            && box->text().startsWith("<p>To use the Firmware Updater, you have to stop")
+            && box->defaultButton() == box->button(QMessageBox::No) && !box->iconPixmap().isNull()
+            && box->width() >= 570;
+        if (answer == QMessageBox::NoButton)
+            widget->close();
+        else
+            QTest::mouseClick(box->button(static_cast<QMessageBox::StandardButton>(answer)),
+                              Qt::LeftButton);
+    });
+    m_fixture->service->startFirmwareUpdater();
+    QVERIFY(asked);
+    QCOMPARE(m_fixture->host.streams->stopCount, started ? 1 : 0);
+    QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath().isEmpty(), !started);
+    const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
+    QCOMPARE(model->rowCount(), started ? 1 : 0);
+    if (started)
+        QTRY_VERIFY(isShown<View::CCameraSelectionDialog>());
+}
+
+void CFirmwareUpdaterServiceTest::startsAtStepOneWithTheRememberedCamera()
+{
+    TestSupport::CCameraDescription remembered{"b"};
+    remembered.layerId = "l";
+    m_fixture->service->setSelectedCamera(TestSupport::makeCamera(remembered));
+    start();
+    const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
+    QCOMPARE(model->getSelectedCameraList().size(), 1);
+    QCOMPARE(model->getSelectedCameraList().first()->getCameraInfo()->getId(), "b");
+    QVERIFY(findButton(dialog<View::CCameraSelectionDialog>(), "Next")->isEnabled());
+    // The tick has spread: its group is ticked, the other model greyed.
+    const QModelIndex camera = model->getModelIndexForCameraId("l", "b", 2);
+    QVERIFY(camera.parent().siblingAtColumn(2).data().toBool());
+    const auto *const other = static_cast<const CUpdaterFixture::Entity *>(
+        model->getModelIndexForCameraId("l", "n", 0).internalPointer());
+    QVERIFY(!other->isEnabled());
+}
+
+void CFirmwareUpdaterServiceTest::startsWithoutARememberedCameraThatIsGone()
+{
+    m_fixture->service->setSelectedCamera(TestSupport::makeCamera({"gone"}));
+    start();
+    QVERIFY(!dialog<View::CCameraSelectionDialog>()->getModel()->hasSelectedCameras());
+    QVERIFY(!findButton(dialog<View::CCameraSelectionDialog>(), "Next")->isEnabled());
+}
+
+void CFirmwareUpdaterServiceTest::checksTheTypedPath_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("ticked");
+    QTest::addColumn<bool>("fits");
+    QTest::addColumn<bool>("next");
+    QTest::addColumn<bool>("error");
+    QTest::addColumn<QString>("description");
+
+    QTest::newRow("usable file") << "file" << true << true << true << false << "Fixes";
+    QTest::newRow("no entry fits")
+        << "file" << true << false << false << true << "No details available";
+    QTest::newRow("no camera ticked")
+        << "file" << false << true << false << true << "No details available";
+    QTest::newRow("folder") << "folder" << true << true << false << false << "No file selected";
+    QTest::newRow("missing") << "missing" << true << true << false << false << "No file selected";
+    QTest::newRow("empty") << "" << true << true << false << false << "No file selected";
+}
+
+void CFirmwareUpdaterServiceTest::checksTheTypedPath()
+{
+    QFETCH(QString, path);
+    QFETCH(bool, ticked);
+    QFETCH(bool, fits);
+    QFETCH(bool, next);
+    QFETCH(bool, error);
+    QFETCH(QString, description);
+
+    start();
+    if (ticked)
+        tick("a");
+    if (!fits)
+        m_fixture->host.updates->incompatibleIds = {"a"};
+    const QString file = makeFile("update.guf");
+    auto *const step2 = dialog<View::CUpdateSelectionDialog>();
+    emit step2->pathChanged(path == "file"          ? file
+                                : path == "folder"  ? m_fixture->temporaryFolder.path()
+                                : path == "missing" ? file + ".gone"
+                                                    : QString());
+    QCOMPARE(findButton(step2, "Next")->isEnabled(), next);
+    QCOMPARE(!step2->findChild<QLabel *>("errorTextLabel")->isHidden(), error);
+    QCOMPARE(updateText("updateDescriptionTextLabel"), description);
+}
+
+void CFirmwareUpdaterServiceTest::keepsTheTypedFormButStoresTheAbsolutePath()
+{
+    start();
+    const QString path = makeFile("update.guf");
+    const QString relative = QDir::current().relativeFilePath(path);
+    QVERIFY(relative != path);
+    emit dialog<View::CUpdateSelectionDialog>()->pathChanged(relative);
+    QCOMPARE(dialog<View::CUpdateSelectionDialog>()->findChild<QLineEdit *>()->text(), relative);
+    QCOMPARE(QDir::cleanPath(m_fixture->service->getSelectedUpdatePath()), path);
+    QVERIFY(QDir::isAbsolutePath(m_fixture->service->getSelectedUpdatePath()));
+
+    emit dialog<View::CUpdateSelectionDialog>()->pathChanged("/no/such/file");
+    QCOMPARE(m_fixture->service->getSelectedUpdatePath(), "/no/such/file");
+}
+
+void CFirmwareUpdaterServiceTest::checksTheFirstTickedCameraOnly()
+{
+    start();
+    tick("b");
+    tick("a");
+    m_fixture->host.updates->incompatibleIds = {"a"};
+    emit dialog<View::CUpdateSelectionDialog>()->pathChanged(makeFile("update.guf"));
+    QCOMPARE(m_fixture->host.updates->checkedIds, QStringList({"a"}));
+    QVERIFY(!findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
+}
+
+void CFirmwareUpdaterServiceTest::logsAFileThatCannotBeRead()
+{
+    start();
+    tick("a");
+    m_fixture->host.updates->readError = "The file is torn";
+    emit dialog<View::CUpdateSelectionDialog>()->pathChanged(makeFile("update.guf"));
+    QCOMPARE(m_fixture->getLog(),
+             QStringList({"CRITICAL Failed to check for compatible update: The file is torn"}));
+    QVERIFY(!findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
+    QCOMPARE(updateText("updateDescriptionTextLabel"), "No details available");
+}
+
+void CFirmwareUpdaterServiceTest::checksThePathAtEachEntry()
+{
+    goToStepThree();
+    // The file turns bad while the user looks at the summary.
+    m_fixture->host.updates->readError = "The file is torn";
+    click(dialog<View::CUpdateSummaryDialog>(), "Back");
+    QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
+    QVERIFY(!findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
+    // An entry empties the list of an earlier pass.
+    QCOMPARE(dialog<View::CUpdateSummaryDialog>()->getModel()->rowCount(), 0);
+}
+
+void CFirmwareUpdaterServiceTest::takesAFileFromTheFileDialog()
+{
+    start();
+    tick("a");
+    click(dialog<View::CCameraSelectionDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
+    const QString path = makeFile("update.guf");
+    // The platform's own dialog cannot be driven by a test.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+
+    bool asked = false;
+    whenModal([&asked, path](QWidget *widget) {
+        auto *const fileDialog = qobject_cast<QFileDialog *>(widget);
+        asked = fileDialog && fileDialog->windowTitle() == "Fimware Updater"
+            && fileDialog->nameFilters() == QStringList({"Update files (*.guf)"})
+            && fileDialog->fileMode() == QFileDialog::ExistingFile;
+        fileDialog->findChild<QLineEdit *>()->setText(path);
+        QTest::keyClick(fileDialog->findChild<QLineEdit *>(), Qt::Key_Return);
+    });
+    click(dialog<View::CUpdateSelectionDialog>(), "Browse");
+    QVERIFY(asked);
+    QCOMPARE(dialog<View::CUpdateSelectionDialog>()->findChild<QLineEdit *>()->text(), path);
+    QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
+    QVERIFY(findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
+
+    whenModal([](QWidget *widget) { widget->close(); });
+    click(dialog<View::CUpdateSelectionDialog>(), "Browse");
+    QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
+}
+
+void CFirmwareUpdaterServiceTest::walksThroughItsSteps()
+{
+    goToStepFour();
+    QTRY_VERIFY(m_jobs.value("a")->isHeld());
+    m_jobs.value("a")->release();
+    m_jobs.value("b")->release();
+    QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
+    QVERIFY(!isShown<View::CFirmwareUpdateDialog>());
+    const auto *const label
+        = dialog<View::CResultSummaryDialog>()->findChild<QLabel *>("successfulUpdatesLabel");
+    QCOMPARE(label->text(), "Successful updates: 2");
+    const QString log = m_fixture->service->getCurrentTemporaryLogFilePath();
+    QVERIFY(QFile::exists(log));
+
+    click(dialog<View::CResultSummaryDialog>(), "Close");
+    QTRY_VERIFY(!isShown<View::CResultSummaryDialog>());
+    QTRY_COMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), "");
+    QCOMPARE(dialog<View::CResultSummaryDialog>()->getModel()->rowCount(), 0);
+
+    // The machine can be started again.
+    start();
+}
+
+void CFirmwareUpdaterServiceTest::goesRoundAgain()
+{
+    goToStepFour();
+    QTRY_VERIFY(m_jobs.value("a")->isHeld());
+    m_jobs.value("a")->release();
+    m_jobs.value("b")->release();
+    QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
+    const QString log = m_fixture->service->getCurrentTemporaryLogFilePath();
+    click(dialog<View::CResultSummaryDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CCameraSelectionDialog>());
+    QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), log);
+    click(dialog<View::CCameraSelectionDialog>(), "Close");
+    QTRY_VERIFY(!isShown<View::CCameraSelectionDialog>());
+}
+
+void CFirmwareUpdaterServiceTest::staysInStepFourWhenClosed()
+{
+    goToStepFour();
+    auto *const step4 = dialog<View::CFirmwareUpdateDialog>();
+    QTRY_VERIFY(m_jobs.value("a")->isHeld());
+    step4->close();
+    QVERIFY(step4->isVisible());
+    QVERIFY(!findButton(step4, "Cancel")->isEnabled());
+    QVERIFY(m_fixture->getLog().contains("WARNING User canceled firmware update"));
+    m_jobs.value("a")->release();
+    QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
+    QCOMPARE(m_jobs.value("b")->getExecutionCount(), 0);
+}
+
+void CFirmwareUpdaterServiceTest::rebuildsTheTreeOnlyWhileOpen()
+{
+    const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
+    m_fixture->service->onEnumerationChanged();
+    QCOMPARE(model->rowCount(), 0);
+
+    TestSupport::CCameraDescription remembered{"a"};
+    remembered.layerId = "l";
+    m_fixture->service->setSelectedCamera(TestSupport::makeCamera(remembered));
+    start();
+    tick("b");
+    m_fixture->host.enumeration->layers
+        = {TestSupport::makeLayer("k", {{"z"}}), TestSupport::makeLayer("l", {{"a"}, {"b"}})};
+    m_fixture->service->onEnumerationChanged();
+    QCOMPARE(model->rowCount(), 2);
+    // Only the camera remembered from the host's selector is ticked again.
+    QCOMPARE(model->getSelectedCameraList().size(), 1);
+    QCOMPARE(model->getSelectedCameraList().first()->getCameraInfo()->getId(), "a");
+}
+
+void CFirmwareUpdaterServiceTest::asksTheHostToEnumerate()
+{
+    start();
+    auto *const refresh
+        = dialog<View::CCameraSelectionDialog>()->findChild<QPushButton *>("refreshButton");
+    QTest::mouseClick(refresh, Qt::LeftButton);
+    QCOMPARE(m_fixture->host.enumeration->refreshCount, 1);
+    m_fixture->host.initializer.removeService(m_fixture->host.enumeration);
+    QTest::mouseClick(refresh, Qt::LeftButton);
+    QCOMPARE(m_fixture->host.enumeration->refreshCount, 1);
+}
+
+void CFirmwareUpdaterServiceTest::refusesToStartBeforeItIsBuilt()
+{
+    CUpdaterFixture bare;
+    bare.service->startFirmwareUpdater();
+    QCOMPARE(bare.service->getCurrentTemporaryLogFilePath(), "");
+}
+
+QTEST_MAIN(CFirmwareUpdaterServiceTest)
+#include "tst_firmwareupdaterservice.moc"
