@@ -38,13 +38,13 @@ void CActionContainer::addOwnAction(QAction *action, const Core::CId &groupId)
 {
     if (!m_menu)
         return;
-    CGroup &group = findOrAddGroup(groupId);
-    if (group.actions.contains(action))
+    const int place = findOrAddGroup(groupId);
+    QList<QAction *> &actions = m_groups[place].actions;
+    if (actions.contains(action))
         return;
-    const int place = static_cast<int>(&group - &m_groups.first());
+    actions.append(action);
     // Ahead of the next group's separator; there is none behind the last group.
     QAction *const next = m_groups.value(place + 1).separator;
-    group.actions.append(action);
     m_menu->insertAction(next, action);
     connect(action, &QAction::changed, this, &CActionContainer::updateVisibility);
     connect(action, &QObject::destroyed, this, &CActionContainer::onActionDestroyed);
@@ -62,18 +62,17 @@ bool CActionContainer::hasVisibleEntries() const
                        [](const CGroup &group) { return showsSomething(group.actions); });
 }
 
-CActionContainer::CGroup &CActionContainer::findOrAddGroup(const Core::CId &groupId)
+int CActionContainer::findOrAddGroup(const Core::CId &groupId)
 {
-    const auto match
-        = std::find_if(m_groups.begin(), m_groups.end(),
-                       [&groupId](const CGroup &group) { return group.id == groupId; });
-    if (match != m_groups.end())
-        return *match;
+    for (int place = 0; place < m_groups.size(); ++place) {
+        if (m_groups.at(place).id == groupId)
+            return place;
+    }
     CGroup group;
     group.id = groupId;
     group.separator = m_menu ? m_menu->addSeparator() : nullptr;
     m_groups.append(group);
-    return m_groups.last();
+    return m_groups.size() - 1;
 }
 
 void CActionContainer::onActionDestroyed(QObject *action)

@@ -4,6 +4,7 @@
 
 #include <QList>
 #include <QPointer>
+#include <QVector>
 
 class QAction;
 class QMenu;
@@ -41,12 +42,12 @@ private:
         QList<QAction *> actions;
     };
 
-    CGroup &findOrAddGroup(const Core::CId &groupId);
+    int findOrAddGroup(const Core::CId &groupId);
     void onActionDestroyed(QObject *action);
     void updateVisibility();
 
     const QPointer<QMenu> m_menu;
-    QList<CGroup> m_groups;
+    QVector<CGroup> m_groups;
     QList<QSharedPointer<Plugin::AppCore::ICommand>> m_commands;
 };
 

@@ -47,9 +47,9 @@ void CCommand::onSourceChanged()
 
 void CCommand::onTriggered()
 {
-    // The mouse cannot get here past a modal dialog, but a script or a shortcut can; a plug-in
+    // Neither a disabled entry nor a modal dialog stops code that triggers the action; a plug-in
     // whose dialog is open must not be started a second time.
-    if (m_source && !QApplication::activeModalWidget())
+    if (m_source && m_action->isEnabled() && !QApplication::activeModalWidget())
         m_source->trigger();
 }
 

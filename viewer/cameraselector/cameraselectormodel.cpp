@@ -49,7 +49,7 @@ void CCameraSelectorModel::setActivity(const QString &cameraId,
 QSharedPointer<Plugin::CameraPool::IBaseInfo>
 CCameraSelectorModel::getInfo(const QModelIndex &index) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!index.isValid())
         return {};
     if (index.internalId() == LayerId)
         return m_layers.at(index.row());
@@ -157,7 +157,7 @@ QString CCameraSelectorModel::getStateText(const Plugin::CameraPool::ICameraInfo
         break;
     }
     const qint32 statusCode = camera.getCameraStatusCode();
-    return statusCode == 0 ? tr("Ready") : tr("Status %1").arg(statusCode);
+    return statusCode == 0 ? tr("Ready") : tr("Not updatable (%1)").arg(statusCode);
 }
 
 CameraInfoPtr CCameraSelectorModel::getCamera(const QModelIndex &index) const

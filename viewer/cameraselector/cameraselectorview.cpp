@@ -11,6 +11,8 @@
 
 namespace Viewer::CameraSelector {
 
+static constexpr int ColumnSpace = 16;
+
 CCameraSelectorView::CCameraSelectorView(
     const QSharedPointer<Plugin::CameraPool::ICameraEnumerationService> &enumeration,
     const QSharedPointer<CDeviceSelectorService> &selector, QWidget *parent)
@@ -61,8 +63,10 @@ void CCameraSelectorView::onEnumerationChanged()
     m_rebuilding = true;
     m_model->setTransportLayers(m_enumeration->getTransportLayerInfoVector());
     expandAll();
-    for (int column = 0; column < CCameraSelectorModel::StateColumn; ++column)
-        resizeColumnToContents(column);
+    for (int column = 0; column < CCameraSelectorModel::StateColumn; ++column) {
+        const int width = qMax(sizeHintForColumn(column), header()->sectionSizeHint(column));
+        setColumnWidth(column, width + ColumnSpace);
+    }
     const QModelIndex index = selected ? m_model->findId(selected->getId()) : QModelIndex();
     if (index.isValid())
         setCurrentIndex(index);
