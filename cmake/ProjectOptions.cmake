@@ -47,6 +47,9 @@ elseif(SANITIZER)
   message(FATAL_ERROR "SANITIZER is '${SANITIZER}'; it can be empty, address or thread")
 endif()
 
+# Builds the tests that are worth a run under ThreadSanitizer.
+add_custom_target(thread_tests)
+
 # add_project_test(<name> LABELS <label>... SOURCES <file>... LIBRARIES <target>...)
 #
 # One test executable, run without a display. A label says what it needs: `unit` nothing, `ui`
@@ -60,6 +63,9 @@ function(add_project_test name)
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE test_options Qt5::Test ${arg_LIBRARIES})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/tests)
+  if("thread" IN_LIST arg_LABELS)
+    add_dependencies(thread_tests ${name})
+  endif()
   add_test(NAME ${name} COMMAND ${name})
   set_tests_properties(${name} PROPERTIES
     LABELS "${arg_LABELS}"
