@@ -54,6 +54,19 @@ static bool answersWithoutDisplay(int argc, char **argv, int &exitCode)
     return true;
 }
 
+// Qt would end the process with an abort and a list of its platforms.
+static bool hasDisplay(int argc, char **argv)
+{
+    const bool chosen = std::any_of(argv + 1, argv + argc, [](const char *argument) {
+        const QLatin1String text(argument);
+        return text.startsWith(QLatin1String("-platform"))
+            || text.startsWith(QLatin1String("--platform"));
+    });
+    return chosen || !qEnvironmentVariableIsEmpty("DISPLAY")
+        || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
 static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language)
 {
     AppCore::CViewer viewer(options, language);
@@ -79,6 +92,12 @@ int main(int argc, char **argv)
     int exitCode = EXIT_SUCCESS;
     if (answersWithoutDisplay(argc, argv, exitCode))
         return exitCode;
+    if (!hasDisplay(argc, argv)) {
+        printError(QStringLiteral("There is no display: neither DISPLAY nor WAYLAND_DISPLAY is "
+                                  "set. Start it from a desktop, or with QT_QPA_PLATFORM=offscreen "
+                                  "to see nothing."));
+        return EXIT_FAILURE;
+    }
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

@@ -51,9 +51,12 @@ CLanguage::CLanguage(const QString &code)
     // Qt names its Chinese catalogue by territory.
     const QString qtCode = code == QLatin1String("zh") ? QStringLiteral("zh_CN") : code;
     const QString qtFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+    const QString ownFolder = QStringLiteral(":/viewer/translations");
+    // The last one is asked first; English has the plural forms of what is not translated yet.
     const QList<QPair<QString, QString>> catalogues
         = {{QStringLiteral("qtbase_%1").arg(qtCode), qtFolder},
-           {QStringLiteral("viewer_%1").arg(code), QStringLiteral(":/viewer/translations")}};
+           {QStringLiteral("viewer_en"), ownFolder},
+           {QStringLiteral("viewer_%1").arg(code), ownFolder}};
     for (const auto &[name, folder] : catalogues) {
         auto translator = std::make_unique<QTranslator>();
         if (translator->load(name, folder) && QCoreApplication::installTranslator(translator.get()))

@@ -283,9 +283,11 @@ void CWizardDemo::doWaitForVersions()
     m_frameCount = 0;
     m_viewer.getCameraSelector().selectId(m_plan.cameras.constFirst()->getId());
     QToolBar *const toolBar = m_viewer.getMainWindow().getToolBar();
-    auto *const startAction
-        = m_viewer.getMainWindow().findChild<QAction *>(QStringLiteral("start"));
-    CInputDriver::click(qobject_cast<QAbstractButton *>(toolBar->widgetForAction(startAction)));
+    const QList<QAction *> actions = toolBar->actions();
+    for (QAction *const action : actions) {
+        if (action->objectName() == QLatin1String("start"))
+            CInputDriver::click(qobject_cast<QAbstractButton *>(toolBar->widgetForAction(action)));
+    }
 }
 
 void CWizardDemo::doWaitForImage()
