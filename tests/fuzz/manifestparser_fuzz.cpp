@@ -1,0 +1,39 @@
+#include "viewer/camerapool/updatefile/manifestparser.h"
+#include "viewer/camerapool/updatefile/messagetext.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+using namespace Viewer::CameraPool::UpdateFile;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
+
+/// Whatever the bytes are, there is either a manifest that can be used or one line that says why
+/// not.
+static bool isSound(const CManifestResult &result)
+{
+    if (!result.fault.isEmpty())
+        return result.manifest.updates.isEmpty() && !hasUnprintable(result.fault)
+            && result.fault.size() < 1000;
+    for (const CUpdateEntry &update : result.manifest.updates) {
+        if (update.models.isEmpty() || update.steps.isEmpty() || update.version.isEmpty())
+            return false;
+        for (const CUpdateStep &step : update.steps) {
+            const bool isUpload = step.kind == Plugin::CameraPool::EFirmwareUpdateStep::FileUpload;
+            if (step.estimatedMs.value_or(isUpload ? 1 : 0) < 1)
+                return false;
+            if (isUpload && (step.payload.size < 1 || step.payload.sha256.size() != 32))
+                return false;
+        }
+    }
+    return !result.manifest.updates.isEmpty();
+}
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray json(reinterpret_cast<const char *>(data), static_cast<int>(size));
+    if (!isSound(parseManifest(json)))
+        std::abort();
+    return 0;
+}
