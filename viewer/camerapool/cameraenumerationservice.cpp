@@ -17,13 +17,13 @@ CCameraEnumerationService::CCameraEnumerationService(
     : ICameraEnumerationService(parent)
     , m_enumerator(enumerator)
     , m_activities(activities)
+    , m_worker(new CEnumerationWorker(enumerator))
 {
-    qRegisterMetaType<QVector<CTransportLayerSnapshot>>();
-    auto *const worker = new CEnumerationWorker(m_enumerator);
-    worker->moveToThread(&m_thread);
-    connect(&m_thread, &QThread::finished, worker, &QObject::deleteLater);
-    connect(this, &CCameraEnumerationService::requested, worker, &CEnumerationWorker::onRequested);
-    connect(worker, &CEnumerationWorker::enumerated, this,
+    m_worker->moveToThread(&m_thread);
+    connect(&m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+    connect(this, &CCameraEnumerationService::requested, m_worker,
+            &CEnumerationWorker::onRequested);
+    connect(m_worker, &CEnumerationWorker::enumerated, this,
             &CCameraEnumerationService::onEnumerated);
     m_thread.setObjectName(QStringLiteral("enumeration"));
     m_thread.start();
@@ -77,8 +77,9 @@ void CCameraEnumerationService::request()
     emit requested();
 }
 
-void CCameraEnumerationService::onEnumerated(const QVector<CTransportLayerSnapshot> &layers)
+void CCameraEnumerationService::onEnumerated()
 {
+    const QVector<CTransportLayerSnapshot> layers = m_worker->takeResult();
     m_running = false;
     if (m_activities->isUpdateRunning()
         || m_activities->getUpdateCount() != m_updateCountAtRequest) {

@@ -12,6 +12,7 @@
 namespace Viewer::CameraPool {
 
 class CCameraActivities;
+class CEnumerationWorker;
 class ICameraEnumerator;
 
 /// Enumerates on a thread of its own and announces what has changed. While an update runs nothing
@@ -47,7 +48,7 @@ signals:
     void requested();
 
 private slots:
-    void onEnumerated(const QVector<Viewer::CameraPool::CTransportLayerSnapshot> &layers);
+    void onEnumerated();
 
 private:
     void request();
@@ -56,6 +57,7 @@ private:
     ICameraEnumerator &m_enumerator;
     const std::shared_ptr<const CCameraActivities> m_activities;
     QThread m_thread;
+    CEnumerationWorker *const m_worker; // lives in the thread and is deleted with it
 
     QVector<Plugin::CameraPool::TransportLayerInfoPtr> m_layers;
     QHash<QString, Plugin::CameraPool::CameraInfoPtr> m_cameras;

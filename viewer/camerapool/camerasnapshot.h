@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QMetaType>
 #include <QString>
 #include <QVector>
 
@@ -39,5 +38,3 @@ struct CTransportLayerSnapshot
 };
 
 } // namespace Viewer::CameraPool
-
-Q_DECLARE_METATYPE(Viewer::CameraPool::CTransportLayerSnapshot)

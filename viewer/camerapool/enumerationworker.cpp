@@ -2,6 +2,8 @@
 
 #include "icameraenumerator.h"
 
+#include <utility>
+
 namespace Viewer::CameraPool {
 
 CEnumerationWorker::CEnumerationWorker(ICameraEnumerator &enumerator)
@@ -11,7 +13,18 @@ CEnumerationWorker::CEnumerationWorker(ICameraEnumerator &enumerator)
 
 void CEnumerationWorker::onRequested()
 {
-    emit enumerated(m_enumerator.enumerate());
+    const QVector<CTransportLayerSnapshot> layers = m_enumerator.enumerate();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_result = layers;
+    }
+    emit enumerated();
+}
+
+QVector<CTransportLayerSnapshot> CEnumerationWorker::takeResult()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_result, {});
 }
 
 } // namespace Viewer::CameraPool

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <QVector>
 
+#include <mutex>
+
 namespace Viewer::CameraPool {
 
 class ICameraEnumerator;
@@ -18,14 +20,20 @@ public:
     /// @p enumerator is borrowed and outlives the worker's thread.
     explicit CEnumerationWorker(ICameraEnumerator &enumerator);
 
+    /// What the last enumeration found; nothing when it has been taken already. Any thread.
+    [[nodiscard]] QVector<CTransportLayerSnapshot> takeResult();
+
 public slots:
     void onRequested();
 
 signals:
-    void enumerated(const QVector<Viewer::CameraPool::CTransportLayerSnapshot> &layers);
+    /// A result can be taken.
+    void enumerated();
 
 private:
     ICameraEnumerator &m_enumerator;
+    std::mutex m_mutex;
+    QVector<CTransportLayerSnapshot> m_result;
 };
 
 } // namespace Viewer::CameraPool
