@@ -389,10 +389,6 @@ Firmware: %5</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Status %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Camera</source>
         <translation type="unfinished"></translation>
     </message>
@@ -406,6 +402,10 @@ Firmware: %5</source>
     </message>
     <message>
         <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not updatable (%1)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
