@@ -200,18 +200,20 @@ void CTreeViewCameraSelectionDelegateTest::paintsTheSameInAView()
     const QModelIndex index = row(QStringLiteral("a1"));
     const QRect rect = m_tree->visualRect(index);
     const QImage dialog = m_dialog->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const qreal ratio = dialog.devicePixelRatio();
     const QPoint offset = m_tree->viewport()->mapTo(m_dialog.get(), rect.topLeft());
 
-    QImage image(rect.size(), QImage::Format_RGB32);
+    QImage image(rect.size() * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
     image.fill(Qt::white);
     QStyleOptionViewItem option;
-    option.rect = image.rect();
+    option.rect = QRect(QPoint(), rect.size());
     option.state = QStyle::State_Enabled;
     option.viewItemPosition = QStyleOptionViewItem::OnlyOne;
     QPainter painter(&image);
     m_tree->itemDelegateForColumn(0)->paint(&painter, option, index);
     painter.end();
-    QCOMPARE(dialog.copy(QRect(offset, rect.size())), image);
+    QCOMPARE(dialog.copy(QRect(offset * ratio, image.size())), image);
 }
 
 void CTreeViewCameraSelectionDelegateTest::hoverOpensOneEditor()
@@ -316,29 +318,35 @@ void CTreeViewCameraSelectionDelegateTest::writesOnlyDifferences()
 
 void CTreeViewCameraSelectionDelegateTest::editorShowsWhereTheRowPaintsItsBox()
 {
-    const auto leftAndTop = [](const QImage &image) {
-        // The frame of the box is the first column and row darker than the row's background.
-        QPoint corner(-1, -1);
-        for (int x = 0; x < 45 && corner.x() < 0; ++x) {
-            for (int y = 0; y < image.height(); ++y) {
-                if (qGray(image.pixel(x, y)) < 200) {
-                    corner = QPoint(x, y);
-                    break;
+    // The check mark is the only dark thing in front of a row's text.
+    const auto findMark = [](const QImage &picture, int width) {
+        QImage image(picture.size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter(&image).drawImage(0, 0, picture);
+        QRegion mark;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < width; ++x) {
+                if (qGray(image.pixel(x, y)) < 100) {
+                    mark += QRect(x, y, 1, 1);
                 }
             }
         }
-        return corner;
+        return mark.boundingRect();
     };
     for (const char *name : {"A", "a1"}) {
         const QModelIndex index = row(QLatin1String(name));
         const QRect rect = m_tree->visualRect(index);
+        const int indent = name[1] ? 22 : 2;
+        entity(QLatin1String(name))->setSelected(true);
         hover(row(QStringLiteral("b1")));
-        const QPoint painted = leftAndTop(m_tree->viewport()->grab(rect).toImage());
+        const QRect painted = findMark(m_tree->viewport()->grab(rect).toImage(), indent + 16);
         hover(index);
+        QVERIFY(editorBox()->isChecked());
         const QPoint box = editorBox()->mapTo(m_tree->viewport(), QPoint()) - rect.topLeft();
-        const QPoint shown = leftAndTop(editorBox()->grab().toImage()) + box;
-        QVERIFY(painted.x() >= 0);
-        QVERIFY2((painted - shown).manhattanLength() <= 1, name);
+        const QRect shown = findMark(editorBox()->grab().toImage(), 16).translated(box);
+        QVERIFY(painted.isValid());
+        QCOMPARE(shown.size(), painted.size());
+        QVERIFY2((painted.topLeft() - shown.topLeft()).manhattanLength() <= 1, name);
     }
 }
 

@@ -161,7 +161,7 @@ void CTreeViewHeaderStyleTest::headerArrowPointsUpAtAscendingOrder()
     header.resize(200, header.sizeHint().height());
     for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
         header.setSortIndicator(0, order);
-        const QImage image = header.grab().toImage();
+        const QImage image = header.grab().toImage().scaled(header.size());
         const QFontMetrics metrics(header.font());
         const QRect rect(metrics.horizontalAdvance(QLatin1Char(' ')) + 5, metrics.ascent() - 7, 10,
                          7);
