@@ -27,7 +27,6 @@ static void setNames()
     QCoreApplication::setOrganizationName(QStringLiteral("Nuvex"));
     QCoreApplication::setApplicationName(QStringLiteral("NuvexViewer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VIEWER_VERSION));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Nuvex Viewer"));
 }
 
 // Help, version and usage errors need no display, unlike everything else.

@@ -7,6 +7,7 @@
 #include <QActionGroup>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QLabel>
 #include <QMenuBar>
 #include <QSettings>
 #include <QStatusBar>
@@ -32,7 +33,9 @@ CMainWindow::CMainWindow(CMenuService &menus, QWidget *parent)
     m_toolBar->setIconSize({24, 24});
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     createMenus(menus);
-    statusBar();
+    m_statusLabel = new QLabel(this);
+    m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
+    statusBar()->addPermanentWidget(m_statusLabel);
 }
 
 CMainWindow::~CMainWindow() = default;
@@ -117,6 +120,11 @@ void CMainWindow::restorePlace()
 void CMainWindow::showMessage(const QString &message)
 {
     statusBar()->showMessage(message, MessageTime);
+}
+
+void CMainWindow::setStatus(const QString &text)
+{
+    m_statusLabel->setText(text);
 }
 
 void CMainWindow::closeEvent(QCloseEvent *event)

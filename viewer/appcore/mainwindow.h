@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class QLabel;
 class QMenu;
 class QToolBar;
 
@@ -40,6 +41,9 @@ public:
     /// Shows @p message in the status bar for a while.
     void showMessage(const QString &message);
 
+    /// Shows @p text at the right end of the status bar until the next call.
+    void setStatus(const QString &text);
+
     [[nodiscard]] QMenu *getFileMenu() const;
     [[nodiscard]] QMenu *getSimulationMenu() const;
     [[nodiscard]] QMenu *getHelpMenu() const;
@@ -64,6 +68,7 @@ private:
     QMenu *m_helpMenu = nullptr;
     QMenu *m_selectorMenu = nullptr;
     QToolBar *m_toolBar = nullptr;
+    QLabel *m_statusLabel = nullptr;
     CloseGuard m_closeGuard;
 };
 

@@ -194,7 +194,7 @@ void CViewer::onEnumerationChanged()
 {
     const int count = m_selectorView->getModel()->getCameraCount();
     m_acquisition->setCamerasAvailable(count > 0);
-    m_window->showMessage(tr("%n camera(s) found.", nullptr, count));
+    m_window->setStatus(tr("%n camera(s) found.", nullptr, count));
 }
 
 void CViewer::showPlugins()

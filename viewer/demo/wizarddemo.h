@@ -79,6 +79,7 @@ private:
     int m_exitCode = 1;
     bool m_enumerated = false;
     bool m_polling = false;
+    bool m_pictureMissing = false;
     bool m_updatePictureTaken = false;
 };
 

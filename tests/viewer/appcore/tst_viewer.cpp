@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QStandardPaths>
@@ -87,6 +88,8 @@ void CViewerTest::findsItsCameras()
 {
     QVERIFY(m_viewer->getMainWindow().isVisible());
     QCOMPARE(m_viewer->getCameraSelector().getModel()->getCameraCount(), 12);
+    QCOMPARE(m_viewer->getMainWindow().findChild<QLabel *>("statusLabel")->text(),
+             "12 camera(s) found.");
     QVERIFY(m_viewer->getUpdateService());
 }
 

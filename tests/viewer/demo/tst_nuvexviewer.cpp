@@ -15,6 +15,7 @@ private slots:
     void init();
     void demonstrationUpdatesThenReinstalls();
     void demonstrationFailsWithTheUpdate();
+    void demonstrationFailsWithoutItsPictures();
     void refusesToStart_data();
     void refusesToStart();
     void startsWithoutAPluginThatIsNotRequired();
@@ -92,6 +93,16 @@ void CNuvexViewerTest::demonstrationFailsWithTheUpdate()
     QCOMPARE(m_exitCode, 1);
     QVERIFY2(m_output.contains("Failed updates: 1"), qPrintable(m_output + m_errors));
     QVERIFY(m_output.contains("Skipped updates: 5"));
+}
+
+void CNuvexViewerTest::demonstrationFailsWithoutItsPictures()
+{
+    // A folder where the picture should go.
+    QVERIFY(QDir(m_home->path()).mkpath("pictures/step4.png"));
+    run({"--samples", SAMPLES, "--speed", "100", "--demo", "pictures"});
+    QCOMPARE(m_exitCode, 1);
+    QVERIFY2(m_errors.contains("step4.png"), qPrintable(m_errors));
+    QVERIFY2(m_output.contains("Successful updates: 6"), qPrintable(m_output));
 }
 
 void CNuvexViewerTest::refusesToStart_data()
