@@ -64,7 +64,10 @@ void CFirmwareUpdateDialog::enableButtons(bool enable)
     Qt::WindowFlags flags
         = Qt::Dialog | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
     flags.setFlag(Qt::WindowCloseButtonHint, enable);
+    // A window that gets other buttons is made anew and would no longer be maximized.
+    const Qt::WindowStates state = windowState();
     setWindowFlags(flags);
+    setWindowState(state);
     show();
 }
 

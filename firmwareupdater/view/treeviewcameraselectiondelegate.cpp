@@ -209,6 +209,14 @@ void CTreeViewCameraSelectionDelegate::updateEditorGeometry(QWidget *editor,
     editor->setGeometry(option.rect);
 }
 
+void CTreeViewCameraSelectionDelegate::destroyEditor(QWidget *editor,
+                                                     const QModelIndex &index) const
+{
+    // A widget that dies takes the focus away from its proxy.
+    editor->setFocusProxy(nullptr);
+    QStyledItemDelegate::destroyEditor(editor, index);
+}
+
 bool CTreeViewCameraSelectionDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,
                                                    const QStyleOptionViewItem &option,
                                                    const QModelIndex &index)

@@ -39,6 +39,7 @@ public:
                       const QModelIndex &index) const override;
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
+    void destroyEditor(QWidget *editor, const QModelIndex &index) const override;
 
     /// Opens the editor of the row that the mouse moves over, and toggles the current row at Space.
     /// A click on a row whose editor has not opened yet, as after a turn of the mouse wheel,

@@ -227,6 +227,8 @@ void CTreeViewCameraSelectionDelegateTest::hoverOpensOneEditor()
     QVERIFY(m_tree->isPersistentEditorOpen(row(QStringLiteral("a2"))));
     QVERIFY(!m_tree->isPersistentEditorOpen(row(QStringLiteral("a1"))));
     QCOMPARE(m_tree->currentIndex(), row(QStringLiteral("a2")));
+    // Opening and closing editors leaves the keyboard with the tree.
+    QCOMPARE(QApplication::focusWidget(), m_tree);
 }
 
 void CTreeViewCameraSelectionDelegateTest::clickOnTheTextTogglesAndReachesTheModel()
