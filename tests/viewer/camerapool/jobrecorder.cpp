@@ -1,8 +1,6 @@
 #include "jobrecorder.h"
 
-#include <QThread>
-
-#include <memory>
+#include <thread>
 
 namespace Test {
 
@@ -92,14 +90,7 @@ void CJobRecorder::add(const QString &line)
 
 void executeOnThread(IDeviceFirmwareUpdate &job)
 {
-    QThread *const home = QThread::currentThread();
-    const std::unique_ptr<QThread> thread(QThread::create([&job, home] {
-        job.executeFirmwareUpdate();
-        job.moveToThread(home);
-    }));
-    job.moveToThread(thread.get());
-    thread->start();
-    thread->wait();
+    std::thread([&job] { job.executeFirmwareUpdate(); }).join();
 }
 
 } // namespace Test

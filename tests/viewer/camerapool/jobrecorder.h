@@ -35,8 +35,8 @@ private:
     QVector<QMetaObject::Connection> m_connections;
 };
 
-/// Executes @p job on a thread of its own, as a wizard does: the job lives in that thread for the
-/// time and comes back to the calling one. Returns when it has ended.
+/// Executes @p job on a thread of its own and returns when it has ended. The thread is not one of
+/// Qt's, whose inside looks to ThreadSanitizer like one big race.
 void executeOnThread(Plugin::CameraPool::IDeviceFirmwareUpdate &job);
 
 } // namespace Test

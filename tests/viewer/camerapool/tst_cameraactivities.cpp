@@ -2,10 +2,9 @@
 
 #include <QStringList>
 #include <QTest>
-#include <QThread>
 
 #include <atomic>
-#include <memory>
+#include <thread>
 #include <vector>
 
 using Viewer::CameraPool::CCameraActivities;
@@ -92,9 +91,9 @@ void CCameraActivitiesTest::oneUpdatePerCameraAcrossThreads()
     std::atomic<int> together = 0;
     std::atomic<int> permitted = 0;
     activities.setListener([&heard](const QString &) { ++heard; });
-    std::vector<std::unique_ptr<QThread>> threads;
+    std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i) {
-        threads.emplace_back(QThread::create([&] {
+        threads.emplace_back([&] {
             const QString id = QStringLiteral("a");
             for (int round = 0; round < 500; ++round) {
                 if (activities.begin(id, ECameraActivity::Updating) != ECameraActivity::Idle)
@@ -105,11 +104,10 @@ void CCameraActivitiesTest::oneUpdatePerCameraAcrossThreads()
                 --inside;
                 activities.end(id);
             }
-        }));
-        threads.back()->start();
+        });
     }
-    for (const auto &thread : threads)
-        thread->wait();
+    for (std::thread &thread : threads)
+        thread.join();
     QCOMPARE(together.load(), 0);
     QVERIFY(permitted.load() > 0);
     QCOMPARE(activities.getUpdateCount(), permitted.load());

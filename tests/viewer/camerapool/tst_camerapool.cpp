@@ -17,7 +17,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
+
+#include <thread>
 
 using namespace Viewer::CameraPool;
 using namespace Test;
@@ -25,6 +26,35 @@ using namespace Plugin::CameraPool;
 
 static const QString FirstId = QStringLiteral("gige-40012345");
 static const QString SecondId = QStringLiteral("gige-40012346");
+
+namespace {
+
+/// One execution of a job on a thread of its own, which is joined in any case.
+class CExecution
+{
+public:
+    explicit CExecution(IDeviceFirmwareUpdate &job)
+        : m_thread([&job] { job.executeFirmwareUpdate(); })
+    {
+    }
+
+    ~CExecution()
+    {
+        join();
+    }
+    Q_DISABLE_COPY(CExecution)
+
+    void join()
+    {
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+private:
+    std::thread m_thread;
+};
+
+} // namespace
 
 class CCameraPoolTest : public QObject
 {
@@ -278,16 +308,14 @@ void CCameraPoolTest::updateIsAnnouncedOnceAtItsEnd()
         announcedWhileRunning = announcedWhileRunning || m_pool->isUpdateRunning();
         versionsAnnounced.append(find(FirstId) ? find(FirstId)->getFirmwareVersion() : QString());
     });
-    const std::unique_ptr<QThread> thread(
-        QThread::create([&job] { job->executeFirmwareUpdate(); }));
-    thread->start();
+    CExecution execution(*job);
     QTRY_VERIFY(running.count() > 0);
     QCOMPARE(running.at(0).at(0).toBool(), true);
     QString error;
     if (m_pool->isUpdateRunning() && !m_pool->startAcquisition(FirstId, &error))
         QVERIFY2(error.contains(QLatin1String("being updated")), qPrintable(error));
     QTRY_COMPARE(running.count(), 2);
-    QVERIFY(thread->wait());
+    execution.join();
     QTRY_COMPARE(versionsAnnounced, QStringList(QStringLiteral("2.0.0")));
     QVERIFY(!announcedWhileRunning);
     QVERIFY(find(FirstId) != before);
@@ -301,12 +329,10 @@ void CCameraPoolTest::unpluggingEndsAnUpdate()
     createPool(1.0); // the upload alone would take the half of a minute
     const auto job = createJob(FirstId, 3'000'000);
     const CJobRecorder recorder(*job);
-    const std::unique_ptr<QThread> thread(
-        QThread::create([&job] { job->executeFirmwareUpdate(); }));
-    thread->start();
+    CExecution execution(*job);
     QTRY_VERIFY_WITH_TIMEOUT(!recorder.getAll("step FileUpload").isEmpty(), 30'000);
     m_pool->getSimulation().unplug(FirstId);
-    QVERIFY(thread->wait(30'000));
+    execution.join();
     QCOMPARE(recorder.getAll("error").size(), 1);
     QVERIFY(recorder.getAll("error").constFirst().contains(QLatin1String("connection was lost")));
     QVERIFY(recorder.getAll("done").isEmpty());

@@ -9,9 +9,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
 
+#include <atomic>
 #include <new>
+#include <thread>
 
 using namespace Viewer::CameraPool;
 using namespace Test;
@@ -434,19 +435,23 @@ void CDeviceFirmwareUpdateTest::versionCanBeReadMeanwhile()
             return;
         uploading = true;
         while (!goOn)
-            QThread::yieldCurrentThread();
+            std::this_thread::yield();
     };
-    const std::unique_ptr<QThread> thread(
-        QThread::create([&job] { job->executeFirmwareUpdate(); }));
-    thread->start();
+    std::atomic<bool> ended = false;
+    std::thread thread([&] {
+        job->executeFirmwareUpdate();
+        ended = true;
+    });
     while (!uploading)
-        QThread::yieldCurrentThread();
-    QCOMPARE(job->getFirmwareVersion(), QStringLiteral("1.2.0"));
-    QCOMPARE(job->getFirmwareUpdateInfo()->getVersion(), QStringLiteral("2.0.0"));
+        std::this_thread::yield();
+    const QString versionMeanwhile = job->getFirmwareVersion();
+    const QString targetMeanwhile = job->getFirmwareUpdateInfo()->getVersion();
     goOn = true;
-    while (!thread->isFinished())
+    while (!ended)
         (void)job->getFirmwareVersion();
-    QVERIFY(thread->wait());
+    thread.join();
+    QCOMPARE(versionMeanwhile, QStringLiteral("1.2.0"));
+    QCOMPARE(targetMeanwhile, QStringLiteral("2.0.0"));
     QCOMPARE(job->getFirmwareVersion(), QStringLiteral("2.0.0"));
 }
 
@@ -455,14 +460,11 @@ void CDeviceFirmwareUpdateTest::lastReferenceMayGoOnTheWorker()
     for (const bool executed : {true, false}) {
         auto job = makeJob();
         const QWeakPointer<CDeviceFirmwareUpdate> guard = job;
-        const std::unique_ptr<QThread> thread(
-            QThread::create([worker = std::move(job), executed]() mutable {
-                if (executed)
-                    worker->executeFirmwareUpdate();
-                worker.clear();
-            }));
-        thread->start();
-        QVERIFY(thread->wait());
+        std::thread([worker = std::move(job), executed]() mutable {
+            if (executed)
+                worker->executeFirmwareUpdate();
+            worker.clear();
+        }).join();
         QVERIFY(guard.isNull());
         QVERIFY(!m_script->isAlive);
     }

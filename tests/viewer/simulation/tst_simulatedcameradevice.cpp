@@ -8,7 +8,9 @@
 
 #include <QBuffer>
 #include <QTest>
-#include <QThread>
+
+#include <atomic>
+#include <thread>
 
 using namespace Viewer::CameraPool;
 using namespace Viewer::CameraPool::Simulation;
@@ -257,26 +259,26 @@ void CSimulatedCameraDeviceTest::unpluggingEndsWhateverIsBeingDone()
     // So slow that the test would run into its own time limit if it had to wait.
     CBench bench({}, 0.001);
     QString message;
-    QAtomicInt begun = 0;
-    const std::unique_ptr<QThread> thread(QThread::create([&] {
+    std::atomic<bool> begun = false;
+    std::thread thread([&] {
         message = getFault([&] {
             QString cause;
             if (inReset) {
                 const int session = bench.camera->connect(cause);
-                begun = 1;
+                begun = true;
                 if (!bench.camera->restart(session, 4s, 30s, {}))
                     throw CCameraError(QStringLiteral("Bench camera"),
                                        QStringLiteral("connection was lost"));
             } else {
-                begun = 1;
+                begun = true;
                 bench.device->open(Limit);
             }
         });
-    }));
-    thread->start();
-    QTRY_VERIFY(begun == 1);
+    });
+    while (!begun)
+        std::this_thread::yield();
     bench.camera->setPlugged(false);
-    QVERIFY(thread->wait(20'000));
+    thread.join();
     // If the cable was faster than the thread, the camera could not be reached to begin with.
     QVERIFY2(message.contains(QLatin1String("connection was lost"))
                  || message.contains(QLatin1String("does not answer")),
