@@ -13,6 +13,9 @@ void setUpCellWidget(QWidget *widget)
     palette.setColor(QPalette::Base, Constants::WHITE_COLOR);
     palette.setColor(QPalette::Active, QPalette::AlternateBase, Constants::LIGHT_BLUE_COLOR);
     palette.setColor(QPalette::Active, QPalette::HighlightedText, Constants::BLUE_COLOR);
+    // Rows that cannot be ticked show in grey that the mouse is over them.
+    palette.setColor(QPalette::Disabled, QPalette::AlternateBase, Constants::LIGHT_GREY_COLOR);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, Constants::LIGHT_GREY_COLOR);
     widget->setPalette(palette);
 
     QFont font = widget->font();
