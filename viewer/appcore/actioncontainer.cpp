@@ -77,8 +77,12 @@ int CActionContainer::findOrAddGroup(const Core::CId &groupId)
 
 void CActionContainer::onActionDestroyed(QObject *action)
 {
-    for (CGroup &group : m_groups)
-        group.actions.removeAll(static_cast<QAction *>(action));
+    // Compared as what is left of it: it is no QAction any more.
+    const auto isGone = [action](const QObject *candidate) { return candidate == action; };
+    for (CGroup &group : m_groups) {
+        QList<QAction *> &actions = group.actions;
+        actions.erase(std::remove_if(actions.begin(), actions.end(), isGone), actions.end());
+    }
     m_commands.erase(std::remove_if(m_commands.begin(), m_commands.end(),
                                     [](const auto &command) { return !command->getAction(); }),
                      m_commands.end());
