@@ -266,7 +266,8 @@ void CSimulatedCameraDeviceTest::unpluggingEndsWhateverIsBeingDone()
             if (inReset) {
                 const int session = bench.camera->connect(cause);
                 begun = true;
-                if (!bench.camera->restart(session, 4s, 30s, {}))
+                if (bench.camera->restart(session, 4s, 30s, {})
+                    == CSimulatedCamera::ERestart::Unplugged)
                     throw CCameraError(QStringLiteral("Bench camera"),
                                        QStringLiteral("connection was lost"));
             } else {

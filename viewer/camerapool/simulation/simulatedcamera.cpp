@@ -115,37 +115,39 @@ bool CSimulatedCamera::waitSince(Session session, Clock::time_point start,
     }) && m_session == session;
 }
 
-bool CSimulatedCamera::restart(Session session, std::chrono::milliseconds duration,
-                               std::chrono::milliseconds timeLimit, const QString &newFirmware)
+CSimulatedCamera::ERestart CSimulatedCamera::restart(Session session,
+                                                     std::chrono::milliseconds duration,
+                                                     std::chrono::milliseconds timeLimit,
+                                                     const QString &newFirmware)
 {
-    bool inTime = false;
+    ERestart result = ERestart::NotInTime;
     bool installed = false;
     {
         std::unique_lock lock(m_mutex);
         if (m_session != session)
-            return false;
+            return ERestart::Unplugged;
         m_restarting = true;
-        const bool unplugged = m_changed.wait_for(lock, getSimulated(std::min(duration, timeLimit)),
-                                                  [this, session] { return m_session != session; });
-        if (!unplugged) {
-            m_restarting = false;
-            if (m_description.faults.neverReturnsFromReset) {
-                // It hangs until somebody plugs it in again.
-                m_plugged = false;
-            } else {
-                inTime = duration <= timeLimit;
-                installed = !newFirmware.isEmpty();
-                if (installed)
-                    m_firmwareVersion = newFirmware;
-            }
-            if (!inTime)
-                m_session = 0;
+        if (m_changed.wait_for(lock, getSimulated(std::min(duration, timeLimit)),
+                               [this, session] { return m_session != session; }))
+            return ERestart::Unplugged;
+        m_restarting = false;
+        if (m_description.faults.neverReturnsFromReset) {
+            // It hangs until somebody plugs it in again.
+            m_plugged = false;
+        } else {
+            if (duration <= timeLimit)
+                result = ERestart::Back;
+            installed = !newFirmware.isEmpty();
+            if (installed)
+                m_firmwareVersion = newFirmware;
         }
+        if (result != ERestart::Back)
+            m_session = 0;
     }
     if (installed)
         m_stateFile->setVersion(m_description.camera.id, newFirmware);
     notify();
-    return inTime;
+    return result;
 }
 
 CSimulatedCamera::Clock::duration

@@ -25,6 +25,12 @@ public:
     /// Who talks to the camera; 0 is nobody. A session ends by disconnect() or by the cable.
     using Session = int;
 
+    enum class ERestart {
+        Back,
+        NotInTime,
+        Unplugged, ///< while it restarted, or before
+    };
+
     CSimulatedCamera(const CCameraDescriptionEntry &description, double speedFactor,
                      const std::shared_ptr<CFirmwareStateFile> &stateFile,
                      const std::shared_ptr<const CSimulationNotifier> &notifier);
@@ -55,10 +61,10 @@ public:
     [[nodiscard]] bool waitSince(Session session, Clock::time_point start,
                                  std::chrono::microseconds duration);
 
-    /// Restarts, with @p newFirmware unless it is empty, and waits. False when the camera is not
-    /// back in time or was unplugged meanwhile; the session has then ended.
-    [[nodiscard]] bool restart(Session session, std::chrono::milliseconds duration,
-                               std::chrono::milliseconds timeLimit, const QString &newFirmware);
+    /// Restarts, with @p newFirmware unless it is empty, and waits. The session has ended unless
+    /// the camera is back.
+    [[nodiscard]] ERestart restart(Session session, std::chrono::milliseconds duration,
+                                   std::chrono::milliseconds timeLimit, const QString &newFirmware);
 
 private:
     [[nodiscard]] Clock::duration getSimulated(std::chrono::microseconds duration) const;

@@ -172,7 +172,10 @@ void CSimulatedCameraDevice::resetAndWait(milliseconds timeLimit)
     const QString version = faults.returnsWithOldVersion ? QString() : m_activatedVersion;
     m_activatedVersion.clear();
     m_features.clear();
-    if (!m_camera->restart(m_session, duration, timeLimit, version))
+    const CSimulatedCamera::ERestart result
+        = m_camera->restart(m_session, duration, timeLimit, version);
+    requireConnection(result != CSimulatedCamera::ERestart::Unplugged);
+    if (result == CSimulatedCamera::ERestart::NotInTime)
         fail(QStringLiteral("it did not come back from its reset within %1 s; switch it off and on")
                  .arg(getSeconds(timeLimit)));
 }
