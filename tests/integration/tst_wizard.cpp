@@ -1,0 +1,395 @@
+#include "core/iplugin.h"
+#include "support/fakehost.h"
+#include "viewer/camerapool/camerapool.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPluginLoader>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTreeView>
+#include <QtTest>
+
+/// The built plug-in and the viewer's camera pool together: a user clicks through the wizard, and
+/// simulated cameras are updated from real update files.
+class CWizardTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void updatesAllCamerasOfAModel_data();
+    void updatesAllCamerasOfAModel();
+    void stopsAtAFailureInTheMiddle();
+    void stopsAfterTheCurrentCameraOnCancel();
+    void updatesAgainInTheSameRun();
+    void tellsEachFault_data();
+    void tellsEachFault();
+
+private:
+    void openPool(const QString &descriptionFile);
+    [[nodiscard]] QString describeCameras(const QString &firmware, int faulty = -1);
+    [[nodiscard]] QHash<QString, QString> getVersions() const;
+
+    /// The wizard's visible page, once its title begins with @p title; null when it does not come.
+    [[nodiscard]] QDialog *waitForPage(const char *title) const;
+    static void click(QDialog *page, const char *button);
+    static void toggle(QDialog *page, const QString &row);
+    [[nodiscard]] static QString text(const QDialog *page, const char *label);
+    [[nodiscard]] static bool isShown(const QDialog *page, const char *label);
+    [[nodiscard]] static QStringList column(const QDialog *page, int column);
+    [[nodiscard]] QString readLog(const QDialog *resultPage) const;
+
+    void startWizard(const QString &row);
+    void chooseFile(const char *name);
+
+    QTemporaryDir m_folder;
+    QPluginLoader m_loader{QStringLiteral(PLUGIN_FILE)};
+    std::unique_ptr<TestSupport::CFakeHost> m_host;
+    std::unique_ptr<Viewer::CameraPool::CCameraPool> m_pool;
+    std::unique_ptr<Core::Plugin::IPlugin> m_plugin;
+    QSharedPointer<Plugin::CameraPool::ICameraEnumerationService> m_enumeration;
+};
+
+void CWizardTest::initTestCase()
+{
+    qputenv("TMPDIR", m_folder.path().toLocal8Bit());
+    QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
+}
+
+void CWizardTest::init()
+{
+    m_host = std::make_unique<TestSupport::CFakeHost>();
+    m_host->initializer.removeService(m_host->enumeration);
+    m_host->initializer.removeService(m_host->status);
+    m_host->initializer.removeService(m_host->streams);
+    m_host->initializer.removeService(m_host->updates);
+    m_host->windows->getMainWindow()->show();
+}
+
+void CWizardTest::cleanup()
+{
+    m_plugin->unInitialize(&m_host->initializer);
+    m_plugin.reset();
+    m_enumeration.reset();
+    m_host.reset();
+    m_pool.reset();
+}
+
+void CWizardTest::openPool(const QString &descriptionFile)
+{
+    Viewer::CameraPool::CCameraPoolOptions options;
+    options.descriptionFile = descriptionFile;
+    options.speedFactor = 100.0;
+    m_pool = std::make_unique<Viewer::CameraPool::CCameraPool>(options);
+    const auto services = m_pool->getServices();
+    for (const auto &service : services)
+        m_host->initializer.addService(service);
+    m_enumeration = m_host->initializer.getService<Plugin::CameraPool::ICameraEnumerationService>();
+
+    m_plugin.reset(qobject_cast<Core::Plugin::IPlugin *>(m_loader.instance()));
+    m_plugin->setLanguage("en");
+    QVERIFY(m_plugin->initialize(&m_host->initializer));
+    QVERIFY(m_plugin->postInitialize());
+    QSignalSpy announced(m_enumeration.data(),
+                         &Plugin::CameraPool::ICameraEnumerationService::enumerationChanged);
+    m_pool->start();
+    QTRY_COMPARE(announced.count(), 1);
+}
+
+QString CWizardTest::describeCameras(const QString &firmware, int faulty)
+{
+    QJsonArray cameras;
+    for (int i = 1; i <= 3; ++i) {
+        QJsonObject camera{{"id", QString("camera-%1").arg(i)},
+                           {"displayName", QString("Line %1").arg(i)},
+                           {"model", "VX-1400M"},
+                           {"serialNumber", QString("4000000%1").arg(i)},
+                           {"deviceVersion", "R2"},
+                           {"firmwareVersion", firmware},
+                           {"uploadSpeed", 100000}};
+        if (i == faulty)
+            camera.insert("faults", QJsonObject{{"uploadFailsAtByte", 5000}});
+        cameras.append(camera);
+    }
+    const QJsonObject layer{{"id", "gev"}, {"displayName", "GigE"}, {"cameras", cameras}};
+    QFile file(m_folder.filePath("cameras.json"));
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(QJsonDocument(QJsonObject{{"format", 1}, {"layers", QJsonArray{layer}}}).toJson());
+    return file.fileName();
+}
+
+QHash<QString, QString> CWizardTest::getVersions() const
+{
+    QHash<QString, QString> versions;
+    const auto layers = m_enumeration->getTransportLayerInfoVector();
+    for (const auto &layer : layers) {
+        for (const auto &camera : layer->getCameraInfoList())
+            versions.insert(camera->getId(), camera->getFirmwareVersion());
+    }
+    return versions;
+}
+
+QDialog *CWizardTest::waitForPage(const char *title) const
+{
+    const QList<QDialog *> pages = m_host->windows->getMainWindow()->findChildren<QDialog *>();
+    QDialog *found = nullptr;
+    const auto isThere = [&] {
+        for (QDialog *const page : pages) {
+            if (page->isVisible() && text(page, "stepTitleLabel").startsWith(title))
+                found = page;
+        }
+        return found != nullptr;
+    };
+    if (!QTest::qWaitFor(isThere, 60000) || !QTest::qWaitForWindowExposed(found))
+        return nullptr;
+    return found;
+}
+
+void CWizardTest::click(QDialog *page, const char *button)
+{
+    const auto buttons = page->findChildren<QPushButton *>();
+    for (QPushButton *const candidate : buttons) {
+        if (candidate->text().remove('&') == button) {
+            QVERIFY2(candidate->isEnabled(), button);
+            QTest::mouseClick(candidate, Qt::LeftButton);
+            return;
+        }
+    }
+    QFAIL(button);
+}
+
+void CWizardTest::toggle(QDialog *page, const QString &row)
+{
+    auto *const tree = page->findChild<QTreeView *>("cameraTreeView");
+    const QModelIndexList found = tree->model()->match(
+        tree->model()->index(0, 0), Qt::DisplayRole, row, 1, Qt::MatchExactly | Qt::MatchRecursive);
+    QCOMPARE(found.size(), 1);
+    tree->scrollTo(found.first());
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
+                      tree->visualRect(found.first()).center());
+}
+
+QString CWizardTest::text(const QDialog *page, const char *label)
+{
+    return page->findChild<QLabel *>(label)->text();
+}
+
+bool CWizardTest::isShown(const QDialog *page, const char *label)
+{
+    return page->findChild<QLabel *>(label)->isVisible();
+}
+
+QStringList CWizardTest::column(const QDialog *page, int column)
+{
+    QStringList texts;
+    const QAbstractItemModel *const model = page->findChild<QTreeView *>("cameraTreeView")->model();
+    for (int row = 0; row < model->rowCount(); ++row)
+        texts.append(QString::number(model->index(row, column).data().toInt()));
+    return texts;
+}
+
+QString CWizardTest::readLog(const QDialog *resultPage) const
+{
+    QFile file(text(resultPage, "infoTextLabel_2").section('"', 1, 1));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+void CWizardTest::startWizard(const QString &row)
+{
+    QAction *const entry = m_host->menus->getEntry("NuvexViewer.Menu.Tools").action;
+    QVERIFY(entry->isEnabled());
+    entry->trigger();
+    QDialog *const page = waitForPage("Step 1");
+    QVERIFY(page);
+    toggle(page, row);
+    click(page, "Next");
+}
+
+void CWizardTest::chooseFile(const char *name)
+{
+    QDialog *const page = waitForPage("Step 2");
+    QVERIFY(page);
+    auto *const edit = page->findChild<QLineEdit *>("updateFileLineEdit");
+    edit->selectAll();
+    QTest::keyClicks(edit, QStringLiteral(SAMPLE_UPDATES "/") + name);
+    QVERIFY2(!isShown(page, "errorTextLabel"), qPrintable(edit->text()));
+    click(page, "Next");
+}
+
+void CWizardTest::updatesAllCamerasOfAModel_data()
+{
+    QTest::addColumn<QString>("current");
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<int>("direction");
+    QTest::newRow("upgrade") << "1.2.0" << QByteArray("vx-1400m_2.0.0.guf") << "2.0.0" << 0;
+    QTest::newRow("downgrade") << "2.0.0" << QByteArray("vx-1400m_1.1.0.guf") << "1.1.0" << 1;
+    QTest::newRow("reinstall") << "2.0.0" << QByteArray("vx-1400m_2.0.0.guf") << "2.0.0" << 2;
+}
+
+void CWizardTest::updatesAllCamerasOfAModel()
+{
+    QFETCH(QString, current);
+    QFETCH(QByteArray, file);
+    QFETCH(QString, target);
+    QFETCH(int, direction);
+
+    openPool(describeCameras(current));
+    startWizard("VX-1400M");
+    chooseFile(file.constData());
+
+    QDialog *const summary = waitForPage("Step 3");
+    QVERIFY(summary);
+    const QString each = QString::number(direction);
+    QTRY_COMPARE(column(summary, 5), QStringList({each, each, each}));
+    QCOMPARE(isShown(summary, "warningTextLabel_1"), direction == 1);
+    QCOMPARE(isShown(summary, "warningTextLabel_2"), direction == 2);
+    click(summary, "Next");
+
+    QDialog *const result = waitForPage("Step 5");
+    QVERIFY(result);
+    QTRY_COMPARE(text(result, "successfulUpdatesLabel"), "Successful updates: 3");
+    QVERIFY(!isShown(result, "failedUpdatesLabel"));
+    QVERIFY(!isShown(result, "errorTextLabel"));
+    QVERIFY(readLog(result).contains("Finished firmware update (3/3)"));
+    click(result, "Close");
+    QTRY_VERIFY(!result->isVisible());
+    QTRY_COMPARE(getVersions().values(), QList<QString>({target, target, target}));
+}
+
+void CWizardTest::stopsAtAFailureInTheMiddle()
+{
+    openPool(describeCameras("1.2.0", 2));
+    startWizard("VX-1400M");
+    chooseFile("vx-1400m_2.0.0.guf");
+    QDialog *const summary = waitForPage("Step 3");
+    QVERIFY(summary);
+    click(summary, "Next");
+
+    QDialog *const result = waitForPage("Step 5");
+    QVERIFY(result);
+    QTRY_COMPARE(text(result, "successfulUpdatesLabel"), "Successful updates: 1");
+    QCOMPARE(text(result, "failedUpdatesLabel"), "Failed updates: 1");
+    QCOMPARE(text(result, "skippedUpdatesLabel"), "Skipped updates: 1");
+    QCOMPARE(column(result, 7), QStringList({"0", "1", "2"}));
+    QVERIFY(text(result, "errorTextLabel").contains("subsequent updates have been skipped"));
+    QVERIFY(text(result, "errorTextLabel").contains("Line 2"));
+    QVERIFY(readLog(result).contains("Firmware update (2/3) failed."));
+    QTRY_COMPARE(getVersions().value("camera-1"), "2.0.0");
+    QCOMPARE(getVersions().value("camera-3"), "1.2.0");
+}
+
+void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
+{
+    openPool(describeCameras("1.2.0"));
+    startWizard("VX-1400M");
+    chooseFile("vx-1400m_2.0.0.guf");
+    QDialog *const summary = waitForPage("Step 3");
+    QVERIFY(summary);
+    click(summary, "Next");
+    QDialog *const updating = waitForPage("Step 4");
+    QVERIFY(updating);
+    click(updating, "Cancel");
+
+    QDialog *const result = waitForPage("Step 5");
+    QVERIFY(result);
+    QTRY_COMPARE(text(result, "successfulUpdatesLabel"), "Successful updates: 1");
+    QVERIFY(readLog(result).contains("Firmware updates have been canceled by the user"));
+    // No camera that was left out has been touched, and none of them counts as updated.
+    QTRY_COMPARE(getVersions().value("camera-1"), "2.0.0");
+    QCOMPARE(getVersions().value("camera-2"), "1.2.0");
+    QCOMPARE(getVersions().value("camera-3"), "1.2.0");
+    QCOMPARE(column(result, 7), QStringList({"0", "1", "2"}));
+}
+
+void CWizardTest::updatesAgainInTheSameRun()
+{
+    openPool(describeCameras("1.2.0"));
+    startWizard("Line 2");
+    chooseFile("vx-1400m_2.0.0.guf");
+    click(waitForPage("Step 3"), "Next");
+    QDialog *const result = waitForPage("Step 5");
+    QVERIFY(result);
+    QTRY_COMPARE(getVersions().value("camera-2"), "2.0.0");
+    click(result, "Next");
+
+    QDialog *const selection = waitForPage("Step 1");
+    QVERIFY(selection);
+    toggle(selection, "Line 2");
+    click(selection, "Next");
+    chooseFile("vx-1400m_2.0.0.guf");
+    QDialog *const summary = waitForPage("Step 3");
+    QVERIFY(summary);
+    QTRY_COMPARE(column(summary, 5), QStringList({"2"}));
+    click(summary, "Back");
+    QVERIFY(waitForPage("Step 2"));
+}
+
+void CWizardTest::tellsEachFault_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("error"); // empty: the update succeeds
+    const auto row
+        = [](const char *name, const char *error) { QTest::newRow(name) << name << error; };
+    row("No fault", "");
+    row("Precondition not met", "cannot be updated now");
+    row("Write refused", "refuses to write the feature");
+    row("Upload fails", "broke off after 100000");
+    row("Vanishes", "the connection was lost");
+    row("Assert fails", "instead of");
+    row("Never returns", "did not come back from its reset");
+    row("Returns late", "");
+    row("Returns with old", "is \"1.2.0\" instead of \"2.0.0\"");
+}
+
+void CWizardTest::tellsEachFault()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, error);
+
+    openPool(QStringLiteral(SAMPLE_CAMERAS "/faults.json"));
+    QString camera;
+    const auto layers = m_enumeration->getTransportLayerInfoVector();
+    for (const auto &info : layers.first()->getCameraInfoList()) {
+        if (info->getDisplayName().startsWith(name))
+            camera = info->getDisplayName();
+    }
+    QVERIFY(!camera.isEmpty());
+    startWizard(camera);
+    chooseFile("vx-1400m_2.0.0.guf");
+    QDialog *const summary = waitForPage("Step 3");
+    QVERIFY(summary);
+    click(summary, "Next");
+
+    QDialog *const result = waitForPage("Step 5");
+    QVERIFY(result);
+    const bool failed = !error.isEmpty();
+    QTRY_COMPARE(text(result, "successfulUpdatesLabel"),
+                 QString("Successful updates: %1").arg(failed ? 0 : 1));
+    QCOMPARE(isShown(result, "errorTextLabel"), failed);
+    QCOMPARE(column(result, 7), QStringList({failed ? "1" : "0"}));
+    if (failed) {
+        const QString shown = text(result, "errorTextLabel");
+        QVERIFY2(shown.contains(error.toHtmlEscaped()), qPrintable(shown));
+        QVERIFY2(shown.startsWith("An error has occurred during the update.<br>"),
+                 qPrintable(shown));
+        const QString log = readLog(result);
+        QVERIFY(log.contains(error));
+        QVERIFY(log.contains("Firmware update (1/1) failed."));
+    }
+}
+
+QTEST_MAIN(CWizardTest)
+#include "tst_wizard.moc"
