@@ -2,13 +2,9 @@
 
 #include "core/baseexception.h"
 
-#include <QWriteLocker>
-
 namespace TestSupport {
 
 using Plugin::CameraPool::CameraInfoPtr;
-using Plugin::CameraPool::DeviceFirmwareUpdatePtr;
-using Plugin::CameraPool::TransportLayerInfoPtr;
 
 namespace {
 
@@ -22,15 +18,9 @@ public:
     {
     }
 
-    Core::CId getId() const override
-    {
-        return m_id;
-    }
+    Core::CId getId() const override { return m_id; }
 
-    QAction *getAction() const override
-    {
-        return m_action;
-    }
+    QAction *getAction() const override { return m_action; }
 
     QStringList getContexts() const
     {
@@ -71,55 +61,6 @@ private:
 
 } // namespace
 
-void CFakeInitializer::addService(QSharedPointer<Core::Service::IService> service)
-{
-    const QWriteLocker locker(&m_lock);
-    if (!m_services.contains(service))
-        m_services.append(service);
-}
-
-void CFakeInitializer::removeService(QSharedPointer<Core::Service::IService> service)
-{
-    const QWriteLocker locker(&m_lock);
-    m_services.removeAll(service);
-}
-
-QList<QSharedPointer<Core::Service::IService>> CFakeInitializer::getServices() const
-{
-    return m_services;
-}
-
-QReadWriteLock *CFakeInitializer::getServicesLock() const
-{
-    return &m_lock;
-}
-
-QVector<TransportLayerInfoPtr> CFakeEnumerationService::getTransportLayerInfoVector() const
-{
-    return layers;
-}
-
-void CFakeEnumerationService::refreshEnumeration()
-{
-    ++refreshCount;
-}
-
-void CFakeEnumerationService::announce(const QVector<TransportLayerInfoPtr> &newLayers)
-{
-    layers = newLayers;
-    emit enumerationChanged();
-}
-
-bool CFakeStatusService::isCameraBusy(CameraInfoPtr camera) const
-{
-    return busyIds.contains(camera->getId());
-}
-
-void CFakeStreamControlService::stopAllCameras()
-{
-    ++stopCount;
-}
-
 QVector<UpdateInfoPtr> CFakeUpdateService::getFirmwareUpdateInfos(const QString &updateFilePath,
                                                                   const QString &entryFilter)
 {
@@ -143,18 +84,6 @@ bool CFakeUpdateService::getCompatibleFirmwareUpdates(CameraInfoPtr camera,
     if (!incompatibleIds.contains(camera->getId()))
         compatible = all;
     return true;
-}
-
-DeviceFirmwareUpdatePtr
-CFakeUpdateService::createDeviceFirmwareUpdate(CameraInfoPtr camera,
-                                               const UpdateInfoPtr &updateInfo)
-{
-    return createJob ? createJob(camera->getId(), updateInfo) : DeviceFirmwareUpdatePtr();
-}
-
-QWidget *CFakeWindowService::getMainWindow() const
-{
-    return &m_mainWindow;
 }
 
 QSharedPointer<Plugin::AppCore::IActionContainer>

@@ -24,58 +24,63 @@ namespace TestSupport {
 
 class CFakeInitializer : public Core::Plugin::IPluginInitializer
 {
-    Q_OBJECT
-
 public:
-    void addService(QSharedPointer<Core::Service::IService> service) override;
-    void removeService(QSharedPointer<Core::Service::IService> service) override;
-    QList<QSharedPointer<Core::Service::IService>> getServices() const override;
-    QReadWriteLock *getServicesLock() const override;
+    using Service = QSharedPointer<Core::Service::IService>;
+
+    void addService(Service service) override
+    {
+        if (!m_services.contains(service))
+            m_services.append(service);
+    }
+    void removeService(Service service) override { m_services.removeAll(service); }
+    QList<Service> getServices() const override { return m_services; }
+    QReadWriteLock *getServicesLock() const override { return &m_lock; }
 
 private:
-    QList<QSharedPointer<Core::Service::IService>> m_services;
+    QList<Service> m_services;
     mutable QReadWriteLock m_lock;
 };
 
 class CFakeEnumerationService : public Plugin::CameraPool::ICameraEnumerationService
 {
-    Q_OBJECT
-
 public:
-    QVector<Plugin::CameraPool::TransportLayerInfoPtr> getTransportLayerInfoVector() const override;
-    void refreshEnumeration() override;
+    using Layers = QVector<Plugin::CameraPool::TransportLayerInfoPtr>;
+
+    Layers getTransportLayerInfoVector() const override { return layers; }
+    void refreshEnumeration() override { ++refreshCount; }
 
     /// Puts a new result in place and announces it.
-    void announce(const QVector<Plugin::CameraPool::TransportLayerInfoPtr> &layers);
+    void announce(const Layers &newLayers)
+    {
+        layers = newLayers;
+        emit enumerationChanged();
+    }
 
-    QVector<Plugin::CameraPool::TransportLayerInfoPtr> layers;
+    Layers layers;
     int refreshCount = 0;
 };
 
 class CFakeStatusService : public Plugin::CameraPool::ICameraStatusService
 {
-    Q_OBJECT
-
 public:
-    bool isCameraBusy(Plugin::CameraPool::CameraInfoPtr camera) const override;
+    bool isCameraBusy(Plugin::CameraPool::CameraInfoPtr camera) const override
+    {
+        return busyIds.contains(camera->getId());
+    }
 
     QSet<QString> busyIds;
 };
 
 class CFakeStreamControlService : public Plugin::CameraPool::ICameraStreamControlService
 {
-    Q_OBJECT
-
 public:
-    void stopAllCameras() override;
+    void stopAllCameras() override { ++stopCount; }
 
     int stopCount = 0;
 };
 
 class CFakeUpdateService : public Plugin::CameraPool::IDeviceFirmwareUpdateService
 {
-    Q_OBJECT
-
 public:
     /// Throws readError when that is not empty.
     QVector<UpdateInfoPtr> getFirmwareUpdateInfos(const QString &updateFilePath,
@@ -90,7 +95,10 @@ public:
     /// What createJob makes; null without it.
     Plugin::CameraPool::DeviceFirmwareUpdatePtr
     createDeviceFirmwareUpdate(Plugin::CameraPool::CameraInfoPtr camera,
-                               const UpdateInfoPtr &updateInfo) override;
+                               const UpdateInfoPtr &updateInfo) override
+    {
+        return createJob ? createJob(camera->getId(), updateInfo) : nullptr;
+    }
 
     QVector<UpdateInfoPtr> entries;
     QString readError;
@@ -103,17 +111,12 @@ public:
     QStringList checkedIds; ///< cameras of all compatibility requests
 };
 
-class CFakeSelectorService : public Plugin::CameraSelector::IDeviceSelectorService
-{
-    Q_OBJECT
-};
+using CFakeSelectorService = Plugin::CameraSelector::IDeviceSelectorService;
 
 class CFakeWindowService : public Plugin::AppCore::IWindowService
 {
-    Q_OBJECT
-
 public:
-    QWidget *getMainWindow() const override;
+    QWidget *getMainWindow() const override { return &m_mainWindow; }
 
 private:
     mutable QWidget m_mainWindow;
@@ -131,8 +134,6 @@ struct CMenuEntry
 
 class CFakeMenuService : public Plugin::AppCore::IMenuService
 {
-    Q_OBJECT
-
 public:
     QSharedPointer<Plugin::AppCore::IActionContainer>
     getActionContainer(const Core::CId &menuId) override;

@@ -21,22 +21,20 @@ struct CCameraDescription
 
 class CFakeCameraInfo : public Plugin::CameraPool::ICameraInfo
 {
-    Q_OBJECT
-
 public:
-    explicit CFakeCameraInfo(const CCameraDescription &description);
+    explicit CFakeCameraInfo(const CCameraDescription &description)
+        : m_description(description)
+    {
+    }
 
-    /// "Camera <id>"
-    QString getDisplayName() const override;
-    QString getId() const override;
-    qint32 getCameraStatusCode() const override;
-    QString getTransportLayerId() const override;
-    QString getFirmwareVersion() const override;
-    QString getModelName() const override;
-    /// "SN-<id>"
-    QString getSerialNumber() const override;
-    /// "R1"
-    QString getDeviceVersion() const override;
+    QString getDisplayName() const override { return "Camera " + m_description.id; }
+    QString getId() const override { return m_description.id; }
+    qint32 getCameraStatusCode() const override { return m_description.statusCode; }
+    QString getTransportLayerId() const override { return m_description.layerId; }
+    QString getFirmwareVersion() const override { return m_description.firmware; }
+    QString getModelName() const override { return m_description.model; }
+    QString getSerialNumber() const override { return "SN-" + m_description.id; }
+    QString getDeviceVersion() const override { return "R1"; }
 
 private:
     const CCameraDescription m_description;
@@ -44,36 +42,39 @@ private:
 
 class CFakeTransportLayerInfo : public Plugin::CameraPool::ITransportLayerInfo
 {
-    Q_OBJECT
-
 public:
-    CFakeTransportLayerInfo(const QString &id,
-                            const QVector<Plugin::CameraPool::CameraInfoPtr> &cameras);
+    using Cameras = QVector<Plugin::CameraPool::CameraInfoPtr>;
 
-    /// "Layer <id>"
-    QString getDisplayName() const override;
-    QString getId() const override;
-    const QVector<Plugin::CameraPool::CameraInfoPtr> &getCameraInfoList() const override;
+    CFakeTransportLayerInfo(const QString &id, const Cameras &cameras)
+        : m_id(id)
+        , m_cameras(cameras)
+    {
+    }
+
+    QString getDisplayName() const override { return "Layer " + m_id; }
+    QString getId() const override { return m_id; }
+    const Cameras &getCameraInfoList() const override { return m_cameras; }
 
 private:
     const QString m_id;
-    const QVector<Plugin::CameraPool::CameraInfoPtr> m_cameras;
+    const Cameras m_cameras;
 };
 
 class CFakeUpdateInfo : public Plugin::CameraPool::IFirmwareUpdateInfo
 {
-    Q_OBJECT
-
 public:
-    explicit CFakeUpdateInfo(const QString &version,
-                             const QString &description = QStringLiteral("Fixes"),
-                             const QString &releaseNotes = QStringLiteral("Notes"));
+    explicit CFakeUpdateInfo(const QString &version, const QString &description = "Fixes",
+                             const QString &releaseNotes = "Notes")
+        : m_version(version)
+        , m_description(description)
+        , m_releaseNotes(releaseNotes)
+    {
+    }
 
-    QString getVersion() const override;
-    QString getDescription() const override;
-    QString getReleaseNotes() const override;
-    /// "update.guf"
-    QString getFileName() const override;
+    QString getVersion() const override { return m_version; }
+    QString getDescription() const override { return m_description; }
+    QString getReleaseNotes() const override { return m_releaseNotes; }
+    QString getFileName() const override { return "update.guf"; }
 
 private:
     const QString m_version;
@@ -83,10 +84,23 @@ private:
 
 using UpdateInfoPtr = QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>;
 
-[[nodiscard]] Plugin::CameraPool::CameraInfoPtr makeCamera(const CCameraDescription &description);
+[[nodiscard]] inline Plugin::CameraPool::CameraInfoPtr
+makeCamera(const CCameraDescription &description)
+{
+    return Plugin::CameraPool::CameraInfoPtr(new CFakeCameraInfo(description));
+}
 
 /// A layer with one camera for each description; the layer's id overrides the descriptions'.
-[[nodiscard]] Plugin::CameraPool::TransportLayerInfoPtr
-makeLayer(const QString &id, QVector<CCameraDescription> cameras);
+[[nodiscard]] inline Plugin::CameraPool::TransportLayerInfoPtr
+makeLayer(const QString &id, QVector<CCameraDescription> cameras)
+{
+    CFakeTransportLayerInfo::Cameras infos;
+    infos.reserve(cameras.size());
+    for (CCameraDescription &camera : cameras) {
+        camera.layerId = id;
+        infos.append(makeCamera(camera));
+    }
+    return Plugin::CameraPool::TransportLayerInfoPtr(new CFakeTransportLayerInfo(id, infos));
+}
 
 } // namespace TestSupport

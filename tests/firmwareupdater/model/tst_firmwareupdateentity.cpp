@@ -26,14 +26,12 @@ private slots:
     void showsValuesByKindOfNode_data();
     void showsValuesByKindOfNode();
     void hasNoValueOutsideItsColumns();
-    void showsTheJobsVersionOnceThereIsAJob();
     void addsAChildOnce();
     void knowsItsRow();
     void findsRowsAfterTheListWasReplaced();
     void survivesDeadChildren();
     void takesListedChildrenElsewhereAlong();
     void copiesValuesButNeitherChildrenNorJob();
-    void assignsSilently();
     void comparesParentsOnly();
 };
 
@@ -150,17 +148,6 @@ void CFirmwareUpdateEntityTest::hasNoValueOutsideItsColumns()
     QCOMPARE(entity.getColumnCount(), 8);
 }
 
-void CFirmwareUpdateEntityTest::showsTheJobsVersionOnceThereIsAJob()
-{
-    CFirmwareUpdateEntity entity;
-    entity.setEntityType(EntityType::CameraDevice);
-    entity.setCameraInfo(TestSupport::makeCamera({QStringLiteral("c1")}));
-    entity.setDeviceFirmwareUpdate(
-        Plugin::CameraPool::DeviceFirmwareUpdatePtr(new TestSupport::CScriptedUpdate(
-            QStringLiteral("2.0"), EFirmwareUpdateDirection::Upgrade, QStringLiteral("1.5"))));
-    QCOMPARE(entity.getData(3).toString(), QStringLiteral("1.5"));
-}
-
 void CFirmwareUpdateEntityTest::addsAChildOnce()
 {
     CFirmwareUpdateEntity parent;
@@ -269,19 +256,6 @@ void CFirmwareUpdateEntityTest::copiesValuesButNeitherChildrenNorJob()
     QVERIFY(!copy.isEnabled());
     QCOMPARE(copy.getChildCount(), 0);
     QVERIFY(!copy.getDeviceFirmwareUpdate());
-}
-
-void CFirmwareUpdateEntityTest::assignsSilently()
-{
-    CFirmwareUpdateEntity source;
-    source.setSelected(true);
-    CFirmwareUpdateEntity target;
-    target.addChildEntity(new CFirmwareUpdateEntity);
-    QSignalSpy spy(&target, &CFirmwareUpdateEntity::selectedChanged);
-    target = source;
-    QVERIFY(target.isSelected());
-    QCOMPARE(target.getChildCount(), 1);
-    QCOMPARE(spy.count(), 0);
 }
 
 void CFirmwareUpdateEntityTest::comparesParentsOnly()

@@ -36,13 +36,9 @@ class CFirmwareUpdateTreeModelTest : public QObject
 
 private slots:
     void init();
-    void isEmptyAtFirst();
-    void namesItsSections_data();
     void namesItsSections();
-    void namesItsRolesLikeItsColumns();
     void buildsLayersGroupsAndCameras();
     void leavesOutLayersWithoutCameras();
-    void groupsAModelUnderEachLayer();
     void selectsTheValueByColumn();
     void allowsEditingOfCheckBoxesOnly();
     void findsCamerasById_data();
@@ -50,7 +46,6 @@ private slots:
     void findsCamerasOfAFlatListWithoutLayer();
     void findsCamerasWhoseNodesChanged();
     void takesOverAFlatList();
-    void forgetsTicksOnRebuild();
     void announcesRowsParentsFirst();
     void writesEditableColumns_data();
     void writesEditableColumns();
@@ -69,62 +64,17 @@ void CFirmwareUpdateTreeModelTest::init()
     m_model = std::make_unique<CFirmwareUpdateTreeModel>(nullptr);
 }
 
-void CFirmwareUpdateTreeModelTest::isEmptyAtFirst()
-{
-    QCOMPARE(m_model->rowCount(), 0);
-    QCOMPARE(m_model->columnCount(), 8);
-    QVERIFY(!m_model->index(0, 0).isValid());
-    QVERIFY(m_model->getSelectedCameraList().isEmpty());
-    QVERIFY(!m_model->getModelIndexForCameraId({}, {}, 0).isValid());
-}
-
-void CFirmwareUpdateTreeModelTest::namesItsSections_data()
-{
-    QTest::addColumn<int>("section");
-    QTest::addColumn<Qt::Orientation>("orientation");
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QVariant>("header");
-
-    const int display = Qt::DisplayRole;
-    const QVariant none;
-    QTest::newRow("first") << 0 << Qt::Horizontal << display << QVariant(QStringLiteral("Cameras"));
-    QTest::newRow("id") << 1 << Qt::Horizontal << display << QVariant(QStringLiteral("Id"));
-    QTest::newRow("tick") << 2 << Qt::Horizontal << display
-                          << QVariant(QStringLiteral("SelectionStatus"));
-    QTest::newRow("current") << 3 << Qt::Horizontal << display
-                             << QVariant(QStringLiteral("Current Firmware"));
-    QTest::newRow("selected") << 4 << Qt::Horizontal << display
-                              << QVariant(QStringLiteral("Firmware Selected"));
-    QTest::newRow("details") << 5 << Qt::Horizontal << display
-                             << QVariant(QStringLiteral("Details"));
-    QTest::newRow("status") << 6 << Qt::Horizontal << display
-                            << QVariant(QStringLiteral("Details"));
-    QTest::newRow("result") << 7 << Qt::Horizontal << display
-                            << QVariant(QStringLiteral("Details"));
-    QTest::newRow("beyond the columns")
-        << 8 << Qt::Horizontal << display << QVariant(QStringLiteral("Enabled"));
-    QTest::newRow("beyond the list") << 9 << Qt::Horizontal << display << none;
-    QTest::newRow("negative") << -1 << Qt::Horizontal << display << none;
-    QTest::newRow("vertical") << 0 << Qt::Vertical << display << none;
-    QTest::newRow("edit role") << 0 << Qt::Horizontal << int(Qt::EditRole) << none;
-}
-
 void CFirmwareUpdateTreeModelTest::namesItsSections()
 {
-    QFETCH(int, section);
-    QFETCH(Qt::Orientation, orientation);
-    QFETCH(int, role);
-    QFETCH(QVariant, header);
-    QCOMPARE(m_model->headerData(section, orientation, role), header);
-}
-
-void CFirmwareUpdateTreeModelTest::namesItsRolesLikeItsColumns()
-{
-    const QHash<int, QByteArray> names = m_model->roleNames();
-    QCOMPARE(names.size(), 9);
-    QCOMPARE(names.value(0), QByteArray("DisplayName"));
-    QCOMPARE(names.value(5), QByteArray("UpdateDetails"));
-    QCOMPARE(names.value(8), QByteArray("Enabled"));
+    const QStringList titles
+        = {"Cameras", "Id",      "SelectionStatus", "Current Firmware", "Firmware Selected",
+           "Details", "Details", "Details",         "Enabled"};
+    for (int section = 0; section < titles.size(); ++section)
+        QCOMPARE(m_model->headerData(section, Qt::Horizontal, Qt::DisplayRole), titles.at(section));
+    QVERIFY(!m_model->headerData(-1, Qt::Horizontal, Qt::DisplayRole).isValid());
+    QVERIFY(!m_model->headerData(9, Qt::Horizontal, Qt::DisplayRole).isValid());
+    QVERIFY(!m_model->headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
+    QVERIFY(!m_model->headerData(0, Qt::Horizontal, Qt::EditRole).isValid());
 }
 
 void CFirmwareUpdateTreeModelTest::buildsLayersGroupsAndCameras()
@@ -153,15 +103,6 @@ void CFirmwareUpdateTreeModelTest::leavesOutLayersWithoutCameras()
     QCOMPARE(columnTexts(*m_model, {}), QStringList({"Layer l"}));
     m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("empty"), {})});
     QCOMPARE(m_model->rowCount(), 0);
-}
-
-void CFirmwareUpdateTreeModelTest::groupsAModelUnderEachLayer()
-{
-    m_model->setTransportLayerInfoVector(
-        {makeLayer(QStringLiteral("l1"), {m_a}), makeLayer(QStringLiteral("l2"), {m_b, m_c})});
-    QCOMPARE(columnTexts(*m_model, m_model->index(0, 0)), QStringList({"M"}));
-    QCOMPARE(columnTexts(*m_model, m_model->index(1, 0)), QStringList({"M"}));
-    QCOMPARE(m_model->rowCount(m_model->index(0, 0, m_model->index(1, 0))), 2);
 }
 
 void CFirmwareUpdateTreeModelTest::selectsTheValueByColumn()
@@ -273,22 +214,6 @@ void CFirmwareUpdateTreeModelTest::takesOverAFlatList()
     QVERIFY(!ticked);
     QCOMPARE(m_model->rowCount(), 0);
     QVERIFY(!m_model->hasSelectedCameras());
-}
-
-void CFirmwareUpdateTreeModelTest::forgetsTicksOnRebuild()
-{
-    const auto layers = QVector<Plugin::CameraPool::TransportLayerInfoPtr>{
-        makeLayer(QStringLiteral("l"), {m_a, m_b})};
-    m_model->setTransportLayerInfoVector(layers);
-    m_model->setData(m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("a"), 0),
-                     true, Qt::EditRole);
-    QVERIFY(m_model->hasSelectedCameras());
-
-    m_model->setTransportLayerInfoVector(layers);
-    QVERIFY(!m_model->hasSelectedCameras());
-    QVERIFY(!m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("a"), 2)
-                 .data()
-                 .toBool());
 }
 
 void CFirmwareUpdateTreeModelTest::announcesRowsParentsFirst()

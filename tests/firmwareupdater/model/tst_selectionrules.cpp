@@ -21,9 +21,6 @@ private slots:
     void spreadsTicks();
     void announcesASpreadOnce();
     void listsTickedCamerasById();
-    void leavesTheMapToItsCameras();
-    void showsDeadCamerasAsNull();
-    void comparesModelNamesCaseSensitively();
     void countsResults();
 
 private:
@@ -195,34 +192,6 @@ void CSelectionRulesTest::listsTickedCamerasById()
     m_model->clearSelectedCamerasMap();
     QVERIFY(!m_model->hasSelectedCameras());
     QCOMPARE(collect(&CFirmwareUpdateEntity::isSelected, true).size(), 5);
-}
-
-void CSelectionRulesTest::leavesTheMapToItsCameras()
-{
-    m_model->setData(find(QStringLiteral("group:l1/M")), true, Qt::EditRole);
-    QVERIFY(!m_model->hasSelectedCameras());
-    m_model->setData(find(QStringLiteral("l1/a1")), true, Qt::EditRole);
-    QCOMPARE(tickedIds(), QStringList({"a1"}));
-    m_model->setData(find(QStringLiteral("l1/a1")), false, Qt::EditRole);
-    QVERIFY(!m_model->hasSelectedCameras());
-}
-
-void CSelectionRulesTest::showsDeadCamerasAsNull()
-{
-    tick(QStringLiteral("l1/a1"), true);
-    delete static_cast<CFirmwareUpdateEntity *>(find(QStringLiteral("l1/a1")).internalPointer());
-    QCOMPARE(tickedIds(), QStringList({"null"}));
-}
-
-void CSelectionRulesTest::comparesModelNamesCaseSensitively()
-{
-    m_model->setTransportLayerInfoVector(
-        {makeLayer(QStringLiteral("l1"),
-                   {{QStringLiteral("a"), QStringLiteral("vx")},
-                    {QStringLiteral("b"), QStringLiteral("VX")}})});
-    tick(QStringLiteral("l1/a"), true);
-    QCOMPARE(collect(&CFirmwareUpdateEntity::isEnabled, false),
-             QStringList({"group:l1/VX", "l1/b"}));
 }
 
 void CSelectionRulesTest::countsResults()

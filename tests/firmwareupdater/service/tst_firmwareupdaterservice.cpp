@@ -28,11 +28,9 @@ class CFirmwareUpdaterServiceTest : public QObject
 private slots:
     void init();
     void cleanup();
-    void remembersWhatItIsTold();
     void asksAboutBusyCameras_data();
     void asksAboutBusyCameras();
     void startsAtStepOneWithTheRememberedCamera();
-    void startsWithoutARememberedCameraThatIsGone();
     void checksTheTypedPath_data();
     void checksTheTypedPath();
     void keepsTheTypedFormButStoresTheAbsolutePath();
@@ -41,8 +39,6 @@ private slots:
     void checksThePathAtEachEntry();
     void takesAFileFromTheFileDialog();
     void walksThroughItsSteps();
-    void goesRoundAgain();
-    void staysInStepFourWhenClosed();
     void rebuildsTheTreeOnlyWhileOpen();
     void asksTheHostToEnumerate();
     void refusesToStartBeforeItIsBuilt();
@@ -183,25 +179,6 @@ void CFirmwareUpdaterServiceTest::whenModal(const std::function<void(QWidget *)>
     poll->start(5);
 }
 
-void CFirmwareUpdaterServiceTest::remembersWhatItIsTold()
-{
-    auto &service = *m_fixture->service;
-    QVERIFY(!service.getDialogSize().isValid());
-    QCOMPARE(service.getDialogPos(), QPoint(0, 0));
-    service.setDialogSize({10, 20});
-    service.setDialogPos({-3, 4});
-    service.setDialogWindowState(Qt::WindowMaximized);
-    QCOMPARE(service.getDialogSize(), QSize(10, 20));
-    QCOMPARE(service.getDialogPos(), QPoint(-3, 4));
-    QCOMPARE(service.getDialogWindowState(), Qt::WindowStates(Qt::WindowMaximized));
-
-    TestSupport::CCameraDescription locked{"x"};
-    locked.statusCode = 1;
-    QVERIFY(service.isCompatibleCamera(TestSupport::makeCamera({"x"})));
-    QVERIFY(!service.isCompatibleCamera(TestSupport::makeCamera(locked)));
-    QVERIFY(!service.isCompatibleCamera({}));
-}
-
 void CFirmwareUpdaterServiceTest::asksAboutBusyCameras_data()
 {
     QTest::addColumn<int>("answer");
@@ -256,14 +233,6 @@ void CFirmwareUpdaterServiceTest::startsAtStepOneWithTheRememberedCamera()
     const auto *const other = static_cast<const CUpdaterFixture::Entity *>(
         model->getModelIndexForCameraId("l", "n", 0).internalPointer());
     QVERIFY(!other->isEnabled());
-}
-
-void CFirmwareUpdaterServiceTest::startsWithoutARememberedCameraThatIsGone()
-{
-    m_fixture->service->setSelectedCamera(TestSupport::makeCamera({"gone"}));
-    start();
-    QVERIFY(!dialog<View::CCameraSelectionDialog>()->getModel()->hasSelectedCameras());
-    QVERIFY(!findButton(dialog<View::CCameraSelectionDialog>(), "Next")->isEnabled());
 }
 
 void CFirmwareUpdaterServiceTest::checksTheTypedPath_data()
@@ -411,35 +380,6 @@ void CFirmwareUpdaterServiceTest::walksThroughItsSteps()
 
     // The machine can be started again.
     start();
-}
-
-void CFirmwareUpdaterServiceTest::goesRoundAgain()
-{
-    goToStepFour();
-    QTRY_VERIFY(m_jobs.value("a")->isHeld());
-    m_jobs.value("a")->release();
-    m_jobs.value("b")->release();
-    QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
-    const QString log = m_fixture->service->getCurrentTemporaryLogFilePath();
-    click(dialog<View::CResultSummaryDialog>(), "Next");
-    QTRY_VERIFY(isShown<View::CCameraSelectionDialog>());
-    QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), log);
-    click(dialog<View::CCameraSelectionDialog>(), "Close");
-    QTRY_VERIFY(!isShown<View::CCameraSelectionDialog>());
-}
-
-void CFirmwareUpdaterServiceTest::staysInStepFourWhenClosed()
-{
-    goToStepFour();
-    auto *const step4 = dialog<View::CFirmwareUpdateDialog>();
-    QTRY_VERIFY(m_jobs.value("a")->isHeld());
-    step4->close();
-    QVERIFY(step4->isVisible());
-    QVERIFY(!findButton(step4, "Cancel")->isEnabled());
-    QVERIFY(m_fixture->getLog().contains("WARNING User canceled firmware update"));
-    m_jobs.value("a")->release();
-    QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
-    QCOMPARE(m_jobs.value("b")->getExecutionCount(), 0);
 }
 
 void CFirmwareUpdaterServiceTest::rebuildsTheTreeOnlyWhileOpen()

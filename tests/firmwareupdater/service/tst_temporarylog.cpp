@@ -17,9 +17,7 @@ private slots:
     void writesLevelAndMessage_data();
     void writesLevelAndMessage();
     void keepsPlaceholdersInMessages();
-    void hasEachLineOnDiskAtOnce();
     void opensOnDemandButNotForNothing();
-    void beginsANewFile();
     void closesAndForgetsTheFailure();
     void dropsLinesThatItCannotWrite();
 };
@@ -65,15 +63,6 @@ void CTemporaryLogTest::keepsPlaceholdersInMessages()
     QCOMPARE(fixture.getLog(), QStringList({"INFO 100%1 of %3"}));
 }
 
-void CTemporaryLogTest::hasEachLineOnDiskAtOnce()
-{
-    CUpdaterFixture fixture;
-    for (int i = 1; i <= 3; ++i) {
-        fixture.service->addTemporaryLogMessage(ELogLevel::Info, QString::number(i));
-        QCOMPARE(fixture.getLog().size(), i);
-    }
-}
-
 void CTemporaryLogTest::opensOnDemandButNotForNothing()
 {
     CUpdaterFixture fixture;
@@ -82,15 +71,6 @@ void CTemporaryLogTest::opensOnDemandButNotForNothing()
     QVERIFY(QDir(fixture.temporaryFolder.path()).isEmpty());
     fixture.service->addTemporaryLogMessage(ELogLevel::Critical, "lost");
     QCOMPARE(fixture.getLog(), QStringList({"CRITICAL lost"}));
-}
-
-void CTemporaryLogTest::beginsANewFile()
-{
-    CUpdaterFixture fixture;
-    fixture.service->addTemporaryLogMessage(ELogLevel::Info, "old");
-    fixture.service->openTemporaryLogFile();
-    fixture.service->addTemporaryLogMessage(ELogLevel::Info, "new");
-    QCOMPARE(fixture.getLog(), QStringList({"INFO new"}));
 }
 
 void CTemporaryLogTest::closesAndForgetsTheFailure()

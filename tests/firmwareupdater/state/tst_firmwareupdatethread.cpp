@@ -71,7 +71,8 @@ void CFirmwareUpdateThreadTest::runsTheJobOnItsOwnThread()
     const QSharedPointer<IDeviceFirmwareUpdate> shared(job);
     job->hold().done();
     QSignalSpy doneSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateDone);
-    QSignalSpy finishedSpy(&thread, &QThread::finished);
+    int finished = 0;
+    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
 
     thread.setFirmwareUpdate(shared);
     QCOMPARE(job->thread(), &thread);
@@ -79,7 +80,7 @@ void CFirmwareUpdateThreadTest::runsTheJobOnItsOwnThread()
     QTRY_VERIFY(job->isHeld());
     QCOMPARE(doneSpy.count(), 0);
     job->release();
-    QTRY_COMPARE(finishedSpy.count(), 1);
+    QTRY_COMPARE(finished, 1);
     QCOMPARE(doneSpy.count(), 1);
 
     QCOMPARE(job->thread(), QCoreApplication::instance()->thread());
@@ -95,11 +96,12 @@ void CFirmwareUpdateThreadTest::turnsAnExceptionIntoAnError()
     const QSharedPointer<IDeviceFirmwareUpdate> shared(job);
     job->begin(1).throwException("The host gave up");
     QSignalSpy errorSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateError);
-    QSignalSpy finishedSpy(&thread, &QThread::finished);
+    int finished = 0;
+    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
 
     thread.setFirmwareUpdate(shared);
     thread.start();
-    QTRY_COMPARE(finishedSpy.count(), 1);
+    QTRY_COMPARE(finished, 1);
     QCOMPARE(errorSpy.count(), 1);
     QCOMPARE(errorSpy.first().first().toString(), "The host gave up");
     QCOMPARE(job->thread(), QCoreApplication::instance()->thread());
@@ -112,7 +114,8 @@ void CFirmwareUpdateThreadTest::refusesAnotherJobWhileRunning()
     const QSharedPointer<IDeviceFirmwareUpdate> sharedRunning(running);
     running->hold().done();
     const QSharedPointer<IDeviceFirmwareUpdate> refused(new CScriptedUpdate);
-    QSignalSpy finishedSpy(&thread, &QThread::finished);
+    int finished = 0;
+    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
 
     thread.setFirmwareUpdate(sharedRunning);
     thread.start();
@@ -120,7 +123,7 @@ void CFirmwareUpdateThreadTest::refusesAnotherJobWhileRunning()
     thread.setFirmwareUpdate(refused);
     QCOMPARE(refused->thread(), QThread::currentThread());
     running->release();
-    QTRY_COMPARE(finishedSpy.count(), 1);
+    QTRY_COMPARE(finished, 1);
     QCOMPARE(running->getExecutionCount(), 1);
     QCOMPARE(static_cast<CScriptedUpdate *>(refused.data())->getExecutionCount(), 0);
 }
@@ -128,11 +131,12 @@ void CFirmwareUpdateThreadTest::refusesAnotherJobWhileRunning()
 void CFirmwareUpdateThreadTest::finishesWithoutAJob()
 {
     CFirmwareUpdateThread thread(nullptr);
-    QSignalSpy finishedSpy(&thread, &QThread::finished);
+    int finished = 0;
+    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
     QSignalSpy doneSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateDone);
     QSignalSpy errorSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateError);
     thread.start();
-    QTRY_COMPARE(finishedSpy.count(), 1);
+    QTRY_COMPARE(finished, 1);
     QCOMPARE(doneSpy.count() + errorSpy.count(), 0);
 }
 
@@ -140,7 +144,8 @@ void CFirmwareUpdateThreadTest::runsOneJobAfterAnother()
 {
     CFirmwareUpdateThread thread(nullptr);
     QSignalSpy doneSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateDone);
-    QSignalSpy finishedSpy(&thread, &QThread::finished);
+    int finished = 0;
+    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
     auto *const job = new CScriptedUpdate;
     const QSharedPointer<IDeviceFirmwareUpdate> shared(job);
     job->done();
@@ -150,7 +155,7 @@ void CFirmwareUpdateThreadTest::runsOneJobAfterAnother()
     for (int run = 1; run <= 2; ++run) {
         thread.setFirmwareUpdate(shared);
         thread.start();
-        QTRY_COMPARE(finishedSpy.count(), run);
+        QTRY_COMPARE(finished, run);
     }
     QCOMPARE(doneSpy.count(), 1);
     QCOMPARE(errorSpy.count(), 1);

@@ -60,9 +60,7 @@ private slots:
     void updatesOneCameraAfterAnother();
     void stopsAtTheFirstFailure_data();
     void stopsAtTheFirstFailure();
-    void stopsAtAMissingJob_data();
     void stopsAtAMissingJob();
-    void treatsAnExceptionAsFailure();
     void endsAtOnceWithoutCameras();
     void stopsAfterTheCurrentCameraOnCancel();
     void succeedsWhenCanceledDuringTheLastCamera();
@@ -70,11 +68,8 @@ private slots:
     void truncatesTheBarsValue();
     void animatesTheReset();
     void tellsEachTickOncePerReset();
-    void namesUpdateSteps_data();
-    void namesUpdateSteps();
     void waitsForTheCameraOnExit();
     void waitsForACameraThatTheWaitLetStart();
-    void canBeEnteredAgain();
     void survivesALostDialog();
     void survivesAnEmptiedList();
 
@@ -238,17 +233,9 @@ void CFirmwareUpdatingStepTest::stopsAtTheFirstFailure()
     QCOMPARE(m_fixture->service->getUpdateFailureMessage(), "Camera is on fire");
 }
 
-void CFirmwareUpdatingStepTest::stopsAtAMissingJob_data()
-{
-    QTest::addColumn<int>("missing");
-    QTest::newRow("first") << 0;
-    QTest::newRow("second") << 1;
-}
-
 void CFirmwareUpdatingStepTest::stopsAtAMissingJob()
 {
-    QFETCH(int, missing);
-
+    constexpr int missing = 1;
     makeCameras({EOutcome::Success, EOutcome::Success, EOutcome::Success});
     const QModelIndex index = m_fixture->model->index(missing, 0);
     static_cast<CUpdaterFixture::Entity *>(index.internalPointer())->setDeviceFirmwareUpdate({});
@@ -263,17 +250,6 @@ void CFirmwareUpdatingStepTest::stopsAtAMissingJob()
     QCOMPARE(column(7).at(missing), 1);
     QCOMPARE(column(7).at(2), 2);
     QCOMPARE(m_fixture->service->getUpdateFailureMessage(), message);
-}
-
-void CFirmwareUpdatingStepTest::treatsAnExceptionAsFailure()
-{
-    auto *const job = new CScriptedUpdate;
-    job->begin(10).throwException("The host gave up");
-    m_fixture->model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"}, job)});
-    enter();
-    waitForEnd();
-    QVERIFY(m_fixture->getLog().contains("CRITICAL The host gave up"));
-    QCOMPARE(column(7), QVector<int>({1}));
 }
 
 void CFirmwareUpdatingStepTest::endsAtOnceWithoutCameras()
@@ -428,26 +404,6 @@ void CFirmwareUpdatingStepTest::tellsEachTickOncePerReset()
         QCOMPARE(second.at(i), second.at(i + 1));
 }
 
-void CFirmwareUpdatingStepTest::namesUpdateSteps_data()
-{
-    QTest::addColumn<int>("step");
-    QTest::addColumn<QString>("name");
-    const QStringList names = {"CheckPreconditions", "AcquireUpdateData", "FeatureWrite",
-                               "FeatureExecute",     "FeatureAssert",     "FileUpload",
-                               "DeviceReset",        "Invalid",           ""};
-    for (int i = 0; i < names.size(); ++i)
-        QTest::addRow("value %d", i) << i << names.at(i);
-}
-
-void CFirmwareUpdatingStepTest::namesUpdateSteps()
-{
-    QFETCH(int, step);
-    QFETCH(QString, name);
-    QCOMPARE(
-        State::CFirmwareUpdatingStep::updateStepToString(static_cast<EFirmwareUpdateStep>(step)),
-        name);
-}
-
 void CFirmwareUpdatingStepTest::waitsForTheCameraOnExit()
 {
     makeCameras({EOutcome::Hold});
@@ -471,23 +427,6 @@ void CFirmwareUpdatingStepTest::waitsForACameraThatTheWaitLetStart()
     m_step->onExit(nullptr);
     const auto *const thread = m_step->findChild<State::CFirmwareUpdateThread *>();
     QVERIFY(thread && !thread->isRunning());
-}
-
-void CFirmwareUpdatingStepTest::canBeEnteredAgain()
-{
-    makeCameras({EOutcome::Failure, EOutcome::Success});
-    enter();
-    waitForEnd();
-    m_step->onExit(nullptr);
-
-    m_endSpy->clear();
-    m_fixture->service->openTemporaryLogFile();
-    makeCameras({EOutcome::Success});
-    enter();
-    waitForEnd();
-    const QStringList expected = QStringList{startingLine(1, 1, 'a')} + jobLines()
-        + QStringList{finishedLine(1, 1), "INFO Finished all firmware updates"};
-    QCOMPARE(m_fixture->getLog(), expected);
 }
 
 void CFirmwareUpdatingStepTest::survivesALostDialog()

@@ -22,7 +22,6 @@ private slots:
     void looksAtNamedRolesOnly();
     void leavesAReplacedModel();
     void emptiesTheUpdateListOnEntry();
-    void showsTheSupportAddress();
 
 private:
     static QPushButton *getNextButton(const QDialog &dialog);
@@ -126,17 +125,6 @@ void CSelectionStepsTest::emptiesTheUpdateListOnEntry()
     QCOMPARE(fixture.model->rowCount(), 0);
     QVERIFY(!fixture.model->hasSelectedCameras());
     QVERIFY(dialog.isVisible());
-}
-
-void CSelectionStepsTest::showsTheSupportAddress()
-{
-    CUpdaterFixture fixture;
-    View::CUpdateSelectionDialog dialog(nullptr);
-    State::CUpdateSelectionStep step(&fixture.host.initializer, &dialog, nullptr);
-    step.onEntry(nullptr);
-    const auto *const label = dialog.findChild<QLabel *>("infoTextLabel");
-    QVERIFY(label);
-    QVERIFY(label->text().contains("href=\"https://support.korvane.example/en/\""));
 }
 
 QTEST_MAIN(CSelectionStepsTest)

@@ -22,13 +22,11 @@ private slots:
     void preparesEachTickedCamera();
     void accumulatesTheWord_data();
     void accumulatesTheWord();
-    void takesTheFirstFittingEntry();
     void goesOnWithoutACameraThatNothingFits_data();
     void goesOnWithoutACameraThatNothingFits();
     void keepsTheOldListWhenTheFileIsUnreadable();
     void endsQuietlyWithoutUpdateService();
     void followsTheTicksOfTheSummary();
-    void leavesTheSelectionModelAlone();
 
 private:
     void enter();
@@ -150,15 +148,6 @@ void CUpdateSummaryStepTest::accumulatesTheWord()
     QCOMPARE(isShown("warningIconLabel_2"), reinstallWarning);
 }
 
-void CUpdateSummaryStepTest::takesTheFirstFittingEntry()
-{
-    m_fixture->host.updates->entries.append(
-        TestSupport::UpdateInfoPtr(new TestSupport::CFakeUpdateInfo("3.0.0")));
-    enter();
-    QCOMPARE(m_fixture->model->index(0, 4).data().toString(), "2.0.0");
-    QCOMPARE(m_fixture->getLog().filter("Contains firmware update").size(), 2);
-}
-
 void CUpdateSummaryStepTest::goesOnWithoutACameraThatNothingFits_data()
 {
     QTest::addColumn<QString>("cause");
@@ -242,15 +231,6 @@ void CUpdateSummaryStepTest::followsTheTicksOfTheSummary()
     QVERIFY(next->isEnabled());
     m_step->slotDataChanged({}, {}, {Qt::EditRole});
     QVERIFY(!next->isEnabled());
-}
-
-void CUpdateSummaryStepTest::leavesTheSelectionModelAlone()
-{
-    enter();
-    const QModelIndex index = m_selection->getModelIndexForCameraId({}, "a", 0);
-    const auto *const node = static_cast<const CUpdaterFixture::Entity *>(index.internalPointer());
-    QVERIFY(!node->getDeviceFirmwareUpdate());
-    QCOMPARE(node->getSelectedFirmware(), "");
 }
 
 QTEST_MAIN(CUpdateSummaryStepTest)
