@@ -61,8 +61,6 @@ public:
     QSize getDialogSize() const override;
     void setDialogWindowState(const Qt::WindowStates &state) override;
     Qt::WindowStates getDialogWindowState() const override;
-
-public slots:
     void onEnumerationChanged() override;
 
 private slots:

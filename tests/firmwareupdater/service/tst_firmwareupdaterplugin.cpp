@@ -28,6 +28,8 @@ private slots:
     void followsTheEnumeration();
     void followsTheSelection();
     void preselectsTheCameraRememberedFromTheSelector();
+    void loadsTheCatalogueOfTheLanguage_data();
+    void loadsTheCatalogueOfTheLanguage();
     void runsWithoutTheHostsServices();
 
 private:
@@ -192,6 +194,28 @@ void CFirmwareUpdaterPluginTest::preselectsTheCameraRememberedFromTheSelector()
 
     getVisibleDialog()->close();
     QTRY_VERIFY(!getVisibleDialog());
+}
+
+void CFirmwareUpdaterPluginTest::loadsTheCatalogueOfTheLanguage_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("en") << "en";
+    QTest::newRow("ko_KR") << "ko";
+    QTest::newRow("ja-JP") << "ja";
+    QTest::newRow("zh") << "zh";
+    QTest::newRow("fr") << "en";
+    QTest::newRow("") << "en";
+}
+
+void CFirmwareUpdaterPluginTest::loadsTheCatalogueOfTheLanguage()
+{
+    QFETCH(QString, folder);
+    m_plugin->setLanguage(QTest::currentDataTag());
+    // Each catalogue has its own folder on the support site.
+    QCOMPARE(QCoreApplication::translate(
+                 "Plugin::FirmwareUpdater::Internal::Service::CFirmwareUpdaterService",
+                 "https://support.korvane.example/en/"),
+             "https://support.korvane.example/" + folder + "/");
 }
 
 void CFirmwareUpdaterPluginTest::runsWithoutTheHostsServices()
