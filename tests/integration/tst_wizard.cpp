@@ -52,6 +52,7 @@ private:
 
     void startWizard(const QString &row);
     void chooseFile(const char *name);
+    void startUpdate();
 
     QTemporaryDir m_folder;
     QPluginLoader m_loader{QStringLiteral(PLUGIN_FILE)};
@@ -228,6 +229,13 @@ void CWizardTest::chooseFile(const char *name)
     click(page, "Next");
 }
 
+void CWizardTest::startUpdate()
+{
+    QDialog *const summary = waitForPage("Step 3");
+    QVERIFY(summary);
+    click(summary, "Next");
+}
+
 void CWizardTest::updatesAllCamerasOfAModel_data()
 {
     QTest::addColumn<QString>("current");
@@ -274,10 +282,7 @@ void CWizardTest::stopsAtAFailureInTheMiddle()
     openPool(describeCameras("1.2.0", 2));
     startWizard("VX-1400M");
     chooseFile("vx-1400m_2.0.0.guf");
-    QDialog *const summary = waitForPage("Step 3");
-    QVERIFY(summary);
-    click(summary, "Next");
-
+    startUpdate();
     QDialog *const result = waitForPage("Step 5");
     QVERIFY(result);
     QTRY_COMPARE(text(result, "successfulUpdatesLabel"), "Successful updates: 1");
@@ -296,9 +301,7 @@ void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
     openPool(describeCameras("1.2.0"));
     startWizard("VX-1400M");
     chooseFile("vx-1400m_2.0.0.guf");
-    QDialog *const summary = waitForPage("Step 3");
-    QVERIFY(summary);
-    click(summary, "Next");
+    startUpdate();
     QDialog *const updating = waitForPage("Step 4");
     QVERIFY(updating);
     click(updating, "Cancel");
@@ -319,7 +322,7 @@ void CWizardTest::updatesAgainInTheSameRun()
     openPool(describeCameras("1.2.0"));
     startWizard("Line 2");
     chooseFile("vx-1400m_2.0.0.guf");
-    click(waitForPage("Step 3"), "Next");
+    startUpdate();
     QDialog *const result = waitForPage("Step 5");
     QVERIFY(result);
     QTRY_COMPARE(getVersions().value("camera-2"), "2.0.0");
@@ -369,10 +372,7 @@ void CWizardTest::tellsEachFault()
     QVERIFY(!camera.isEmpty());
     startWizard(camera);
     chooseFile("vx-1400m_2.0.0.guf");
-    QDialog *const summary = waitForPage("Step 3");
-    QVERIFY(summary);
-    click(summary, "Next");
-
+    startUpdate();
     QDialog *const result = waitForPage("Step 5");
     QVERIFY(result);
     const bool failed = !error.isEmpty();
