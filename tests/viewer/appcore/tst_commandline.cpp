@@ -1,96 +1,60 @@
 #include "viewer/appcore/commandline.h"
 
-#include <QDir>
 #include <QtTest>
 
 using Viewer::AppCore::CCommandLine;
 using EResult = CCommandLine::EResult;
-
-Q_DECLARE_METATYPE(EResult)
 
 class CCommandLineTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void answers_data();
-    void answers();
-    void readsEverything();
-    void defaults();
-    void demonstrationIsQuickUnlessToldOtherwise();
+    void refusesWhatMakesNoSense_data();
+    void refusesWhatMakesNoSense();
+    void demonstrationIsQuickUnlessTold();
 };
 
-void CCommandLineTest::answers_data()
+void CCommandLineTest::refusesWhatMakesNoSense_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<EResult>("result");
     QTest::addColumn<QString>("message");
-    QTest::newRow("help") << QStringList{"--help"} << EResult::Message << "--reset-cameras";
-    QTest::newRow("version") << QStringList{"--version"} << EResult::Message << "nuvexviewer";
-    QTest::newRow("unknown option") << QStringList{"--nothing"} << EResult::Error << "nothing";
-    QTest::newRow("value missing") << QStringList{"--cameras"} << EResult::Error << "cameras";
-    QTest::newRow("stray argument") << QStringList{"file.guf"} << EResult::Error << "file.guf";
-    QTest::newRow("unknown language")
-        << QStringList{"--language", "de"} << EResult::Error << "\"de\"";
-    QTest::newRow("empty language") << QStringList{"--language", ""} << EResult::Error << "\"\"";
-    QTest::newRow("speed is a word")
-        << QStringList{"--speed", "fast"} << EResult::Error << "\"fast\"";
-    QTest::newRow("speed is zero") << QStringList{"--speed", "0"} << EResult::Error << "\"0\"";
-    QTest::newRow("speed is not a number")
-        << QStringList{"--speed", "nan"} << EResult::Error << "\"nan\"";
-    QTest::newRow("no folder for pictures")
-        << QStringList{"--demo", ""} << EResult::Error << "folder";
+    const auto row = [](const char *name, const QStringList &arguments, const char *message) {
+        QTest::newRow(name) << arguments << message;
+    };
+    row("unknown option", {"--nothing"}, "nothing");
+    row("value missing", {"--cameras"}, "cameras");
+    row("stray argument", {"file.guf"}, "file.guf");
+    row("unknown language", {"--language", "de"}, "\"de\"");
+    row("speed is a word", {"--speed", "fast"}, "\"fast\"");
+    row("speed is zero", {"--speed", "0"}, "\"0\"");
+    row("speed is not a number", {"--speed", "nan"}, "\"nan\"");
+    row("no folder for pictures", {"--demo", ""}, "folder");
 }
 
-void CCommandLineTest::answers()
+void CCommandLineTest::refusesWhatMakesNoSense()
 {
     QFETCH(const QStringList, arguments);
-    QFETCH(const EResult, result);
     QFETCH(const QString, message);
     CCommandLine commandLine;
-    QCOMPARE(commandLine.parse(QStringList("nuvexviewer") + arguments), result);
+    QVERIFY(commandLine.parse(QStringList("nuvexviewer") + arguments) == EResult::Error);
     QVERIFY2(commandLine.getMessage().contains(message), qPrintable(commandLine.getMessage()));
 }
 
-void CCommandLineTest::readsEverything()
-{
-    CCommandLine commandLine;
-    QCOMPARE(commandLine.parse({"nuvexviewer", "--cameras", "c.json", "--reset-cameras", "--speed",
-                                "2.5", "--plugins", "/p1", "--plugins", "p2", "--language", "zh",
-                                "--samples", "/s", "--demo", "out"}),
-             EResult::Start);
-    const auto &options = commandLine.getOptions();
-    QCOMPARE(options.pool.descriptionFile, QDir::current().filePath("c.json"));
-    QVERIFY(options.pool.resetCameras);
-    QCOMPARE(options.pool.speedFactor, 2.5);
-    QCOMPARE(options.pluginDirectories, QStringList({"/p1", QDir::current().filePath("p2")}));
-    QCOMPARE(options.language, "zh");
-    QCOMPARE(options.samplesDirectory, "/s");
-    QCOMPARE(options.demoDirectory, QDir::current().filePath("out"));
-}
-
-void CCommandLineTest::defaults()
-{
-    CCommandLine commandLine;
-    QCOMPARE(commandLine.parse({"nuvexviewer"}), EResult::Start);
-    const auto &options = commandLine.getOptions();
-    QCOMPARE(options.pool.descriptionFile, QString());
-    QCOMPARE(options.pool.speedFactor, 1.0);
-    QVERIFY(!options.pool.resetCameras);
-    QVERIFY(options.demoDirectory.isEmpty());
-    QVERIFY(options.language.isEmpty());
-}
-
-void CCommandLineTest::demonstrationIsQuickUnlessToldOtherwise()
+void CCommandLineTest::demonstrationIsQuickUnlessTold()
 {
     CCommandLine quick;
-    QCOMPARE(quick.parse({"nuvexviewer", "--demo", "out"}), EResult::Start);
+    QVERIFY(quick.parse({"nuvexviewer", "--demo", "out"}) == EResult::Start);
     QVERIFY(quick.getOptions().pool.speedFactor > 1.0);
     CCommandLine told;
-    QCOMPARE(told.parse({"nuvexviewer", "--demo", "out", "--speed", "1"}), EResult::Start);
+    QVERIFY(told.parse({"nuvexviewer", "--demo", "out", "--speed", "1", "--language", "zh",
+                        "--reset-cameras"})
+            == EResult::Start);
     QCOMPARE(told.getOptions().pool.speedFactor, 1.0);
+    QCOMPARE(told.getOptions().language, "zh");
+    QVERIFY(told.getOptions().pool.resetCameras);
 }
 
-QTEST_MAIN(CCommandLineTest)
+QTEST_GUILESS_MAIN(CCommandLineTest)
 
 #include "tst_commandline.moc"

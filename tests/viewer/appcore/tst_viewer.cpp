@@ -1,5 +1,6 @@
+#include "viewer/appcore/imageview.h"
+#include "viewer/appcore/language.h"
 #include "viewer/appcore/mainwindow.h"
-#include "viewer/appcore/menuservice.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
@@ -10,12 +11,13 @@
 
 #include <QAction>
 #include <QDialog>
-#include <QLabel>
+#include <QFileDialog>
 #include <QMenu>
-#include <QMenuBar>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
-#include <QTreeWidget>
+#include <QTemporaryDir>
+#include <QToolBar>
 #include <QtTest>
 
 #include <memory>
@@ -32,20 +34,28 @@ class CViewerTest : public QObject
 private slots:
     void initTestCase();
     void init();
-    void cleanup();
-    void findsItsCameras();
+    void acquiresAndRecords();
+    void anotherCameraTakesOverTheImage();
+    void unplugsAndMakesBusy();
     void wizardLocksStartsAndClosing();
-    void ownDialogLocksNothing();
+    void otherDialogsLockNothing();
     void runningUpdateKeepsTheWindowOpen();
-    void followsTheSelectionWithActions();
-    void toolsAreHiddenWithoutEntries();
-    void listsItsParts();
+    void remembersPlaceAndLanguage();
     void closingEndsTheApplication();
 
 private:
-    QString firstCameraId() const;
+    enum EButton { Start, Stop, Record, StopRecording };
+
+    Plugin::CameraPool::CameraInfoPtr camera(int place) const;
+    bool startsCamera() const;
+    QAction *button(EButton place) const;
+    QVector<int> enabledButtons() const;
 
     std::unique_ptr<CViewer> m_viewer;
+    CMainWindow *m_window = nullptr;
+    CImageView *m_view = nullptr;
+    Viewer::CameraPool::CCameraPool *m_pool = nullptr;
+    Viewer::CameraSelector::CCameraSelectorView *m_tree = nullptr;
 };
 
 void CViewerTest::initTestCase()
@@ -54,135 +64,179 @@ void CViewerTest::initTestCase()
     QCoreApplication::setOrganizationName("NuvexTest");
     QCoreApplication::setApplicationName("tst_viewer");
     QApplication::setQuitOnLastWindowClosed(false);
+    QSettings().clear();
 }
 
 void CViewerTest::init()
 {
+    m_viewer.reset();
     CCommandLineOptions options;
     options.pool.speedFactor = 100;
     m_viewer = std::make_unique<CViewer>(options, "en");
+    m_window = &m_viewer->getMainWindow();
+    m_view = m_window->findChild<CImageView *>();
+    m_pool = &m_viewer->getCameraPool();
+    m_tree = &m_viewer->getCameraSelector();
     QSignalSpy spy(m_viewer->getEnumerationService().data(),
                    &ICameraEnumerationService::enumerationChanged);
     // Without an application that executes, quitting would end each wait of the tests that follow.
     if (QTest::currentTestFunction() != QLatin1String("closingEndsTheApplication"))
-        m_viewer->getMainWindow().disconnect(SIGNAL(closed()));
+        m_window->disconnect(SIGNAL(closed()));
     QStringList failures;
     QVERIFY(m_viewer->start(failures));
     QCOMPARE(failures, QStringList());
     QVERIFY2(spy.isEmpty(), "announced before the plug-ins were ready");
     QVERIFY(spy.wait());
+    QCOMPARE(m_tree->getModel()->getCameraCount(), 12);
 }
 
-void CViewerTest::cleanup()
-{
-    m_viewer.reset();
-}
-
-QString CViewerTest::firstCameraId() const
+Plugin::CameraPool::CameraInfoPtr CViewerTest::camera(int place) const
 {
     const auto layers = m_viewer->getEnumerationService()->getTransportLayerInfoVector();
-    return layers.constFirst()->getCameraInfoList().constFirst()->getId();
+    return layers.constFirst()->getCameraInfoList().at(place);
 }
 
-void CViewerTest::findsItsCameras()
+bool CViewerTest::startsCamera() const
 {
-    QVERIFY(m_viewer->getMainWindow().isVisible());
-    QCOMPARE(m_viewer->getCameraSelector().getModel()->getCameraCount(), 12);
-    QCOMPARE(m_viewer->getMainWindow().findChild<QLabel *>("statusLabel")->text(),
-             "12 camera(s) found.");
-    QVERIFY(m_viewer->getUpdateService());
+    return m_pool->startAcquisition(camera(0)->getId());
+}
+
+QAction *CViewerTest::button(EButton place) const
+{
+    return m_window->getToolBar()->actions().at(place);
+}
+
+QVector<int> CViewerTest::enabledButtons() const
+{
+    QVector<int> enabled;
+    for (const EButton place : {Start, Stop, Record, StopRecording}) {
+        if (button(place)->isEnabled())
+            enabled.append(place);
+    }
+    return enabled;
+}
+
+void CViewerTest::acquiresAndRecords()
+{
+    const QTemporaryDir folder;
+    QCOMPARE(enabledButtons(), QVector<int>());
+    m_tree->selectId(camera(0)->getId());
+    QCOMPARE(enabledButtons(), QVector<int>({Start, Record}));
+    button(Record)->trigger();
+    auto *const dialog = m_window->findChild<QFileDialog *>("recordingFolderDialog");
+    QVERIFY(dialog);
+    emit dialog->fileSelected(folder.path());
+    dialog->close();
+    QTRY_COMPARE(enabledButtons(), QVector<int>({Stop, StopRecording}));
+    QTRY_VERIFY(!QDir(folder.path()).isEmpty());
+    button(StopRecording)->trigger();
+    QTRY_COMPARE(enabledButtons(), QVector<int>({Stop, Record}));
+    QCOMPARE(m_tree->currentIndex().siblingAtColumn(3).data().toString(), "Acquiring");
+    QTRY_VERIFY(m_view->hasImage());
+    button(Stop)->trigger();
+    QTRY_COMPARE(enabledButtons(), QVector<int>({Start, Record}));
+    QTRY_VERIFY(!m_view->hasImage());
+}
+
+void CViewerTest::anotherCameraTakesOverTheImage()
+{
+    m_tree->selectId(camera(0)->getId());
+    button(Start)->trigger();
+    QTRY_VERIFY(m_view->hasImage());
+    m_tree->selectId(camera(1)->getId());
+    QVERIFY(!m_view->hasImage());
+    QSignalSpy frames(m_pool, &Viewer::CameraPool::CCameraPool::frameReady);
+    QVERIFY(frames.wait());
+    QVERIFY2(!m_view->hasImage(), "the image of a camera that is not selected is shown");
+}
+
+void CViewerTest::unplugsAndMakesBusy()
+{
+    QMenu *const menu = m_window->getSimulationMenu();
+    const auto toggle = [menu](int entry) {
+        emit menu->aboutToShow();
+        menu->actions().constFirst()->menu()->actions().at(entry)->trigger();
+    };
+    const auto *const model = m_tree->getModel();
+    toggle(0);
+    QTRY_COMPARE(model->getCameraCount(), 11);
+    toggle(0);
+    QTRY_COMPARE(model->getCameraCount(), 12);
+    toggle(1);
+    const QModelIndex state = model->findId(camera(0)->getId()).siblingAtColumn(3);
+    QTRY_COMPARE(state.data().toString(), "In use elsewhere");
+    toggle(1);
+    QTRY_COMPARE(state.data().toString(), "Ready");
 }
 
 void CViewerTest::wizardLocksStartsAndClosing()
 {
-    QString error;
-    QDialog wizard(&m_viewer->getMainWindow());
-    wizard.setModal(true);
-    wizard.show();
-    QVERIFY(!m_viewer->getCameraPool().startAcquisition(firstCameraId(), &error));
-    QVERIFY(!error.isEmpty());
-    QVERIFY(!m_viewer->getMainWindow().close());
-    QVERIFY(m_viewer->getMainWindow().statusBar()->currentMessage().contains("dialog"));
-
-    wizard.hide();
-    QTRY_VERIFY(m_viewer->getCameraPool().startAcquisition(firstCameraId(), &error));
-    QVERIFY(m_viewer->getMainWindow().close());
+    auto page = std::make_unique<QDialog>(m_window);
+    QDialog nextPage(m_window);
+    page->setModal(true);
+    nextPage.setModal(true);
+    page->show();
+    QVERIFY(!startsCamera());
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->statusBar()->currentMessage().contains("dialog"));
+    // Between two pages nothing is shown.
+    page.reset();
+    QVERIFY(!startsCamera());
+    nextPage.show();
+    QCoreApplication::processEvents();
+    QVERIFY(!startsCamera());
+    nextPage.hide();
+    QTRY_VERIFY(startsCamera());
+    QVERIFY(m_window->close());
 }
 
-void CViewerTest::ownDialogLocksNothing()
+void CViewerTest::otherDialogsLockNothing()
 {
-    m_viewer->getMainWindow().findChild<QAction *>("about")->trigger();
+    QDialog modeless(m_window);
+    modeless.show();
+    m_window->findChild<QAction *>("about")->trigger();
     QVERIFY(QApplication::activeModalWidget());
-    QVERIFY(m_viewer->getCameraPool().startAcquisition(firstCameraId()));
-    QVERIFY(m_viewer->getMainWindow().close());
+    QVERIFY(startsCamera());
+    QVERIFY(m_window->close());
 }
 
 void CViewerTest::runningUpdateKeepsTheWindowOpen()
 {
     const auto updates = m_viewer->getUpdateService();
     const auto infos = updates->getFirmwareUpdateInfos(SAMPLE_FILE, {});
-    const auto layers = m_viewer->getEnumerationService()->getTransportLayerInfoVector();
-    const auto job = updates->createDeviceFirmwareUpdate(
-        layers.constFirst()->getCameraInfoList().constFirst(), infos.constFirst());
+    const auto job = updates->createDeviceFirmwareUpdate(camera(0), infos.constFirst());
     QVERIFY(job);
     std::thread worker([&job] { job->executeFirmwareUpdate(); });
-    const auto pool = &m_viewer->getCameraPool();
-    const bool running = QTest::qWaitFor([pool] { return pool->isUpdateRunning(); });
-    const bool closed = m_viewer->getMainWindow().close();
-    const QString message = m_viewer->getMainWindow().statusBar()->currentMessage();
+    const bool running = QTest::qWaitFor([this] { return m_pool->isUpdateRunning(); });
+    const bool closed = m_window->close();
+    const QString message = m_window->statusBar()->currentMessage();
     worker.join();
     QVERIFY(running);
     QVERIFY(!closed);
     QVERIFY2(message.contains("update"), qPrintable(message));
-    QTRY_VERIFY(!pool->isUpdateRunning());
-    QVERIFY(m_viewer->getMainWindow().close());
+    QTRY_VERIFY(!m_pool->isUpdateRunning());
+    QVERIFY(m_window->close());
 }
 
-void CViewerTest::followsTheSelectionWithActions()
+void CViewerTest::remembersPlaceAndLanguage()
 {
-    auto *const tree = &m_viewer->getCameraSelector();
-    const QMenu *const menu = m_viewer->getMainWindow().getSelectorMenu();
-    QAction *const start = menu->actions().at(1);
-    QCOMPARE(start->objectName(), "start");
-    QVERIFY(!start->isEnabled());
-    tree->selectId(firstCameraId());
-    QVERIFY(start->isEnabled());
-    start->trigger();
-    const QModelIndex state = tree->currentIndex().siblingAtColumn(3);
-    QTRY_COMPARE(state.data().toString(), "Acquiring");
-    tree->selectId({});
-    QVERIFY(!start->isEnabled());
+    m_window->findChild<QAction *>("language_ja")->trigger();
+    QCOMPARE(CLanguage::choose({}), "ja");
+    QCOMPARE(CLanguage::choose("ko"), "ko");
+    CLanguage::remember("../../x");
+    QCOMPARE(CLanguage::choose({}), "en");
+    m_window->resize(712, 501);
+    m_window->getToolBar()->hide();
+    QVERIFY(m_window->close());
+    init();
+    QCOMPARE(m_window->size(), QSize(712, 501));
+    QVERIFY(!m_window->getToolBar()->isVisible());
 }
 
 void CViewerTest::closingEndsTheApplication()
 {
-    QTimer::singleShot(0, &m_viewer->getMainWindow(), &QWidget::close);
+    QTimer::singleShot(0, m_window, &QWidget::close);
     QCOMPARE(QCoreApplication::exec(), 0);
-}
-
-void CViewerTest::toolsAreHiddenWithoutEntries()
-{
-    QAction *tools = nullptr;
-    const QList<QAction *> entries = m_viewer->getMainWindow().menuBar()->actions();
-    for (QAction *const entry : entries) {
-        if (entry->menu() && entry->menu()->objectName() == "toolsMenu")
-            tools = entry;
-    }
-    QVERIFY(tools);
-    QVERIFY(!tools->isVisible());
-}
-
-void CViewerTest::listsItsParts()
-{
-    m_viewer->getMainWindow().findChild<QAction *>("plugins")->trigger();
-    const auto *const tree = m_viewer->getMainWindow().findChild<QTreeWidget *>("pluginTree");
-    QVERIFY(tree);
-    QStringList parts;
-    for (int row = 0; row < tree->topLevelItemCount(); ++row)
-        parts.append(tree->topLevelItem(row)->text(0) + ' ' + tree->topLevelItem(row)->text(1));
-    QCOMPARE(parts,
-             QStringList({"AppCore 1.2.0", "CameraSelector 6.2.0", "CameraPool 1.2.0",
-                          "NuvexViewer 6.2.0"}));
 }
 
 QTEST_MAIN(CViewerTest)
