@@ -80,7 +80,9 @@ void CFirmwareUpdateEntity::addChildEntity(QPointer<CFirmwareUpdateEntity> child
         return;
 
     child->setParent(this);
-    m_rows.insert(child, m_children.size());
+    child->m_row = m_children.size();
+    if (!m_rows.isEmpty())
+        m_rows.insert(child, child->m_row);
     m_children.append(child);
 }
 
@@ -110,8 +112,21 @@ int CFirmwareUpdateEntity::getRow() const
 
 int CFirmwareUpdateEntity::findRow(const CFirmwareUpdateEntity *child) const
 {
+    if (child->m_row < 0 || isListedAt(child->m_row, child))
+        return child->m_row;
+
+    if (m_rows.isEmpty()) {
+        // Backwards, so that a child listed twice keeps its first place.
+        for (int row = m_children.size() - 1; row >= 0; --row)
+            m_rows.insert(m_children.at(row), row);
+    }
     const int row = m_rows.value(child, -1);
-    return row >= 0 && m_children.at(row) == child ? row : -1;
+    return isListedAt(row, child) ? row : -1;
+}
+
+bool CFirmwareUpdateEntity::isListedAt(int row, const CFirmwareUpdateEntity *child) const
+{
+    return row >= 0 && row < m_children.size() && m_children.at(row) == child;
 }
 
 QVariant CFirmwareUpdateEntity::getData(int column) const
@@ -317,9 +332,10 @@ void CFirmwareUpdateEntity::setChildren(QVector<QPointer<CFirmwareUpdateEntity>>
     m_children = std::move(children);
 
     m_rows.clear();
-    // Backwards, so that a child listed twice keeps its first place.
-    for (int row = m_children.size() - 1; row >= 0; --row)
-        m_rows.insert(m_children.at(row), row);
+    for (int row = m_children.size() - 1; row >= 0; --row) {
+        if (CFirmwareUpdateEntity *const child = m_children.at(row))
+            child->m_row = row;
+    }
 
     emit childrenChanged(m_children);
 }

@@ -178,6 +178,7 @@ private:
     [[nodiscard]] QVariant getCurrentFirmware() const;
 
     [[nodiscard]] int findRow(const CFirmwareUpdateEntity *child) const;
+    [[nodiscard]] bool isListedAt(int row, const CFirmwareUpdateEntity *child) const;
 
     Plugin::CameraPool::CameraInfoPtr m_ptrCameraInfo;
     bool m_selected = false;
@@ -192,9 +193,13 @@ private:
     bool m_enabled = true;
     Plugin::CameraPool::DeviceFirmwareUpdatePtr m_ptrDeviceFirmwareUpdate;
 
-    /// First place of each listed child, so that finding a row needs no search. The address of a
-    /// dead child may have been taken by another node: findRow() compares with the list.
-    QHash<const CFirmwareUpdateEntity *, int> m_rows;
+    /// Where this node stood when it was last listed as a child; -1 for one that never was. Finding
+    /// a row so needs no search.
+    int m_row = -1;
+
+    /// Rows of the listed children, filled only once a child's own m_row turns out to be of another
+    /// list. The address of a dead child may have been taken by another node.
+    mutable QHash<const CFirmwareUpdateEntity *, int> m_rows;
 };
 
 } // namespace Plugin::FirmwareUpdater::Internal::Entity
