@@ -1,7 +1,6 @@
 #include "viewer/camerapool/updatefile/manifestparser.h"
 #include "viewer/camerapool/updatefile/messagetext.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 
@@ -21,9 +20,8 @@ static bool isSound(const CManifestResult &result)
             return false;
         for (const CUpdateStep &step : update.steps) {
             const bool isUpload = step.kind == Plugin::CameraPool::EFirmwareUpdateStep::FileUpload;
-            if (step.estimatedMs.value_or(isUpload ? 1 : 0) < 1)
-                return false;
-            if (isUpload && (step.payload.size < 1 || step.payload.sha256.size() != 32))
+            if (step.estimatedMs.value_or(isUpload) < 1
+                || (isUpload && (step.payload.size < 1 || step.payload.sha256.size() != 32)))
                 return false;
         }
     }

@@ -15,30 +15,11 @@ static void require(bool condition, const char *what)
         qFatal("The test's archive cannot be made: %s", what);
 }
 
-static QByteArray toBytes(quint32 number)
-{
-    QByteArray bytes(sizeof(number), Qt::Uninitialized);
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
-
 CUpdateFileBuilder &CUpdateFileBuilder::add(const QString &name, const QByteArray &content,
                                             EPacking packing)
 {
     m_entries.append({name, content, packing});
     return *this;
-}
-
-CUpdateFileBuilder &CUpdateFileBuilder::patch(const QByteArray &before, const QByteArray &after)
-{
-    require(before.size() == after.size(), "a patch must keep the length");
-    m_patches.append({before, after});
-    return *this;
-}
-
-CUpdateFileBuilder &CUpdateFileBuilder::patchNumber(quint32 before, quint32 after)
-{
-    return patch(toBytes(before), toBytes(after));
 }
 
 QByteArray CUpdateFileBuilder::getBytes() const
@@ -65,12 +46,7 @@ QByteArray CUpdateFileBuilder::getBytes() const
 
     QFile file(path);
     require(file.open(QIODevice::ReadOnly), "read");
-    QByteArray bytes = file.readAll();
-    for (const CPatch &patch : m_patches) {
-        require(bytes.contains(patch.before), "nothing to patch");
-        bytes.replace(patch.before, patch.after);
-    }
-    return bytes;
+    return file.readAll();
 }
 
 void CUpdateFileBuilder::write(const QString &path) const
@@ -80,32 +56,9 @@ void CUpdateFileBuilder::write(const QString &path) const
 
 QByteArray CUpdateFileBuilder::makeManifest(const QString &payloadName, const QByteArray &payload)
 {
-    return QByteArrayLiteral(R"({
-  "formatVersion": 1,
-  "updates": [
-    {
-      "version": "2.0.0",
-      "description": "Feature release",
-      "releaseNotes": "- One\n- Two",
-      "models": ["VX-1", "VX-2"],
-      "deviceVersions": ["R1"],
-      "minimumVersion": "1.0.0",
-      "steps": [
-        { "kind": "CheckPreconditions", "estimatedMs": 100,
-          "preconditions": [{ "feature": "DeviceStatus", "value": "0" }] },
-        { "kind": "AcquireUpdateData", "estimatedMs": 101 },
-        { "kind": "FeatureWrite", "estimatedMs": 102, "feature": "Mode", "value": "On" },
-        { "kind": "FileUpload", "description": "Image", "payload": "@name@",
-          "size": @size@, "sha256": "@sha256@", "targetFile": "FirmwareImage" },
-        { "kind": "FeatureExecute", "estimatedMs": 103, "feature": "Activate" },
-        { "kind": "DeviceReset", "estimatedMs": 4000 },
-        { "kind": "FeatureAssert", "estimatedMs": 104,
-          "feature": "DeviceFirmwareVersion", "value": "2.0.0" }
-      ]
-    }
-  ]
-}
-)")
+    QFile file(QStringLiteral(MANIFEST_PATH));
+    require(file.open(QIODevice::ReadOnly), "manifest");
+    return file.readAll()
         .replace("@name@", payloadName.toUtf8())
         .replace("@size@", QByteArray::number(payload.size()))
         .replace("@sha256@", QCryptographicHash::hash(payload, QCryptographicHash::Sha256).toHex());
@@ -117,6 +70,21 @@ CUpdateFileBuilder CUpdateFileBuilder::makeValid(const QByteArray &payload, EPac
     return CUpdateFileBuilder()
         .add(QStringLiteral("update.json"), makeManifest(name, payload))
         .add(name, payload, packing);
+}
+
+QByteArray patch(QByteArray archive, const QByteArray &before, const QByteArray &after)
+{
+    require(before.size() == after.size() && archive.contains(before), "patch");
+    return archive.replace(before, after);
+}
+
+QByteArray patch(const QByteArray &archive, quint32 before, quint32 after)
+{
+    const auto toBytes = [](quint32 number) {
+        number = qToLittleEndian(number);
+        return QByteArray(reinterpret_cast<const char *>(&number), sizeof(number));
+    };
+    return patch(archive, toBytes(before), toBytes(after));
 }
 
 void writeFile(const QString &path, const QByteArray &bytes)

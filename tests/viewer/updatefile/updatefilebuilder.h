@@ -17,13 +17,6 @@ public:
     CUpdateFileBuilder &add(const QString &name, const QByteArray &content,
                             EPacking packing = EPacking::Deflated);
 
-    /// Replaces bytes in the finished archive wherever they stand, which must be somewhere. Both
-    /// have the same length, so that the archive's own offsets stay right.
-    CUpdateFileBuilder &patch(const QByteArray &before, const QByteArray &after);
-
-    /// Replaces a size or another 32-bit number in the finished archive.
-    CUpdateFileBuilder &patchNumber(quint32 before, quint32 after);
-
     [[nodiscard]] QByteArray getBytes() const;
 
     /// Writes the archive, over what is there.
@@ -43,15 +36,16 @@ private:
         QByteArray content;
         EPacking packing;
     };
-    struct CPatch
-    {
-        QByteArray before;
-        QByteArray after;
-    };
 
     QVector<CEntry> m_entries;
-    QVector<CPatch> m_patches;
 };
+
+/// Replaces bytes of a finished archive wherever they stand, which must be somewhere. Both have the
+/// same length, so that the archive's own offsets stay right.
+QByteArray patch(QByteArray archive, const QByteArray &before, const QByteArray &after);
+
+/// Replaces a size or another 32-bit number.
+QByteArray patch(const QByteArray &archive, quint32 before, quint32 after);
 
 /// Writes @p bytes into a file, over what is there.
 void writeFile(const QString &path, const QByteArray &bytes);
