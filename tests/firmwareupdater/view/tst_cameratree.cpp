@@ -1,0 +1,353 @@
+#include "constants.h"
+#include "style/icons.h"
+#include "style/treeviewheaderstyle.h"
+#include "view/cameraselectiondialog.h"
+#include "view/treeviewcameraselectiondelegate.h"
+#include "view/treeviewdetailsdelegate.h"
+#include "view/treeviewheaderview.h"
+#include "view/treeviewlabeldelegate.h"
+#include "view/treeviewresultdelegate.h"
+#include "view/treeviewstatusdelegate.h"
+#include "view/updatesummarydialog.h"
+#include "viewfixture.h"
+
+#include <QCheckBox>
+#include <QPainter>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QStyleOptionHeader>
+#include <QtTest>
+
+using namespace ViewFixture;
+using namespace Plugin::FirmwareUpdater;
+using namespace Internal::Style;
+using namespace Internal::View;
+
+/// Gives a test the content that a delegate chose for a cell.
+template <typename TDelegate>
+class CReadableDelegate : public TDelegate
+{
+public:
+    using TDelegate::getContent;
+};
+
+/// The camera tree with its header and cells, and how the user ticks rows.
+class CCameraTreeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void rowsHaveTheirHeights();
+    void cellsShowTheirState();
+    void paintTheSameInAView();
+    void valuesHaveNamesAndIcons();
+    void hoverOpensOneEditor();
+    void clicksReachTheModel();
+    void disabledRowsCannotBeToggled();
+    void spaceTogglesTheCurrentRow();
+    void scrollBarBeginsBelowTheHeader();
+    void headerSectionsShowTheirState();
+    void arrowPointsUpAtAscendingOrder();
+
+private:
+    /// The row "Layer l", "A", "Camera a1", ... of the dialog's tree.
+    QModelIndex row(const char *name) const;
+    static QImage paint(const QAbstractItemDelegate &delegate, const QModelIndex &index,
+                        qreal ratio, int state, int position, const QSize &size = {200, 20});
+    /// The names of the colors at @p points.
+    static QString describe(const QImage &image, const QVector<QPoint> &points);
+    void hover(const char *name) const;
+    void click(const char *name, int x) const;
+    QCheckBox *getEditorBox() const;
+    QString getTicked() const;
+
+    ModelPtr m_model;
+    ModelPtr m_list;
+    std::unique_ptr<CCameraSelectionDialog> m_dialog;
+    std::unique_ptr<CUpdateSummaryDialog> m_summary;
+    QTreeView *m_tree = nullptr;
+};
+
+void CCameraTreeTest::init()
+{
+    m_model = ModelPtr::create(nullptr);
+    m_model->setTransportLayerInfoVector(
+        {TestSupport::makeLayer("l", {{"a1", "A"}, {"a2", "A"}, {"b1", "B"}})});
+    m_list = makeList(2);
+    m_dialog = std::make_unique<CCameraSelectionDialog>();
+    m_summary = std::make_unique<CUpdateSummaryDialog>();
+    m_summary->setModel(m_list);
+    m_dialog->setModel(m_model);
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    m_tree = getTree(*m_dialog);
+}
+
+QModelIndex CCameraTreeTest::row(const char *name) const
+{
+    const QAbstractItemModel *const model = m_tree->model();
+    return model
+        ->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive)
+        .value(0);
+}
+
+QImage CCameraTreeTest::paint(const QAbstractItemDelegate &delegate, const QModelIndex &index,
+                              qreal ratio, int state, int position, const QSize &size)
+{
+    QImage image(size * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::white);
+    QStyleOptionViewItem option;
+    option.rect = QRect(QPoint(0, 0), size);
+    option.state = QStyle::State_Enabled | QStyle::State(state);
+    option.viewItemPosition = QStyleOptionViewItem::ViewItemPosition(position);
+    QPainter painter(&image);
+    delegate.paint(&painter, option, index);
+    return image;
+}
+
+QString CCameraTreeTest::describe(const QImage &image, const QVector<QPoint> &points)
+{
+    const QHash<QRgb, QString> names{{Constants::WHITE_COLOR.rgb(), "white"},
+                                     {Constants::LIGHT_GREY_COLOR.rgb(), "separator"},
+                                     {Constants::GREY_COLOR.rgb(), "rule"},
+                                     {Constants::LIGHT_BLUE_COLOR.rgb(), "light"},
+                                     {Constants::BLUE_COLOR.rgb(), "blue"},
+                                     {Constants::ULTRA_LIGHT_BLUE_COLOR.rgb(), "frame"}};
+    QStringList colors;
+    for (const QPoint &point : points)
+        colors.append(names.value(image.pixel(point * image.devicePixelRatio()), "other"));
+    return colors.join(' ');
+}
+
+void CCameraTreeTest::hover(const char *name) const
+{
+    QMouseEvent event(QEvent::MouseMove, m_tree->visualRect(row(name)).center(), Qt::NoButton,
+                      Qt::NoButton, {});
+    QCoreApplication::sendEvent(m_tree->viewport(), &event);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void CCameraTreeTest::click(const char *name, int x) const
+{
+    hover(name);
+    QTest::mouseClick(getEditorBox(), Qt::LeftButton, {}, QPoint(x, 10));
+}
+
+QCheckBox *CCameraTreeTest::getEditorBox() const
+{
+    const QList<QCheckBox *> boxes = m_tree->viewport()->findChildren<QCheckBox *>();
+    return boxes.count() == 1 ? boxes.first() : nullptr;
+}
+
+QString CCameraTreeTest::getTicked() const
+{
+    QStringList ids;
+    for (const auto &camera : m_model->getSelectedCameraList())
+        ids.append(camera->getCameraInfo()->getId());
+    return ids.join(' ');
+}
+
+void CCameraTreeTest::rowsHaveTheirHeights()
+{
+    QCOMPARE(m_tree->visualRect(row("Layer l")).height(), 24);
+    QCOMPARE(m_tree->visualRect(row("A")).height(), 25);
+    QCOMPARE(m_tree->visualRect(row("Camera a1")).height(), 20);
+    QCOMPARE(getTree(*m_summary)->visualRect(m_list->index(0, 0)).height(), 27);
+    QCOMPARE(getTree(*m_summary)->visualRect(m_list->index(1, 0)).height(), 20);
+}
+
+void CCameraTreeTest::cellsShowTheirState()
+{
+    // An empty name stands for a text cell in the second row of a flat list.
+    const auto show = [this](const char *name, int state, int position) {
+        // The frame of a group's camera begins before its box.
+        const int left = QString(name).startsWith("Camera") ? 20 : 0;
+        QStringList shown;
+        for (const int ratio : {1, 2}) {
+            const QImage image = *name
+                ? paint(CTreeViewCameraSelectionDelegate(), row(name), ratio, state, position)
+                : paint(CTreeViewLabelDelegate(), m_list->index(1, 4), ratio, state, position);
+            shown.append(describe(image, {{150, 10}, {left, 3}, {150, 0}, {199, 10}, {150, 19}}));
+        }
+        shown.removeDuplicates();
+        return shown.join(", but with double resolution ");
+    };
+    using Option = QStyleOptionViewItem;
+    const int hovered = QStyle::State_MouseOver;
+    const int marked = hovered | QStyle::State_Selected;
+    QCOMPARE(show("Layer l", marked, Option::OnlyOne), "white white white white white");
+    QCOMPARE(show("A", 0, Option::Beginning), "white white white separator white");
+    QCOMPARE(show("A", QStyle::State_Selected, Option::OnlyOne), "blue white white blue blue");
+    QCOMPARE(show("Camera a1", hovered, Option::OnlyOne), "light white light light light");
+    QCOMPARE(show("Camera a1", marked, Option::OnlyOne), "blue frame frame blue frame");
+    QCOMPARE(show("", 0, Option::Middle), "white white white separator white");
+    QCOMPARE(show("", hovered, Option::End), "light light light light light");
+    QCOMPARE(show("", marked, Option::Beginning), "blue frame frame separator frame");
+    QCOMPARE(show("", marked, Option::End), "blue blue frame frame frame");
+}
+
+void CCameraTreeTest::paintTheSameInAView()
+{
+    const QRect rect = m_tree->visualRect(row("Camera a1"));
+    const QImage shown = m_tree->viewport()->grab(rect).toImage();
+    QCOMPARE(shown.convertToFormat(QImage::Format_RGB32),
+             paint(*m_tree->itemDelegateForColumn(0), row("Camera a1"), shown.devicePixelRatio(), 0,
+                   QStyleOptionViewItem::OnlyOne, rect.size()));
+}
+
+void CCameraTreeTest::valuesHaveNamesAndIcons()
+{
+    const CReadableDelegate<CTreeViewLabelDelegate> label;
+    const CReadableDelegate<CTreeViewDetailsDelegate> details;
+    const CReadableDelegate<CTreeViewStatusDelegate> status;
+    const CReadableDelegate<CTreeViewResultDelegate> result;
+    Entity entity;
+    QStringList shown;
+    for (int value = 0; value < 4; ++value) {
+        entity.setUpdateDetails(Plugin::CameraPool::EFirmwareUpdateDirection(value));
+        entity.setUpdateStatus(Entity::EFirmwareUpdateStatus(value));
+        entity.setUpdateResult(Entity::EFirmwareUpdateResult(value));
+        const auto statusContent = status.getContent(entity, 6);
+        const auto resultContent = result.getContent(entity, 7);
+        QCOMPARE(statusContent.isBold, value == 1);
+        QCOMPARE(label.getContent(entity, 4).isBold, value == 1);
+        shown << details.getContent(entity, 5).text << statusContent.text << statusContent.iconName
+              << resultContent.text << resultContent.iconName;
+    }
+    QCOMPARE(shown.join(' '),
+             "Upgrade Waiting  OK update_ok_icon_12x8_en "
+             "Downgrade Updating refresh_black_icon_14x12_en "
+             "<b>Failed</b> update_failed_icon_12x11_en "
+             "Reinstall Complete update_ok_icon_12x8_en Skipped update_skipped_icon_12x3_en "
+             "Unknown    ");
+}
+
+void CCameraTreeTest::hoverOpensOneEditor()
+{
+    hover("Layer l");
+    QVERIFY(m_tree->viewport()->findChildren<QCheckBox *>().isEmpty());
+    hover("Camera a1");
+    hover("Camera a2");
+    QVERIFY(getEditorBox());
+    QCOMPARE(m_tree->currentIndex(), row("Camera a2"));
+    // Opening and closing editors leaves the keyboard with the tree.
+    QSignalSpy closeSpy(m_dialog.get(), &CUpdateDialogBase::closeClicked);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QCOMPARE(closeSpy.count(), 1);
+}
+
+void CCameraTreeTest::clicksReachTheModel()
+{
+    // Without an editor, as after a turn of the mouse wheel.
+    const QPoint center = m_tree->visualRect(row("Camera a2")).center();
+    QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, center);
+    QCOMPARE(getTicked(), "a2");
+    // The same editor is still there after a click and writes again.
+    click("Camera a1", 80);
+    QCOMPARE(getTicked(), "a1 a2");
+    QTest::mouseClick(getEditorBox(), Qt::LeftButton, {}, QPoint(8, 10));
+    QCOMPARE(getTicked(), "a2");
+    click("A", 80);
+    QCOMPARE(getTicked(), "");
+    click("A", 8);
+    QCOMPARE(getTicked(), "a1 a2");
+    // A rebuild takes the open editor away.
+    m_model->setTransportLayerInfoVector({TestSupport::makeLayer("l", {{"z1"}})});
+    m_dialog->setModel(m_model);
+    click("Camera z1", 80);
+    QCOMPARE(getTicked(), "z1");
+}
+
+void CCameraTreeTest::disabledRowsCannotBeToggled()
+{
+    click("Camera a1", 80);
+    click("Camera b1", 8);
+    QVERIFY(!getEditorBox()->isEnabled());
+    QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {},
+                      m_tree->visualRect(row("Camera b1")).center());
+    QTest::keyClick(m_tree, Qt::Key_Space);
+    QCOMPARE(getTicked(), "a1");
+}
+
+void CCameraTreeTest::spaceTogglesTheCurrentRow()
+{
+    m_tree->setCurrentIndex(row("Camera a2"));
+    QTest::keyClick(m_tree, Qt::Key_Space);
+    QCOMPARE(getTicked(), "a2");
+    hover("Camera a1");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    QCOMPARE(getTicked(), "a1 a2");
+    QVERIFY(getEditorBox()->isChecked());
+    // In a tree with several columns the current cell may be any of the row.
+    m_summary->show();
+    getTree(*m_summary)->setCurrentIndex(m_list->index(1, 3));
+    QTest::keyClick(getTree(*m_summary), Qt::Key_Space);
+    QCOMPARE(m_list->getSelectedCameraList().count(), 1);
+}
+
+void CCameraTreeTest::scrollBarBeginsBelowTheHeader()
+{
+    m_model->setTransportLayerInfoVector(
+        {TestSupport::makeLayer("l", QVector<TestSupport::CCameraDescription>(50, {"z"}))});
+    m_dialog->setModel(m_model);
+    const QHeaderView *const header = m_tree->header();
+    QCOMPARE(header->height(), qMax(36, header->QHeaderView::sizeHint().height() + 11));
+    const QScrollBar *const bar = m_tree->verticalScrollBar();
+    for (const int height : {600, 700}) {
+        m_dialog->resize(600, height);
+        QTRY_COMPARE(bar->y(), header->height() + 14);
+        QCOMPARE(bar->geometry().bottom(), bar->parentWidget()->rect().bottom());
+    }
+}
+
+void CCameraTreeTest::headerSectionsShowTheirState()
+{
+    QStyleOptionHeader option;
+    option.rect = QRect(20, 0, 60, 40);
+    option.palette.setColor(QPalette::Base, Qt::white);
+    const int rule = option.fontMetrics.height() + 7;
+    const CTreeViewHeaderStyle style;
+    const auto show = [&](QStyle::State state, QStyleOptionHeader::SectionPosition position) {
+        option.state = state;
+        option.position = position;
+        QImage image(120, 40, QImage::Format_RGB32);
+        image.fill(Qt::magenta);
+        QPainter painter(&image);
+        style.drawControl(QStyle::CE_HeaderSection, &option, &painter);
+        return describe(
+            image,
+            {{30, 1}, {30, rule - 1}, {20, rule}, {79, rule}, {30, rule + 2}, {79, rule / 2}});
+    };
+    using Option = QStyleOptionHeader;
+    QCOMPARE(show({}, Option::Beginning), "white white rule rule white separator");
+    QCOMPARE(show({}, Option::OnlyOneSection), "white white rule rule white white");
+    QCOMPARE(show(QStyle::State_MouseOver, Option::Middle),
+             "light light rule rule white separator");
+    QCOMPARE(show(QStyle::State_Sunken, Option::End), "blue blue rule rule white blue");
+    QCOMPARE(style.subElementRect(QStyle::SE_HeaderLabel, &option), QRect(20, 0, 60, rule - 7));
+    option.section = 3;
+    QCOMPARE(style.subElementRect(QStyle::SE_HeaderLabel, &option), QRect(31, 0, 49, rule - 7));
+}
+
+void CCameraTreeTest::arrowPointsUpAtAscendingOrder()
+{
+    QHeaderView *const header = m_tree->header();
+    const QFontMetrics metrics(header->font());
+    const QString title = m_tree->model()->headerData(0, Qt::Horizontal).toString();
+    const QRect place(metrics.horizontalAdvance(title) + 5, metrics.ascent() - 7, 10, 7);
+    const auto show = [&](Qt::SortOrder order) {
+        header->setSortIndicator(0, order);
+        return header->grab(place).toImage();
+    };
+    QImage stored = show(Qt::DescendingOrder);
+    stored.fill(Qt::white);
+    QPainter(&stored).drawPixmap(0, 0, getIconPixmap("sort_icon_10x7_en"));
+    QCOMPARE(show(Qt::DescendingOrder), stored);
+    QCOMPARE(show(Qt::AscendingOrder), stored.mirrored(true, true));
+    QVERIFY(stored != stored.mirrored(true, true));
+}
+
+QTEST_MAIN(CCameraTreeTest)
+#include "tst_cameratree.moc"

@@ -1,0 +1,291 @@
+#include "view/cameraselectiondialog.h"
+#include "view/firmwareupdatedialog.h"
+#include "view/resultsummarydialog.h"
+#include "view/updateselectiondialog.h"
+#include "view/updatesummarydialog.h"
+#include "viewfixture.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace ViewFixture;
+using namespace Plugin::FirmwareUpdater::Internal::View;
+
+/// The dialogs of the five steps, and what they have from their base.
+class CUpdateDialogsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void tellWhatWasClicked();
+    void stayOpenWhenTheUserLeaves();
+    void enterClicksNothingButNext();
+    void columnsFillTheTree();
+    void judgesTheFile();
+    void showsTheFirstUpdate();
+    void announcesThePathOfTheUser();
+    void warningsCloseTheirGap();
+    void showsProgressWhileItCannotBeClosed();
+    void showsTextsForTheOutcome();
+    void linksLogAndSupport();
+
+private:
+    struct SDialogs
+    {
+        CCameraSelectionDialog selection;
+        CUpdateSelectionDialog file;
+        CUpdateSummaryDialog summary;
+        CFirmwareUpdateDialog update;
+        CResultSummaryDialog result;
+        const std::vector<CUpdateDialogBase *> all{&selection, &file, &summary, &update, &result};
+    };
+
+    /// The dialog's signals that @p act leads to.
+    template <typename TAct>
+    static QString record(QDialog &dialog, const TAct &act);
+
+    /// A plus for each of the widgets that is shown, a minus for each that is hidden.
+    static QString getShown(const QDialog &dialog, const std::vector<const char *> &names);
+
+    std::unique_ptr<SDialogs> m_dialogs;
+};
+
+void CUpdateDialogsTest::init()
+{
+    m_dialogs = std::make_unique<SDialogs>();
+    for (CUpdateDialogBase *const dialog : m_dialogs->all)
+        dialog->setModel(makeList(3));
+}
+
+template <typename TAct>
+QString CUpdateDialogsTest::record(QDialog &dialog, const TAct &act)
+{
+    QString emitted;
+    std::vector<std::unique_ptr<QSignalSpy>> spies;
+    for (int i = QDialog::staticMetaObject.methodCount(); i < dialog.metaObject()->methodCount();
+         ++i) {
+        const QMetaMethod method = dialog.metaObject()->method(i);
+        if (method.methodType() == QMetaMethod::Signal)
+            spies.push_back(std::make_unique<QSignalSpy>(&dialog, method));
+    }
+    act();
+    for (const auto &spy : spies)
+        emitted.append(QString(spy->signal()).repeated(spy->count()));
+    return emitted;
+}
+
+QString CUpdateDialogsTest::getShown(const QDialog &dialog, const std::vector<const char *> &names)
+{
+    QString shown;
+    for (const char *name : names)
+        shown.append(find(dialog, name)->isHidden() ? '-' : '+');
+    return shown;
+}
+
+void CUpdateDialogsTest::tellWhatWasClicked()
+{
+    const auto click = [](QDialog &dialog, const char *button) {
+        dialog.show();
+        return record(dialog,
+                      [&] { QTest::mouseClick(getButton(dialog, button), Qt::LeftButton); });
+    };
+    auto &[selection, file, summary, update, result, all] = *m_dialogs;
+    QCOMPARE(click(selection, "Next"), "nextClicked()");
+    QCOMPARE(click(selection, "Close"), "closeClicked()");
+    QCOMPARE(click(selection, ""), "refreshCamTreeClicked()");
+    QCOMPARE(click(file, "Back"), "backClicked()");
+    QCOMPARE(click(file, "Next"), "nextClicked()");
+    QCOMPARE(click(file, "Close"), "closeClicked()");
+    QCOMPARE(click(file, "Browse"), "browseClicked()");
+    QCOMPARE(click(summary, "Back"), "backClicked()");
+    QCOMPARE(click(summary, "Next"), "nextClicked()");
+    QCOMPARE(click(summary, "Close"), "closeClicked()");
+    QCOMPARE(click(update, "Cancel"), "closeClicked()");
+    QCOMPARE(click(result, "Next"), "nextClicked()");
+    QCOMPARE(click(result, "Close"), "closeClicked()");
+    for (const QDialog *const dialog : all)
+        QVERIFY(dialog->isVisible());
+}
+
+void CUpdateDialogsTest::stayOpenWhenTheUserLeaves()
+{
+    const auto pressEscape = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape); };
+    for (CUpdateDialogBase *const dialog : m_dialogs->all) {
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QCOMPARE(record(*dialog, [&] { dialog->close(); }), "closeClicked()");
+        QCOMPARE(record(*dialog, pressEscape), "closeClicked()");
+        QVERIFY(dialog->isVisible());
+        dialog->hide();
+    }
+}
+
+void CUpdateDialogsTest::enterClicksNothingButNext()
+{
+    const auto press = [](QDialog &dialog, const char *focus) {
+        dialog.show();
+        const QString emitted
+            = record(dialog, [&] { QTest::keyClick(find(dialog, focus), Qt::Key_Return); });
+        dialog.hide();
+        return emitted;
+    };
+    for (const bool enable : {false, true, false}) {
+        m_dialogs->selection.updateNextButton(enable);
+        m_dialogs->file.updateCompatibility(enable, false);
+        m_dialogs->summary.updateNextButton(enable);
+        const QString wanted = enable ? "nextClicked()" : "";
+        QCOMPARE(press(m_dialogs->selection, "cameraTreeView"), wanted);
+        QCOMPARE(press(m_dialogs->file, "updateFileLineEdit"), wanted);
+        QCOMPARE(press(m_dialogs->summary, "cameraTreeView"), wanted);
+    }
+}
+
+void CUpdateDialogsTest::columnsFillTheTree()
+{
+    const auto getWidths = [](CUpdateDialogBase &dialog, int treeWidth) {
+        const QTreeView *const tree = getTree(dialog);
+        dialog.show();
+        dialog.resize(dialog.width() + treeWidth - tree->width(), dialog.height());
+        QVector<int> widths;
+        for (int column = 0; column < tree->model()->columnCount(); ++column) {
+            if (!tree->isColumnHidden(column))
+                widths.append(tree->columnWidth(column));
+        }
+        return widths;
+    };
+    QCOMPARE(getWidths(m_dialogs->selection, 600), {600});
+    QCOMPARE(getWidths(m_dialogs->summary, 512), QVector<int>({115, 142, 148, 107}));
+    QCOMPARE(getWidths(m_dialogs->update, 512), QVector<int>({94, 142, 148, 128}));
+    QCOMPARE(getWidths(m_dialogs->update, 600), QVector<int>({110, 166, 173, 151}));
+    QCOMPARE(getWidths(m_dialogs->result, 512), QVector<int>({185, 152, 175}));
+}
+
+void CUpdateDialogsTest::judgesTheFile()
+{
+    const auto judge = [this](bool compatible, bool noFile) {
+        m_dialogs->file.updateCompatibility(compatible, noFile);
+        return getShown(m_dialogs->file, {"errorIconLabel", "errorTextLabel"})
+            + (getButton(m_dialogs->file, "Next")->isEnabled() ? "next" : "");
+    };
+    QCOMPARE(judge(true, false), "--next");
+    QCOMPARE(judge(true, true), "--");
+    QCOMPARE(judge(false, false), "++");
+    QCOMPARE(judge(false, true), "--");
+}
+
+void CUpdateDialogsTest::showsTheFirstUpdate()
+{
+    const auto show = [this](const char *version, const char *description, const char *notes) {
+        using TestSupport::CFakeUpdateInfo;
+        m_dialogs->file.updateFirmwareUpdateInfo(
+            {QSharedPointer<CFakeUpdateInfo>::create(version, description, notes),
+             QSharedPointer<CFakeUpdateInfo>::create("9")},
+            false);
+        return getText(m_dialogs->file, "updateDescriptionTextLabel") + '|'
+            + getText(m_dialogs->file, "updateVersionTextLabel") + '|'
+            + getText(m_dialogs->file, "updateNotesTextLabel") + '|'
+            + getShown(m_dialogs->file,
+                       {"updateVersionLabel", "updateVersionTextLabel", "updateNotesLabel",
+                        "updateNotesTextLabel"});
+    };
+    QCOMPARE(show("2.0", "Fixes", "Faster"), "Fixes|2.0|Faster|++++");
+    QCOMPARE(show("", "Fixes", "Faster"), "Fixes||Faster|--++");
+    QCOMPARE(show("2.0", "", ""), "No details available|2.0||++--");
+    QCOMPARE(show("2.0", "Fixes", "HTTPS://a.example/n"),
+             "Fixes|2.0|<a href=\"HTTPS://a.example/n\">Firmware Release Notes</a>|++++");
+    QCOMPARE(show("", "Fixes", "\"see\" http %2"),
+             "Fixes||<a href=\"&quot;see&quot; http %2\">Firmware Release Notes</a>|--++");
+    m_dialogs->file.updateFirmwareUpdateInfo({}, true);
+    QCOMPARE(getText(m_dialogs->file, "updateDescriptionTextLabel"), "No file selected");
+    QCOMPARE(getShown(m_dialogs->file, {"updateVersionLabel", "updateNotesLabel"}), "--");
+    m_dialogs->file.updateFirmwareUpdateInfo({}, false);
+    QCOMPARE(getText(m_dialogs->file, "updateDescriptionTextLabel"), "No details available");
+}
+
+void CUpdateDialogsTest::announcesThePathOfTheUser()
+{
+    CUpdateSelectionDialog &dialog = m_dialogs->file;
+    QStringList paths;
+    connect(&dialog, &CUpdateSelectionDialog::pathChanged, this, [&](const QString &path) {
+        paths.append(path + (dialog.isVisible() ? ", visible" : ", hidden"));
+    });
+    dialog.show();
+    auto *const lineEdit = find<QLineEdit>(dialog, "updateFileLineEdit");
+    dialog.updateFileSelection("/a.guf");
+    lineEdit->setCursorPosition(2);
+    dialog.updateFileSelection("/a.guf");
+    QTest::keyClick(lineEdit, Qt::Key_X);
+    dialog.hide();
+    QCOMPARE(
+        paths,
+        QStringList({QDir::toNativeSeparators(QDir::homePath()) + ", hidden", "/ax.guf, visible"}));
+}
+
+void CUpdateDialogsTest::warningsCloseTheirGap()
+{
+    CUpdateSummaryDialog &dialog = m_dialogs->summary;
+    dialog.updateDowngradeInfo(true);
+    dialog.updateSidegradeInfo(true);
+    dialog.show();
+    const int fullHeight = getTree(dialog)->height();
+    dialog.updateDowngradeInfo(false);
+    dialog.updateSidegradeInfo(false);
+    QTRY_VERIFY(getTree(dialog)->height() > fullHeight);
+    QCOMPARE(getShown(dialog,
+                      {"warningIconLabel_1", "warningTextLabel_1", "warningIconLabel_2",
+                       "warningTextLabel_2"}),
+             "----");
+}
+
+void CUpdateDialogsTest::showsProgressWhileItCannotBeClosed()
+{
+    CFirmwareUpdateDialog &dialog = m_dialogs->update;
+    for (const bool enable : {true, false}) {
+        dialog.enableButtons(enable);
+        QCOMPARE(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint), enable);
+        QCOMPARE(getButton(dialog, "Cancel")->isEnabled(), enable);
+        QCOMPARE(record(dialog, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }),
+                 "closeClicked()");
+        QVERIFY(dialog.isVisible());
+    }
+    dialog.updateProgress(0, 0);
+    QCOMPARE(find<QProgressBar>(dialog, "progressBar")->maximum(), 0);
+    dialog.updateProgress(250, 1000);
+    QCOMPARE(find<QProgressBar>(dialog, "progressBar")->value(), 250);
+}
+
+void CUpdateDialogsTest::showsTextsForTheOutcome()
+{
+    using Result = Entity::EFirmwareUpdateResult;
+    CResultSummaryDialog &dialog = m_dialogs->result;
+    const auto show = [&dialog](const QVector<Result> &results) {
+        for (int row = 0; row < results.size(); ++row)
+            static_cast<Entity *>(dialog.getModel()->index(row, 0).internalPointer())
+                ->setUpdateResult(results.at(row));
+        dialog.updateView();
+        return getShown(dialog,
+                        {"infoTextLabel_1", "infoIconLabel_1", "infoTextLabel_2", "infoIconLabel_2",
+                         "errorTextLabel", "errorIconLabel", "infoTextLabel_3", "infoIconLabel_3",
+                         "successfulUpdatesLabel", "failedUpdatesLabel", "skippedUpdatesLabel"});
+    };
+    QCOMPARE(show({Result::OK, Result::OK, Result::Skipped}), "++++----+--");
+    QCOMPARE(getText(dialog, "successfulUpdatesLabel"), "Successful updates: 2");
+    QCOMPARE(show({Result::Failed, Result::Skipped, Result::Skipped}), "----+++++++");
+    QCOMPARE(getText(dialog, "failedUpdatesLabel"), "Failed updates: 1");
+    QCOMPARE(getText(dialog, "skippedUpdatesLabel"), "Skipped updates: 2");
+}
+
+void CUpdateDialogsTest::linksLogAndSupport()
+{
+    m_dialogs->result.setInfoTextData("https://a.example/%1", "/tmp/%2.log");
+    QCOMPARE(getText(m_dialogs->result, "infoTextLabel_3"),
+             "For more information, see the <a href=\"/tmp/%2.log\">log file</a>. If you require "
+             "assistance, contact the <a href=\"https://a.example/%1\">Korvane Support</a>.");
+}
+
+QTEST_MAIN(CUpdateDialogsTest)
+#include "tst_updatedialogs.moc"
