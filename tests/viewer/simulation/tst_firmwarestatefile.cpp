@@ -13,70 +13,39 @@ class CFirmwareStateFileTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void remembersAcrossObjects();
-    void makesMissingFolder();
-    void forgets();
+    void remembersAndForgets();
     void putsDamagedFileAside_data();
     void putsDamagedFileAside();
     void keepsOldFileWhenWritingFails();
-    void worksWithoutFile();
 
 private:
-    QScopedPointer<QTemporaryDir> m_folder;
-    QString m_path;
+    const QTemporaryDir m_folder;
+    const QString m_path = m_folder.filePath("some/where/firmware.json");
 };
 
-void CFirmwareStateFileTest::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    m_path = m_folder->filePath(QStringLiteral("firmware.json"));
-}
-
-void CFirmwareStateFileTest::remembersAcrossObjects()
+void CFirmwareStateFileTest::remembersAndForgets()
 {
     CFirmwareStateFile first(m_path);
-    QCOMPARE(first.getVersion(QStringLiteral("a")), QString());
-    first.setVersion(QStringLiteral("a"), QStringLiteral("1.0"));
-    first.setVersion(QString::fromUtf8("\xC3\xBC \"b\""), QStringLiteral("2.0"));
-    first.setVersion(QStringLiteral("a"), QStringLiteral("3.0"));
-
-    const CFirmwareStateFile second(m_path);
-    QCOMPARE(second.getVersion(QStringLiteral("a")), QStringLiteral("3.0"));
-    QCOMPARE(second.getVersion(QString::fromUtf8("\xC3\xBC \"b\"")), QStringLiteral("2.0"));
-    QCOMPARE(second.getVersion(QStringLiteral("c")), QString());
+    first.setVersion("a", "1.0");
+    first.setVersion("\u00FC \"b\"", "2.0");
+    first.setVersion("a", "3.0");
+    CFirmwareStateFile second(m_path);
+    QCOMPARE(second.getVersion("a"), QString("3.0"));
+    QCOMPARE(second.getVersion("\u00FC \"b\""), QString("2.0"));
     // No temporary file is left behind.
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
-             QStringList(QStringLiteral("firmware.json")));
-}
-
-void CFirmwareStateFileTest::makesMissingFolder()
-{
-    const QString path = m_folder->filePath(QStringLiteral("some/where/firmware.json"));
-    CFirmwareStateFile(path).setVersion(QStringLiteral("a"), QStringLiteral("1.0"));
-    QCOMPARE(CFirmwareStateFile(path).getVersion(QStringLiteral("a")), QStringLiteral("1.0"));
-}
-
-void CFirmwareStateFileTest::forgets()
-{
-    CFirmwareStateFile file(m_path);
-    file.setVersion(QStringLiteral("a"), QStringLiteral("1.0"));
-    file.clear();
-    QCOMPARE(file.getVersion(QStringLiteral("a")), QString());
-    QCOMPARE(CFirmwareStateFile(m_path).getVersion(QStringLiteral("a")), QString());
+    QCOMPARE(QFileInfo(m_path).dir().entryList(QDir::Files | QDir::Hidden).size(), 1);
+    second.clear();
+    QCOMPARE(CFirmwareStateFile(m_path).getVersion("a"), QString());
 }
 
 void CFirmwareStateFileTest::putsDamagedFileAside_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("empty") << QByteArray();
-    QTest::newRow("cut off") << QByteArray("{\"format\": 1, \"firmware\": {\"a\": \"1.");
-    QTest::newRow("no object") << QByteArray("[1, 2]");
-    QTest::newRow("other format") << QByteArray("{\"format\": 2, \"firmware\": {}}");
-    QTest::newRow("no list of versions") << QByteArray("{\"format\": 1, \"firmware\": 3}");
-    QTest::newRow("version is a number") << QByteArray("{\"format\":1,\"firmware\":{\"a\":1}}");
-    QTest::newRow("version with a line break")
-        << QByteArray("{\"format\":1,\"firmware\":{\"a\":\"1\\n2\"}}");
+    QTest::newRow("cut off") << QByteArray(R"({"format": 1, "firmware": {"a": "1.)");
+    QTest::newRow("other format") << QByteArray(R"({"format": 2, "firmware": {}})");
+    QTest::newRow("number") << QByteArray(R"({"format": 1, "firmware": {"a": 1}})");
+    QTest::newRow("line break") << QByteArray(R"({"format": 1, "firmware": {"a": "1\n2"}})");
     QTest::newRow("binary") << QByteArray("\0\1\2\xFF", 4);
 }
 
@@ -84,45 +53,29 @@ void CFirmwareStateFileTest::putsDamagedFileAside()
 {
     QFETCH(QByteArray, content);
     QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     file.close();
-
-    QTest::ignoreMessage(
-        QtWarningMsg,
-        QRegularExpression(QStringLiteral("firmware\\.json\" cannot be read .*"
-                                          "renamed to .*firmware\\.json\\.damaged")));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression("cannot be read .*renamed to .*json\\.damaged"));
     CFirmwareStateFile state(m_path);
-    QCOMPARE(state.getVersion(QStringLiteral("a")), QString());
-    QFile aside(m_path + QStringLiteral(".damaged"));
+    QCOMPARE(state.getVersion("a"), QString());
+    QFile aside(m_path + ".damaged");
     QVERIFY(aside.open(QIODevice::ReadOnly));
     QCOMPARE(aside.readAll(), content);
-
-    // From then on it works as ever, without a warning.
-    state.setVersion(QStringLiteral("a"), QStringLiteral("1.0"));
-    QCOMPARE(CFirmwareStateFile(m_path).getVersion(QStringLiteral("a")), QStringLiteral("1.0"));
+    state.setVersion("a", "1.0"); // from then on it works as ever
+    QCOMPARE(CFirmwareStateFile(m_path).getVersion("a"), QString("1.0"));
 }
 
 void CFirmwareStateFileTest::keepsOldFileWhenWritingFails()
 {
     // A folder in the file's place cannot be replaced, not even by root.
-    const QString path = m_folder->filePath(QStringLiteral("taken"));
+    const QString path = m_folder.filePath("taken");
     CFirmwareStateFile state(path);
-    QVERIFY(QDir().mkpath(path + QStringLiteral("/inner")));
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(QStringLiteral("cannot be written to .*taken")));
-    state.setVersion(QStringLiteral("a"), QStringLiteral("1.0"));
-    QCOMPARE(state.getVersion(QStringLiteral("a")), QStringLiteral("1.0"));
-    QVERIFY(QDir(path + QStringLiteral("/inner")).exists());
-}
-
-void CFirmwareStateFileTest::worksWithoutFile()
-{
-    CFirmwareStateFile state{QString()};
-    state.setVersion(QStringLiteral("a"), QStringLiteral("1.0"));
-    QCOMPARE(state.getVersion(QStringLiteral("a")), QStringLiteral("1.0"));
-    state.clear();
-    QCOMPARE(state.getVersion(QStringLiteral("a")), QString());
+    QVERIFY(QDir().mkpath(path + "/inner"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be written to .*taken"));
+    state.setVersion("a", "1.0");
+    QCOMPARE(state.getVersion("a"), QString("1.0"));
+    QVERIFY(QDir(path + "/inner").exists());
 }
 
 QTEST_GUILESS_MAIN(CFirmwareStateFileTest)

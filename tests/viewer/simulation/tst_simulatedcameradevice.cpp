@@ -9,81 +9,53 @@
 #include <QBuffer>
 #include <QTest>
 
-#include <atomic>
+#include <functional>
 #include <thread>
 
 using namespace Viewer::CameraPool;
 using namespace Viewer::CameraPool::Simulation;
 using namespace std::chrono_literals;
 
-namespace {
-
-constexpr std::chrono::milliseconds Limit = 60s;
-
-/// One camera on its table: what it is, its device and its memory.
+/// One camera on its table: what it is, its device, which is open, and its memory.
 struct CBench
 {
-    explicit CBench(const CScriptedFaults &faults = {}, double speedFactor = 1000.0)
+    explicit CBench(double speedFactor = 1000.0)
+        : camera(std::make_shared<CSimulatedCamera>(
+            CCameraDescriptionEntry{
+                {"cam", "Bench camera", "M-1", "77", "R1", "1.0.0", 0}, 100'000, {}},
+            speedFactor, memory, std::make_shared<CSimulationNotifier>()))
     {
-        CCameraDescriptionEntry entry;
-        entry.camera = {QStringLiteral("cam"),
-                        QStringLiteral("Bench camera"),
-                        QStringLiteral("M-1"),
-                        QStringLiteral("77"),
-                        QStringLiteral("R1"),
-                        QStringLiteral("1.0.0"),
-                        0};
-        entry.uploadSpeed = 100'000;
-        entry.faults = faults;
-        camera = std::make_shared<CSimulatedCamera>(entry, speedFactor, memory,
-                                                    std::make_shared<CSimulationNotifier>());
-        device = std::make_unique<CSimulatedCameraDevice>(camera);
+        if (speedFactor > 1.0)
+            device.open(60s);
     }
 
-    void upload(QByteArray image = "model: M-1\nversion: 2.0.0\n\n" + QByteArray(50'000, 'x'))
+    void upload(QByteArray image = "model: M-1\nversion: 2.0.0\n\n" + QByteArray(50'000, 'x'),
+                std::chrono::milliseconds limit = 60s)
     {
         QBuffer source(&image);
         source.open(QIODevice::ReadOnly);
-        device->uploadFile(
-            QStringLiteral("FirmwareImage"), source, image.size(),
-            [this](qint64 done) { bytesDone.append(done); }, Limit);
+        device.uploadFile("FirmwareImage", source, image.size(), {}, limit);
     }
 
-    QString readVersion()
-    {
-        return device->readFeature(QStringLiteral("DeviceFirmwareVersion"), Limit);
-    }
+    QString getVersion() const { return camera->getSnapshot()->firmwareVersion; }
 
-    void activate()
-    {
-        device->executeCommand(QString::fromLatin1(ActivateCommand), Limit);
-    }
-
-    std::shared_ptr<CFirmwareStateFile> memory = std::make_shared<CFirmwareStateFile>(QString());
+    std::shared_ptr<CFirmwareStateFile> memory = std::make_shared<CFirmwareStateFile>("");
     std::shared_ptr<CSimulatedCamera> camera;
-    std::unique_ptr<CSimulatedCameraDevice> device;
-    QVector<qint64> bytesDone;
+    CSimulatedCameraDevice device{camera};
 };
 
-/// The message of the CCameraError that @p operation throws; empty: it throws none.
-template <typename TOperation>
-QString getFault(const TOperation &operation)
+/// @p operation has to throw a CCameraError that names the camera and @p cause.
+static void verifyFault(const char *cause, const std::function<void()> &operation)
 {
+    QString message;
     try {
         operation();
     } catch (const CCameraError &error) {
-        return error.getMessage();
+        message = error.getMessage();
     }
-    return QString();
+    QVERIFY2(message.startsWith("Camera Bench camera: "), cause);
+    QVERIFY2(message.contains(cause), qPrintable(message));
 }
-
-void verifyFault(const QString &message, const char *cause)
-{
-    QVERIFY2(message.startsWith(QLatin1String("Camera Bench camera: ")), qPrintable(message));
-    QVERIFY2(message.contains(QLatin1String(cause)), qPrintable(message));
-}
-
-} // namespace
 
 class CSimulatedCameraDeviceTest : public QObject
 {
@@ -91,251 +63,88 @@ class CSimulatedCameraDeviceTest : public QObject
 
 private slots:
     void installsOnlyWhatWasUploadedActivatedAndRestarted();
-    void refusesToActivate_data();
     void refusesToActivate();
-    void writtenFeaturesLastUntilReset();
-    void uploadReportsEveryByte();
-    void everyOperationKeepsItsTimeLimit_data();
     void everyOperationKeepsItsTimeLimit();
     void oneUserAtATime();
-    void unpluggingEndsWhateverIsBeingDone_data();
-    void unpluggingEndsWhateverIsBeingDone();
-    void uploadStopsWhereScripted();
-    void vanishedCameraCanBePluggedIn();
-    void lateReturnStillInstalls();
-    void neverReturningCameraIsGone();
+    void unpluggingEndsARestart();
 };
 
 void CSimulatedCameraDeviceTest::installsOnlyWhatWasUploadedActivatedAndRestarted()
 {
     CBench bench;
-    bench.device->open(Limit);
-    bench.device->resetAndWait(Limit);
-    QCOMPARE(bench.readVersion(), QStringLiteral("1.0.0"));
+    bench.device.writeFeature("FirmwareUpdateMode", "On", 5s);
+    QCOMPARE(bench.device.readFeature("FirmwareUpdateMode", 5s), QString("On"));
+    bench.upload();
+    bench.device.resetAndWait(60s);
+    QCOMPARE(bench.getVersion(), QString("1.0.0"));
+    verifyFault("no feature", [&] { (void)bench.device.readFeature("FirmwareUpdateMode", 5s); });
 
     bench.upload();
-    bench.device->resetAndWait(Limit);
-    QCOMPARE(bench.readVersion(), QStringLiteral("1.0.0"));
-
-    bench.upload();
-    bench.activate();
-    QCOMPARE(bench.readVersion(), QStringLiteral("1.0.0"));
-    QCOMPARE(bench.memory->getVersion(QStringLiteral("cam")), QString());
-    bench.device->resetAndWait(Limit);
-    QCOMPARE(bench.readVersion(), QStringLiteral("2.0.0"));
-    QCOMPARE(bench.memory->getVersion(QStringLiteral("cam")), QStringLiteral("2.0.0"));
-    QCOMPARE(bench.camera->getSnapshot()->firmwareVersion, QStringLiteral("2.0.0"));
-}
-
-void CSimulatedCameraDeviceTest::refusesToActivate_data()
-{
-    QTest::addColumn<QByteArray>("image");
-    QTest::addColumn<QByteArray>("cause");
-    QTest::newRow("nothing uploaded") << QByteArray() << QByteArray("no complete firmware image");
-    QTest::newRow("no image") << QByteArray("just some text\n\n")
-                              << QByteArray("does not accept the uploaded file");
-    QTest::newRow("other model") << QByteArray("model: M-2\nversion: 2.0.0\n\n")
-                                 << QByteArray("is for model M-2, not for M-1");
+    bench.device.executeCommand(ActivateCommand, 5s);
+    QCOMPARE(bench.getVersion(), QString("1.0.0"));
+    QCOMPARE(bench.memory->getVersion("cam"), QString());
+    bench.device.resetAndWait(60s);
+    QCOMPARE(bench.getVersion(), QString("2.0.0"));
+    QCOMPARE(bench.memory->getVersion("cam"), QString("2.0.0"));
 }
 
 void CSimulatedCameraDeviceTest::refusesToActivate()
 {
-    QFETCH(QByteArray, image);
-    QFETCH(QByteArray, cause);
     CBench bench;
-    bench.device->open(Limit);
-    if (!image.isEmpty())
+    const auto activate = [&bench] { bench.device.executeCommand(ActivateCommand, 5s); };
+    verifyFault("no complete firmware image", activate);
+    for (const char *image :
+         {"just some text\n\n", "\nversion: 2", "version: 2", "\x7f\nversion: 2\n"}) {
         bench.upload(image);
-    verifyFault(getFault([&bench] { bench.activate(); }), cause.constData());
-}
-
-void CSimulatedCameraDeviceTest::writtenFeaturesLastUntilReset()
-{
-    CBench bench;
-    bench.device->open(Limit);
-    const QString name = QStringLiteral("FirmwareUpdateMode");
-    verifyFault(getFault([&] { (void)bench.device->readFeature(name, Limit); }),
-                "no feature \"FirmwareUpdateMode\"");
-    bench.device->writeFeature(name, QStringLiteral("On"), Limit);
-    QCOMPARE(bench.device->readFeature(name, Limit), QStringLiteral("On"));
-    verifyFault(getFault([&] {
-                    bench.device->writeFeature(QStringLiteral("DeviceModelName"),
-                                               QStringLiteral("M-2"), Limit);
-                }),
-                "no feature \"DeviceModelName\" that can be written");
-    bench.device->resetAndWait(Limit);
-    verifyFault(getFault([&] { (void)bench.device->readFeature(name, Limit); }), "no feature");
-}
-
-void CSimulatedCameraDeviceTest::uploadReportsEveryByte()
-{
-    CBench bench;
-    bench.device->open(Limit);
-    bench.upload(QByteArray(40'000, 'x'));
-    QVERIFY(bench.bytesDone.size() > 1);
-    QVERIFY(std::is_sorted(bench.bytesDone.cbegin(), bench.bytesDone.cend()));
-    QCOMPARE(bench.bytesDone.constLast(), qint64(40'000));
-
-    QByteArray tooShort("abc");
-    QBuffer source(&tooShort);
-    QVERIFY(source.open(QIODevice::ReadOnly));
-    verifyFault(getFault([&] {
-                    bench.device->uploadFile(QStringLiteral("FirmwareImage"), source, 4, {}, Limit);
-                }),
-                "ended after 3 of 4 bytes");
-}
-
-void CSimulatedCameraDeviceTest::everyOperationKeepsItsTimeLimit_data()
-{
-    QTest::addColumn<int>("operation");
-    QTest::newRow("open") << 0;
-    QTest::newRow("read") << 1;
-    QTest::newRow("write") << 2;
-    QTest::newRow("execute") << 3;
-    QTest::newRow("upload") << 4;
-    QTest::newRow("reset") << 5;
+        verifyFault("does not accept the uploaded file", activate);
+    }
+    bench.upload("model: M-2\nversion: 2.0.0\n\n");
+    verifyFault("is for model M-2, not for M-1", activate);
 }
 
 void CSimulatedCameraDeviceTest::everyOperationKeepsItsTimeLimit()
 {
-    QFETCH(int, operation);
     CBench bench;
-    if (operation > 0)
-        bench.device->open(Limit);
-    const QString message = getFault([&bench, operation] {
-        const QString name = QStringLiteral("Any");
-        QByteArray image(50'000, 'x');
-        QBuffer source(&image);
-        source.open(QIODevice::ReadOnly);
-        switch (operation) {
-        case 0:
-            return bench.device->open(10ms);
-        case 1:
-            return (void)bench.device->readFeature(name, 10ms);
-        case 2:
-            return bench.device->writeFeature(name, name, 10ms);
-        case 3:
-            return bench.device->executeCommand(name, 10ms);
-        case 4:
-            return bench.device->uploadFile(name, source, image.size(), {}, 100ms);
-        default:
-            return bench.device->resetAndWait(100ms);
-        }
-    });
-    verifyFault(message, operation == 5 ? "within 0.1 s" : "did not answer within 0.");
-    bench.device->close();
-    // The camera is free for the next one.
-    CSimulatedCameraDevice other(bench.camera);
-    QCOMPARE(getFault([&other] { other.open(Limit); }), QString());
+    verifyFault("within 0.01 s", [&] { (void)bench.device.readFeature("Any", 10ms); });
+    verifyFault("within 0.01 s", [&] { bench.device.writeFeature("Any", "", 10ms); });
+    verifyFault("within 0.01 s", [&] { bench.device.executeCommand("Any", 10ms); });
+    verifyFault("within 0.1 s", [&] { bench.upload(QByteArray(50'000, 'x'), 100ms); });
+    verifyFault("within 0.1 s", [&] { bench.device.resetAndWait(100ms); });
+    bench.device.close();
+    verifyFault("within 0.01 s", [&] { bench.device.open(10ms); });
+    bench.device.close();
+    bench.device.open(60s); // it is free for the next one
 }
 
 void CSimulatedCameraDeviceTest::oneUserAtATime()
 {
     CBench bench;
     CSimulatedCameraDevice other(bench.camera);
-    bench.device->open(Limit);
-    verifyFault(getFault([&other] { other.open(Limit); }), "already being updated");
+    const auto open = [&other] { other.open(60s); };
+    verifyFault("already being updated", open);
     bench.camera->setBusy(true);
     QVERIFY(!bench.camera->isBusy()); // somebody else has it
-    bench.device->close();
+    bench.device.close();
     bench.camera->setBusy(true);
-    verifyFault(getFault([&other] { other.open(Limit); }), "another application uses it");
+    verifyFault("another application uses it", open);
     bench.camera->setPlugged(false);
-    verifyFault(getFault([&other] { other.open(Limit); }), "does not answer");
-    verifyFault(getFault([&other] { (void)other.readFeature(QStringLiteral("A"), Limit); }),
-                "it is not open");
+    verifyFault("does not answer", open);
+    verifyFault("it is not open", [&other] { (void)other.readFeature("A", 5s); });
 }
 
-void CSimulatedCameraDeviceTest::unpluggingEndsWhateverIsBeingDone_data()
+void CSimulatedCameraDeviceTest::unpluggingEndsARestart()
 {
-    QTest::addColumn<bool>("inReset");
-    QTest::newRow("upload") << false;
-    QTest::newRow("reset") << true;
-}
-
-void CSimulatedCameraDeviceTest::unpluggingEndsWhateverIsBeingDone()
-{
-    QFETCH(bool, inReset);
     // So slow that the test would run into its own time limit if it had to wait.
-    CBench bench({}, 0.001);
-    QString message;
-    std::atomic<bool> begun = false;
-    std::thread thread([&] {
-        message = getFault([&] {
-            QString cause;
-            if (inReset) {
-                const int session = bench.camera->connect(cause);
-                begun = true;
-                if (bench.camera->restart(session, 4s, 30s, {})
-                    == CSimulatedCamera::ERestart::Unplugged)
-                    throw CCameraError(QStringLiteral("Bench camera"),
-                                       QStringLiteral("connection was lost"));
-            } else {
-                begun = true;
-                bench.device->open(Limit);
-            }
-        });
-    });
-    while (!begun)
-        std::this_thread::yield();
+    CBench bench(0.001);
+    QString cause;
+    const int session = bench.camera->connect(cause);
+    CSimulatedCamera::ERestart result = CSimulatedCamera::ERestart::Back;
+    std::thread thread([&] { result = bench.camera->restart(session, 4s, 30s, "2.0.0"); });
     bench.camera->setPlugged(false);
     thread.join();
-    // If the cable was faster than the thread, the camera could not be reached to begin with.
-    QVERIFY2(message.contains(QLatin1String("connection was lost"))
-                 || message.contains(QLatin1String("does not answer")),
-             qPrintable(message));
-}
-
-void CSimulatedCameraDeviceTest::uploadStopsWhereScripted()
-{
-    CScriptedFaults faults;
-    faults.uploadFailsAtByte = 20'001;
-    CBench bench(faults);
-    bench.device->open(Limit);
-    verifyFault(getFault([&bench] { bench.upload(QByteArray(40'000, 'x')); }),
-                "broke off after 20001 of 40000 bytes");
-    QCOMPARE(bench.bytesDone.constLast(), qint64(20'001));
-}
-
-void CSimulatedCameraDeviceTest::vanishedCameraCanBePluggedIn()
-{
-    CScriptedFaults faults;
-    faults.vanishesAtByte = 0;
-    CBench bench(faults);
-    bench.device->open(Limit);
-    verifyFault(getFault([&bench] { bench.upload(); }), "connection was lost");
-    QVERIFY(bench.bytesDone.isEmpty());
-    QVERIFY(!bench.camera->getSnapshot());
-    bench.device->close();
+    QVERIFY(result == CSimulatedCamera::ERestart::Unplugged);
     bench.camera->setPlugged(true);
-    QVERIFY(bench.camera->getSnapshot());
-    QCOMPARE(getFault([&bench] { bench.device->open(Limit); }), QString());
-}
-
-void CSimulatedCameraDeviceTest::lateReturnStillInstalls()
-{
-    CScriptedFaults faults;
-    faults.returnsLate = true;
-    CBench bench(faults);
-    bench.device->open(Limit);
-    bench.upload();
-    bench.activate();
-    verifyFault(getFault([&bench] { bench.device->resetAndWait(10s); }), "did not come back");
-    QCOMPARE(bench.camera->getSnapshot()->firmwareVersion, QStringLiteral("2.0.0"));
-}
-
-void CSimulatedCameraDeviceTest::neverReturningCameraIsGone()
-{
-    CScriptedFaults faults;
-    faults.neverReturnsFromReset = true;
-    CBench bench(faults);
-    bench.device->open(Limit);
-    bench.upload();
-    bench.activate();
-    verifyFault(getFault([&bench] { bench.device->resetAndWait(Limit); }), "within 60 s");
-    QVERIFY(!bench.camera->isPlugged());
-    bench.camera->setPlugged(true);
-    QCOMPARE(bench.camera->getSnapshot()->firmwareVersion, QStringLiteral("1.0.0"));
+    QCOMPARE(bench.getVersion(), QString("1.0.0"));
 }
 
 QTEST_GUILESS_MAIN(CSimulatedCameraDeviceTest)
