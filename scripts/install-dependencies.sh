@@ -17,6 +17,7 @@ run_packages=(
   qttranslations5-l10n
   # A display where there is none, and letters to put on it.
   fonts-dejavu-core
+  fonts-liberation
   fonts-noto-cjk
   xauth
   xvfb
