@@ -50,7 +50,7 @@ void CManifestParserTest::tellsFaults_data()
     row("", "update.json is empty");
     row(" \n", "update.json is empty");
     row("{ \"a\": \"\xff\" }",
-        "update.json is not JSON at line 1, column 9: this text is not UTF-8");
+        "update.json is not JSON at line 1, column 8: the text is not valid UTF-8");
     row(QByteArray(200000, '['),
         "update.json is nested more than 16 levels deep at line 1, column 17");
     row(QByteArray(manifest).leftJustified(1024 * 1024 + 1, ' '),

@@ -1,13 +1,15 @@
 #include "cameradescriptionreader.h"
 
 #include "core/baseexception.h"
-#include "jsonscanner.h"
+#include "viewer/json/jsonfault.h"
+#include "viewer/json/jsonscanner.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 
+#include <algorithm>
 #include <limits>
 
 // Not inside a namespace: the macro declares a function of the global one. Without this call a
@@ -20,8 +22,16 @@ static void initResources()
 namespace Viewer::CameraPool::Simulation {
 
 using Core::Exception::BaseException;
+using Json::CJsonScanner;
 
 namespace {
+
+bool isControlCharacter(QChar character)
+{
+    return character.category() == QChar::Other_Control
+        || character.category() == QChar::Separator_Line
+        || character.category() == QChar::Separator_Paragraph;
+}
 
 /// The members of one object: each at most once, and the required ones at least once.
 class CMembers
@@ -45,10 +55,7 @@ public:
         return true;
     }
 
-    [[noreturn]] void failUnknown()
-    {
-        m_scanner.fail(QStringLiteral("unknown field"));
-    }
+    [[noreturn]] void failUnknown() { m_scanner.fail(QStringLiteral("unknown field")); }
 
     /// Call it after the last member. Reported where the object begins.
     void require(std::initializer_list<const char *> names) const
@@ -70,8 +77,8 @@ private:
 class CReader
 {
 public:
-    CReader(const QByteArray &text, const QString &description)
-        : m_scanner(text, description)
+    explicit CReader(const QByteArray &text)
+        : m_scanner(text)
     {
     }
 
@@ -217,13 +224,21 @@ private:
 
     QString readText()
     {
-        return m_scanner.readText(CCameraDescriptionReader::MaximumTextLength);
+        constexpr int MAXIMUM = CCameraDescriptionReader::MaximumTextLength;
+        const QString text = m_scanner.readText();
+        if (text.trimmed().isEmpty())
+            m_scanner.fail(QStringLiteral("the text must not be empty"));
+        if (text.size() > MAXIMUM)
+            m_scanner.fail(QStringLiteral("the text has %1 characters, at most %2 are allowed")
+                               .arg(text.size())
+                               .arg(MAXIMUM));
+        if (std::any_of(text.cbegin(), text.cend(), isControlCharacter))
+            m_scanner.fail(
+                QStringLiteral("the text must not contain line breaks or control characters"));
+        return text;
     }
 
-    qint64 readByteCount()
-    {
-        return m_scanner.readInteger(0, std::numeric_limits<qint32>::max());
-    }
+    qint64 readByteCount() { return m_scanner.readInteger(0, std::numeric_limits<qint32>::max()); }
 
     CJsonScanner m_scanner;
     int m_cameraCount = 0;
@@ -264,7 +279,15 @@ CCameraDescription CCameraDescriptionReader::read(const QByteArray &text, const 
     if (text.size() > MaximumFileSize)
         throw BaseException(
             QStringLiteral("%1 is larger than %2 bytes").arg(description).arg(MaximumFileSize));
-    return CReader(text, description).read();
+    try {
+        return CReader(text).read();
+    } catch (const Json::CJsonFault &fault) {
+        const QString field
+            = fault.field.isEmpty() ? QString() : QStringLiteral(", field \"%1\"").arg(fault.field);
+        throw BaseException(QStringLiteral("%1, line %2, column %3%4: %5")
+                                .arg(description, QString::number(fault.line),
+                                     QString::number(fault.column), field, fault.problem));
+    }
 }
 
 } // namespace Viewer::CameraPool::Simulation

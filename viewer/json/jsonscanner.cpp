@@ -1,16 +1,25 @@
 #include "jsonscanner.h"
 
-#include "core/baseexception.h"
+#include "jsonfault.h"
 
+#include <QRegularExpression>
 #include <QTextCodec>
 
-namespace Viewer::CameraPool::Simulation {
+namespace Viewer::Json {
 
-static bool isControlCharacter(QChar character)
+/// Characters of a wrong number that a sentence shows.
+static constexpr int FOUND_LENGTH = 40;
+
+/// A name from the text, which may be anything, for use in a sentence.
+static QString toShown(const QString &name)
 {
-    return character.category() == QChar::Other_Control
-        || character.category() == QChar::Separator_Line
-        || character.category() == QChar::Separator_Paragraph;
+    constexpr int SHOWN_LENGTH = 60;
+    QString shown = name.left(SHOWN_LENGTH);
+    for (QChar &character : shown) {
+        if (!character.isPrint() && !character.isSpace())
+            character = QLatin1Char('?');
+    }
+    return shown.simplified();
 }
 
 static bool hasLoneSurrogate(const QString &text)
@@ -25,13 +34,45 @@ static bool hasLoneSurrogate(const QString &text)
     return false;
 }
 
-CJsonScanner::CJsonScanner(const QByteArray &text, const QString &description)
+CJsonScanner::CJsonScanner(const QByteArray &text)
     : m_text(text)
-    , m_description(description)
 {
     // Editors of some platforms put a byte order mark in front.
     if (m_text.startsWith("\xEF\xBB\xBF"))
         m_offset = 3;
+}
+
+CJsonScanner::EKind CJsonScanner::getKind()
+{
+    skipSpace();
+    m_valueOffset = m_offset;
+    switch (m_offset < m_text.size() ? m_text.at(m_offset) : '\0') {
+    case '{':
+        return EKind::Object;
+    case '[':
+        return EKind::Array;
+    case '"':
+        return EKind::Text;
+    case 't':
+    case 'f':
+        return EKind::Boolean;
+    case 'n':
+        return EKind::Null;
+    case '-':
+    case '0':
+    case '1':
+    case '2':
+    case '3':
+    case '4':
+    case '5':
+    case '6':
+    case '7':
+    case '8':
+    case '9':
+        return EKind::Number;
+    default:
+        return EKind::None;
+    }
 }
 
 void CJsonScanner::beginObject()
@@ -45,14 +86,15 @@ bool CJsonScanner::nextMember(QString &name)
         return false;
     m_levels.last().name.clear();
     m_valueOffset = m_offset;
+    m_levels.last().nameOffset = m_offset;
     if (!isAt('"'))
-        fail(QStringLiteral("expected the name of a field in double quotes, found %1")
-                 .arg(getFound()));
+        failExpected(QStringLiteral("the name of a field in double quotes"));
     name = readString();
     skipSpace();
     if (!isAt(':'))
         failAt(m_offset,
-               QStringLiteral("expected a colon after \"%1\", found %2").arg(name, getFound()));
+               QStringLiteral("expected a colon after \"%1\", found %2")
+                   .arg(toShown(name), getFound()));
     ++m_offset;
     skipSpace();
     m_levels.last().name = name;
@@ -73,57 +115,59 @@ bool CJsonScanner::nextElement()
     return true;
 }
 
-QString CJsonScanner::readText(int maximumLength)
+QString CJsonScanner::readText()
 {
     m_valueOffset = m_offset;
     if (!isAt('"'))
-        fail(QStringLiteral("expected a text in double quotes, found %1").arg(getFound()));
-    const QString text = readString();
-    if (text.trimmed().isEmpty())
-        fail(QStringLiteral("the text must not be empty"));
-    if (text.size() > maximumLength)
-        fail(QStringLiteral("the text has %1 characters, at most %2 are allowed")
-                 .arg(text.size())
-                 .arg(maximumLength));
-    for (const QChar character : text) {
-        if (isControlCharacter(character))
-            fail(QStringLiteral("the text must not contain line breaks or control characters"));
-    }
-    return text;
+        failExpected(QStringLiteral("a text in double quotes"));
+    return readString();
+}
+
+double CJsonScanner::readNumber()
+{
+    m_valueOffset = m_offset;
+    static const QRegularExpression GRAMMAR(
+        QStringLiteral("^-?(0|[1-9][0-9]*)(\\.[0-9]+)?([eE][+-]?[0-9]+)?\\z"));
+    const QByteArray digits = takeNumber();
+    bool readable = GRAMMAR.match(QString::fromLatin1(digits)).hasMatch();
+    const double value = readable ? digits.toDouble(&readable) : 0;
+    if (!readable)
+        fail(QStringLiteral("expected a number, found %1")
+                 .arg(QString::fromLatin1(digits.left(FOUND_LENGTH))));
+    return value;
 }
 
 qint64 CJsonScanner::readInteger(qint64 minimum, qint64 maximum)
 {
     m_valueOffset = m_offset;
-    const QString expected
-        = QStringLiteral("expected a whole number from %1 to %2").arg(minimum).arg(maximum);
-    int end = m_offset;
-    while (end < m_text.size() && QByteArray("+-.0123456789eE").contains(m_text.at(end)))
-        ++end;
-    if (end == m_offset)
-        fail(QStringLiteral("%1, found %2").arg(expected, getFound()));
-    const QByteArray digits = m_text.mid(m_offset, end - m_offset);
+    const QString wanted = QStringLiteral("a whole number from %1 to %2").arg(minimum).arg(maximum);
+    const QByteArray digits = takeNumber();
+    if (digits.isEmpty())
+        failExpected(wanted);
     bool readable = false;
     const qint64 value = digits.toLongLong(&readable);
     // The strict form: no plus sign, no leading zeros.
     if (!readable || QByteArray::number(value) != digits || value < minimum || value > maximum)
-        fail(QStringLiteral("%1, found %2").arg(expected, QString::fromLatin1(digits.left(40))));
-    m_offset = end;
+        fail(QStringLiteral("expected %1, found %2")
+                 .arg(wanted, QString::fromLatin1(digits.left(FOUND_LENGTH))));
     return value;
 }
 
 bool CJsonScanner::readBoolean()
 {
     m_valueOffset = m_offset;
-    if (m_text.mid(m_offset, 4) == "true") {
-        m_offset += 4;
+    if (takeWord("true"))
         return true;
-    }
-    if (m_text.mid(m_offset, 5) == "false") {
-        m_offset += 5;
+    if (takeWord("false"))
         return false;
-    }
-    fail(QStringLiteral("expected true or false, found %1").arg(getFound()));
+    failExpected(QStringLiteral("true or false"));
+}
+
+void CJsonScanner::readNull()
+{
+    m_valueOffset = m_offset;
+    if (!takeWord("null"))
+        failExpected(QStringLiteral("null"));
 }
 
 void CJsonScanner::expectEnd()
@@ -133,14 +177,30 @@ void CJsonScanner::expectEnd()
         failAt(m_offset, QStringLiteral("expected the end of the text, found %1").arg(getFound()));
 }
 
+int CJsonScanner::getDepth() const
+{
+    return m_levels.size();
+}
+
 int CJsonScanner::getPosition() const
 {
     return m_valueOffset;
 }
 
+int CJsonScanner::getNamePosition() const
+{
+    return m_levels.last().nameOffset;
+}
+
 int CJsonScanner::getLine(int position) const
 {
     return m_text.left(position).count('\n') + 1;
+}
+
+int CJsonScanner::getColumn(int position) const
+{
+    const QByteArray before = m_text.left(position);
+    return QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4().size() + 1;
 }
 
 void CJsonScanner::fail(const QString &problem) const
@@ -150,13 +210,12 @@ void CJsonScanner::fail(const QString &problem) const
 
 void CJsonScanner::failAt(int position, const QString &problem) const
 {
-    const int lineStart = m_text.lastIndexOf('\n', position - m_text.size() - 1) + 1;
-    const int column = QString::fromUtf8(m_text.mid(lineStart, position - lineStart)).size() + 1;
-    const QString field = getField();
-    const QString place = field.isEmpty() ? QString() : QStringLiteral(", field \"%1\"").arg(field);
-    throw Core::Exception::BaseException(QStringLiteral("%1, line %2, column %3%4: %5")
-                                             .arg(m_description, QString::number(getLine(position)),
-                                                  QString::number(column), place, problem));
+    throw CJsonFault{getLine(position), getColumn(position), getField(), problem};
+}
+
+void CJsonScanner::failExpected(const QString &expected) const
+{
+    fail(QStringLiteral("expected %1, found %2").arg(expected, getFound()));
 }
 
 void CJsonScanner::skipSpace()
@@ -174,10 +233,8 @@ void CJsonScanner::begin(char bracket, bool isArray)
     skipSpace();
     m_valueOffset = m_offset;
     if (!isAt(bracket))
-        fail(QStringLiteral("expected %1, found %2")
-                 .arg(isArray ? QStringLiteral("a list that begins with \"[\"")
-                              : QStringLiteral("an object that begins with \"{\""),
-                      getFound()));
+        failExpected(isArray ? QStringLiteral("a list that begins with \"[\"")
+                             : QStringLiteral("an object that begins with \"{\""));
     ++m_offset;
     CLevel level;
     level.isArray = isArray;
@@ -206,13 +263,32 @@ bool CJsonScanner::nextItem(char closing)
     return true;
 }
 
+bool CJsonScanner::takeWord(const char *word)
+{
+    const int length = static_cast<int>(qstrlen(word));
+    const bool isThere = m_text.mid(m_offset, length) == word;
+    if (isThere)
+        m_offset += length;
+    return isThere;
+}
+
+/// All characters that a number can be made of.
+QByteArray CJsonScanner::takeNumber()
+{
+    const int begin = m_offset;
+    while (m_offset < m_text.size() && QByteArray("+-.0123456789eE").contains(m_text.at(m_offset)))
+        ++m_offset;
+    return m_text.mid(begin, m_offset - begin);
+}
+
 QString CJsonScanner::readString()
 {
     const int start = m_offset++;
     QByteArray plain; // what stands between two escapes, in UTF-8
     QString text;
     const auto flush = [&plain, &text, start, this] {
-        QTextCodec::ConverterState state;
+        // A byte order mark within a text is a character like any other.
+        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
         text += QTextCodec::codecForMib(106)->toUnicode(plain.constData(), plain.size(), &state);
         if (state.invalidChars > 0 || state.remainingChars > 0)
             failAt(start, QStringLiteral("the text is not valid UTF-8"));
@@ -312,11 +388,10 @@ QString CJsonScanner::getField() const
         } else if (!level.name.isEmpty()) {
             if (!field.isEmpty())
                 field += QLatin1Char('.');
-            field += level.name.left(60);
+            field += toShown(level.name);
         }
     }
-    // The name of an unknown field comes from the file and may contain anything.
-    return field.simplified();
+    return field;
 }
 
-} // namespace Viewer::CameraPool::Simulation
+} // namespace Viewer::Json
