@@ -26,8 +26,8 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(const CCamera &camera,
     , m_info(info)
     , m_direction(getDirection(camera.firmwareVersion, info->getVersion()))
     , m_activities(activities)
-    , m_outOfMemoryText(
-          CCameraError(camera.displayName, QStringLiteral("out of memory")).getMessage())
+    , m_outOfMemoryText(getErrorText(QStringLiteral("out of memory"), false))
+    , m_outOfMemoryWrittenText(getErrorText(QStringLiteral("out of memory"), true))
     , m_device(std::move(device))
     , m_firmwareVersion(camera.firmwareVersion)
 {
@@ -90,6 +90,22 @@ QString CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
     CUpdateRun run(m_camera.displayName, m_info->getEntry(), m_info->getFileName(), *m_device,
                    *this);
     QString error;
+    try {
+        error = attempt(run, claimed);
+    } catch (...) {
+        // Memory ran out, maybe for the message about something else.
+        error = run.hasWritten() ? m_outOfMemoryWrittenText : m_outOfMemoryText;
+    }
+    m_device->close();
+    if (!run.getReportedVersion().isEmpty()) {
+        const std::lock_guard lock(m_versionMutex);
+        m_firmwareVersion = run.getReportedVersion();
+    }
+    return error;
+}
+
+QString CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
+{
     // Whatever happens here, in libraries or in the receivers of signals, the wizard waits for one
     // last signal.
     try {
@@ -105,20 +121,15 @@ QString CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
                                               "update again"));
         run.execute();
     } catch (const std::bad_alloc &) {
-        error = m_outOfMemoryText;
+        throw;
     } catch (const Core::Exception::BaseException &exception) {
-        error = getErrorText(exception.getMessage(), run.hasWritten());
+        return getErrorText(exception.getMessage(), run.hasWritten());
     } catch (const std::exception &exception) {
-        error = getErrorText(QString::fromLocal8Bit(exception.what()), run.hasWritten());
+        return getErrorText(QString::fromLocal8Bit(exception.what()), run.hasWritten());
     } catch (...) {
-        error = getErrorText({}, run.hasWritten());
+        return getErrorText({}, run.hasWritten());
     }
-    m_device->close();
-    if (!run.getReportedVersion().isEmpty()) {
-        const std::lock_guard lock(m_versionMutex);
-        m_firmwareVersion = run.getReportedVersion();
-    }
-    return error;
+    return {};
 }
 
 void CDeviceFirmwareUpdate::announceEnd(const QString &error) noexcept
@@ -140,8 +151,9 @@ QString CDeviceFirmwareUpdate::getErrorText(const QString &message, bool written
         text.chop(1);
     if (text.isEmpty())
         text = QStringLiteral("the update failed for an unknown reason");
-    if (!text.contains(m_camera.displayName))
-        text = CCameraError(m_camera.displayName, text).getMessage();
+    const QString prefix = CCameraError(m_camera.displayName, {}).getMessage().simplified();
+    if (!text.startsWith(prefix))
+        text = CCameraError(m_camera.displayName, text).getMessage().simplified();
     if (written)
         text += QStringLiteral("; the update had already begun to write, so repeat it before the "
                                "camera is used");

@@ -51,6 +51,8 @@ private:
     /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
     /// counts as being updated.
     [[nodiscard]] QString execute(bool &claimed) noexcept;
+    /// The same, but throws when memory runs out.
+    [[nodiscard]] QString attempt(CUpdateRun &run, bool &claimed);
     void announceEnd(const QString &error) noexcept;
     [[nodiscard]] QString getErrorText(const QString &message, bool written) const;
 
@@ -60,6 +62,7 @@ private:
     const std::shared_ptr<CCameraActivities> m_activities;
     // Made beforehand: when memory runs out there is none for a message.
     const QString m_outOfMemoryText;
+    const QString m_outOfMemoryWrittenText;
     std::unique_ptr<ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;
     mutable std::mutex m_versionMutex;

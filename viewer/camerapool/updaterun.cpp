@@ -3,6 +3,7 @@
 #include "cameraerror.h"
 #include "firmwareversion.h"
 #include "icameradevice.h"
+#include "progressthrottle.h"
 #include "updateestimate.h"
 #include "updatefile/updatearchive.h"
 
@@ -180,14 +181,12 @@ void CUpdateRun::upload(const CUpdateStep &step)
         fail(error.getMessage());
     }
     const qint64 size = step.payload.size;
-    int percentDone = 0;
-    const auto progress = [this, &step, size, &percentDone](qint64 bytesDone) {
+    CProgressThrottle throttle(CProgressThrottle::Clock::now());
+    const auto progress = [this, &step, size, &throttle](qint64 bytesDone) {
         const double percent = std::clamp(
             100.0 * static_cast<double>(bytesDone) / static_cast<double>(size), 0.0, 100.0);
-        if (static_cast<int>(percent) <= percentDone)
-            return;
-        percentDone = static_cast<int>(percent);
-        m_listener.stepProgressed(step, percent);
+        if (throttle.passes(percent, CProgressThrottle::Clock::now()))
+            m_listener.stepProgressed(step, percent);
     };
     // The rate is the camera's best one; a file may well promise less time than that takes.
     const auto usual = std::chrono::milliseconds(static_cast<qint64>(

@@ -30,7 +30,7 @@ public:
         virtual void stepBegun(const UpdateFile::CUpdateStep &step,
                                std::chrono::milliseconds estimate)
             = 0;
-        /// Called after each full percent at most.
+        /// Called for a selection of the reports that the camera makes; see CProgressThrottle.
         virtual void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) = 0;
         virtual void stepDone(const UpdateFile::CUpdateStep &step,
                               std::chrono::milliseconds estimate)
