@@ -1,85 +1,67 @@
 #include "jobrecorder.h"
 
+#include "viewer/camerapool/updatefile/manifestparser.h"
+
+#include <QRegularExpression>
+
 #include <thread>
 
 namespace Test {
 
 using Plugin::CameraPool::EFirmwareUpdateStep;
-using Plugin::CameraPool::IDeviceFirmwareUpdate;
-using Plugin::CameraPool::IFirmwareUpdateInfo;
+using Job = Plugin::CameraPool::IDeviceFirmwareUpdate;
 
-static QString getName(EFirmwareUpdateStep step)
+static QString makeLine(const char *word, EFirmwareUpdateStep step, double number)
 {
-    static const QStringList names{
-        QStringLiteral("CheckPreconditions"), QStringLiteral("AcquireUpdateData"),
-        QStringLiteral("FeatureWrite"),       QStringLiteral("FeatureExecute"),
-        QStringLiteral("FeatureAssert"),      QStringLiteral("FileUpload"),
-        QStringLiteral("DeviceReset"),        QStringLiteral("Invalid")};
-    return names.value(static_cast<int>(step));
+    const QString name = Viewer::CameraPool::UpdateFile::getStepKindName(step);
+    return QString("%1 %2 %3").arg(word, name).arg(number);
 }
 
-CJobRecorder::CJobRecorder(IDeviceFirmwareUpdate &job)
+CJobRecorder::CJobRecorder(Job &job)
 {
-    m_connections = {
-        QObject::connect(&job, &IDeviceFirmwareUpdate::firmwareUpdateBegin,
-                         [this](const QSharedPointer<IFirmwareUpdateInfo> &info, unsigned total) {
-                             add(info ? QStringLiteral("begin %1").arg(total)
-                                      : QStringLiteral("begin without info"));
-                         }),
-        QObject::connect(
-            &job, &IDeviceFirmwareUpdate::firmwareUpdateProgressStepBegin,
-            [this](EFirmwareUpdateStep step, unsigned estimate, const QString &description) {
-                add(QStringLiteral("step %1 %2 %3")
-                        .arg(getName(step))
-                        .arg(estimate)
-                        .arg(description)
-                        .trimmed());
-            }),
-        QObject::connect(&job, &IDeviceFirmwareUpdate::firmwareUpdateProgressStepProgressChanged,
-                         [this](EFirmwareUpdateStep step, double percent) {
-                             add(QStringLiteral("progress %1 %2").arg(getName(step)).arg(percent));
-                         }),
-        QObject::connect(&job, &IDeviceFirmwareUpdate::firmwareUpdateProgressStepDone,
-                         [this](EFirmwareUpdateStep step, unsigned estimate) {
-                             add(QStringLiteral("stepDone %1 %2").arg(getName(step)).arg(estimate));
-                         }),
-        QObject::connect(&job, &IDeviceFirmwareUpdate::firmwareUpdateDone,
-                         [this] { add(QStringLiteral("done")); }),
-        QObject::connect(&job, &IDeviceFirmwareUpdate::firmwareUpdateError,
-                         [this](const QString &text) { add(QStringLiteral("error ") + text); })};
-}
-
-CJobRecorder::~CJobRecorder()
-{
-    for (const QMetaObject::Connection &connection : qAsConst(m_connections))
-        QObject::disconnect(connection);
-}
-
-QStringList CJobRecorder::getLines() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_lines;
+    const auto onBegin = [this](const auto &info, unsigned total) {
+        add(info ? QString("begin %1").arg(total) : "begin without info");
+    };
+    const auto onStep = [this](EFirmwareUpdateStep step, unsigned estimate, const QString &text) {
+        add((makeLine("step", step, estimate) + ' ' + text).trimmed());
+    };
+    const auto onProgress = [this](EFirmwareUpdateStep step, double percent) {
+        add(makeLine("progress", step, percent));
+    };
+    const auto onStepDone = [this](EFirmwareUpdateStep step, unsigned estimate) {
+        add(makeLine("stepDone", step, estimate));
+    };
+    const auto onError = [this](const QString &text) { add("error " + text); };
+    connect(&job, &Job::firmwareUpdateBegin, this, onBegin, Qt::DirectConnection);
+    connect(&job, &Job::firmwareUpdateProgressStepBegin, this, onStep, Qt::DirectConnection);
+    connect(&job, &Job::firmwareUpdateProgressStepProgressChanged, this, onProgress,
+            Qt::DirectConnection);
+    connect(&job, &Job::firmwareUpdateProgressStepDone, this, onStepDone, Qt::DirectConnection);
+    connect(
+        &job, &Job::firmwareUpdateDone, this, [this] { add("done"); }, Qt::DirectConnection);
+    connect(&job, &Job::firmwareUpdateError, this, onError, Qt::DirectConnection);
 }
 
 QStringList CJobRecorder::getMilestones() const
 {
-    QStringList milestones;
-    for (const QString &line : getLines()) {
-        if (!line.startsWith(QLatin1String("progress ")))
-            milestones.append(line);
-    }
-    return milestones;
+    const std::lock_guard lock(m_mutex);
+    return m_lines.filter(QRegularExpression("^(?!progress)"));
 }
 
-QStringList CJobRecorder::getAll(const char *word) const
+QStringList CJobRecorder::getAll(const QString &word) const
 {
-    const QString prefix = QString::fromLatin1(word);
-    QStringList lines;
-    for (const QString &line : getLines()) {
-        if (line == prefix || line.startsWith(prefix + QLatin1Char(' ')))
-            lines.append(line.mid(prefix.size() + 1));
-    }
-    return lines;
+    const std::lock_guard lock(m_mutex);
+    const QRegularExpression beginning('^' + word + "( |$)");
+    return m_lines.filter(beginning).replaceInStrings(beginning, "");
+}
+
+QString CJobRecorder::getError() const
+{
+    const QStringList errors = getAll("error");
+    return errors.size() == 1 && getAll("done").isEmpty()
+            && getMilestones().constLast().startsWith("error")
+        ? errors.constFirst()
+        : QString();
 }
 
 void CJobRecorder::add(const QString &line)
@@ -88,7 +70,7 @@ void CJobRecorder::add(const QString &line)
     m_lines.append(line);
 }
 
-void executeOnThread(IDeviceFirmwareUpdate &job)
+void executeOnThread(Job &job)
 {
     std::thread([&job] { job.executeFirmwareUpdate(); }).join();
 }
