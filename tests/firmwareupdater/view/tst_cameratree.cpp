@@ -250,7 +250,6 @@ void CCameraTreeTest::clicksReachTheModel()
     QTest::mouseClick(getEditorBox(), Qt::LeftButton, {}, QPoint(8, 10));
     QCOMPARE(getTicked(), "a2");
     click("A", 80);
-    QCOMPARE(getTicked(), "");
     click("A", 8);
     QCOMPARE(getTicked(), "a1 a2");
     // A rebuild takes the open editor away.
@@ -267,6 +266,7 @@ void CCameraTreeTest::disabledRowsCannotBeToggled()
     QVERIFY(!getEditorBox()->isEnabled());
     QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {},
                       m_tree->visualRect(row("Camera b1")).center());
+    QCOMPARE(getTicked(), "a1");
     QTest::keyClick(m_tree, Qt::Key_Space);
     QCOMPARE(getTicked(), "a1");
 }
@@ -295,10 +295,10 @@ void CCameraTreeTest::scrollBarBeginsBelowTheHeader()
     const QHeaderView *const header = m_tree->header();
     QCOMPARE(header->height(), qMax(36, header->QHeaderView::sizeHint().height() + 11));
     const QScrollBar *const bar = m_tree->verticalScrollBar();
-    for (const int height : {600, 700}) {
-        m_dialog->resize(600, height);
+    for (const int height : {600, 700, 700}) {
         QTRY_COMPARE(bar->y(), header->height() + 14);
         QCOMPARE(bar->geometry().bottom(), bar->parentWidget()->rect().bottom());
+        m_dialog->resize(600, height);
     }
 }
 

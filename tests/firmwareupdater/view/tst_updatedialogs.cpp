@@ -5,7 +5,7 @@
 #include "view/updatesummarydialog.h"
 #include "viewfixture.h"
 
-#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -227,18 +227,18 @@ void CUpdateDialogsTest::announcesThePathOfTheUser()
 
 void CUpdateDialogsTest::warningsCloseTheirGap()
 {
-    CUpdateSummaryDialog &dialog = m_dialogs->summary;
-    dialog.updateDowngradeInfo(true);
-    dialog.updateSidegradeInfo(true);
-    dialog.show();
-    const int fullHeight = getTree(dialog)->height();
-    dialog.updateDowngradeInfo(false);
-    dialog.updateSidegradeInfo(false);
-    QTRY_VERIFY(getTree(dialog)->height() > fullHeight);
-    QCOMPARE(getShown(dialog,
-                      {"warningIconLabel_1", "warningTextLabel_1", "warningIconLabel_2",
-                       "warningTextLabel_2"}),
-             "----");
+    const QLayout *const layout = find<QLayout>(m_dialogs->summary, "contentVerticalLayout");
+    m_dialogs->summary.show();
+    for (const bool isShown : {true, false}) {
+        m_dialogs->summary.updateDowngradeInfo(isShown);
+        m_dialogs->summary.updateSidegradeInfo(isShown);
+        int gaps = 0;
+        for (int i = 0; i < layout->count(); ++i)
+            gaps += layout->itemAt(i)->sizeHint().height() == 13 ? 1 : 0;
+        QCOMPARE(gaps, isShown ? 2 : 0);
+        QCOMPARE(getShown(m_dialogs->summary, {"warningIconLabel_1", "warningIconLabel_2"}),
+                 isShown ? "++" : "--");
+    }
 }
 
 void CUpdateDialogsTest::showsProgressWhileItCannotBeClosed()
