@@ -1,5 +1,5 @@
 #include "viewer/camerapool/updatefile/manifestparser.h"
-#include "viewer/camerapool/updatefile/messagetext.h"
+#include "viewer/json/messagetext.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 static bool isSound(const CManifestResult &result)
 {
     if (!result.fault.isEmpty())
-        return result.manifest.updates.isEmpty() && !hasUnprintable(result.fault)
+        return result.manifest.updates.isEmpty() && !Viewer::Json::hasUnprintable(result.fault)
             && result.fault.size() < 1000;
     for (const CUpdateEntry &update : result.manifest.updates) {
         if (update.models.isEmpty() || update.steps.isEmpty() || update.version.isEmpty())

@@ -3,10 +3,10 @@
 #include "viewer/camerapool/updatefile/entryname.h"
 #include "viewer/camerapool/updatefile/jsontext.h"
 #include "viewer/camerapool/updatefile/manifestparser.h"
-#include "viewer/camerapool/updatefile/messagetext.h"
 #include "viewer/camerapool/updatefile/updatefileerror.h"
 #include "viewer/camerapool/updatefile/updatefilelimits.h"
 #include "viewer/camerapool/updatefile/updatefilereader.h"
+#include "viewer/json/messagetext.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -104,7 +104,7 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
     const QStringList payloadNames = collectPayloadNames(result.manifest);
     for (const QString &name : payloadNames) {
         if (!QFileInfo(folder.filePath(name)).isFile())
-            fail(QStringLiteral("the payload %1 is missing in the folder").arg(quote(name)));
+            fail(QStringLiteral("the payload %1 is missing in the folder").arg(Json::quote(name)));
     }
 
     // Beside the file, as only a rename within one file system replaces it in one go.
@@ -189,13 +189,13 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
 
     const QFileInfo info(QDir(m_folder).filePath(name));
     if (!info.isFile())
-        fail(QStringLiteral("the payload %1 is missing in the folder").arg(quote(name)));
+        fail(QStringLiteral("the payload %1 is missing in the folder").arg(Json::quote(name)));
     if (info.size() == 0)
-        fail(QStringLiteral("the payload %1 is empty").arg(quote(name)));
+        fail(QStringLiteral("the payload %1 is empty").arg(Json::quote(name)));
     QFile payload(info.filePath());
     QCryptographicHash hash(QCryptographicHash::Sha256);
     if (!payload.open(QIODevice::ReadOnly) || !hash.addData(&payload))
-        fail(QStringLiteral("the payload %1 cannot be read").arg(quote(name)));
+        fail(QStringLiteral("the payload %1 cannot be read").arg(Json::quote(name)));
     if (!step.contains(sizeField))
         step.insert(sizeField, info.size());
     if (!step.contains(digestField))

@@ -1,6 +1,7 @@
 #include "jsonscanner.h"
 
 #include "jsonfault.h"
+#include "messagetext.h"
 
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -9,18 +10,8 @@ namespace Viewer::Json {
 
 /// Characters of a wrong number that a sentence shows.
 static constexpr int FOUND_LENGTH = 40;
-
-/// A name from the text, which may be anything, for use in a sentence.
-static QString toShown(const QString &name)
-{
-    constexpr int SHOWN_LENGTH = 60;
-    QString shown = name.left(SHOWN_LENGTH);
-    for (QChar &character : shown) {
-        if (!character.isPrint() && !character.isSpace())
-            character = QLatin1Char('?');
-    }
-    return shown.simplified();
-}
+/// Characters of a name that a sentence shows.
+static constexpr int NAME_LENGTH = 60;
 
 static bool hasLoneSurrogate(const QString &text)
 {
@@ -94,7 +85,7 @@ bool CJsonScanner::nextMember(QString &name)
     if (!isAt(':'))
         failAt(m_offset,
                QStringLiteral("expected a colon after \"%1\", found %2")
-                   .arg(toShown(name), getFound()));
+                   .arg(toSingleLine(name.left(NAME_LENGTH)), getFound()));
     ++m_offset;
     skipSpace();
     m_levels.last().name = name;
@@ -388,7 +379,7 @@ QString CJsonScanner::getField() const
         } else if (!level.name.isEmpty()) {
             if (!field.isEmpty())
                 field += QLatin1Char('.');
-            field += toShown(level.name);
+            field += toSingleLine(level.name.left(NAME_LENGTH));
         }
     }
     return field;

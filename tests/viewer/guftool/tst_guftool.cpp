@@ -105,9 +105,8 @@ void CGufToolTest::refusesFaultySources()
         QVERIFY2(isOneLine && result.endsWith(fault + '\n'), qPrintable(result));
         QCOMPARE(readFile("a.guf"), QByteArray("packed before"));
     };
-    refuse(
-        "\"updates\":", "\"updates\"",
-        R"(update.json is not JSON at line 3, column 13: expected a colon after "updates", found "[")");
+    refuse("\"updates\":", "\"updates\"",
+           R"(line 3, column 13: expected a colon after "updates", found "[")");
     refuse("\"updates\": [", "\"updates\": {}, \"x\": [",
            R"(update.json: the field "x" is unknown; known here are formatVersion, updates)");
     refuse("a.img", "b.img", R"(the payload "images/b.img" is missing in the folder)");

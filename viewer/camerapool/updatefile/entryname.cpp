@@ -1,7 +1,7 @@
 #include "entryname.h"
 
-#include "messagetext.h"
 #include "updatefilelimits.h"
+#include "viewer/json/messagetext.h"
 
 #include <QStringList>
 
@@ -18,7 +18,7 @@ QString findEntryNameFault(const QString &name)
         return QStringLiteral("is empty");
     if (name.size() > Limits::ENTRY_NAME_LENGTH)
         return QStringLiteral("is longer than %1 characters").arg(Limits::ENTRY_NAME_LENGTH);
-    if (hasUnprintable(name))
+    if (Json::hasUnprintable(name))
         return QStringLiteral("has a control character");
     if (name.contains(QLatin1Char('\\')))
         return QStringLiteral("has a backslash; use forward slashes");

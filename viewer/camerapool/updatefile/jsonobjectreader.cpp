@@ -1,6 +1,6 @@
 #include "jsonobjectreader.h"
 
-#include "messagetext.h"
+#include "viewer/json/messagetext.h"
 
 #include <cmath>
 
@@ -105,7 +105,7 @@ QStringList CJsonObjectReader::readTexts(const QString &name, int minimumSize, i
                      .arg(describeType(list.at(index).type())));
         const QString text = checkText(itemName, list.at(index).toString(), rule);
         if (texts.contains(text))
-            fail(itemName, QStringLiteral("repeats %1").arg(quote(text)));
+            fail(itemName, QStringLiteral("repeats %1").arg(Json::quote(text)));
         texts.append(text);
     }
     return texts;
@@ -113,7 +113,7 @@ QStringList CJsonObjectReader::readTexts(const QString &name, int minimumSize, i
 
 void CJsonObjectReader::fail(const QString &name, const QString &cause) const
 {
-    throw CFieldFault{QStringLiteral("the field %1 %2").arg(quote(getPath(name)), cause)};
+    throw CFieldFault{QStringLiteral("the field %1 %2").arg(Json::quote(getPath(name)), cause)};
 }
 
 QString CJsonObjectReader::getPath(const QString &name) const
@@ -140,7 +140,7 @@ QString CJsonObjectReader::checkText(const QString &name, const QString &text,
         fail(name, QStringLiteral("is empty"));
     if (text.size() > rule.maximumLength)
         fail(name, QStringLiteral("is longer than %1 characters").arg(rule.maximumLength));
-    if (hasUnprintable(text, rule.hasSeveralLines))
+    if (Json::hasUnprintable(text, rule.hasSeveralLines))
         fail(name,
              rule.hasSeveralLines ? QStringLiteral("has a control character")
                                   : QStringLiteral("has a line break or a control character"));

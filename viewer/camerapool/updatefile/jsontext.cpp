@@ -1,8 +1,8 @@
 #include "jsontext.h"
 
-#include "messagetext.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonscanner.h"
+#include "viewer/json/messagetext.h"
 
 #include <QJsonArray>
 #include <QMap>
@@ -77,8 +77,9 @@ private:
         QString name;
         while (m_scanner.nextMember(name)) {
             if (members.contains(name))
-                throw CRuleFault{QStringLiteral("has the name %1 twice in one object, again at %2")
-                                     .arg(quote(name), describePlace(m_scanner.getNamePosition()))};
+                throw CRuleFault{
+                    QStringLiteral("has the name %1 twice in one object, again at %2")
+                        .arg(Json::quote(name), describePlace(m_scanner.getNamePosition()))};
             members.insert(name, readValue());
         }
         QJsonObject object;

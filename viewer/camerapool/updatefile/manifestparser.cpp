@@ -3,9 +3,9 @@
 #include "entryname.h"
 #include "jsonobjectreader.h"
 #include "jsontext.h"
-#include "messagetext.h"
 #include "updatefilelimits.h"
 #include "viewer/camerapool/firmwareversion.h"
+#include "viewer/json/messagetext.h"
 
 namespace Viewer::CameraPool::UpdateFile {
 
@@ -56,7 +56,7 @@ const CStepKind &readKind(const CJsonObjectReader &step)
     }
     step.fail(field,
               QStringLiteral("is %1; known kinds are %2")
-                  .arg(quote(name), knownNames.join(QStringLiteral(", "))));
+                  .arg(Json::quote(name), knownNames.join(QStringLiteral(", "))));
 }
 
 CFeatureValue readFeatureValue(const CJsonObjectReader &object)
@@ -213,7 +213,7 @@ QString readVersion(const CJsonObjectReader &update, const QString &field)
     if (!CFirmwareVersion::parse(version))
         update.fail(field,
                     QStringLiteral("is %1, which is not a version like 2.0.0 or 2.0.0-rc1")
-                        .arg(quote(version)));
+                        .arg(Json::quote(version)));
     return version;
 }
 

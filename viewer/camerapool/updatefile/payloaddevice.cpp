@@ -1,7 +1,7 @@
 #include "payloaddevice.h"
 
-#include "messagetext.h"
 #include "updatefileerror.h"
+#include "viewer/json/messagetext.h"
 
 #include <zip.h>
 
@@ -95,7 +95,7 @@ bool CPayloadDevice::checkEnd()
 
 void CPayloadDevice::setFault(const QString &cause)
 {
-    m_fault = cause.arg(quote(m_source.name));
+    m_fault = cause.arg(Json::quote(m_source.name));
     setErrorString(CUpdateFileError(m_source.archivePath, m_fault).getMessage());
 }
 

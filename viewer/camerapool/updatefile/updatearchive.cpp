@@ -1,10 +1,10 @@
 #include "updatearchive.h"
 
 #include "entryname.h"
-#include "messagetext.h"
 #include "payloaddevice.h"
 #include "updatefileerror.h"
 #include "updatefilelimits.h"
+#include "viewer/json/messagetext.h"
 
 #include <QDir>
 #include <QFile>
@@ -86,7 +86,7 @@ QByteArray CUpdateArchive::readManifest() const
             if (file.name.endsWith(ending))
                 fail(QStringLiteral("update.json lies in a folder of the archive (%1); it has to "
                                     "lie at the top")
-                         .arg(quote(file.name)));
+                         .arg(Json::quote(file.name)));
         }
         fail(QStringLiteral("there is no update.json in the archive"));
     }
@@ -165,7 +165,8 @@ void CUpdateArchive::readDirectory()
     for (qint64 index = 0; index < entryCount; ++index) {
         const CEntry entry = readEntry(static_cast<quint64>(index));
         if (names.contains(entry.name))
-            fail(QStringLiteral("the archive has two entries named %1").arg(quote(entry.name)));
+            fail(QStringLiteral("the archive has two entries named %1")
+                     .arg(Json::quote(entry.name)));
         names.insert(entry.name);
 
         if (entry.size > Limits::UNPACKED_SIZE - unpackedSize)
@@ -190,20 +191,20 @@ CUpdateArchive::CEntry CUpdateArchive::readEntry(quint64 index) const
         entry.name.chop(1);
     const QString nameFault = findEntryNameFault(entry.name);
     if (!nameFault.isEmpty())
-        fail(QStringLiteral("the entry name %1 %2").arg(quote(entry.name), nameFault));
+        fail(QStringLiteral("the entry name %1 %2").arg(Json::quote(entry.name), nameFault));
 
     constexpr zip_uint64_t NEEDED
         = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_ENCRYPTION_METHOD;
     zip_stat_t status;
     zip_stat_init(&status);
     if (zip_stat_index(m_zip.get(), index, 0, &status) != 0 || (status.valid & NEEDED) != NEEDED)
-        fail(QStringLiteral("the entry %1 of the archive is damaged").arg(quote(entry.name)));
+        fail(QStringLiteral("the entry %1 of the archive is damaged").arg(Json::quote(entry.name)));
     if (status.encryption_method != ZIP_EM_NONE)
         fail(QStringLiteral("the entry %1 is encrypted; pack it without a password")
-                 .arg(quote(entry.name)));
+                 .arg(Json::quote(entry.name)));
     if (status.comp_method != ZIP_CM_STORE && status.comp_method != ZIP_CM_DEFLATE)
         fail(QStringLiteral("the entry %1 is compressed by a method other than Deflate")
-                 .arg(quote(entry.name)));
+                 .arg(Json::quote(entry.name)));
     constexpr auto LARGEST = static_cast<zip_uint64_t>(Limits::UNPACKED_SIZE);
     entry.size = static_cast<qint64>(qMin<zip_uint64_t>(status.size, LARGEST + 1));
     return entry;
@@ -222,10 +223,11 @@ const CUpdateArchive::CEntry &CUpdateArchive::getPayloadEntry(const CPayload &pa
 {
     const CEntry *entry = findFile(payload.name);
     if (!entry)
-        fail(QStringLiteral("the payload %1 is missing in the archive").arg(quote(payload.name)));
+        fail(QStringLiteral("the payload %1 is missing in the archive")
+                 .arg(Json::quote(payload.name)));
     if (entry->size != payload.size)
         fail(QStringLiteral("the payload %1 is too %2: it has %3 bytes where update.json says %4")
-                 .arg(quote(payload.name),
+                 .arg(Json::quote(payload.name),
                       entry->size < payload.size ? QStringLiteral("short") : QStringLiteral("long"),
                       QString::number(entry->size), QString::number(payload.size)));
     return *entry;

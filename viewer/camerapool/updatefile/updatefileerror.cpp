@@ -1,6 +1,6 @@
 #include "updatefileerror.h"
 
-#include "messagetext.h"
+#include "viewer/json/messagetext.h"
 
 #include <QDir>
 
@@ -8,7 +8,7 @@ namespace Viewer::CameraPool::UpdateFile {
 
 CUpdateFileError::CUpdateFileError(const QString &path, const QString &cause)
     : BaseException(QStringLiteral("Update file %1: %2")
-                        .arg(toSingleLine(QDir::toNativeSeparators(path)), cause))
+                        .arg(Json::toSingleLine(QDir::toNativeSeparators(path)), cause))
     , m_cause(cause)
 {
 }

@@ -2,9 +2,9 @@
 
 #include "entryname.h"
 #include "manifestparser.h"
-#include "messagetext.h"
 #include "updatearchive.h"
 #include "updatefileerror.h"
+#include "viewer/json/messagetext.h"
 
 #include <algorithm>
 
@@ -35,9 +35,9 @@ void checkNothingIsLeftOver(const CUpdateArchive &archive, const QVector<CPayloa
         const auto isPayload = [&name](const CPayload &payload) { return payload.name == name; };
         if (name != getManifestName()
             && std::none_of(payloads.cbegin(), payloads.cend(), isPayload))
-            throw CUpdateFileError(
-                archive.getPath(),
-                QStringLiteral("the archive has a file %1 that no step uploads").arg(quote(name)));
+            throw CUpdateFileError(archive.getPath(),
+                                   QStringLiteral("the archive has a file %1 that no step uploads")
+                                       .arg(Json::quote(name)));
     }
 }
 

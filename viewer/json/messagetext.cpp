@@ -1,6 +1,6 @@
 #include "messagetext.h"
 
-namespace Viewer::CameraPool::UpdateFile {
+namespace Viewer::Json {
 
 namespace {
 
@@ -64,4 +64,4 @@ bool hasUnprintable(const QString &text, bool lineBreaksAllowed)
     return false;
 }
 
-} // namespace Viewer::CameraPool::UpdateFile
+} // namespace Viewer::Json

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace Viewer::CameraPool::UpdateFile {
+namespace Viewer::Json {
 
 /// @p text on one line: a character that cannot be shown becomes a question mark.
 [[nodiscard]] QString toSingleLine(const QString &text);
@@ -16,4 +16,4 @@ namespace Viewer::CameraPool::UpdateFile {
 /// feeds and tabulators pass.
 [[nodiscard]] bool hasUnprintable(const QString &text, bool lineBreaksAllowed = false);
 
-} // namespace Viewer::CameraPool::UpdateFile
+} // namespace Viewer::Json
