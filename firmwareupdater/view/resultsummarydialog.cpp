@@ -87,6 +87,7 @@ void CResultSummaryDialog::setInfoTextData(const QString &supportUrl, const QStr
 void CResultSummaryDialog::setErrorTextData(const QString &message, bool lastCamera)
 {
     m_lastErrorMessage = message;
+    // The label shows rich text, in which the message must keep its angle brackets.
     const QString text = lastCamera
         ? tr("An error has occurred during the update.<br>Error message: %1.")
         : tr("An error has occurred during the update. The subsequent updates have been "
@@ -126,7 +127,8 @@ void CResultSummaryDialog::showTexts(bool isFailure)
     for (QWidget *widget : failureWidgets) {
         widget->setVisible(isFailure);
     }
-    m_ui->repeatHintSpacer->changeSize(0, isFailure ? 0 : 16);
+    m_ui->repeatHintSpacer->changeSize(0, isFailure ? 0 : 16, QSizePolicy::Minimum,
+                                       QSizePolicy::Fixed);
     // A spacer does not tell its layout of a new size.
     m_ui->contentVerticalLayout->invalidate();
 }

@@ -57,6 +57,14 @@ CTreeViewCameraSelectionDelegate::CTreeViewCameraSelectionDelegate(QObject *pare
     setUpCellWidget(m_disabledCheckBox.get());
     setUpCellWidget(m_transportLayerLabel.get());
 
+    // Rows look alike also where the platform gives each kind of widget a font and colours of its
+    // own.
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{m_disabledCheckBox.get(), m_transportLayerLabel.get()}) {
+        widget->setFont(m_enabledCheckBox->font());
+        widget->setPalette(m_enabledCheckBox->palette());
+    }
+
     m_disabledCheckBox->setEnabled(false);
 
     m_transportLayerLabel->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
