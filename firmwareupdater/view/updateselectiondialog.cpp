@@ -61,6 +61,8 @@ void CUpdateSelectionDialog::updateFirmwareUpdateInfo(
         showReleaseNotes({});
         return;
     }
+    // Description and version come from a file, so the form shows them as plain text: markup in
+    // them stays visible.
     const auto &info = infos.first();
     const QString description = info->getDescription();
     m_ui->updateDescriptionTextLabel->setText(description.isEmpty() ? tr("No details available")
@@ -104,7 +106,8 @@ void CUpdateSelectionDialog::showVersion(const QString &version)
 
 void CUpdateSelectionDialog::showReleaseNotes(const QString &notes)
 {
-    // Notes that mention an address anywhere are taken for one as a whole.
+    // Notes that mention an address anywhere are taken for one as a whole; quotes and ampersands
+    // are escaped, so that the link leads to exactly this text.
     const bool isLink = notes.contains(QLatin1String("http"), Qt::CaseInsensitive);
     m_ui->updateNotesTextLabel->setText(
         isLink ? QStringLiteral("<a href=\"%1\">%2</a>")
