@@ -1,11 +1,13 @@
 #pragma once
 
+#include "viewer/camerapool/updatefile/manifestparser.h"
+
 #include "camerapool/idevicefirmwareupdate.h"
 
-#include <QObject>
-#include <QStringList>
+#include <QRegularExpression>
 
 #include <mutex>
+#include <thread>
 
 namespace Test {
 
@@ -15,19 +17,69 @@ namespace Test {
 class CJobRecorder : public QObject
 {
 public:
-    explicit CJobRecorder(Plugin::CameraPool::IDeviceFirmwareUpdate &job);
+    using Job = Plugin::CameraPool::IDeviceFirmwareUpdate;
+    using EStep = Plugin::CameraPool::EFirmwareUpdateStep;
+
+    explicit CJobRecorder(Job &job)
+    {
+        const auto onBegin = [this](const auto &info, unsigned total) {
+            add(info ? QString("begin %1").arg(total) : "begin without info");
+        };
+        const auto onStep = [this](EStep step, unsigned estimate, const QString &text) {
+            add((line("step", step, estimate) + ' ' + text).trimmed());
+        };
+        const auto onProgress
+            = [this](EStep step, double percent) { add(line("progress", step, percent)); };
+        const auto onStepDone
+            = [this](EStep step, unsigned estimate) { add(line("stepDone", step, estimate)); };
+        const auto onError = [this](const QString &text) { add("error " + text); };
+        connect(&job, &Job::firmwareUpdateBegin, this, onBegin, Qt::DirectConnection);
+        connect(&job, &Job::firmwareUpdateProgressStepBegin, this, onStep, Qt::DirectConnection);
+        connect(&job, &Job::firmwareUpdateProgressStepProgressChanged, this, onProgress,
+                Qt::DirectConnection);
+        connect(&job, &Job::firmwareUpdateProgressStepDone, this, onStepDone, Qt::DirectConnection);
+        connect(
+            &job, &Job::firmwareUpdateDone, this, [this] { add("done"); }, Qt::DirectConnection);
+        connect(&job, &Job::firmwareUpdateError, this, onError, Qt::DirectConnection);
+    }
 
     /// All lines but those of progress.
-    [[nodiscard]] QStringList getMilestones() const;
+    [[nodiscard]] QStringList getMilestones() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_lines.filter(QRegularExpression("^(?!progress)"));
+    }
 
     /// The lines that begin with @p word, without it.
-    [[nodiscard]] QStringList getAll(const QString &word) const;
+    [[nodiscard]] QStringList getAll(const QString &word) const
+    {
+        const std::lock_guard lock(m_mutex);
+        const QRegularExpression beginning('^' + word + "( |$)");
+        return m_lines.filter(beginning).replaceInStrings(beginning, "");
+    }
 
     /// The text of the one error that is the last signal; empty: the job did not end like that.
-    [[nodiscard]] QString getError() const;
+    [[nodiscard]] QString getError() const
+    {
+        const QStringList errors = getAll("error");
+        return errors.size() == 1 && getAll("done").isEmpty()
+                && getMilestones().constLast().startsWith("error")
+            ? errors.constFirst()
+            : QString();
+    }
 
 private:
-    void add(const QString &line);
+    static QString line(const char *word, EStep step, double number)
+    {
+        const QString name = Viewer::CameraPool::UpdateFile::getStepKindName(step);
+        return QString("%1 %2 %3").arg(word, name).arg(number);
+    }
+
+    void add(const QString &line)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_lines.append(line);
+    }
 
     mutable std::mutex m_mutex;
     QStringList m_lines;
@@ -35,6 +87,9 @@ private:
 
 /// Executes @p job on a thread of its own and returns when it has ended. The thread is not one of
 /// Qt's, whose inside looks to ThreadSanitizer like one big race.
-void executeOnThread(Plugin::CameraPool::IDeviceFirmwareUpdate &job);
+inline void executeOnThread(Plugin::CameraPool::IDeviceFirmwareUpdate &job)
+{
+    std::thread([&job] { job.executeFirmwareUpdate(); }).join();
+}
 
 } // namespace Test
