@@ -25,7 +25,6 @@ private slots:
     void announcesEachChangeOnce();
     void showsValuesByKindOfNode_data();
     void showsValuesByKindOfNode();
-    void hasNoValueOutsideItsColumns();
     void addsAChildOnce();
     void knowsItsRow();
     void findsRowsAfterTheListWasReplaced();
@@ -138,14 +137,8 @@ void CFirmwareUpdateEntityTest::showsValuesByKindOfNode()
     QCOMPARE(entity.getData(6).toInt(), 0);
     QCOMPARE(entity.getData(7).userType(), qMetaTypeId<Result>());
     QCOMPARE(entity.getData(7).toInt(), 2);
-}
-
-void CFirmwareUpdateEntityTest::hasNoValueOutsideItsColumns()
-{
-    const CFirmwareUpdateEntity entity;
     QVERIFY(!entity.getData(-1).isValid());
     QVERIFY(!entity.getData(8).isValid());
-    QCOMPARE(entity.getColumnCount(), 8);
 }
 
 void CFirmwareUpdateEntityTest::addsAChildOnce()

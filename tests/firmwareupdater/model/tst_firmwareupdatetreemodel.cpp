@@ -39,11 +39,9 @@ private slots:
     void namesItsSections();
     void buildsLayersGroupsAndCameras();
     void leavesOutLayersWithoutCameras();
-    void selectsTheValueByColumn();
     void allowsEditingOfCheckBoxesOnly();
     void findsCamerasById_data();
     void findsCamerasById();
-    void findsCamerasOfAFlatListWithoutLayer();
     void findsCamerasWhoseNodesChanged();
     void takesOverAFlatList();
     void announcesRowsParentsFirst();
@@ -105,18 +103,6 @@ void CFirmwareUpdateTreeModelTest::leavesOutLayersWithoutCameras()
     QCOMPARE(m_model->rowCount(), 0);
 }
 
-void CFirmwareUpdateTreeModelTest::selectsTheValueByColumn()
-{
-    m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("l"), {m_a})});
-    const QModelIndex id
-        = m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("a"), 1);
-    QCOMPARE(m_model->data(id, Qt::DisplayRole).toString(), QStringLiteral("a"));
-    QCOMPARE(m_model->data(id, Qt::EditRole).toString(), QStringLiteral("a"));
-    QVERIFY(!m_model->data(id, Qt::ToolTipRole).isValid());
-    QVERIFY(!m_model->data(id, Qt::DecorationRole).isValid());
-    QVERIFY(!m_model->data({}, Qt::DisplayRole).isValid());
-}
-
 void CFirmwareUpdateTreeModelTest::allowsEditingOfCheckBoxesOnly()
 {
     m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("l"), {m_a})});
@@ -171,15 +157,6 @@ void CFirmwareUpdateTreeModelTest::findsCamerasById()
     }
 }
 
-void CFirmwareUpdateTreeModelTest::findsCamerasOfAFlatListWithoutLayer()
-{
-    m_model->setCameraDeviceList({makeCameraNode(m_b), makeCameraNode(m_a)});
-    const QModelIndex found
-        = m_model->getModelIndexForCameraId(QStringLiteral("elsewhere"), QStringLiteral("a"), 7);
-    QCOMPARE(found.row(), 1);
-    QCOMPARE(found.column(), 7);
-}
-
 void CFirmwareUpdateTreeModelTest::findsCamerasWhoseNodesChanged()
 {
     m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("l"), {m_a, m_b})});
@@ -207,6 +184,9 @@ void CFirmwareUpdateTreeModelTest::takesOverAFlatList()
     m_model->setCameraDeviceList({ticked, makeCameraNode(m_a)});
 
     QCOMPARE(columnTexts(*m_model, {}, 1), QStringList({"b", "a"}));
+    // There are no layers to look into.
+    QCOMPARE(m_model->getModelIndexForCameraId("elsewhere", "a", 7), m_model->index(1, 7));
+    QVERIFY(!m_model->data(m_model->index(1, 1), Qt::ToolTipRole).isValid());
     QCOMPARE(m_model->index(0, 7).data().toInt(), 1);
     QCOMPARE(m_model->getSelectedCameraList(), QList<QPointer<CFirmwareUpdateEntity>>({ticked}));
 

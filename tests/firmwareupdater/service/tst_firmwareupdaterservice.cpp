@@ -30,18 +30,15 @@ private slots:
     void cleanup();
     void asksAboutBusyCameras_data();
     void asksAboutBusyCameras();
-    void startsAtStepOneWithTheRememberedCamera();
     void checksTheTypedPath_data();
     void checksTheTypedPath();
     void keepsTheTypedFormButStoresTheAbsolutePath();
     void checksTheFirstTickedCameraOnly();
-    void logsAFileThatCannotBeRead();
     void checksThePathAtEachEntry();
     void takesAFileFromTheFileDialog();
     void walksThroughItsSteps();
     void rebuildsTheTreeOnlyWhileOpen();
     void asksTheHostToEnumerate();
-    void refusesToStartBeforeItIsBuilt();
 
 private:
     template <typename T>
@@ -217,24 +214,6 @@ void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
         QTRY_VERIFY(isShown<View::CCameraSelectionDialog>());
 }
 
-void CFirmwareUpdaterServiceTest::startsAtStepOneWithTheRememberedCamera()
-{
-    TestSupport::CCameraDescription remembered{"b"};
-    remembered.layerId = "l";
-    m_fixture->service->setSelectedCamera(TestSupport::makeCamera(remembered));
-    start();
-    const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
-    QCOMPARE(model->getSelectedCameraList().size(), 1);
-    QCOMPARE(model->getSelectedCameraList().first()->getCameraInfo()->getId(), "b");
-    QVERIFY(findButton(dialog<View::CCameraSelectionDialog>(), "Next")->isEnabled());
-    // The tick has spread: its group is ticked, the other model greyed.
-    const QModelIndex camera = model->getModelIndexForCameraId("l", "b", 2);
-    QVERIFY(camera.parent().siblingAtColumn(2).data().toBool());
-    const auto *const other = static_cast<const CUpdaterFixture::Entity *>(
-        model->getModelIndexForCameraId("l", "n", 0).internalPointer());
-    QVERIFY(!other->isEnabled());
-}
-
 void CFirmwareUpdaterServiceTest::checksTheTypedPath_data()
 {
     QTest::addColumn<QString>("path");
@@ -249,6 +228,8 @@ void CFirmwareUpdaterServiceTest::checksTheTypedPath_data()
         << "file" << true << false << false << true << "No details available";
     QTest::newRow("no camera ticked")
         << "file" << false << true << false << true << "No details available";
+    QTest::newRow("unreadable") << "torn" << true << true << false << true
+                                << "No details available";
     QTest::newRow("folder") << "folder" << true << true << false << false << "No file selected";
     QTest::newRow("missing") << "missing" << true << true << false << false << "No file selected";
     QTest::newRow("empty") << "" << true << true << false << false << "No file selected";
@@ -268,15 +249,20 @@ void CFirmwareUpdaterServiceTest::checksTheTypedPath()
         tick("a");
     if (!fits)
         m_fixture->host.updates->incompatibleIds = {"a"};
+    if (path == "torn")
+        m_fixture->host.updates->readError = "The file is torn";
     const QString file = makeFile("update.guf");
     auto *const step2 = dialog<View::CUpdateSelectionDialog>();
-    emit step2->pathChanged(path == "file"          ? file
-                                : path == "folder"  ? m_fixture->temporaryFolder.path()
-                                : path == "missing" ? file + ".gone"
-                                                    : QString());
+    emit step2->pathChanged(path == "file" || path == "torn" ? file
+                                : path == "folder"           ? m_fixture->temporaryFolder.path()
+                                : path == "missing"          ? file + ".gone"
+                                                             : QString());
     QCOMPARE(findButton(step2, "Next")->isEnabled(), next);
     QCOMPARE(!step2->findChild<QLabel *>("errorTextLabel")->isHidden(), error);
     QCOMPARE(updateText("updateDescriptionTextLabel"), description);
+    QCOMPARE(m_fixture->getLog().contains(
+                 "CRITICAL Failed to check for compatible update: The file is torn"),
+             path == "torn");
 }
 
 void CFirmwareUpdaterServiceTest::keepsTheTypedFormButStoresTheAbsolutePath()
@@ -303,18 +289,6 @@ void CFirmwareUpdaterServiceTest::checksTheFirstTickedCameraOnly()
     emit dialog<View::CUpdateSelectionDialog>()->pathChanged(makeFile("update.guf"));
     QCOMPARE(m_fixture->host.updates->checkedIds, QStringList({"a"}));
     QVERIFY(!findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
-}
-
-void CFirmwareUpdaterServiceTest::logsAFileThatCannotBeRead()
-{
-    start();
-    tick("a");
-    m_fixture->host.updates->readError = "The file is torn";
-    emit dialog<View::CUpdateSelectionDialog>()->pathChanged(makeFile("update.guf"));
-    QCOMPARE(m_fixture->getLog(),
-             QStringList({"CRITICAL Failed to check for compatible update: The file is torn"}));
-    QVERIFY(!findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
-    QCOMPARE(updateText("updateDescriptionTextLabel"), "No details available");
 }
 
 void CFirmwareUpdaterServiceTest::checksThePathAtEachEntry()
@@ -412,13 +386,6 @@ void CFirmwareUpdaterServiceTest::asksTheHostToEnumerate()
     m_fixture->host.initializer.removeService(m_fixture->host.enumeration);
     QTest::mouseClick(refresh, Qt::LeftButton);
     QCOMPARE(m_fixture->host.enumeration->refreshCount, 1);
-}
-
-void CFirmwareUpdaterServiceTest::refusesToStartBeforeItIsBuilt()
-{
-    CUpdaterFixture bare;
-    bare.service->startFirmwareUpdater();
-    QCOMPARE(bare.service->getCurrentTemporaryLogFilePath(), "");
 }
 
 QTEST_MAIN(CFirmwareUpdaterServiceTest)

@@ -10,24 +10,11 @@ class CFirmwareUpdateStepBaseTest : public QObject
     Q_OBJECT
 
 private slots:
-    void showsTheFirstPageWhereQtLikes();
     void handsPlaceAndSizeToTheNextPage();
     void comesBackMaximized_data();
     void comesBackMaximized();
     void staysSilentWithoutDialog();
 };
-
-void CFirmwareUpdateStepBaseTest::showsTheFirstPageWhereQtLikes()
-{
-    TestSupport::CUpdaterFixture fixture;
-    QDialog dialog;
-    dialog.resize(321, 234);
-    CFirmwareUpdateStepBase step(&fixture.host.initializer, &dialog, nullptr);
-
-    step.onEntry(nullptr);
-    QVERIFY(dialog.isVisible());
-    QCOMPARE(dialog.size(), QSize(321, 234));
-}
 
 void CFirmwareUpdateStepBaseTest::handsPlaceAndSizeToTheNextPage()
 {

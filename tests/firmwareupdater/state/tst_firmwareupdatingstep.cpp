@@ -65,11 +65,9 @@ private slots:
     void stopsAfterTheCurrentCameraOnCancel();
     void succeedsWhenCanceledDuringTheLastCamera();
     void drivesTheProgressBarByEstimates();
-    void truncatesTheBarsValue();
     void animatesTheReset();
     void tellsEachTickOncePerReset();
     void waitsForTheCameraOnExit();
-    void waitsForACameraThatTheWaitLetStart();
     void survivesALostDialog();
     void survivesAnEmptiedList();
 
@@ -335,16 +333,6 @@ void CFirmwareUpdatingStepTest::drivesTheProgressBarByEstimates()
     QCOMPARE(bar->value(), 1);
 }
 
-void CFirmwareUpdatingStepTest::truncatesTheBarsValue()
-{
-    enter();
-    m_step->onFirmwareUpdateBegin({}, 100);
-    m_step->onFirmwareUpdateProgressStepBegin(EFirmwareUpdateStep::FileUpload, 7, {});
-    m_step->onFirmwareUpdateProgressStepProgressChanged(EFirmwareUpdateStep::FileUpload, 99.9);
-    QCOMPARE(barValue(), 6);
-    QVERIFY(m_fixture->getLog().contains("INFO FileUpload progress: 100%"));
-}
-
 void CFirmwareUpdatingStepTest::animatesTheReset()
 {
     auto *const job = new CScriptedUpdate;
@@ -415,18 +403,6 @@ void CFirmwareUpdatingStepTest::waitsForTheCameraOnExit()
     m_step->onExit(nullptr);
     QCOMPARE(column(7), QVector<int>({0}));
     QVERIFY(!m_dialog->isVisible());
-}
-
-void CFirmwareUpdatingStepTest::waitsForACameraThatTheWaitLetStart()
-{
-    makeCameras({EOutcome::Hold, EOutcome::Success});
-    enter();
-    QTRY_VERIFY(m_jobs.at(0)->isHeld());
-    QMetaObject::invokeMethod(
-        m_step.get(), [this] { m_jobs.at(0)->release(); }, Qt::QueuedConnection);
-    m_step->onExit(nullptr);
-    const auto *const thread = m_step->findChild<State::CFirmwareUpdateThread *>();
-    QVERIFY(thread && !thread->isRunning());
 }
 
 void CFirmwareUpdatingStepTest::survivesALostDialog()

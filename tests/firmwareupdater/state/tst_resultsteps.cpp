@@ -20,7 +20,6 @@ private slots:
     void showsHowItEnded_data();
     void showsHowItEnded();
     void emptiesTheListOnExit();
-    void closesTheLogWhenDone();
 };
 
 void CResultStepsTest::showsHowItEnded_data()
@@ -92,23 +91,6 @@ void CResultStepsTest::emptiesTheListOnExit()
     QCOMPARE(fixture.model->rowCount(), 1);
     step.onExit(nullptr);
     QCOMPARE(fixture.model->rowCount(), 0);
-}
-
-void CResultStepsTest::closesTheLogWhenDone()
-{
-    CUpdaterFixture fixture;
-    State::CFirmwareUpdateDoneStep step(&fixture.host.initializer, nullptr);
-    step.setCameraUpdateModel(fixture.model);
-    fixture.model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"})});
-    fixture.service->addTemporaryLogMessage(Core::Logging::ELogLevel::Info, "line");
-    fixture.service->setUpdateFailureMessage("Camera is on fire");
-    const QString path = fixture.service->getCurrentTemporaryLogFilePath();
-
-    step.onEntry(nullptr);
-    QCOMPARE(fixture.model->rowCount(), 0);
-    QCOMPARE(fixture.service->getCurrentTemporaryLogFilePath(), "");
-    QCOMPARE(fixture.service->getUpdateFailureMessage(), "");
-    QVERIFY(QFile::exists(path));
 }
 
 QTEST_MAIN(CResultStepsTest)

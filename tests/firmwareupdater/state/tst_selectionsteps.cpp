@@ -20,7 +20,6 @@ private slots:
     void followsTheTicks();
     void looksAtNamedRolesOnly_data();
     void looksAtNamedRolesOnly();
-    void leavesAReplacedModel();
     void emptiesTheUpdateListOnEntry();
 
 private:
@@ -92,25 +91,6 @@ void CSelectionStepsTest::looksAtNamedRolesOnly()
 
     step.slotDataChanged({}, {}, roles);
     QCOMPARE(getNextButton(dialog)->isEnabled(), !updated);
-}
-
-void CSelectionStepsTest::leavesAReplacedModel()
-{
-    CUpdaterFixture fixture;
-    View::CCameraSelectionDialog dialog(nullptr);
-    State::CCameraSelectionStep step(&fixture.host.initializer, &dialog, nullptr);
-    step.setCameraSelectionModel(fixture.model);
-    step.setCameraSelectionModel(fixture.model);
-    const QSharedPointer<CUpdaterFixture::Model> other(new CUpdaterFixture::Model(nullptr));
-    step.setCameraSelectionModel(other);
-
-    dialog.updateNextButton(true);
-    fixture.model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"})});
-    fixture.model->setData(fixture.model->index(0, 0), false, Qt::EditRole);
-    QVERIFY(getNextButton(dialog)->isEnabled());
-
-    other->setCameraDeviceList({});
-    QVERIFY(!getNextButton(dialog)->isEnabled());
 }
 
 void CSelectionStepsTest::emptiesTheUpdateListOnEntry()

@@ -25,7 +25,6 @@ private slots:
     void goesOnWithoutACameraThatNothingFits_data();
     void goesOnWithoutACameraThatNothingFits();
     void keepsTheOldListWhenTheFileIsUnreadable();
-    void endsQuietlyWithoutUpdateService();
     void followsTheTicksOfTheSummary();
 
 private:
@@ -193,17 +192,6 @@ void CUpdateSummaryStepTest::keepsTheOldListWhenTheFileIsUnreadable()
              QStringList({"INFO Selected firmware update file ",
                           "CRITICAL Failed to open firmware update file: The file is torn"}));
     QCOMPARE(m_fixture->model->rowCount(), 3);
-}
-
-void CUpdateSummaryStepTest::endsQuietlyWithoutUpdateService()
-{
-    m_fixture->host.initializer.removeService(m_fixture->host.updates);
-    m_step = std::make_unique<State::CUpdateSummaryStep>(&m_fixture->host.initializer,
-                                                         m_dialog.get(), nullptr);
-    m_step->setCameraSelectionModel(m_selection);
-    enter();
-    QCOMPARE(m_fixture->getLog(), QStringList({"INFO Selected firmware update file "}));
-    QCOMPARE(m_fixture->model->rowCount(), 0);
 }
 
 void CUpdateSummaryStepTest::followsTheTicksOfTheSummary()
