@@ -28,9 +28,8 @@ void CTreeViewHeaderStyle::drawPrimitive(PrimitiveElement element, const QStyleO
                                          QPainter *painter, const QWidget *widget) const
 {
     if (element == PE_IndicatorHeaderArrow) {
-        if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option)) {
+        if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option))
             drawSortArrow(*header, painter, widget);
-        }
         return;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -43,9 +42,8 @@ QRect CTreeViewHeaderStyle::subElementRect(SubElement element, const QStyleOptio
         const auto *header = static_cast<const QStyleOptionHeader *>(option);
         QRect rect = header->rect;
         rect.setHeight(header->fontMetrics.height());
-        if (header->section != 0) {
+        if (header->section != 0)
             rect.setLeft(rect.left() + TITLE_INDENT);
-        }
         return rect;
     }
     if (element == SE_HeaderArrow && (option->state & State_Horizontal)) {
@@ -97,18 +95,16 @@ void CTreeViewHeaderStyle::drawSection(const QStyleOptionHeader &option, QPainte
 void CTreeViewHeaderStyle::drawSortArrow(const QStyleOptionHeader &option, QPainter *painter,
                                          const QWidget *widget) const
 {
-    if (option.sortIndicator == QStyleOptionHeader::None) {
+    if (option.sortIndicator == QStyleOptionHeader::None)
         return;
-    }
     bool pointsUp = option.sortIndicator == QStyleOptionHeader::SortUp;
     if (const auto *header = qobject_cast<const QHeaderView *>(widget)) {
         // Qt's headers ask for SortDown at an ascending order. Here the arrow points up then.
         pointsUp = header->sortIndicatorOrder() == Qt::AscendingOrder;
     }
     QPixmap arrow = getIconPixmap(QStringLiteral("sort_icon_10x7_en"));
-    if (pointsUp) {
+    if (pointsUp)
         arrow = arrow.transformed(QTransform().rotate(180), Qt::FastTransformation);
-    }
     painter->drawPixmap(subElementRect(SE_HeaderArrow, &option, widget), arrow);
 }
 

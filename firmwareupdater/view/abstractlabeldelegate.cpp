@@ -48,9 +48,8 @@ void CAbstractLabelDelegate::paint(QPainter *painter, const QStyleOptionViewItem
                      cell.size() - QSize(0, top));
 
     painter->save();
-    if (!isEnd) {
+    if (!isEnd)
         drawColumnSeparator(painter, cell);
-    }
     if (isActive && (option.state & QStyle::State_Selected)
         && (option.state & QStyle::State_MouseOver) && row.getEntity()->isEnabled()) {
         Qt::Edges edges = Qt::TopEdge | Qt::BottomEdge;
@@ -69,7 +68,7 @@ QSize CAbstractLabelDelegate::sizeHint(const QStyleOptionViewItem &option,
     return row.isValid() ? QSize(hint.width(), row.getHeight()) : hint;
 }
 
-void CAbstractLabelDelegate::showContent(const SCellContent &content, const QRect &cell,
+void CAbstractLabelDelegate::showContent(const CCellContent &content, const QRect &cell,
                                          int indent) const
 {
     QFont font = m_label->font();

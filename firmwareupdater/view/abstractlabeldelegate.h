@@ -27,7 +27,7 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 protected:
-    struct SCellContent
+    struct CCellContent
     {
         QString text;
         Qt::TextFormat textFormat = Qt::PlainText;
@@ -45,11 +45,11 @@ protected:
     };
 
     /// What the cell of @p entity in column @p column shows.
-    [[nodiscard]] virtual SCellContent getContent(const Entity::CFirmwareUpdateEntity &entity,
+    [[nodiscard]] virtual CCellContent getContent(const Entity::CFirmwareUpdateEntity &entity,
                                                   int column) const = 0;
 
 private:
-    void showContent(const SCellContent &content, const QRect &cell, int indent) const;
+    void showContent(const CCellContent &content, const QRect &cell, int indent) const;
 
     const std::unique_ptr<QLabel> m_label;
     QLabel *const m_iconLabel;

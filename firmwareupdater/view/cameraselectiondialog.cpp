@@ -42,9 +42,8 @@ void CCameraSelectionDialog::setModel(QSharedPointer<Model::CFirmwareUpdateTreeM
 
 void CCameraSelectionDialog::updateNextButton(bool enable)
 {
-    if (m_nextButton) {
+    if (m_nextButton)
         enableDefaultButton(m_nextButton, enable);
-    }
 }
 
 void CCameraSelectionDialog::dialogButtonClicked(QAbstractButton *pButton)

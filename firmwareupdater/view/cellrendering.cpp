@@ -27,18 +27,16 @@ void setUpCellWidget(QWidget *widget)
 
 QPalette::ColorRole getBackgroundRole(QStyle::State state)
 {
-    if (state & QStyle::State_Selected) {
+    if (state & QStyle::State_Selected)
         return QPalette::HighlightedText;
-    }
     return state & QStyle::State_MouseOver ? QPalette::AlternateBase : QPalette::Base;
 }
 
 void renderCellWidget(QPainter *painter, QWidget *widget, const QPoint &position, const QSize &size)
 {
     const QPaintDevice *device = painter->device();
-    if (!device || size.isEmpty()) {
+    if (!device || size.isEmpty())
         return;
-    }
     // Through a picture of its own: rendered straight into the device, the widget would miss the
     // view's place in its window, and it could not be painted at all while the painter is shared
     // with the widgets around it, as when a whole dialog is rendered.
@@ -58,18 +56,14 @@ void drawColumnSeparator(QPainter *painter, const QRect &cell)
 void drawRowFrame(QPainter *painter, const QRect &cell, Qt::Edges edges)
 {
     painter->setPen(QPen(Constants::ULTRA_LIGHT_BLUE_COLOR, 1));
-    if (edges & Qt::TopEdge) {
+    if (edges & Qt::TopEdge)
         painter->drawLine(cell.topLeft(), cell.topRight());
-    }
-    if (edges & Qt::BottomEdge) {
+    if (edges & Qt::BottomEdge)
         painter->drawLine(cell.bottomLeft(), cell.bottomRight());
-    }
-    if (edges & Qt::LeftEdge) {
+    if (edges & Qt::LeftEdge)
         painter->drawLine(cell.topLeft(), cell.bottomLeft());
-    }
-    if (edges & Qt::RightEdge) {
+    if (edges & Qt::RightEdge)
         painter->drawLine(cell.topRight(), cell.bottomRight());
-    }
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -26,16 +26,14 @@ void CCustomTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
 void CCustomTreeView::setVisible(bool visible)
 {
     QTreeView::setVisible(visible);
-    if (visible) {
+    if (visible)
         updateScrollBarGeometry();
-    }
 }
 
 void CCustomTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    if (hint != QAbstractItemDelegate::EditNextItem) {
+    if (hint != QAbstractItemDelegate::EditNextItem)
         QTreeView::closeEditor(editor, hint);
-    }
 }
 
 void CCustomTreeView::resizeEvent(QResizeEvent *event)
@@ -49,9 +47,8 @@ void CCustomTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
 {
     QTreeView::drawRow(painter, option, index);
     if (!m_isKeyboardUsed || !hasFocus()
-        || currentIndex().siblingAtColumn(0) != index.siblingAtColumn(0)) {
+        || currentIndex().siblingAtColumn(0) != index.siblingAtColumn(0))
         return;
-    }
     QStyleOptionFocusRect focus;
     focus.QStyleOption::operator=(option);
     focus.state |= QStyle::State_KeyboardFocusChange;
@@ -61,18 +58,16 @@ void CCustomTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &opt
 
 bool CCustomTreeView::viewportEvent(QEvent *event)
 {
-    if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress) {
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress)
         setKeyboardUsed(false);
-    }
     return QTreeView::viewportEvent(event);
 }
 
 void CCustomTreeView::focusInEvent(QFocusEvent *event)
 {
     QTreeView::focusInEvent(event);
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         setKeyboardUsed(true);
-    }
 }
 
 void CCustomTreeView::keyPressEvent(QKeyEvent *event)

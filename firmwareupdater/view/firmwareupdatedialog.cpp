@@ -73,9 +73,8 @@ void CFirmwareUpdateDialog::enableButtons(bool enable)
 
 void CFirmwareUpdateDialog::dialogButtonClicked(QAbstractButton *pButton)
 {
-    if (getButton(pButton) == EButton::Close) {
+    if (getButton(pButton) == EButton::Close)
         emit closeClicked();
-    }
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

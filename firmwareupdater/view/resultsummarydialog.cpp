@@ -48,9 +48,8 @@ void CResultSummaryDialog::setModel(QSharedPointer<Model::CFirmwareUpdateTreeMod
 void CResultSummaryDialog::updateView()
 {
     const QSharedPointer<Model::CFirmwareUpdateTreeModel> model = getModel();
-    if (!model) {
+    if (!model)
         return;
-    }
     int failed = 0;
     int successful = 0;
     int skipped = 0;
@@ -121,12 +120,10 @@ void CResultSummaryDialog::showTexts(bool isFailure)
         m_ui->errorIconLabel,  m_ui->errorTextLabel,     m_ui->infoIconLabel_3,
         m_ui->infoTextLabel_3, m_ui->failedUpdatesLabel, m_ui->skippedUpdatesLabel,
     };
-    for (QWidget *widget : successWidgets) {
+    for (QWidget *widget : successWidgets)
         widget->setVisible(!isFailure);
-    }
-    for (QWidget *widget : failureWidgets) {
+    for (QWidget *widget : failureWidgets)
         widget->setVisible(isFailure);
-    }
     m_ui->repeatHintSpacer->changeSize(0, isFailure ? 0 : 16, QSizePolicy::Minimum,
                                        QSizePolicy::Fixed);
     // A spacer does not tell its layout of a new size.

@@ -63,12 +63,10 @@ bool CTreeRow::isFirstListedCamera() const
 
 int CTreeRow::getHeight() const
 {
-    if (isTransportLayer()) {
+    if (isTransportLayer())
         return 24;
-    }
-    if (isCameraType()) {
+    if (isCameraType())
         return 25;
-    }
     return isFirstListedCamera() ? 27 : 20;
 }
 

@@ -83,16 +83,14 @@ void CTreeViewCameraSelectionDelegate::paint(QPainter *painter, const QStyleOpti
         QStyledItemDelegate::paint(painter, option, index);
         return;
     }
-    if (row.isTransportLayer()) {
+    if (row.isTransportLayer())
         paintTransportLayer(painter, option, row);
-    } else {
+    else
         paintCheckBox(painter, option, row);
-    }
 
     painter->save();
-    if (option.viewItemPosition != QStyleOptionViewItem::OnlyOne) {
+    if (option.viewItemPosition != QStyleOptionViewItem::OnlyOne)
         drawColumnSeparator(painter, option.rect);
-    }
     if ((option.state & QStyle::State_Selected) && (option.state & QStyle::State_MouseOver)
         && row.getEntity()->isEnabled() && !row.isTransportLayer()) {
         drawRowFrame(painter, option.rect.adjusted(row.isDirectCamera() ? 20 : 0, 0, 0, 0),
@@ -156,9 +154,8 @@ QWidget *CTreeViewCameraSelectionDelegate::createEditor(QWidget *parent,
                                                         const QModelIndex &index) const
 {
     const CTreeRow row(index);
-    if (!row.isValid() || row.isTransportLayer()) {
+    if (!row.isValid() || row.isTransportLayer())
         return QStyledItemDelegate::createEditor(parent, option, index);
-    }
     auto *editor = new QWidget(parent);
     editor->setBaseSize(option.rect.size());
     // The keyboard stays with the view: Space, the arrow keys and Escape work as without an editor.
@@ -204,9 +201,8 @@ void CTreeViewCameraSelectionDelegate::setModelData(QWidget *editor, QAbstractIt
         return;
     }
     const QCheckBox *checkBox = getCheckBox(editor);
-    if (checkBox && checkBox->isChecked() != entity->isSelected()) {
+    if (checkBox && checkBox->isChecked() != entity->isSelected())
         writeSelection(model, index, checkBox->isChecked());
-    }
 }
 
 void CTreeViewCameraSelectionDelegate::updateEditorGeometry(QWidget *editor,
@@ -247,14 +243,12 @@ bool CTreeViewCameraSelectionDelegate::editorEvent(QEvent *event, QAbstractItemM
 void CTreeViewCameraSelectionDelegate::openEditor(const QModelIndex &index)
 {
     QAbstractItemView *view = getView();
-    if (!view) {
+    if (!view)
         return;
-    }
     // Closes the editor of the row that was current before.
     view->setCurrentIndex(index);
-    if (!view->isPersistentEditorOpen(index)) {
+    if (!view->isPersistentEditorOpen(index))
         view->edit(index);
-    }
 }
 
 bool CTreeViewCameraSelectionDelegate::trackClick(const QEvent &event, const QModelIndex &index)
@@ -281,9 +275,8 @@ void CTreeViewCameraSelectionDelegate::toggle(QAbstractItemModel *model,
                                               const QModelIndex &index) const
 {
     const QPointer<CFirmwareUpdateEntity> entity = getEntityFromModel(index);
-    if (entity->isEnabled()) {
+    if (entity->isEnabled())
         writeSelection(model, index, !entity->isSelected());
-    }
 }
 
 QPointer<CFirmwareUpdateEntity>

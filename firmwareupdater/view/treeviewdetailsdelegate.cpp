@@ -11,11 +11,11 @@ CTreeViewDetailsDelegate::CTreeViewDetailsDelegate(QObject *parent)
 {
 }
 
-CTreeViewDetailsDelegate::SCellContent
+CTreeViewDetailsDelegate::CCellContent
 CTreeViewDetailsDelegate::getContent(const CFirmwareUpdateEntity &entity, int column) const
 {
     Q_UNUSED(column)
-    SCellContent content;
+    CCellContent content;
     content.reservedWidth = 30;
     switch (entity.getData(CFirmwareUpdateEntity::UpdateDetails).toInt()) {
     case 0:

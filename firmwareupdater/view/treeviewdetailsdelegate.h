@@ -13,7 +13,7 @@ public:
     explicit CTreeViewDetailsDelegate(QObject *parent = nullptr);
 
 protected:
-    [[nodiscard]] SCellContent getContent(const Entity::CFirmwareUpdateEntity &entity,
+    [[nodiscard]] CCellContent getContent(const Entity::CFirmwareUpdateEntity &entity,
                                           int column) const override;
 };
 

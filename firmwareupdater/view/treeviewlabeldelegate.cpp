@@ -11,10 +11,10 @@ CTreeViewLabelDelegate::CTreeViewLabelDelegate(QObject *parent)
 {
 }
 
-CTreeViewLabelDelegate::SCellContent
+CTreeViewLabelDelegate::CCellContent
 CTreeViewLabelDelegate::getContent(const CFirmwareUpdateEntity &entity, int column) const
 {
-    SCellContent content;
+    CCellContent content;
     content.text = entity.getData(column).toString();
     content.isBold
         = entity.getUpdateStatus() == CFirmwareUpdateEntity::EFirmwareUpdateStatus::Updating;

@@ -11,11 +11,11 @@ CTreeViewResultDelegate::CTreeViewResultDelegate(QObject *parent)
 {
 }
 
-CTreeViewResultDelegate::SCellContent
+CTreeViewResultDelegate::CCellContent
 CTreeViewResultDelegate::getContent(const CFirmwareUpdateEntity &entity, int column) const
 {
     Q_UNUSED(column)
-    SCellContent content;
+    CCellContent content;
     content.reservedWidth = 37;
     content.hasIconPlace = true;
     switch (entity.getData(CFirmwareUpdateEntity::UpdateResult).toInt()) {

@@ -11,11 +11,11 @@ CTreeViewStatusDelegate::CTreeViewStatusDelegate(QObject *parent)
 {
 }
 
-CTreeViewStatusDelegate::SCellContent
+CTreeViewStatusDelegate::CCellContent
 CTreeViewStatusDelegate::getContent(const CFirmwareUpdateEntity &entity, int column) const
 {
     Q_UNUSED(column)
-    SCellContent content;
+    CCellContent content;
     content.reservedWidth = 37;
     content.hasIconPlace = true;
     switch (entity.getData(CFirmwareUpdateEntity::UpdateStatus).toInt()) {

@@ -86,9 +86,8 @@ QPushButton *CUpdateDialogBase::addNextButton(const QString &text)
 
 CUpdateDialogBase::EButton CUpdateDialogBase::getButton(QAbstractButton *button) const
 {
-    if (!button) {
+    if (!button)
         return EButton::None;
-    }
     switch (m_buttonBox->buttonRole(button)) {
     case QDialogButtonBox::RejectRole:
         return EButton::Close;
@@ -113,14 +112,13 @@ void CUpdateDialogBase::enableDefaultButton(QPushButton *button, bool enable)
     setDefaultButton(button, enable);
 }
 
-void CUpdateDialogBase::showColumns(QAbstractItemModel *model, const QVector<STreeColumn> &columns)
+void CUpdateDialogBase::showColumns(QAbstractItemModel *model, const QVector<CTreeColumn> &columns)
 {
     m_columns = columns;
     m_treeView->setModel(model);
-    for (int column = 0; column < CFirmwareUpdateEntity::COLUMN_COUNT; ++column) {
+    for (int column = 0; column < CFirmwareUpdateEntity::COLUMN_COUNT; ++column)
         m_treeView->setColumnHidden(column, true);
-    }
-    for (const STreeColumn &column : columns) {
+    for (const CTreeColumn &column : columns) {
         m_treeView->setColumnHidden(column.column, false);
         m_treeView->setColumnWidth(column.column, column.designWidth);
     }
@@ -143,19 +141,16 @@ void CUpdateDialogBase::showEvent(QShowEvent *event)
     // A button box that is shown without a default button chooses one: Back, or a Next that is
     // unavailable.
     const QList<QAbstractButton *> buttons = m_buttonBox->buttons();
-    for (QAbstractButton *button : buttons) {
-        if (auto *pushButton = qobject_cast<QPushButton *>(button)) {
+    for (QAbstractButton *button : buttons)
+        if (auto *pushButton = qobject_cast<QPushButton *>(button))
             pushButton->setDefault(pushButton == m_defaultButton);
-        }
-    }
 }
 
 void CUpdateDialogBase::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
-    if (!m_columns.isEmpty()) {
+    if (!m_columns.isEmpty())
         fitColumns();
-    }
 }
 
 void CUpdateDialogBase::fitColumns()

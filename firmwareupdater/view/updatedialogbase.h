@@ -61,7 +61,7 @@ protected:
     };
 
     /// A visible column of a camera tree, and its width in a tree of the default width.
-    struct STreeColumn
+    struct CTreeColumn
     {
         int column;
         int designWidth;
@@ -91,7 +91,7 @@ protected:
 
     /// Shows @p model in the camera tree with @p columns alone. They have their design widths until
     /// the dialog is resized; from then on they fill the tree.
-    void showColumns(QAbstractItemModel *model, const QVector<STreeColumn> &columns);
+    void showColumns(QAbstractItemModel *model, const QVector<CTreeColumn> &columns);
 
     /// Replaces a form's picture by that of the screen's resolution.
     static void setIcon(QLabel *label, const QString &iconName);
@@ -108,7 +108,7 @@ private:
     QPointer<QPushButton> m_backButton;
     QPointer<QPushButton> m_defaultButton;
     QTreeView *m_treeView = nullptr;
-    QVector<STreeColumn> m_columns;
+    QVector<CTreeColumn> m_columns;
 };
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -36,9 +36,8 @@ void CUpdateSelectionDialog::setKorvaneSupportUrl(const QString &url)
 
 void CUpdateSelectionDialog::updateFileSelection(const QString &path)
 {
-    if (m_ui->updateFileLineEdit->text() != path) {
+    if (m_ui->updateFileLineEdit->text() != path)
         m_ui->updateFileLineEdit->setText(path);
-    }
 }
 
 void CUpdateSelectionDialog::updateCompatibility(bool compatible, bool noFile)
@@ -46,9 +45,8 @@ void CUpdateSelectionDialog::updateCompatibility(bool compatible, bool noFile)
     const bool isError = !compatible && !noFile;
     m_ui->errorIconLabel->setVisible(isError);
     m_ui->errorTextLabel->setVisible(isError);
-    if (m_nextButton) {
+    if (m_nextButton)
         m_nextButton->setEnabled(compatible && !noFile);
-    }
 }
 
 void CUpdateSelectionDialog::updateFirmwareUpdateInfo(
@@ -74,9 +72,8 @@ void CUpdateSelectionDialog::updateFirmwareUpdateInfo(
 void CUpdateSelectionDialog::setVisible(bool visible)
 {
     // The file may have changed since the dialog was last shown.
-    if (visible) {
+    if (visible)
         emit pathChanged(m_ui->updateFileLineEdit->text());
-    }
     CUpdateDialogBase::setVisible(visible);
 }
 

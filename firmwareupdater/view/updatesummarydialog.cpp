@@ -51,9 +51,8 @@ void CUpdateSummaryDialog::setModel(QSharedPointer<Model::CFirmwareUpdateTreeMod
 
 void CUpdateSummaryDialog::updateNextButton(bool enable)
 {
-    if (m_nextButton) {
+    if (m_nextButton)
         enableDefaultButton(m_nextButton, enable);
-    }
 }
 
 void CUpdateSummaryDialog::updateDowngradeInfo(bool show)

@@ -34,7 +34,7 @@ private slots:
     void linksLogAndSupport();
 
 private:
-    struct SDialogs
+    struct CDialogs
     {
         CCameraSelectionDialog selection;
         CUpdateSelectionDialog file;
@@ -51,12 +51,12 @@ private:
     /// A plus for each of the widgets that is shown, a minus for each that is hidden.
     static QString getShown(const QDialog &dialog, const std::vector<const char *> &names);
 
-    std::unique_ptr<SDialogs> m_dialogs;
+    std::unique_ptr<CDialogs> m_dialogs;
 };
 
 void CUpdateDialogsTest::init()
 {
-    m_dialogs = std::make_unique<SDialogs>();
+    m_dialogs = std::make_unique<CDialogs>();
     for (CUpdateDialogBase *const dialog : m_dialogs->all)
         dialog->setModel(makeList(3));
 }
@@ -151,10 +151,9 @@ void CUpdateDialogsTest::columnsFillTheTree()
         dialog.show();
         dialog.resize(dialog.width() + treeWidth - tree->width(), dialog.height());
         QVector<int> widths;
-        for (int column = 0; column < tree->model()->columnCount(); ++column) {
+        for (int column = 0; column < tree->model()->columnCount(); ++column)
             if (!tree->isColumnHidden(column))
                 widths.append(tree->columnWidth(column));
-        }
         return widths;
     };
     QCOMPARE(getWidths(m_dialogs->selection, 600), {600});

@@ -38,10 +38,9 @@ inline QString getText(const QWidget &dialog, const char *label)
 inline QPushButton *getButton(const QWidget &dialog, const char *text)
 {
     const auto buttons = dialog.findChildren<QPushButton *>();
-    for (QPushButton *const button : buttons) {
+    for (QPushButton *const button : buttons)
         if (button->text().remove('&') == text)
             return button;
-    }
     return nullptr;
 }
 
