@@ -33,14 +33,8 @@ public:
     {
         return left.m_text != right.m_text;
     }
-    friend bool operator<(const CId &left, const CId &right)
-    {
-        return left.m_text < right.m_text;
-    }
-    friend uint qHash(const CId &id, uint seed = 0)
-    {
-        return qHash(id.m_text, seed);
-    }
+    friend bool operator<(const CId &left, const CId &right) { return left.m_text < right.m_text; }
+    friend uint qHash(const CId &id, uint seed = 0) { return qHash(id.m_text, seed); }
 
 private:
     QByteArray m_text;
