@@ -21,8 +21,7 @@ static const char *const HangVariable = "TST_WATCHDOG_HANG";
 // What the test starts itself as: a program whose main thread hangs.
 static void hang()
 {
-    CWatchdog watchdog(std::chrono::milliseconds(20));
-    watchdog.report("Step 4", "37 %");
+    const CWatchdog watchdog(std::chrono::milliseconds(20));
     std::promise<void> never;
     never.get_future().wait();
 }
@@ -35,7 +34,7 @@ void CWatchdogTest::endsAHangingProcess()
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 1);
     const QString sentence = QString::fromUtf8(process.readAllStandardError());
-    QVERIFY2(sentence.contains("hangs in Step 4"), qPrintable(sentence));
+    QVERIFY2(sentence.contains("hangs in the start"), qPrintable(sentence));
 }
 
 int main(int argc, char **argv)
