@@ -51,7 +51,6 @@ void CCameraDescriptionReaderTest::readsFieldsAndEscapes()
     QVERIFY(entry.camera == expected);
     QCOMPARE(entry.uploadSpeed, qint64(5000));
     QVERIFY(entry.faults.vanishesAtByte == 10 && entry.faults.returnsLate);
-    QVERIFY(!entry.faults.uploadFailsAtByte && !entry.faults.writeRefused);
 }
 
 void CCameraDescriptionReaderTest::refusesFaultsWithPlaceAndField_data()
