@@ -128,6 +128,8 @@ void CResultSummaryDialog::showTexts(bool isFailure)
                                        QSizePolicy::Fixed);
     // A spacer does not tell its layout of a new size.
     m_ui->contentVerticalLayout->invalidate();
+    // At once: the page is on its way to the screen and must not be seen with the old gaps.
+    layout()->activate();
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

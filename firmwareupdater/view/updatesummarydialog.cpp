@@ -90,6 +90,8 @@ void CUpdateSummaryDialog::showWarning(QLabel *iconLabel, QLabel *textLabel, QSp
     spacer->changeSize(0, show ? 13 : 0, QSizePolicy::Expanding, QSizePolicy::Fixed);
     // A spacer does not tell its layout of a new size.
     m_ui->contentVerticalLayout->invalidate();
+    // At once: the page is on its way to the screen and must not be seen with the old gaps.
+    layout()->activate();
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -54,7 +54,7 @@ signals:
                                          unsigned int estimatedUpdateTime,
                                          const QString &description);
 
-    /// Progress within the step, 0 to 100 percent; at most about once a percent or each 100 ms, and
+    /// Progress within the step, 0 to 100 percent; at most once a percent and once in 100 ms, and
     /// never for a device reset, whose progress is only a matter of time.
     void
     firmwareUpdateProgressStepProgressChanged(Plugin::CameraPool::EFirmwareUpdateStep updateStep,
