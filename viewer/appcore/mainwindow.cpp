@@ -25,7 +25,7 @@ CMainWindow::CMainWindow(CMenuService &menus, QWidget *parent)
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(tr("Nuvex Viewer"));
     setWindowIcon(QIcon(QStringLiteral(":/viewer/icons/viewer.png")));
-    resize(1160, 660);
+    resize(1200, 660);
 
     m_toolBar = addToolBar(tr("Acquisition"));
     m_toolBar->setObjectName(QStringLiteral("acquisitionToolBar"));
@@ -63,7 +63,7 @@ void CMainWindow::setViews(QWidget *cameraTree, QWidget *imageView)
     dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     dock->setWidget(cameraTree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
-    resizeDocks({dock}, {500}, Qt::Horizontal);
+    resizeDocks({dock}, {560}, Qt::Horizontal);
     setCentralWidget(imageView);
 
     m_viewMenu->addAction(dock->toggleViewAction());

@@ -130,6 +130,8 @@ QVariant CCameraSelectorModel::getCameraData(const CameraInfoPtr &camera, int co
         return {};
     switch (column) {
     case NameColumn:
+        return camera->getDisplayName();
+    case ModelColumn:
         return camera->getModelName();
     case SerialNumberColumn:
         return camera->getSerialNumber();
@@ -172,6 +174,8 @@ QVariant CCameraSelectorModel::headerData(int section, Qt::Orientation orientati
     switch (section) {
     case NameColumn:
         return tr("Camera");
+    case ModelColumn:
+        return tr("Model");
     case SerialNumberColumn:
         return tr("Serial number");
     case FirmwareColumn:

@@ -16,7 +16,14 @@ class CCameraSelectorModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
-    enum EColumn { NameColumn, SerialNumberColumn, FirmwareColumn, StateColumn, ColumnCount };
+    enum EColumn {
+        NameColumn,
+        ModelColumn,
+        SerialNumberColumn,
+        FirmwareColumn,
+        StateColumn,
+        ColumnCount
+    };
 
     explicit CCameraSelectorModel(QObject *parent = nullptr);
     ~CCameraSelectorModel() override;

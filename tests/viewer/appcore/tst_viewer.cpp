@@ -131,7 +131,7 @@ void CViewerTest::acquiresAndRecords()
     QTRY_VERIFY(!QDir(folder.path()).isEmpty());
     button(StopRecording)->trigger();
     QTRY_COMPARE(enabledButtons(), QVector<int>({Stop, Record}));
-    QCOMPARE(m_tree->currentIndex().siblingAtColumn(3).data().toString(), "Acquiring");
+    QCOMPARE(m_tree->currentIndex().siblingAtColumn(4).data().toString(), "Acquiring");
     QTRY_VERIFY(m_view->hasImage());
     button(Stop)->trigger();
     QTRY_COMPARE(enabledButtons(), QVector<int>({Start, Record}));
@@ -163,7 +163,7 @@ void CViewerTest::unplugsAndMakesBusy()
     toggle(0);
     QTRY_COMPARE(model->getCameraCount(), 12);
     toggle(1);
-    const QModelIndex state = model->findId(camera(0)->getId()).siblingAtColumn(3);
+    const QModelIndex state = model->findId(camera(0)->getId()).siblingAtColumn(4);
     QTRY_COMPARE(state.data().toString(), "In use elsewhere");
     toggle(1);
     QTRY_COMPARE(state.data().toString(), "Ready");
