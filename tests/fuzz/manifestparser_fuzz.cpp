@@ -18,12 +18,6 @@ static bool isSound(const CManifestResult &result)
     for (const CUpdateEntry &update : result.manifest.updates) {
         if (update.models.isEmpty() || update.steps.isEmpty() || update.version.isEmpty())
             return false;
-        for (const CUpdateStep &step : update.steps) {
-            const bool isUpload = step.kind == Plugin::CameraPool::EFirmwareUpdateStep::FileUpload;
-            if (step.estimatedMs.value_or(isUpload) < 1
-                || (isUpload && (step.payload.size < 1 || step.payload.sha256.size() != 32)))
-                return false;
-        }
     }
     return !result.manifest.updates.isEmpty();
 }

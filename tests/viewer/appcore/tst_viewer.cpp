@@ -1,5 +1,4 @@
 #include "viewer/appcore/imageview.h"
-#include "viewer/appcore/language.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
@@ -12,7 +11,6 @@
 #include <QAction>
 #include <QDialog>
 #include <QFileDialog>
-#include <QMenu>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -35,25 +33,19 @@ private slots:
     void initTestCase();
     void init();
     void acquiresAndRecords();
-    void anotherCameraTakesOverTheImage();
-    void unplugsAndMakesBusy();
     void wizardLocksStartsAndClosing();
-    void otherDialogsLockNothing();
     void runningUpdateKeepsTheWindowOpen();
-    void remembersPlaceAndLanguage();
     void closingEndsTheApplication();
 
 private:
     enum EButton { Start, Stop, Record, StopRecording };
 
-    Plugin::CameraPool::CameraInfoPtr camera(int place) const;
+    Plugin::CameraPool::CameraInfoPtr camera() const;
     bool startsCamera() const;
-    QAction *button(EButton place) const;
     QVector<int> enabledButtons() const;
 
     std::unique_ptr<CViewer> m_viewer;
     CMainWindow *m_window = nullptr;
-    CImageView *m_view = nullptr;
     Viewer::CameraPool::CCameraPool *m_pool = nullptr;
     Viewer::CameraSelector::CCameraSelectorView *m_tree = nullptr;
 };
@@ -74,7 +66,6 @@ void CViewerTest::init()
     options.pool.speedFactor = 100;
     m_viewer = std::make_unique<CViewer>(options, "en");
     m_window = &m_viewer->getMainWindow();
-    m_view = m_window->findChild<CImageView *>();
     m_pool = &m_viewer->getCameraPool();
     m_tree = &m_viewer->getCameraSelector();
     QSignalSpy spy(m_viewer->getEnumerationService().data(),
@@ -90,27 +81,22 @@ void CViewerTest::init()
     QCOMPARE(m_tree->getModel()->getCameraCount(), 12);
 }
 
-Plugin::CameraPool::CameraInfoPtr CViewerTest::camera(int place) const
+Plugin::CameraPool::CameraInfoPtr CViewerTest::camera() const
 {
     const auto layers = m_viewer->getEnumerationService()->getTransportLayerInfoVector();
-    return layers.constFirst()->getCameraInfoList().at(place);
+    return layers.constFirst()->getCameraInfoList().constFirst();
 }
 
 bool CViewerTest::startsCamera() const
 {
-    return m_pool->startAcquisition(camera(0)->getId());
-}
-
-QAction *CViewerTest::button(EButton place) const
-{
-    return m_window->getToolBar()->actions().at(place);
+    return m_pool->startAcquisition(camera()->getId());
 }
 
 QVector<int> CViewerTest::enabledButtons() const
 {
     QVector<int> enabled;
     for (const EButton place : {Start, Stop, Record, StopRecording}) {
-        if (button(place)->isEnabled())
+        if (m_window->getToolBar()->actions().at(place)->isEnabled())
             enabled.append(place);
     }
     return enabled;
@@ -119,54 +105,25 @@ QVector<int> CViewerTest::enabledButtons() const
 void CViewerTest::acquiresAndRecords()
 {
     const QTemporaryDir folder;
+    const QList<QAction *> buttons = m_window->getToolBar()->actions();
+    const auto *const view = m_window->findChild<CImageView *>();
     QCOMPARE(enabledButtons(), QVector<int>());
-    m_tree->selectId(camera(0)->getId());
+    m_tree->selectId(camera()->getId());
     QCOMPARE(enabledButtons(), QVector<int>({Start, Record}));
-    button(Record)->trigger();
+    buttons.at(Record)->trigger();
     auto *const dialog = m_window->findChild<QFileDialog *>("recordingFolderDialog");
     QVERIFY(dialog);
     emit dialog->fileSelected(folder.path());
     dialog->close();
     QTRY_COMPARE(enabledButtons(), QVector<int>({Stop, StopRecording}));
     QTRY_VERIFY(!QDir(folder.path()).isEmpty());
-    button(StopRecording)->trigger();
+    buttons.at(StopRecording)->trigger();
     QTRY_COMPARE(enabledButtons(), QVector<int>({Stop, Record}));
     QCOMPARE(m_tree->currentIndex().siblingAtColumn(4).data().toString(), "Acquiring");
-    QTRY_VERIFY(m_view->hasImage());
-    button(Stop)->trigger();
+    QTRY_VERIFY(view->hasImage());
+    buttons.at(Stop)->trigger();
     QTRY_COMPARE(enabledButtons(), QVector<int>({Start, Record}));
-    QTRY_VERIFY(!m_view->hasImage());
-}
-
-void CViewerTest::anotherCameraTakesOverTheImage()
-{
-    m_tree->selectId(camera(0)->getId());
-    button(Start)->trigger();
-    QTRY_VERIFY(m_view->hasImage());
-    m_tree->selectId(camera(1)->getId());
-    QVERIFY(!m_view->hasImage());
-    QSignalSpy frames(m_pool, &Viewer::CameraPool::CCameraPool::frameReady);
-    QVERIFY(frames.wait());
-    QVERIFY2(!m_view->hasImage(), "the image of a camera that is not selected is shown");
-}
-
-void CViewerTest::unplugsAndMakesBusy()
-{
-    QMenu *const menu = m_window->getSimulationMenu();
-    const auto toggle = [menu](int entry) {
-        emit menu->aboutToShow();
-        menu->actions().constFirst()->menu()->actions().at(entry)->trigger();
-    };
-    const auto *const model = m_tree->getModel();
-    toggle(0);
-    QTRY_COMPARE(model->getCameraCount(), 11);
-    toggle(0);
-    QTRY_COMPARE(model->getCameraCount(), 12);
-    toggle(1);
-    const QModelIndex state = model->findId(camera(0)->getId()).siblingAtColumn(4);
-    QTRY_COMPARE(state.data().toString(), "In use elsewhere");
-    toggle(1);
-    QTRY_COMPARE(state.data().toString(), "Ready");
+    QTRY_VERIFY(!view->hasImage());
 }
 
 void CViewerTest::wizardLocksStartsAndClosing()
@@ -190,21 +147,11 @@ void CViewerTest::wizardLocksStartsAndClosing()
     QVERIFY(m_window->close());
 }
 
-void CViewerTest::otherDialogsLockNothing()
-{
-    QDialog modeless(m_window);
-    modeless.show();
-    m_window->findChild<QAction *>("about")->trigger();
-    QVERIFY(QApplication::activeModalWidget());
-    QVERIFY(startsCamera());
-    QVERIFY(m_window->close());
-}
-
 void CViewerTest::runningUpdateKeepsTheWindowOpen()
 {
     const auto updates = m_viewer->getUpdateService();
     const auto infos = updates->getFirmwareUpdateInfos(SAMPLE_FILE, {});
-    const auto job = updates->createDeviceFirmwareUpdate(camera(0), infos.constFirst());
+    const auto job = updates->createDeviceFirmwareUpdate(camera(), infos.constFirst());
     QVERIFY(job);
     std::thread worker([&job] { job->executeFirmwareUpdate(); });
     const bool running = QTest::qWaitFor([this] { return m_pool->isUpdateRunning(); });
@@ -216,21 +163,6 @@ void CViewerTest::runningUpdateKeepsTheWindowOpen()
     QVERIFY2(message.contains("update"), qPrintable(message));
     QTRY_VERIFY(!m_pool->isUpdateRunning());
     QVERIFY(m_window->close());
-}
-
-void CViewerTest::remembersPlaceAndLanguage()
-{
-    m_window->findChild<QAction *>("language_ja")->trigger();
-    QCOMPARE(CLanguage::choose({}), "ja");
-    QCOMPARE(CLanguage::choose("ko"), "ko");
-    CLanguage::remember("../../x");
-    QCOMPARE(CLanguage::choose({}), "en");
-    m_window->resize(712, 501);
-    m_window->getToolBar()->hide();
-    QVERIFY(m_window->close());
-    init();
-    QCOMPARE(m_window->size(), QSize(712, 501));
-    QVERIFY(!m_window->getToolBar()->isVisible());
 }
 
 void CViewerTest::closingEndsTheApplication()

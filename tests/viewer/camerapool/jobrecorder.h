@@ -22,25 +22,22 @@ public:
 
     explicit CJobRecorder(Job &job)
     {
-        const auto onBegin = [this](const auto &info, unsigned total) {
+        const auto on = [this, &job](auto signal, auto slot) {
+            connect(&job, signal, this, slot, Qt::DirectConnection);
+        };
+        on(&Job::firmwareUpdateBegin, [this](const auto &info, unsigned total) {
             add(info ? QString("begin %1").arg(total) : "begin without info");
-        };
-        const auto onStep = [this](EStep step, unsigned estimate, const QString &text) {
-            add((line("step", step, estimate) + ' ' + text).trimmed());
-        };
-        const auto onProgress
-            = [this](EStep step, double percent) { add(line("progress", step, percent)); };
-        const auto onStepDone
-            = [this](EStep step, unsigned estimate) { add(line("stepDone", step, estimate)); };
-        const auto onError = [this](const QString &text) { add("error " + text); };
-        connect(&job, &Job::firmwareUpdateBegin, this, onBegin, Qt::DirectConnection);
-        connect(&job, &Job::firmwareUpdateProgressStepBegin, this, onStep, Qt::DirectConnection);
-        connect(&job, &Job::firmwareUpdateProgressStepProgressChanged, this, onProgress,
-                Qt::DirectConnection);
-        connect(&job, &Job::firmwareUpdateProgressStepDone, this, onStepDone, Qt::DirectConnection);
-        connect(
-            &job, &Job::firmwareUpdateDone, this, [this] { add("done"); }, Qt::DirectConnection);
-        connect(&job, &Job::firmwareUpdateError, this, onError, Qt::DirectConnection);
+        });
+        on(&Job::firmwareUpdateProgressStepBegin,
+           [this](EStep step, unsigned estimate, const QString &text) {
+               add((line("step", step, estimate) + ' ' + text).trimmed());
+           });
+        on(&Job::firmwareUpdateProgressStepProgressChanged,
+           [this](EStep step, double percent) { add(line("progress", step, percent)); });
+        on(&Job::firmwareUpdateProgressStepDone,
+           [this](EStep step, unsigned estimate) { add(line("stepDone", step, estimate)); });
+        on(&Job::firmwareUpdateDone, [this] { add("done"); });
+        on(&Job::firmwareUpdateError, [this](const QString &text) { add("error " + text); });
     }
 
     /// All lines but those of progress.

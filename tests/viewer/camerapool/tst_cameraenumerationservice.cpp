@@ -21,7 +21,7 @@ class CHeldEnumerator : public ICameraEnumerator
 public:
     Layers enumerate() override
     {
-        const Layers found = get();
+        const Layers found = exchange(nullptr);
         ++m_begun;
         while (m_held) // it has looked already, but does not return
             std::this_thread::yield();
@@ -30,20 +30,16 @@ public:
 
     void cancel() override { m_held = false; }
 
-    void set(const Layers &layers)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_layers = layers;
-    }
+    void set(const Layers &layers) { (void)exchange(&layers); }
 
     std::atomic<int> m_begun = 0;
     std::atomic<bool> m_held = false;
 
 private:
-    Layers get()
+    Layers exchange(const Layers *layers)
     {
         const std::lock_guard lock(m_mutex);
-        return m_layers;
+        return layers ? m_layers = *layers : m_layers;
     }
 
     std::mutex m_mutex;
@@ -123,7 +119,6 @@ void CCameraEnumerationServiceTest::announcesOnlyChanges_data()
         QTest::newRow(name) << Layers{{"l1", "Layer", first}, {"l2", "Layer", second}} << announced;
     };
     row("the same", {a, b}, {}, false);
-    row("camera gone", {a}, {});
     row("new firmware", {a, makeCamera("b", "2.0")}, {});
     row("new status", {a, makeCamera("b", "1.0", 3)}, {});
     row("other order", {b, a}, {});
@@ -150,13 +145,8 @@ void CCameraEnumerationServiceTest::keepsUnchangedObjects()
     announce({{"l1", "Layer", {makeCamera("a"), makeCamera("b", "2.0")}}});
     QCOMPARE(m_service->findCamera("a"), a);
     QCOMPARE(b->getFirmwareVersion(), QString("1.0")); // a snapshot stays as it is
-    const auto layers = m_service->getTransportLayerInfoVector();
-    const auto newB = layers.at(0)->getCameraInfoList().at(1);
-    QCOMPARE(newB, m_service->findCamera("b"));
-    QCOMPARE(newB->getFirmwareVersion(), QString("2.0"));
-    QCOMPARE(newB->getTransportLayerId(), layers.at(0)->getId());
+    QCOMPARE(m_service->findCamera("b")->getFirmwareVersion(), QString("2.0"));
     announce({{"l1", "Layer", {makeCamera("a"), makeCamera("b", "2.0")}}}); // explicitly: announced
-    QCOMPARE(m_service->getTransportLayerInfoVector(), layers);
 }
 
 void CCameraEnumerationServiceTest::refreshDuringEnumerationLooksAgain()

@@ -11,8 +11,6 @@
 #include "camerapool/icamerastreamcontrolservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
 
-#include <QDir>
-#include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -33,18 +31,15 @@ class CCameraPoolTest : public QObject
 private slots:
     void init();
     void announcesPluggedAndUnpluggedCameras();
-    void recordingEndsWithoutItsFolder();
     void refusesToStart();
     void stopAllIsCompleteAtOnce();
     void updateIsAnnouncedOnceAtItsEnd();
     void unpluggingEndsAnUpdate();
     void jobOutlivesThePool();
     void findsWhatFitsNewestFirst();
-    void faultLeadsToItsSentence_data();
-    void faultLeadsToItsSentence();
 
 private:
-    void createPool(double speedFactor, const QString &descriptionFile = {});
+    void createPool(double speedFactor);
     [[nodiscard]] CameraInfoPtr find(const QString &cameraId) const;
     [[nodiscard]] DeviceFirmwareUpdatePtr createJob(const QString &cameraId, int imageSize) const;
 
@@ -69,12 +64,12 @@ void CCameraPoolTest::init()
     createPool(500.0);
 }
 
-void CCameraPoolTest::createPool(double speedFactor, const QString &descriptionFile)
+void CCameraPoolTest::createPool(double speedFactor)
 {
     m_announced.reset();
     m_pool.reset();
-    m_pool = std::make_unique<CCameraPool>(CCameraPoolOptions{
-        descriptionFile, m_folder->filePath("firmware.json"), speedFactor, false});
+    m_pool = std::make_unique<CCameraPool>(
+        CCameraPoolOptions{QString(), m_folder->filePath("firmware.json"), speedFactor, false});
     m_announced = std::make_unique<QSignalSpy>(getService<ICameraEnumerationService>().data(),
                                                &ICameraEnumerationService::enumerationChanged);
     m_pool->start();
@@ -116,23 +111,6 @@ void CCameraPoolTest::announcesPluggedAndUnpluggedCameras()
     QVERIFY(find(FirstId));
 }
 
-void CCameraPoolTest::recordingEndsWithoutItsFolder()
-{
-    QDir folder(m_folder->filePath("frames"));
-    QVERIFY(!m_pool->startRecording(FirstId, folder.path()));
-    QVERIFY(folder.mkpath("."));
-    QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
-    QVERIFY(m_pool->startRecording(FirstId, folder.path()));
-    QTRY_VERIFY(folder.entryList(QDir::Files).size() >= 2);
-    m_pool->stopRecording(FirstId);
-    for (const QString &file : folder.entryList(QDir::Files)) // whole, also the last
-        QCOMPARE(QImage(folder.filePath(file)).size(), QSize(640, 480));
-    QVERIFY(m_pool->startRecording(FirstId, folder.path()));
-    QVERIFY(folder.removeRecursively());
-    QTRY_COMPARE(failed.count(), 1);
-    QCOMPARE(m_pool->getActivity(FirstId), ECameraActivity::Acquiring);
-}
-
 void CCameraPoolTest::refusesToStart()
 {
     const auto verifyRefused = [this](const char *cause) {
@@ -162,9 +140,6 @@ void CCameraPoolTest::stopAllIsCompleteAtOnce()
     getService<ICameraStreamControlService>()->stopAllCameras();
     for (const QString &id : {FirstId, SecondId, busyId})
         QVERIFY(!status->isCameraBusy(find(id)));
-    // Making the camera busy and free has changed nothing that an enumeration tells.
-    getService<ICameraEnumerationService>()->refreshEnumeration();
-    QTRY_COMPARE(m_announced->count(), 2);
 }
 
 void CCameraPoolTest::updateIsAnnouncedOnceAtItsEnd()
@@ -249,50 +224,6 @@ void CCameraPoolTest::findsWhatFitsNewestFirst()
     QCOMPARE(getFitting("1.2.0", 0), QString("updatable 1.10 1.10-rc1 1.9 odd"));
     QCOMPARE(getFitting("unknown", 0), QString("updatable 1.10-rc1 1.9 odd"));
     QCOMPARE(getFitting("1.2.0", -1), QString("not updatable"));
-}
-
-void CCameraPoolTest::faultLeadsToItsSentence_data()
-{
-    QTest::addColumn<QString>("error"); // empty: the update succeeds
-    QTest::addColumn<bool>("written");
-    QTest::addColumn<QString>("version"); // afterwards; empty: the camera is not found any more
-    const auto row = [](const char *id, const char *error, bool written, const char *version) {
-        QTest::newRow(id) << QString(error) << written << QString(version);
-    };
-    const char *const wrong = "\"DeviceFirmwareVersion\" is \"%1\" instead of \"2.0.0\"";
-    const auto wrongVersion = [wrong](const char *found) { return QString(wrong).arg(found); };
-    row("fault-none", "", false, "2.0.0");
-    row("fault-precondition", "cannot be updated now", false, "1.2.0");
-    row("fault-write-refused", "refuses to write the feature", true, "1.2.0");
-    row("fault-upload-fails", "broke off after 100000 of 200000 bytes", true, "1.2.0");
-    row("fault-vanishes", "the connection was lost", true, "");
-    row("fault-assert-fails", qPrintable(wrongVersion("invalid")), true, "2.0.0");
-    row("fault-never-returns", "did not come back from its reset", true, "");
-    row("fault-returns-late", "", false, "2.0.0");
-    row("fault-old-version", qPrintable(wrongVersion("1.2.0")), true, "1.2.0");
-}
-
-void CCameraPoolTest::faultLeadsToItsSentence()
-{
-    QFETCH(QString, error);
-    QFETCH(bool, written);
-    for (const double speedFactor : {200.0, 100'000.0}) { // with the same outcome at every speed
-        m_folder.reset(new QTemporaryDir);
-        createPool(speedFactor, SAMPLE_CAMERAS "/faults.json");
-        const auto job = createJob(QTest::currentDataTag(), 200'000);
-        const CJobRecorder recorder(*job);
-        executeOnThread(*job);
-        const QString text = recorder.getError();
-        QCOMPARE(recorder.getAll("done").size(), error.isEmpty() ? 1 : 0);
-        QVERIFY2(text.isEmpty() == error.isEmpty() && text.contains(error), qPrintable(text));
-        QCOMPARE(text.contains("repeat it before the camera is used"), written);
-        // Nothing was announced meanwhile, so what comes now is from after the update.
-        QCOMPARE(m_announced->count(), 1);
-        getService<ICameraEnumerationService>()->refreshEnumeration();
-        QTRY_COMPARE(m_announced->count(), 2);
-        const CameraInfoPtr camera = find(QTest::currentDataTag());
-        QTEST(camera ? camera->getFirmwareVersion() : QString(), "version");
-    }
 }
 
 QTEST_GUILESS_MAIN(CCameraPoolTest)

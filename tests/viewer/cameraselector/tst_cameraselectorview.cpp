@@ -4,15 +4,12 @@
 #include "viewer/cameraselector/deviceselectorservice.h"
 
 #include <QAbstractItemModelTester>
-#include <QContextMenuEvent>
-#include <QMenu>
 #include <QtTest>
 
 #include <memory>
 
 using namespace TestSupport;
 using namespace Viewer::CameraSelector;
-using Viewer::CameraPool::ECameraActivity;
 
 class CCameraSelectorViewTest : public QObject
 {
@@ -20,12 +17,9 @@ class CCameraSelectorViewTest : public QObject
 
 private slots:
     void init();
-    void showsStates();
     void announcesEachSelection();
     void keepsTheSelectionById();
     void announcesNullWhenTheCameraDisappears();
-    void emptyPlaceTakesTheSelectionAway();
-    void opensTheContextMenuWithEntriesOnly();
 
 private:
     QString takeId();
@@ -66,23 +60,6 @@ QString CCameraSelectorViewTest::takeId()
     return info ? info->getId() : QString("null");
 }
 
-void CCameraSelectorViewTest::showsStates()
-{
-    const auto state = [this](const char *id) {
-        const QModelIndex row = m_view->getModel()->findId(id);
-        return row.siblingAtColumn(CCameraSelectorModel::StateColumn).data().toString();
-    };
-    QCOMPARE(state("a"), "Ready");
-    QCOMPARE(state("b"), "Not updatable (4)");
-    m_view->getModel()->setActivity("a", ECameraActivity::Recording);
-    m_view->getModel()->setActivity("b", ECameraActivity::InUseElsewhere);
-    m_view->getModel()->setActivity("nobody", ECameraActivity::Acquiring);
-    // The activity outlives an enumeration that begins while the camera works.
-    m_enumeration->announce(m_enumeration->layers);
-    QCOMPARE(state("a"), "Recording");
-    QCOMPARE(state("b"), "In use elsewhere");
-}
-
 void CCameraSelectorViewTest::announcesEachSelection()
 {
     QCOMPARE(takeId(), "none");
@@ -119,28 +96,6 @@ void CCameraSelectorViewTest::announcesNullWhenTheCameraDisappears()
     QCOMPARE(takeId(), "null");
     m_enumeration->announce({makeLayer("u3v", {{"c"}})});
     QCOMPARE(takeId(), "none");
-}
-
-void CCameraSelectorViewTest::emptyPlaceTakesTheSelectionAway()
-{
-    m_view->selectId("a");
-    QCOMPARE(takeId(), "a");
-    QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {},
-                      QPoint(20, m_view->viewport()->height() - 5));
-    QCOMPARE(takeId(), "null");
-}
-
-void CCameraSelectorViewTest::opensTheContextMenuWithEntriesOnly()
-{
-    QMenu menu;
-    menu.addAction("Entry")->setVisible(false);
-    m_view->setContextMenu(&menu);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, {30, 30});
-    QCoreApplication::sendEvent(m_view->viewport(), &event);
-    QVERIFY(!menu.isVisible());
-    menu.actions().constFirst()->setVisible(true);
-    QCoreApplication::sendEvent(m_view->viewport(), &event);
-    QVERIFY(menu.isVisible());
 }
 
 QTEST_MAIN(CCameraSelectorViewTest)

@@ -15,7 +15,6 @@ private slots:
     void init();
     void demonstrationUpdatesThenReinstalls();
     void demonstrationFailsWithTheUpdate();
-    void demonstrationFailsWithoutItsPictures();
     void refusesToStart();
 
 private:
@@ -80,20 +79,17 @@ void CNuvexViewerTest::demonstrationFailsWithTheUpdate()
     QVERIFY(m_output.contains("Skipped updates: 5"));
 }
 
-void CNuvexViewerTest::demonstrationFailsWithoutItsPictures()
-{
-    // A folder where the picture should go.
-    QVERIFY(m_home.mkpath("pictures/step4.png"));
-    run(m_demonstration, 1, "step4.png");
-    QVERIFY2(m_output.contains("Successful updates: 6"), qPrintable(m_output));
-}
-
 void CNuvexViewerTest::refusesToStart()
 {
     run({"--plugins", REQUIRED_PLUGIN_FOLDER}, 1, "\"required_missing\"");
     run({"--cameras", "nowhere.json"}, 1, "nowhere.json");
     run({"--demo", "pictures"}, 1, "no update file");
     run({"--nothing"}, 2, "nothing");
+    run({"--cameras"}, 2, "cameras");
+    run({"file.guf"}, 2, "file.guf");
+    run({"--language=de"}, 2, "\"de\"");
+    for (const char *speed : {"fast", "0", "nan"})
+        run({"--speed", speed}, 2, QString("\"%1\"").arg(speed));
 }
 
 QTEST_GUILESS_MAIN(CNuvexViewerTest)

@@ -17,10 +17,8 @@ class CGufToolTest : public QObject
 private slots:
     void init();
     void packsFillsInAndShows();
-    void packsTheSameBytesAgain();
     void refusesFaultySources();
     void reportsFaultyFile();
-    void tellsUsage();
 
 private:
     QScopedPointer<QTemporaryDir> m_folder;
@@ -79,20 +77,8 @@ void CGufToolTest::packsFillsInAndShows()
     };
     const QString json = run("inspect --json a.guf").mid(2).remove("\"description\": \"\",");
     QCOMPARE(getUpdate(json.toUtf8()), getUpdate(MANIFEST));
-    const QString text = run("inspect a.guf");
-    QVERIFY(text.contains("  Release notes:    - One\n                    - Two\n"));
-    QVERIFY(text.contains("by size  images/a.img (5000 bytes) to FirmwareImage  [Image]\n"));
-}
-
-void CGufToolTest::packsTheSameBytesAgain()
-{
-    run("pack source a.guf");
-    QFile image("source/images/a.img");
-    const QDateTime time(QDate(2001, 1, 1), QTime(1, 1));
-    QVERIFY(image.open(QIODevice::ReadWrite));
-    QVERIFY(image.setFileTime(time, QFileDevice::FileModificationTime));
-    run("pack source b.guf");
-    QVERIFY(!readFile("a.guf").isEmpty() && readFile("a.guf") == readFile("b.guf"));
+    QVERIFY(run("inspect a.guf")
+                .contains("by size  images/a.img (5000 bytes) to FirmwareImage  [Image]\n"));
 }
 
 void CGufToolTest::refusesFaultySources()
@@ -107,8 +93,6 @@ void CGufToolTest::refusesFaultySources()
     };
     refuse("\"updates\":", "\"updates\"",
            R"(line 3, column 13: expected a colon after "updates", found "[")");
-    refuse("\"updates\": [", "\"updates\": {}, \"x\": [",
-           R"(update.json: the field "x" is unknown; known here are formatVersion, updates)");
     refuse("a.img", "b.img", R"(the payload "images/b.img" is missing in the folder)");
     refuse("images/a.img", "../a.img",
            "steps[3].payload\" has an empty part or one of dots only; use a plain path");
@@ -124,18 +108,9 @@ void CGufToolTest::reportsFaultyFile()
     const QString noZip = "/a.guf: this is not an update file, as it is not a ZIP archive\n";
     for (const char *command : {"verify a.guf", "inspect a.guf", "inspect --json a.guf"})
         QCOMPARE(run(command), "1 Update file " + m_folder->path() + noZip);
-    const QString result = run("pack source missing/a.guf");
-    QVERIFY(result.endsWith(": its folder does not exist or is read-only\n"));
-    QVERIFY(run("pack source source").startsWith("1 "));
-}
-
-void CGufToolTest::tellsUsage()
-{
-    for (const char *arguments :
-         {"", "unpack a", "verify --fast a", "verify --json a", "verify", "inspect a b", "pack a"})
-        QVERIFY2(run(arguments).startsWith("2 ") && run(arguments).contains("Usage: guftool"),
-                 arguments);
-    QVERIFY(run("--help").startsWith("0 Usage: guftool"));
+    QVERIFY(run("unpack a.guf").startsWith("2 "));
+    for (const char *target : {"missing/a.guf", "source"})
+        QVERIFY(run(QString("pack source ") + target).startsWith("1 "));
 }
 
 QTEST_GUILESS_MAIN(CGufToolTest)

@@ -1,7 +1,12 @@
+#include "viewer/pluginsystem/dependencyresolver.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
 
+#include "core/iplugin.h"
+
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -9,6 +14,23 @@
 
 using namespace Viewer::PluginSystem;
 
+// "a: b, c" is the plug-in a, which needs b and c at version 1.0.0; @p key gets another value.
+static CPluginSpec makeSpec(const QString &text, const QString &key = "Required",
+                            const QJsonValue &value = false)
+{
+    QJsonArray dependencies;
+    for (const QString &name : text.section(": ", 1).split(", ", Qt::SkipEmptyParts))
+        dependencies.append(QJsonObject{{"Name", name}, {"Version", "1.0.0"}});
+    QJsonObject keys{{"Name", text.section(": ", 0, 0)},
+                     {"Version", "1.0.0"},
+                     {"CompatVersion", "1.0.0"},
+                     {"Dependencies", dependencies}};
+    keys.insert(key, value);
+    return CPluginSpec::createFromMetaData("/plugins/libsample.so",
+                                           {{"IID", NUVEX_VIEWER_PLUGIN_IID}, {"MetaData", keys}});
+}
+
+/// Looks at the manager, and at the resolver that tells it the order.
 class CPluginManagerTest : public QObject
 {
     Q_OBJECT
@@ -21,6 +43,8 @@ private slots:
     void reportsDamagedAndDoubleLibraries();
     void requiredFailureEndsTheStart();
     void leavesOutThoseThatDependOnAFailure();
+    void ordersByDependencies();
+    void refusesFaultyMetaData();
 
 private:
     bool start(const QStringList &plugins);
@@ -127,6 +151,40 @@ void CPluginManagerTest::leavesOutThoseThatDependOnAFailure()
     QVERIFY(!calls().contains("needs_refuses_late.postInitialize"));
     QVERIFY(calls().contains("needs_refuses_late.unInitialize"));
     QCOMPARE(m_initializer.getServices().size(), 0);
+}
+
+void CPluginManagerTest::ordersByDependencies()
+{
+    const auto verify = [](const QStringList &found, const QStringList &order) {
+        QList<CPluginSpec> specs{CPluginSpec::createBuiltIn("Viewer", "1.0.0", "1.0.0", {})};
+        for (const QString &text : found)
+            specs.append(makeSpec(text));
+        QStringList names;
+        const QVector<int> places = CDependencyResolver::resolve(specs);
+        for (const int place : places)
+            names.append(specs.at(place).getName());
+        QCOMPARE(names, order);
+        for (int place = 1; place < specs.size(); ++place)
+            QCOMPARE(specs.at(place).getError().isEmpty(), places.contains(place));
+    };
+    verify({"a: b", "b: c", "c"}, {"c", "b", "a"});
+    verify({"top: left, right", "left: base", "right: base", "base"},
+           {"base", "left", "right", "top"});
+    verify({"a: b", "b: gone", "c"}, {"c"});
+    verify({"a: a", "b"}, {"b"}); // needs itself
+    verify({"Viewer", "a: Viewer"}, {"a"}); // replaces a part of the viewer
+    verify({"a: b", "b: c", "c: b", "d"}, {"d"}); // a circle, and one that needs it
+}
+
+void CPluginManagerTest::refusesFaultyMetaData()
+{
+    const QMultiMap<QString, QJsonValue> faults{{"Name", QJsonValue::Undefined},
+                                                {"Version", "1.0-beta"},
+                                                {"CompatVersion", 1},
+                                                {"Dependencies", QJsonObject()},
+                                                {"Dependencies", QJsonArray{"Other"}}};
+    for (auto fault = faults.cbegin(); fault != faults.cend(); ++fault)
+        QVERIFY2(makeSpec("a", fault.key(), *fault).hasFailed(), qPrintable(fault.key()));
 }
 
 QTEST_GUILESS_MAIN(CPluginManagerTest)

@@ -14,7 +14,6 @@ class CFirmwareStateFileTest : public QObject
 
 private slots:
     void remembersAndForgets();
-    void putsDamagedFileAside_data();
     void putsDamagedFileAside();
     void keepsOldFileWhenWritingFails();
 
@@ -38,31 +37,26 @@ void CFirmwareStateFileTest::remembersAndForgets()
     QCOMPARE(CFirmwareStateFile(m_path).getVersion("a"), QString());
 }
 
-void CFirmwareStateFileTest::putsDamagedFileAside_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("cut off") << QByteArray(R"({"format": 1, "firmware": {"a": "1.)");
-    QTest::newRow("other format") << QByteArray(R"({"format": 2, "firmware": {}})");
-    QTest::newRow("number") << QByteArray(R"({"format": 1, "firmware": {"a": 1}})");
-    QTest::newRow("line break") << QByteArray(R"({"format": 1, "firmware": {"a": "1\n2"}})");
-    QTest::newRow("binary") << QByteArray("\0\1\2\xFF", 4);
-}
-
 void CFirmwareStateFileTest::putsDamagedFileAside()
 {
-    QFETCH(QByteArray, content);
-    QFile file(m_path);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    file.close();
-    QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression("cannot be read .*renamed to .*json\\.damaged"));
-    CFirmwareStateFile state(m_path);
-    QCOMPARE(state.getVersion("a"), QString());
-    QFile aside(m_path + ".damaged");
-    QVERIFY(aside.open(QIODevice::ReadOnly));
-    QCOMPARE(aside.readAll(), content);
-    state.setVersion("a", "1.0"); // from then on it works as ever
-    QCOMPARE(CFirmwareStateFile(m_path).getVersion("a"), QString("1.0"));
+    for (const QByteArray &content :
+         {QByteArray(R"({"format": 1, "firmware": {"a": "1.)"),
+          QByteArray(R"({"format": 2, "firmware": {}})"),
+          QByteArray(R"({"format": 1, "firmware": {"a": 1}})"),
+          QByteArray(R"({"format": 1, "firmware": {"a": "1\n2"}})"), QByteArray("\0\1\2\xFF", 4)}) {
+        QFile file(m_path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        QTest::ignoreMessage(QtWarningMsg,
+                             QRegularExpression("cannot be read .*renamed to .*json\\.damaged"));
+        CFirmwareStateFile state(m_path);
+        QCOMPARE(state.getVersion("a"), QString());
+        QFile aside(m_path + ".damaged");
+        QVERIFY(aside.open(QIODevice::ReadOnly));
+        QCOMPARE(aside.readAll(), content);
+        state.setVersion("a", "1.0"); // from then on it works as ever
+        QCOMPARE(CFirmwareStateFile(m_path).getVersion("a"), QString("1.0"));
+    }
 }
 
 void CFirmwareStateFileTest::keepsOldFileWhenWritingFails()

@@ -65,24 +65,18 @@ private slots:
     void installsOnlyWhatWasUploadedActivatedAndRestarted();
     void refusesToActivate();
     void everyOperationKeepsItsTimeLimit();
-    void oneUserAtATime();
     void unpluggingEndsARestart();
 };
 
 void CSimulatedCameraDeviceTest::installsOnlyWhatWasUploadedActivatedAndRestarted()
 {
     CBench bench;
-    bench.device.writeFeature("FirmwareUpdateMode", "On", 5s);
-    QCOMPARE(bench.device.readFeature("FirmwareUpdateMode", 5s), QString("On"));
     bench.upload();
     bench.device.resetAndWait(60s);
     QCOMPARE(bench.getVersion(), QString("1.0.0"));
-    verifyFault("no feature", [&] { (void)bench.device.readFeature("FirmwareUpdateMode", 5s); });
-
     bench.upload();
     bench.device.executeCommand(ActivateCommand, 5s);
     QCOMPARE(bench.getVersion(), QString("1.0.0"));
-    QCOMPARE(bench.memory->getVersion("cam"), QString());
     bench.device.resetAndWait(60s);
     QCOMPARE(bench.getVersion(), QString("2.0.0"));
     QCOMPARE(bench.memory->getVersion("cam"), QString("2.0.0"));
@@ -93,11 +87,8 @@ void CSimulatedCameraDeviceTest::refusesToActivate()
     CBench bench;
     const auto activate = [&bench] { bench.device.executeCommand(ActivateCommand, 5s); };
     verifyFault("no complete firmware image", activate);
-    for (const char *image :
-         {"just some text\n\n", "\nversion: 2", "version: 2", "\x7f\nversion: 2\n"}) {
-        bench.upload(image);
-        verifyFault("does not accept the uploaded file", activate);
-    }
+    bench.upload("just some text\n\n");
+    verifyFault("does not accept the uploaded file", activate);
     bench.upload("model: M-2\nversion: 2.0.0\n\n");
     verifyFault("is for model M-2, not for M-1", activate);
 }
@@ -112,24 +103,6 @@ void CSimulatedCameraDeviceTest::everyOperationKeepsItsTimeLimit()
     verifyFault("within 0.1 s", [&] { bench.device.resetAndWait(100ms); });
     bench.device.close();
     verifyFault("within 0.01 s", [&] { bench.device.open(10ms); });
-    bench.device.close();
-    bench.device.open(60s); // it is free for the next one
-}
-
-void CSimulatedCameraDeviceTest::oneUserAtATime()
-{
-    CBench bench;
-    CSimulatedCameraDevice other(bench.camera);
-    const auto open = [&other] { other.open(60s); };
-    verifyFault("already being updated", open);
-    bench.camera->setBusy(true);
-    QVERIFY(!bench.camera->isBusy()); // somebody else has it
-    bench.device.close();
-    bench.camera->setBusy(true);
-    verifyFault("another application uses it", open);
-    bench.camera->setPlugged(false);
-    verifyFault("does not answer", open);
-    verifyFault("it is not open", [&other] { (void)other.readFeature("A", 5s); });
 }
 
 void CSimulatedCameraDeviceTest::unpluggingEndsARestart()

@@ -47,7 +47,6 @@ void CManifestParserTest::tellsFaults_data()
     const auto repeat = [](const char *item, int count) {
         return '[' + (QByteArray(item) + ',').repeated(count - 1) + item;
     };
-    row("", "update.json is empty");
     row(" \n", "update.json is empty");
     row("{ \"a\": \"\xff\" }",
         "update.json is not JSON at line 1, column 8: the text is not valid UTF-8");

