@@ -7,6 +7,7 @@
 #include "state/resultsummarystep.h"
 #include "state/updateselectionstep.h"
 #include "state/updatesummarystep.h"
+#include "style/icons.h"
 #include "view/cameraselectiondialog.h"
 #include "view/firmwareupdatedialog.h"
 #include "view/resultsummarydialog.h"
@@ -207,7 +208,7 @@ bool CFirmwareUpdaterService::askToStopAllCameras() const
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(QMessageBox::No);
     box.setWindowFlag(Qt::WindowMinMaxButtonsHint);
-    box.setIconPixmap(QPixmap(QStringLiteral(":/firmwareupdater/icons/help_icon_32x32_en")));
+    box.setIconPixmap(Style::getIconPixmap(QStringLiteral("help_icon_32x32_en")));
 
     // A message box takes its width from its text alone; a row of fixed width widens it.
     if (auto *const grid = qobject_cast<QGridLayout *>(box.layout())) {
