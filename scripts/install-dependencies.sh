@@ -1,8 +1,9 @@
 #!/bin/bash
 # Installs the Debian packages that the project needs and that are missing.
 #
-#   scripts/install-dependencies.sh run    to build and to start the viewer
-#   scripts/install-dependencies.sh test   to build, to test and to check the format as well
+#   scripts/install-dependencies.sh run       to build and to start the viewer
+#   scripts/install-dependencies.sh test      to build, to test and to check the format as well
+#   scripts/install-dependencies.sh pictures  to renew the pictures of the README
 set -euo pipefail
 
 run_packages=(
@@ -29,11 +30,16 @@ test_packages=(
   # The address and thread sanitizers' libraries come with the compiler.
 )
 
+picture_packages=(
+  imagemagick
+)
+
 case "${1:-}" in
   run) packages=("${run_packages[@]}") ;;
   test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
+  pictures) packages=("${run_packages[@]}" "${picture_packages[@]}") ;;
   *)
-    echo "usage: $0 run|test" >&2
+    echo "usage: $0 run|test|pictures" >&2
     exit 2
     ;;
 esac
