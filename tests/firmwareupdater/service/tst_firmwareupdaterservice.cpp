@@ -35,6 +35,7 @@ private slots:
     void keepsTheTypedFormButStoresTheAbsolutePath();
     void checksTheFirstTickedCameraOnly();
     void checksThePathAtEachEntry();
+    void endsWithoutUpdatesWhenTheFileIsLost();
     void takesAFileFromTheFileDialog();
     void walksThroughItsSteps();
     void rebuildsTheTreeOnlyWhileOpen();
@@ -62,6 +63,7 @@ private:
     void goToStepThree();
     void goToStepFour();
     [[nodiscard]] QString updateText(const char *label) const;
+    [[nodiscard]] QString successText() const;
 
     /// Calls @p answer with the modal widget that the code under test is about to open.
     void whenModal(const std::function<void(QWidget *)> &answer);
@@ -162,6 +164,13 @@ void CFirmwareUpdaterServiceTest::goToStepFour()
 QString CFirmwareUpdaterServiceTest::updateText(const char *label) const
 {
     return dialog<View::CUpdateSelectionDialog>()->findChild<QLabel *>(label)->text();
+}
+
+QString CFirmwareUpdaterServiceTest::successText() const
+{
+    return dialog<View::CResultSummaryDialog>()
+        ->findChild<QLabel *>("successfulUpdatesLabel")
+        ->text();
 }
 
 void CFirmwareUpdaterServiceTest::whenModal(const std::function<void(QWidget *)> &answer)
@@ -303,6 +312,28 @@ void CFirmwareUpdaterServiceTest::checksThePathAtEachEntry()
     QCOMPARE(dialog<View::CUpdateSummaryDialog>()->getModel()->rowCount(), 0);
 }
 
+void CFirmwareUpdaterServiceTest::endsWithoutUpdatesWhenTheFileIsLost()
+{
+    start();
+    tick("a");
+    click(dialog<View::CCameraSelectionDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
+    typePath(makeFile("update.guf"));
+    // The file turns bad behind the last check: the summary stays empty.
+    m_fixture->host.updates->readError = "The file is torn";
+    click(dialog<View::CUpdateSelectionDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CUpdateSummaryDialog>());
+    QCOMPARE(m_fixture->getLog().last(),
+             "CRITICAL Failed to open firmware update file: The file is torn");
+    QCOMPARE(dialog<View::CUpdateSummaryDialog>()->getModel()->rowCount(), 0);
+
+    // Step 4 has nothing to do and ends while it is being entered.
+    click(dialog<View::CUpdateSummaryDialog>(), "Next");
+    QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
+    QCOMPARE(successText(), "Successful updates: 0");
+    QVERIFY(m_jobs.isEmpty());
+}
+
 void CFirmwareUpdaterServiceTest::takesAFileFromTheFileDialog()
 {
     start();
@@ -341,9 +372,7 @@ void CFirmwareUpdaterServiceTest::walksThroughItsSteps()
     m_jobs.value("b")->release();
     QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
     QVERIFY(!isShown<View::CFirmwareUpdateDialog>());
-    const auto *const label
-        = dialog<View::CResultSummaryDialog>()->findChild<QLabel *>("successfulUpdatesLabel");
-    QCOMPARE(label->text(), "Successful updates: 2");
+    QCOMPARE(successText(), "Successful updates: 2");
     const QString log = m_fixture->service->getCurrentTemporaryLogFilePath();
     QVERIFY(QFile::exists(log));
 
