@@ -8,7 +8,7 @@ namespace Plugin::FirmwareUpdater::Internal::View {
 void setUpCellWidget(QWidget *widget)
 {
     QPalette palette = widget->palette();
-    setReadableTexts(palette);
+    setReadableColors(palette);
     palette.setColor(QPalette::Window, Constants::WHITE_COLOR);
     palette.setColor(QPalette::Base, Constants::WHITE_COLOR);
     palette.setColor(QPalette::Active, QPalette::AlternateBase, Constants::LIGHT_BLUE_COLOR);

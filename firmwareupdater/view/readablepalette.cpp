@@ -2,6 +2,9 @@
 
 #include "constants.h"
 
+#include <QLabel>
+#include <QTextDocument>
+
 namespace Plugin::FirmwareUpdater::Internal::View {
 
 void setReadableText(QPalette &palette, QPalette::ColorRole role)
@@ -11,12 +14,32 @@ void setReadableText(QPalette &palette, QPalette::ColorRole role)
     palette.setColor(QPalette::Disabled, role, Constants::DISABLED_TEXT_COLOR);
 }
 
-void setReadableTexts(QPalette &palette)
+void setReadableColors(QPalette &palette)
 {
     setReadableText(palette, QPalette::WindowText);
     setReadableText(palette, QPalette::Text);
+    setReadableText(palette, QPalette::ButtonText);
     palette.setColor(QPalette::Link, Constants::LINK_COLOR);
     palette.setColor(QPalette::LinkVisited, Constants::LINK_COLOR);
+
+    const QColor &button = Constants::LIGHT_GREY_COLOR;
+    palette.setColor(QPalette::Button, button);
+    palette.setColor(QPalette::Light, Constants::WHITE_COLOR);
+    palette.setColor(QPalette::Midlight, button.darker(118));
+    palette.setColor(QPalette::Mid, button.darker(130));
+    palette.setColor(QPalette::Dark, button.darker(150));
+    palette.setColor(QPalette::Shadow, button.darker(200));
+}
+
+void showTextWithLinks(QLabel *label, const QString &text)
+{
+    label->setText(text);
+    // Rich text takes the colour of its links from the application's palette, not from the label's.
+    // The label fills its document only when it is asked for its size or painted.
+    if (auto *document = label->findChild<QTextDocument *>()) {
+        document->setDefaultStyleSheet(
+            QStringLiteral("a { color: %1 }").arg(Constants::LINK_COLOR.name()));
+    }
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

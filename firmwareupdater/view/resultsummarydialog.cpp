@@ -1,6 +1,7 @@
 #include "resultsummarydialog.h"
 
 #include "model/firmwareupdatetreemodel.h"
+#include "readablepalette.h"
 #include "treeviewlabeldelegate.h"
 #include "treeviewresultdelegate.h"
 #include "ui_resultsummarydialog.h"
@@ -75,12 +76,13 @@ void CResultSummaryDialog::updateView()
 void CResultSummaryDialog::setInfoTextData(const QString &supportUrl, const QString &logFilePath)
 {
     const QString logFile = logFilePath.toHtmlEscaped();
-    m_ui->infoTextLabel_3->setText(
+    showTextWithLinks(
+        m_ui->infoTextLabel_3,
         tr("For more information, see the <a href=\"%1\">log file</a>. If you require assistance, "
            "contact the <a href=\"%2\">Korvane Support</a>.")
             .arg(logFile, supportUrl.toHtmlEscaped()));
-    m_ui->infoTextLabel_2->setText(
-        tr("See <a href=\"%1\">log file</a> for more information.").arg(logFile));
+    showTextWithLinks(m_ui->infoTextLabel_2,
+                      tr("See <a href=\"%1\">log file</a> for more information.").arg(logFile));
 }
 
 void CResultSummaryDialog::setErrorTextData(const QString &message, bool lastCamera)

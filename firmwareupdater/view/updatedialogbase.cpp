@@ -54,15 +54,23 @@ void CUpdateDialogBase::initializeFrame(QDialogButtonBox *buttonBox)
     }
 
     QPalette readable = palette();
-    setReadableTexts(readable);
+    setReadableColors(readable);
     setPalette(readable);
+    // A widget with a style sheet of its own inherits no palette, nor do its children.
+    const QList<QWidget *> widgets = findChildren<QWidget *>();
+    for (QWidget *widget : widgets) {
+        if (!widget->styleSheet().isEmpty()) {
+            widget->setPalette(readable);
+            const QList<QWidget *> children = widget->findChildren<QWidget *>();
+            for (QWidget *child : children)
+                child->setPalette(readable);
+        }
+    }
 }
 
 void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
 {
     m_treeView = treeView;
-    // A widget with a style sheet of its own inherits no palette.
-    treeView->setPalette(palette());
     treeView->setModel(nullptr);
     treeView->setHeader(new CTreeViewHeaderView);
 }

@@ -1,6 +1,7 @@
 #include "updateselectiondialog.h"
 
 #include "model/firmwareupdatetreemodel.h"
+#include "readablepalette.h"
 #include "ui_updateselectiondialog.h"
 
 #include <QDir>
@@ -15,6 +16,9 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
     setIcon(m_ui->errorIconLabel, QStringLiteral("error_icon_24x24_en"));
     setIcon(m_ui->infoIconLabel, QStringLiteral("info_icon_24x24_en"));
     initializeFrame(m_ui->buttonBox);
+    // The background that a style sheet does not name comes from the application's palette.
+    m_ui->updateFileLineEdit->setStyleSheet(m_ui->updateFileLineEdit->styleSheet()
+                                            + QStringLiteral("\nbackground-color: white;"));
     m_ui->updateFileLineEdit->setText(QDir::toNativeSeparators(QDir::homePath()));
     m_nextButton = addBackAndNextButtons(tr("Back"), tr("Next"));
 
@@ -28,7 +32,8 @@ CUpdateSelectionDialog::~CUpdateSelectionDialog() = default;
 
 void CUpdateSelectionDialog::setKorvaneSupportUrl(const QString &url)
 {
-    m_ui->infoTextLabel->setText(
+    showTextWithLinks(
+        m_ui->infoTextLabel,
         tr("To update the firmware of your cameras, you need a firmware update file from "
            "<a href=\"%1\">Korvane Support</a>.")
             .arg(url.toHtmlEscaped()));
@@ -106,10 +111,10 @@ void CUpdateSelectionDialog::showReleaseNotes(const QString &notes)
     // Notes that mention an address anywhere are taken for one as a whole; quotes and ampersands
     // are escaped, so that the link leads to exactly this text.
     const bool isLink = notes.contains(QLatin1String("http"), Qt::CaseInsensitive);
-    m_ui->updateNotesTextLabel->setText(
-        isLink ? QStringLiteral("<a href=\"%1\">%2</a>")
-                     .arg(notes.toHtmlEscaped(), tr("Firmware Release Notes"))
-               : notes);
+    showTextWithLinks(m_ui->updateNotesTextLabel,
+                      isLink ? QStringLiteral("<a href=\"%1\">%2</a>")
+                                   .arg(notes.toHtmlEscaped(), tr("Firmware Release Notes"))
+                             : notes);
     m_ui->updateNotesLabel->setVisible(!notes.isEmpty());
     m_ui->updateNotesTextLabel->setVisible(!notes.isEmpty());
 }
