@@ -20,6 +20,12 @@ using Entity::CFirmwareUpdateEntity;
 static constexpr int DIRECT_CAMERA_INDENT = 22;
 static constexpr int INDENT = 2;
 
+/// How much lower than its row a box is painted.
+static int getPaintedTop(const CTreeRow &row)
+{
+    return row.isCameraType() ? 1 : row.isFirstListedCamera() ? 4 : 0;
+}
+
 static QCheckBox *getCheckBox(const QWidget *editor)
 {
     const QLayout *layout = editor->layout();
@@ -136,7 +142,7 @@ void CTreeViewCameraSelectionDelegate::paintCheckBox(QPainter *painter,
     checkBox->setText(text.replace(QLatin1Char('&'), QStringLiteral("&&")));
 
     const int indent = row.isDirectCamera() ? DIRECT_CAMERA_INDENT : INDENT;
-    const int top = row.isCameraType() ? 1 : row.isFirstListedCamera() ? 4 : 0;
+    const int top = getPaintedTop(row);
     renderCellWidget(painter, checkBox, cell.topLeft() + QPoint(indent, top),
                      QSize(width + 1 - indent, cell.height() - top));
 }
@@ -172,6 +178,8 @@ QWidget *CTreeViewCameraSelectionDelegate::createEditor(QWidget *parent,
     checkBox->setBaseSize(option.rect.size());
     checkBox->setFocusPolicy(Qt::NoFocus);
     checkBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // So high that its middle, where styles put the box, is the middle of the painted one.
+    checkBox->setMaximumHeight(option.rect.height() - 2 * (top - getPaintedTop(row)));
     layout->addWidget(checkBox);
     connect(checkBox, &QCheckBox::toggled, this, &CTreeViewCameraSelectionDelegate::commit);
     return editor;
