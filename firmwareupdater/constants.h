@@ -17,4 +17,8 @@ inline const QColor TEXT_COLOR(0, 0, 0);
 inline const QColor DISABLED_TEXT_COLOR(120, 120, 120);
 inline const QColor LINK_COLOR(0, 85, 170);
 
+/// Of these, styles make the outlines of check boxes.
+inline const QColor OUTLINE_COLOR(130, 130, 130);
+inline const QColor DISABLED_OUTLINE_COLOR(170, 170, 170);
+
 } // namespace Plugin::FirmwareUpdater::Constants

@@ -9,7 +9,9 @@ void setUpCellWidget(QWidget *widget)
 {
     QPalette palette = widget->palette();
     setReadableColors(palette);
-    palette.setColor(QPalette::Window, Constants::WHITE_COLOR);
+    // Styles draw the outline of a check box in a darker shade of this colour, and nothing else.
+    palette.setColor(QPalette::Window, Constants::OUTLINE_COLOR);
+    palette.setColor(QPalette::Disabled, QPalette::Window, Constants::DISABLED_OUTLINE_COLOR);
     palette.setColor(QPalette::Base, Constants::WHITE_COLOR);
     palette.setColor(QPalette::Active, QPalette::AlternateBase, Constants::LIGHT_BLUE_COLOR);
     palette.setColor(QPalette::Active, QPalette::HighlightedText, Constants::BLUE_COLOR);
