@@ -1,6 +1,4 @@
-#include "constants.h"
 #include "style/icons.h"
-#include "style/treeviewheaderstyle.h"
 #include "view/cameraselectiondialog.h"
 #include "view/treeviewcameraselectiondelegate.h"
 #include "view/treeviewdetailsdelegate.h"
@@ -15,7 +13,6 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QStyleOptionHeader>
 #include <QtTest>
 
 using namespace ViewFixture;
@@ -39,24 +36,20 @@ class CCameraTreeTest : public QObject
 private slots:
     void init();
     void rowsHaveTheirHeights();
-    void cellsShowTheirState();
     void paintTheSameInAView();
+    void rowsKeepStillUnderTheMouse_data();
+    void rowsKeepStillUnderTheMouse();
     void valuesHaveNamesAndIcons();
     void hoverOpensOneEditor();
     void clicksReachTheModel();
     void disabledRowsCannotBeToggled();
     void spaceTogglesTheCurrentRow();
     void scrollBarBeginsBelowTheHeader();
-    void headerSectionsShowTheirState();
     void arrowPointsUpAtAscendingOrder();
 
 private:
     /// The row "Layer l", "A", "Camera a1", ... of the dialog's tree.
     QModelIndex row(const char *name) const;
-    static QImage paint(const QAbstractItemDelegate &delegate, const QModelIndex &index,
-                        qreal ratio, int state, int position, const QSize &size = {200, 20});
-    /// The names of the colors at @p points.
-    static QString describe(const QImage &image, const QVector<QPoint> &points);
     void hover(const char *name) const;
     void click(const char *name, int x) const;
     QCheckBox *getEditorBox() const;
@@ -90,35 +83,6 @@ QModelIndex CCameraTreeTest::row(const char *name) const
     return model
         ->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive)
         .value(0);
-}
-
-QImage CCameraTreeTest::paint(const QAbstractItemDelegate &delegate, const QModelIndex &index,
-                              qreal ratio, int state, int position, const QSize &size)
-{
-    QImage image(size * ratio, QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::white);
-    QStyleOptionViewItem option;
-    option.rect = QRect(QPoint(0, 0), size);
-    option.state = QStyle::State_Enabled | QStyle::State(state);
-    option.viewItemPosition = QStyleOptionViewItem::ViewItemPosition(position);
-    QPainter painter(&image);
-    delegate.paint(&painter, option, index);
-    return image;
-}
-
-QString CCameraTreeTest::describe(const QImage &image, const QVector<QPoint> &points)
-{
-    const QHash<QRgb, QString> names{{Constants::WHITE_COLOR.rgb(), "white"},
-                                     {Constants::LIGHT_GREY_COLOR.rgb(), "separator"},
-                                     {Constants::GREY_COLOR.rgb(), "rule"},
-                                     {Constants::LIGHT_BLUE_COLOR.rgb(), "light"},
-                                     {Constants::BLUE_COLOR.rgb(), "blue"},
-                                     {Constants::ULTRA_LIGHT_BLUE_COLOR.rgb(), "frame"}};
-    QStringList colors;
-    for (const QPoint &point : points)
-        colors.append(names.value(image.pixel(point * image.devicePixelRatio()), "other"));
-    return colors.join(' ');
 }
 
 void CCameraTreeTest::hover(const char *name) const
@@ -158,36 +122,6 @@ void CCameraTreeTest::rowsHaveTheirHeights()
     QCOMPARE(getTree(*m_summary)->visualRect(m_list->index(1, 0)).height(), 20);
 }
 
-void CCameraTreeTest::cellsShowTheirState()
-{
-    // An empty name stands for a text cell in the second row of a flat list.
-    const auto show = [this](const char *name, int state, int position) {
-        // The frame of a group's camera begins before its box.
-        const int left = QString(name).startsWith("Camera") ? 20 : 0;
-        QStringList shown;
-        for (const int ratio : {1, 2}) {
-            const QImage image = *name
-                ? paint(CTreeViewCameraSelectionDelegate(), row(name), ratio, state, position)
-                : paint(CTreeViewLabelDelegate(), m_list->index(1, 4), ratio, state, position);
-            shown.append(describe(image, {{150, 10}, {left, 3}, {150, 0}, {199, 10}, {150, 19}}));
-        }
-        shown.removeDuplicates();
-        return shown.join(", but with double resolution ");
-    };
-    using Option = QStyleOptionViewItem;
-    const int hovered = QStyle::State_MouseOver;
-    const int marked = hovered | QStyle::State_Selected;
-    QCOMPARE(show("Layer l", marked, Option::OnlyOne), "white white white white white");
-    QCOMPARE(show("A", 0, Option::Beginning), "white white white separator white");
-    QCOMPARE(show("A", QStyle::State_Selected, Option::OnlyOne), "blue white white blue blue");
-    QCOMPARE(show("Camera a1", hovered, Option::OnlyOne), "light white light light light");
-    QCOMPARE(show("Camera a1", marked, Option::OnlyOne), "blue frame frame blue frame");
-    QCOMPARE(show("", 0, Option::Middle), "white white white separator white");
-    QCOMPARE(show("", hovered, Option::End), "light light light light light");
-    QCOMPARE(show("", marked, Option::Beginning), "blue frame frame separator frame");
-    QCOMPARE(show("", marked, Option::End), "blue blue frame frame frame");
-}
-
 void CCameraTreeTest::paintTheSameInAView()
 {
     const QRect rect = m_tree->visualRect(row("Camera a1"));
@@ -195,6 +129,65 @@ void CCameraTreeTest::paintTheSameInAView()
     QCOMPARE(shown.convertToFormat(QImage::Format_RGB32),
              paint(*m_tree->itemDelegateForColumn(0), row("Camera a1"), shown.devicePixelRatio(), 0,
                    QStyleOptionViewItem::OnlyOne, rect.size()));
+}
+
+void CCameraTreeTest::rowsKeepStillUnderTheMouse_data()
+{
+    QTest::addColumn<bool>("isInList");
+    QTest::addColumn<QString>("name");
+    QTest::addRow("model group") << false << "A";
+    QTest::addRow("camera of a group") << false << "Camera a1";
+    QTest::addRow("camera that cannot be ticked") << false << "Camera b1";
+    QTest::addRow("first camera of a list") << true << "Camera c0";
+    QTest::addRow("other camera of a list") << true << "Camera c1";
+}
+
+void CCameraTreeTest::rowsKeepStillUnderTheMouse()
+{
+    QFETCH(bool, isInList);
+    QFETCH(QString, name);
+    if (isInList) {
+        m_summary->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_summary.get()));
+        m_tree = getTree(*m_summary);
+    } else {
+        click("Camera a2", 40);
+    }
+    const QByteArray rowName = name.toLatin1();
+    const QRect cell = m_tree->visualRect(row(rowName));
+    // Where the box and the text of the row begin and end, in pixels of the screen.
+    const auto find = [&] {
+        const QImage image = m_tree->viewport()->grab(cell).toImage();
+        int gap = findInk(image, image.rect()).left();
+        while (findInk(image, QRect(gap, 0, 3, image.height())).isValid())
+            ++gap;
+        QVector<int> edges;
+        for (const QRect &place :
+             {QRect(0, 0, gap, image.height()), image.rect().adjusted(gap, 0, 0, 0)}) {
+            const QRect ink = findInk(image, place);
+            edges << ink.left() << ink.right() << ink.top() << ink.bottom();
+        }
+        return edges;
+    };
+    const QVector<int> still = find();
+    const auto getMovement = [&] {
+        const QVector<int> moved = find();
+        int movement = 0;
+        for (int i = 0; i < moved.size(); ++i)
+            movement = qMax(movement, qAbs(moved.at(i) - still.at(i)));
+        return movement;
+    };
+    const qreal pixel = m_tree->devicePixelRatioF();
+    QHoverEvent enter(QEvent::HoverMove, cell.center(), QPoint());
+    QCoreApplication::sendEvent(m_tree->viewport(), &enter);
+    QVERIFY(getMovement() <= pixel);
+    hover(rowName);
+    QVERIFY(getEditorBox());
+    QVERIFY(getMovement() <= pixel);
+    for (int i = 0; i < 2; ++i) {
+        click(rowName, 40);
+        QVERIFY(getMovement() <= pixel);
+    }
 }
 
 void CCameraTreeTest::valuesHaveNamesAndIcons()
@@ -300,35 +293,6 @@ void CCameraTreeTest::scrollBarBeginsBelowTheHeader()
         QCOMPARE(bar->geometry().bottom(), bar->parentWidget()->rect().bottom());
         m_dialog->resize(600, height);
     }
-}
-
-void CCameraTreeTest::headerSectionsShowTheirState()
-{
-    QStyleOptionHeader option;
-    option.rect = QRect(20, 0, 60, 40);
-    option.palette.setColor(QPalette::Base, Qt::white);
-    const int rule = option.fontMetrics.height() + 7;
-    const CTreeViewHeaderStyle style;
-    const auto show = [&](QStyle::State state, QStyleOptionHeader::SectionPosition position) {
-        option.state = state;
-        option.position = position;
-        QImage image(120, 40, QImage::Format_RGB32);
-        image.fill(Qt::magenta);
-        QPainter painter(&image);
-        style.drawControl(QStyle::CE_HeaderSection, &option, &painter);
-        return describe(
-            image,
-            {{30, 1}, {30, rule - 1}, {20, rule}, {79, rule}, {30, rule + 2}, {79, rule / 2}});
-    };
-    using Option = QStyleOptionHeader;
-    QCOMPARE(show({}, Option::Beginning), "white white rule rule white separator");
-    QCOMPARE(show({}, Option::OnlyOneSection), "white white rule rule white white");
-    QCOMPARE(show(QStyle::State_MouseOver, Option::Middle),
-             "light light rule rule white separator");
-    QCOMPARE(show(QStyle::State_Sunken, Option::End), "blue blue rule rule white blue");
-    QCOMPARE(style.subElementRect(QStyle::SE_HeaderLabel, &option), QRect(20, 0, 60, rule - 7));
-    option.section = 3;
-    QCOMPARE(style.subElementRect(QStyle::SE_HeaderLabel, &option), QRect(31, 0, 49, rule - 7));
 }
 
 void CCameraTreeTest::arrowPointsUpAtAscendingOrder()
