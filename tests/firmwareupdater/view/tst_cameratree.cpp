@@ -79,10 +79,7 @@ void CCameraTreeTest::init()
 
 QModelIndex CCameraTreeTest::row(const char *name) const
 {
-    const QAbstractItemModel *const model = m_tree->model();
-    return model
-        ->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive)
-        .value(0);
+    return findRow(*m_tree->model(), name);
 }
 
 void CCameraTreeTest::hover(const char *name) const

@@ -38,8 +38,8 @@ private slots:
 
 private:
     /// The row "Layer l", "A", "Camera a1", ... of the whole tree, or "Camera c0", ... of the list.
-    QModelIndex row(const QString &name) const;
-    Entity *entity(const QString &name) const;
+    QModelIndex row(const char *name) const;
+    Entity *entity(const char *name) const;
     /// The names of the colors at @p points.
     static QString describe(const QImage &image, const QVector<QPoint> &points);
 
@@ -63,15 +63,13 @@ void CTreePaintingTest::init()
     m_list = makeList(3);
 }
 
-QModelIndex CTreePaintingTest::row(const QString &name) const
+QModelIndex CTreePaintingTest::row(const char *name) const
 {
-    const ModelPtr &model = name.startsWith("Camera c") ? m_list : m_model;
-    return model
-        ->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive)
-        .value(0);
+    const QModelIndex index = findRow(*m_model, name);
+    return index.isValid() ? index : findRow(*m_list, name);
 }
 
-Entity *CTreePaintingTest::entity(const QString &name) const
+Entity *CTreePaintingTest::entity(const char *name) const
 {
     return static_cast<Entity *>(row(name).internalPointer());
 }
@@ -92,9 +90,9 @@ QString CTreePaintingTest::describe(const QImage &image, const QVector<QPoint> &
 
 void CTreePaintingTest::cellsShowTheirState()
 {
-    const auto show = [this](const QString &name, int state, int position, int column = 0) {
+    const auto show = [this](const char *name, int state, int position, int column = 0) {
         // The frame of a group's camera begins before its box.
-        const int left = name == "Camera a1" ? 20 : 0;
+        const int left = QString(name) == "Camera a1" ? 20 : 0;
         const QAbstractItemDelegate *const delegate
             = column == 0 ? static_cast<const QAbstractItemDelegate *>(&m_camera) : &m_label;
         QStringList shown;

@@ -25,6 +25,14 @@ inline ModelPtr makeList(int count)
     return model;
 }
 
+/// The row with the name "Layer l", "A" (a model group), "Camera a1", ...
+inline QModelIndex findRow(const QAbstractItemModel &model, const char *name)
+{
+    return model
+        .match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive)
+        .value(0);
+}
+
 template <typename T = QWidget>
 T *find(const QWidget &dialog, const char *name)
 {
