@@ -3,6 +3,8 @@
 #include "constants.h"
 #include "readablepalette.h"
 
+#include <QPaintEngine>
+
 namespace Plugin::FirmwareUpdater::Internal::View {
 
 void setUpCellWidget(QWidget *widget)
@@ -36,13 +38,15 @@ QPalette::ColorRole getBackgroundRole(QStyle::State state)
 
 void renderCellWidget(QPainter *painter, QWidget *widget, const QPoint &position, const QSize &size)
 {
-    const QPaintDevice *device = painter->device();
-    if (!device || size.isEmpty())
+    const QPaintEngine *engine = painter->paintEngine();
+    if (!engine || size.isEmpty())
         return;
     // Through a picture of its own: rendered straight into the device, the widget would miss the
     // view's place in its window, and it could not be painted at all while the painter is shared
     // with the widgets around it, as when a whole dialog is rendered.
-    const qreal ratio = device->devicePixelRatioF();
+    // The engine knows where the pixels go: when a view is rendered into an image, the painter's
+    // own device is still the view.
+    const qreal ratio = engine->paintDevice()->devicePixelRatioF();
     QPixmap picture((QSizeF(size) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
     widget->render(&picture, QPoint(), QRegion(QRect(QPoint(0, 0), size)));
