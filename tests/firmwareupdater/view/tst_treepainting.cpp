@@ -9,15 +9,15 @@
 #include "viewfixture.h"
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QStyleOptionHeader>
 #include <QtTest>
 
 using namespace ViewFixture;
 using namespace Plugin::FirmwareUpdater;
-using namespace Internal::Style;
 using namespace Internal::View;
-
 using Cell = QStyleOptionViewItem;
+using Header = QStyleOptionHeader;
 
 /// What the cells and the header of the camera tree look like, with one and with two device pixels
 /// per pixel.
@@ -26,8 +26,10 @@ class CTreePaintingTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase_data();
     void init();
     void cellsShowTheirState();
+    void cellsLookTheSameInAView();
     void backgroundsBeginWhereTheKindOfRowSays();
     void boxesShowTheTick();
     void textsKeepTheirIndent();
@@ -37,41 +39,76 @@ private slots:
     void headerTitlesStayInTheirSections();
 
 private:
-    /// The row "Layer l", "A", "Camera a1", ... of the whole tree, or "Camera c0", ... of the list.
-    QModelIndex row(const char *name) const;
-    Entity *entity(const char *name) const;
+    /// The cell with a box, or with a text in @p column 4 to 7, of a row of the tree or the list.
+    QModelIndex cell(const char *name, int column = 0) const;
+    QImage makeImage(const QSize &size) const;
+    QImage show(const QModelIndex &cell, int state = 0, int position = Cell::OnlyOne,
+                const QSize &size = {200, 20}) const;
     /// The names of the colors at @p points.
     static QString describe(const QImage &image, const QVector<QPoint> &points);
 
-    ModelPtr m_model;
+    int m_ratio = 1;
+    ModelPtr m_tree;
     ModelPtr m_list;
-    const CTreeViewCameraSelectionDelegate m_camera;
-    const CTreeViewLabelDelegate m_label;
-    const CTreeViewDetailsDelegate m_details;
-    const CTreeViewStatusDelegate m_status;
-    const CTreeViewResultDelegate m_result;
-    /// The text delegates, and a column for each.
-    const std::vector<std::pair<const QAbstractItemDelegate *, int>> m_texts{
-        {&m_label, 0}, {&m_details, 5}, {&m_status, 6}, {&m_result, 7}};
+    const QHash<int, QSharedPointer<QAbstractItemDelegate>> m_delegates{
+        {0, QSharedPointer<CTreeViewCameraSelectionDelegate>::create()},
+        {4, QSharedPointer<CTreeViewLabelDelegate>::create()},
+        {5, QSharedPointer<CTreeViewDetailsDelegate>::create()},
+        {6, QSharedPointer<CTreeViewStatusDelegate>::create()},
+        {7, QSharedPointer<CTreeViewResultDelegate>::create()}};
 };
+
+static Entity *getEntity(const QModelIndex &cell)
+{
+    return static_cast<Entity *>(cell.internalPointer());
+}
+
+void CTreePaintingTest::initTestCase_data()
+{
+    QTest::addColumn<int>("ratio");
+    QTest::addRow("usual resolution") << 1;
+    QTest::addRow("double resolution") << 2;
+}
 
 void CTreePaintingTest::init()
 {
-    m_model = ModelPtr::create(nullptr);
-    m_model->setTransportLayerInfoVector(
+    QFETCH_GLOBAL(int, ratio);
+    m_ratio = ratio;
+    m_tree = ModelPtr::create(nullptr);
+    m_tree->setTransportLayerInfoVector(
         {TestSupport::makeLayer("l", {{"a1", "A"}, {"a2", "A"}, {"b1", "B"}})});
     m_list = makeList(3);
+    for (int row = 0; row < 3; ++row)
+        m_list->setData(m_list->index(row, 4), "10.20.30", Qt::EditRole);
 }
 
-QModelIndex CTreePaintingTest::row(const char *name) const
+QModelIndex CTreePaintingTest::cell(const char *name, int column) const
 {
-    const QModelIndex index = findRow(*m_model, name);
-    return index.isValid() ? index : findRow(*m_list, name);
+    const QModelIndex index = findRow(*m_tree, name);
+    return (index.isValid() ? index : findRow(*m_list, name)).siblingAtColumn(column);
 }
 
-Entity *CTreePaintingTest::entity(const char *name) const
+QImage CTreePaintingTest::makeImage(const QSize &size) const
 {
-    return static_cast<Entity *>(row(name).internalPointer());
+    QImage image(size * m_ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(m_ratio);
+    image.fill(Qt::white);
+    return image;
+}
+
+QImage CTreePaintingTest::show(const QModelIndex &cell, int state, int position,
+                               const QSize &size) const
+{
+    // What is painted beside the cell is not in the picture.
+    Cell option;
+    option.rect = QRect(QPoint(40, 30), size);
+    option.state = QStyle::State_Enabled | QStyle::State(state);
+    option.viewItemPosition = Cell::ViewItemPosition(position);
+    QImage image = makeImage(size + QSize(80, 60));
+    QPainter painter(&image);
+    m_delegates[cell.column()]->paint(&painter, option, cell);
+    painter.end();
+    return image.copy(QRect(option.rect.topLeft() * m_ratio, size * m_ratio));
 }
 
 QString CTreePaintingTest::describe(const QImage &image, const QVector<QPoint> &points)
@@ -90,198 +127,165 @@ QString CTreePaintingTest::describe(const QImage &image, const QVector<QPoint> &
 
 void CTreePaintingTest::cellsShowTheirState()
 {
-    const auto show = [this](const char *name, int state, int position, int column = 0) {
+    const auto showAs = [this](const QModelIndex &cell, int state, int position) {
         // The frame of a group's camera begins before its box.
-        const int left = QString(name) == "Camera a1" ? 20 : 0;
-        const QAbstractItemDelegate *const delegate
-            = column == 0 ? static_cast<const QAbstractItemDelegate *>(&m_camera) : &m_label;
-        QStringList shown;
-        for (const int ratio : {1, 2}) {
-            const QImage image
-                = paint(*delegate, row(name).siblingAtColumn(column), ratio, state, position);
-            shown.append(describe(image, {{150, 10}, {left, 3}, {150, 0}, {199, 10}, {150, 19}}));
-        }
-        shown.removeDuplicates();
-        return shown.join(", but with double resolution ");
+        const int left = cell.parent().parent().isValid() ? 20 : 0;
+        return describe(show(cell, state, position),
+                        {{150, 10}, {left, 3}, {150, 0}, {199, 10}, {150, 19}});
     };
-    const int hovered = QStyle::State_MouseOver;
-    const int marked = hovered | QStyle::State_Selected;
-    QCOMPARE(show("Layer l", marked, Cell::OnlyOne), "white white white white white");
-    QCOMPARE(show("A", 0, Cell::Beginning), "white white white grey white");
-    QCOMPARE(show("A", QStyle::State_Selected, Cell::OnlyOne), "blue white white blue blue");
-    QCOMPARE(show("Camera a1", hovered, Cell::OnlyOne), "light white light light light");
-    QCOMPARE(show("Camera a1", marked, Cell::OnlyOne), "blue frame frame blue frame");
-    QCOMPARE(show("Camera c1", marked, Cell::Beginning), "blue frame frame grey frame");
-    QCOMPARE(show("Camera c1", 0, Cell::Middle, 4), "white white white grey white");
-    QCOMPARE(show("Camera c1", hovered, Cell::End, 4), "light light light light light");
-    QCOMPARE(show("Camera c1", marked, Cell::Beginning, 4), "blue frame frame grey frame");
-    QCOMPARE(show("Camera c1", marked, Cell::Middle, 4), "blue blue frame grey frame");
-    QCOMPARE(show("Camera c1", marked, Cell::End, 4), "blue blue frame frame frame");
-    entity("Camera c1")->setEnabled(false);
-    QCOMPARE(show("Camera c1", marked, Cell::OnlyOne), "grey white grey grey grey");
-    QCOMPARE(show("Camera c1", marked, Cell::End, 4), "grey grey grey grey grey");
+    const int hover = QStyle::State_MouseOver;
+    const int marked = hover | QStyle::State_Selected;
+    const QModelIndex group = cell("A");
+    const QModelIndex camera = cell("Camera a1");
+    const QModelIndex box = cell("Camera c1");
+    const QModelIndex text = cell("Camera c1", 4);
+    QCOMPARE(showAs(cell("Layer l"), marked, Cell::OnlyOne), "white white white white white");
+    QCOMPARE(showAs(group, 0, Cell::Beginning), "white white white grey white");
+    QCOMPARE(showAs(group, QStyle::State_Selected, Cell::OnlyOne), "blue white white blue blue");
+    QCOMPARE(showAs(camera, hover, Cell::OnlyOne), "light white light light light");
+    QCOMPARE(showAs(camera, marked, Cell::OnlyOne), "blue frame frame blue frame");
+    QCOMPARE(showAs(box, marked, Cell::Beginning), "blue frame frame grey frame");
+    QCOMPARE(showAs(text, 0, Cell::Middle), "white white white grey white");
+    QCOMPARE(showAs(text, hover, Cell::End), "light light light light light");
+    QCOMPARE(showAs(text, marked, Cell::Beginning), "blue frame frame grey frame");
+    QCOMPARE(showAs(text, marked, Cell::Middle), "blue blue frame grey frame");
+    QCOMPARE(showAs(text, marked, Cell::End), "blue blue frame frame frame");
+    getEntity(text)->setEnabled(false);
+    QCOMPARE(showAs(box, marked, Cell::OnlyOne), "grey white grey grey grey");
+    QCOMPARE(showAs(text, marked, Cell::End), "grey grey grey grey grey");
+}
+
+void CTreePaintingTest::cellsLookTheSameInAView()
+{
+    CUpdateSummaryDialog dialog;
+    dialog.setModel(m_list);
+    dialog.show();
+    const QRect place = getTree(dialog)->visualRect(cell("Camera c1"));
+    QImage image = makeImage(place.size());
+    getTree(dialog)->viewport()->render(&image, QPoint(), place);
+    QCOMPARE(image, show(cell("Camera c1"), 0, Cell::Beginning, place.size()));
 }
 
 void CTreePaintingTest::backgroundsBeginWhereTheKindOfRowSays()
 {
-    const auto findCorner = [this](const QAbstractItemDelegate &delegate, const char *name) {
-        QVector<QPoint> corners;
-        for (const int ratio : {1, 2}) {
-            const QImage image
-                = paint(delegate, row(name), ratio, QStyle::State_MouseOver, Cell::OnlyOne);
-            const QRect fill = findPixels(image, image.rect(), [](QRgb pixel) {
-                return pixel == Constants::LIGHT_BLUE_COLOR.rgb();
-            });
-            corners.append(fill.topLeft() * 2 / ratio);
-        }
-        return corners.at(0) == corners.at(1) ? corners.at(0) / 2 : QPoint(-1, -1);
+    const auto findCorner = [this](const QModelIndex &cell) {
+        const QImage image = show(cell, QStyle::State_MouseOver);
+        const auto isLight = [](QRgb color) { return color == Constants::LIGHT_BLUE_COLOR.rgb(); };
+        return findPixels(image, image.rect(), isLight).topLeft();
     };
-    QCOMPARE(findCorner(m_camera, "A"), QPoint(2, 1));
-    QCOMPARE(findCorner(m_camera, "Camera a1"), QPoint(22, 0));
-    QCOMPARE(findCorner(m_camera, "Camera a2"), QPoint(22, 0));
-    QCOMPARE(findCorner(m_camera, "Camera c0"), QPoint(2, 4));
-    QCOMPARE(findCorner(m_camera, "Camera c1"), QPoint(2, 0));
-    for (const auto &[delegate, column] : m_texts) {
-        QCOMPARE(findCorner(*delegate, "A"), QPoint(0, 1));
-        QCOMPARE(findCorner(*delegate, "Camera a2"), QPoint(0, 4));
-        QCOMPARE(findCorner(*delegate, "Camera a1"), QPoint(0, 0));
-        QCOMPARE(findCorner(*delegate, "Camera c0"), QPoint(0, 4));
+    QCOMPARE(findCorner(cell("A")), QPoint(2, 1) * m_ratio);
+    QCOMPARE(findCorner(cell("Camera a1")), QPoint(22, 0) * m_ratio);
+    // The first one of its group.
+    QCOMPARE(findCorner(cell("Camera a2")), QPoint(22, 0) * m_ratio);
+    QCOMPARE(findCorner(cell("Camera c0")), QPoint(2, 4) * m_ratio);
+    QCOMPARE(findCorner(cell("Camera c1")), QPoint(2, 0) * m_ratio);
+    for (const int column : {4, 5, 6, 7}) {
+        QCOMPARE(findCorner(cell("A", column)), QPoint(0, 1) * m_ratio);
+        QCOMPARE(findCorner(cell("Camera a1", column)), QPoint(0, 0));
+        QCOMPARE(findCorner(cell("Camera a2", column)), QPoint(0, 4) * m_ratio);
+        QCOMPARE(findCorner(cell("Camera c0", column)), QPoint(0, 4) * m_ratio);
     }
 }
 
 void CTreePaintingTest::boxesShowTheTick()
 {
-    for (const int ratio : {1, 2}) {
-        const auto show
-            = [&](const char *name) { return paint(m_camera, row(name), ratio, 0, Cell::OnlyOne); };
-        const auto tick = [&](const char *name) {
-            m_model->setData(row(name), !entity(name)->isSelected(), Qt::EditRole);
-            m_model->updateAllNodesBySelection(row(name));
-        };
-        const QImage group = show("A");
-        const QImage other = show("Camera b1");
-        tick("Camera a1");
-        // A group with one ticked camera looks like one whose cameras are all ticked, and what
-        // cannot be ticked looks unticked.
-        const QImage ticked = show("A");
-        const QImage unavailable = show("Camera b1");
-        QVERIFY(ticked != group);
-        QVERIFY(unavailable != other);
-        tick("Camera a2");
-        QCOMPARE(show("A"), ticked);
-        entity("Camera b1")->setSelected(true);
-        QCOMPARE(show("Camera b1"), unavailable);
-        entity("Camera b1")->setSelected(false);
-        tick("Camera a1");
-        tick("Camera a2");
-        QCOMPARE(show("A"), group);
-        QCOMPARE(show("Camera b1"), other);
-    }
+    const auto tick = [this](const QModelIndex &cell) {
+        m_tree->setData(cell, true, Qt::EditRole);
+        m_tree->updateAllNodesBySelection(cell);
+    };
+    const QImage group = show(cell("A"));
+    const QImage other = show(cell("Camera b1"));
+    tick(cell("Camera a1"));
+    // A group with one ticked camera looks like one whose cameras are all ticked, and what cannot
+    // be ticked looks unticked.
+    const QImage ticked = show(cell("A"));
+    const QImage unavailable = show(cell("Camera b1"));
+    QVERIFY(ticked != group);
+    QVERIFY(unavailable != other);
+    tick(cell("Camera a2"));
+    QCOMPARE(show(cell("A")), ticked);
+    getEntity(cell("Camera b1"))->setSelected(true);
+    QCOMPARE(show(cell("Camera b1")), unavailable);
 }
 
 void CTreePaintingTest::textsKeepTheirIndent()
 {
-    for (const int ratio : {1, 2}) {
-        const auto findLeft = [&](const QAbstractItemDelegate &delegate, const QModelIndex &index,
-                                  Cell::ViewItemPosition position) {
-            const QImage image = paint(delegate, index, ratio, 0, position);
-            return findInk(image, image.rect()).left();
-        };
-        // The first letter or box may begin a pixel behind its place.
-        QCOMPARE(findLeft(m_camera, row("Layer l"), Cell::OnlyOne) / ratio / 2, 1);
-        QCOMPARE(findLeft(m_camera, row("A"), Cell::OnlyOne) / ratio, 2);
-        QCOMPARE(findLeft(m_camera, row("Camera a1"), Cell::OnlyOne) / ratio, 22);
-        QCOMPARE(findLeft(m_camera, row("Camera c0"), Cell::Beginning) / ratio, 2);
-        for (const auto &[delegate, column] : m_texts) {
-            const QModelIndex index = row("Camera c1").siblingAtColumn(column);
-            const int first = findLeft(*delegate, index, Cell::Beginning);
-            QCOMPARE(findLeft(*delegate, index, Cell::Middle) - first, 11 * ratio);
-            QCOMPARE(findLeft(*delegate, index, Cell::End) - first, 11 * ratio);
-        }
+    const auto findLeft = [this](const QModelIndex &cell, int position = Cell::OnlyOne) {
+        const QImage image = show(cell, 0, position);
+        // Drawn with all the pixels there are.
+        const bool isSharp
+            = m_ratio == 1 || image.scaled(image.size() / 2).scaled(image.size()) != image;
+        return isSharp ? findInk(image, image.rect()).left() : -1;
+    };
+    const int layerIndent = findLeft(cell("Layer l")) / m_ratio;
+    QVERIFY(layerIndent >= 1 && layerIndent <= 3);
+    QCOMPARE(findLeft(cell("A")) / m_ratio, 2);
+    QCOMPARE(findLeft(cell("Camera a1")) / m_ratio, 22);
+    QCOMPARE(findLeft(cell("Camera c0")) / m_ratio, 2);
+    for (const int column : {4, 5, 6, 7}) {
+        const int first = findLeft(cell("Camera c1", column), Cell::Beginning);
+        QVERIFY(first >= 0);
+        QCOMPARE(findLeft(cell("Camera c1", column), Cell::Middle), first + 11 * m_ratio);
+        QCOMPARE(findLeft(cell("Camera c1", column), Cell::End), first + 11 * m_ratio);
     }
 }
 
 void CTreePaintingTest::onlyTheUpdatedCameraIsBold()
 {
     using Status = Entity::EFirmwareUpdateStatus;
-    for (const int ratio : {1, 2}) {
-        const auto show = [&](const char *name) {
-            entity(name)->setSelectedFirmware("10.20.30");
-            return paint(m_label, row(name).siblingAtColumn(4), ratio, 0, Cell::Middle);
-        };
-        entity("Camera c1")->setUpdateStatus(Status::Waiting);
-        const QImage waiting = show("Camera c1");
-        QCOMPARE(show("Camera c2"), waiting);
-        entity("Camera c1")->setUpdateStatus(Status::Updating);
-        const QImage updating = show("Camera c1");
-        QVERIFY(findInk(updating, updating.rect()).width()
-                > findInk(waiting, waiting.rect()).width());
-        QCOMPARE(show("Camera c2"), waiting);
-        entity("Camera c1")->setUpdateStatus(Status::Complete);
-        QCOMPARE(show("Camera c1"), waiting);
-    }
+    const auto showAs = [this](Status status) {
+        getEntity(cell("Camera c1"))->setUpdateStatus(status);
+        return show(cell("Camera c1", 4));
+    };
+    const QImage waiting = showAs(Status::Waiting);
+    const QImage updating = showAs(Status::Updating);
+    QVERIFY(findInk(updating, updating.rect()).width() > findInk(waiting, waiting.rect()).width());
+    QCOMPARE(show(cell("Camera c2", 4)), waiting);
+    QCOMPARE(showAs(Status::Complete), waiting);
 }
 
 void CTreePaintingTest::longTextsEndBeforeTheSeparator()
 {
-    const auto check = [](const QAbstractItemDelegate &delegate, const QModelIndex &index) {
-        for (const int ratio : {1, 2}) {
-            const auto findEnd = [&](int width) {
-                const QImage image
-                    = paint(delegate, index, ratio, 0, Cell::Middle, QSize(width, 20));
-                return findInk(image, image.rect()).right();
-            };
-            // Everything fits into the wide cell, and not into the narrow one.
-            QVERIFY(findEnd(300) >= 58 * ratio);
-            QVERIFY(findEnd(60) < 58 * ratio);
-            QVERIFY(findEnd(60) > 20 * ratio);
-        }
-    };
-    entity("Camera c1")->setUpdateResult(Entity::EFirmwareUpdateResult::Failed);
-    check(m_camera, row("Camera c1"));
-    check(m_camera, row("Camera a1"));
-    for (const auto &[delegate, column] : m_texts)
-        check(*delegate, row("Camera c1").siblingAtColumn(column));
+    getEntity(cell("Camera c1"))->setUpdateResult(Entity::EFirmwareUpdateResult::Failed);
+    for (const QModelIndex &index :
+         {cell("Camera a1"), cell("Camera c1"), cell("Camera c1", 4), cell("Camera c1", 5),
+          cell("Camera c1", 6), cell("Camera c1", 7)}) {
+        const auto findEnd = [&](int width) {
+            const QImage image = show(index, 0, Cell::Middle, {width, 20});
+            return findInk(image, image.rect()).right() / m_ratio;
+        };
+        // All of the text fits into the wide cell, and not into the narrow ones. The separator is
+        // two pixels wide.
+        QVERIFY(findEnd(300) >= 54);
+        QVERIFY(findEnd(53) > 15);
+        for (int width = 44; width < 54; ++width)
+            QVERIFY(findEnd(width) < width - 3);
+    }
 }
 
 void CTreePaintingTest::headerSectionsShowTheirState()
 {
-    QStyleOptionHeader option;
+    Header option;
     option.rect = QRect(20, 0, 60, 40);
     option.palette.setColor(QPalette::Base, Qt::white);
     const int rule = option.fontMetrics.height() + 7;
-    const CTreeViewHeaderStyle style;
-    const auto show = [&](QStyle::State state, QStyleOptionHeader::SectionPosition position) {
+    const Internal::Style::CTreeViewHeaderStyle style;
+    const auto describeSection = [&](QStyle::State state, Header::SectionPosition position) {
         option.state = state;
         option.position = position;
-        QStringList shown;
-        for (const int ratio : {1, 2}) {
-            QImage image(120 * ratio, 40 * ratio, QImage::Format_RGB32);
-            image.setDevicePixelRatio(ratio);
-            image.fill(Qt::magenta);
-            QPainter painter(&image);
-            style.drawControl(QStyle::CE_HeaderSection, &option, &painter);
-            shown.append(describe(image,
-                                  {{30, 1},
-                                   {30, rule - 1},
-                                   {20, rule},
-                                   {79, rule},
-                                   {30, rule + 2},
-                                   {79, rule / 2},
-                                   {79, rule - 2}}));
-        }
-        shown.removeDuplicates();
-        return shown.join(", but with double resolution ");
+        QImage image = makeImage({120, 40});
+        image.fill(Qt::magenta);
+        QPainter painter(&image);
+        style.drawControl(QStyle::CE_HeaderSection, &option, &painter);
+        return describe(
+            image,
+            {{30, 1}, {30, rule - 1}, {20, rule}, {79, rule}, {30, rule + 2}, {79, rule / 2}});
     };
-    using Option = QStyleOptionHeader;
-    QCOMPARE(show({}, Option::Beginning), "white white rule rule white grey white");
-    QCOMPARE(show({}, Option::OnlyOneSection), "white white rule rule white white white");
-    QCOMPARE(show(QStyle::State_MouseOver, Option::Middle),
-             "light light rule rule white grey light");
-    QCOMPARE(show(QStyle::State_Sunken, Option::End), "blue blue rule rule white blue blue");
-    QCOMPARE(style.subElementRect(QStyle::SE_HeaderLabel, &option), QRect(20, 0, 60, rule - 7));
-    option.section = 3;
-    QCOMPARE(style.subElementRect(QStyle::SE_HeaderLabel, &option), QRect(31, 0, 49, rule - 7));
+    QCOMPARE(describeSection({}, Header::Beginning), "white white rule rule white grey");
+    QCOMPARE(describeSection({}, Header::OnlyOneSection), "white white rule rule white white");
+    QCOMPARE(describeSection(QStyle::State_MouseOver, Header::Middle),
+             "light light rule rule white grey");
+    QCOMPARE(describeSection(QStyle::State_Sunken, Header::End), "blue blue rule rule white blue");
 }
 
 void CTreePaintingTest::headerTitlesStayInTheirSections()
@@ -292,20 +296,17 @@ void CTreePaintingTest::headerTitlesStayInTheirSections()
     QHeaderView *const header = getTree(dialog)->header();
     header->setSortIndicatorShown(false);
     for (const int width : {60, 90, 120}) {
-        for (const int section : {0, 3, 4, 5})
+        for (int section = 0; section < header->count(); ++section)
             header->resizeSection(section, width);
-        for (const int ratio : {1, 2}) {
-            QImage image(header->size() * ratio, QImage::Format_RGB32);
-            image.setDevicePixelRatio(ratio);
-            header->render(&image);
-            for (const int section : {0, 3, 4, 5}) {
-                const QRect place(header->sectionViewportPosition(section), 0, width,
-                                  header->fontMetrics().height());
-                const QRect ink = findInk(image, {place.topLeft() * ratio, place.size() * ratio});
-                const int begin = place.left() + (section == 0 ? 0 : 11);
-                QCOMPARE(qBound(begin, ink.left() / ratio, begin + 2), ink.left() / ratio);
-                QVERIFY(ink.right() < (place.right() - 1) * ratio);
-            }
+        QImage image = makeImage(header->size());
+        header->render(&image);
+        for (const int section : {0, 3, 4, 5}) {
+            const int left = header->sectionViewportPosition(section);
+            const QRect ink
+                = findInk(image, QRect(left * m_ratio, 0, width * m_ratio, 20 * m_ratio));
+            const int begin = ink.left() / m_ratio - left - (section == 0 ? 0 : 11);
+            QVERIFY(begin >= 0 && begin < 3);
+            QVERIFY(ink.right() / m_ratio < left + width - 2);
         }
     }
 }

@@ -2,9 +2,7 @@
 
 #include "support/updaterfixture.h"
 
-#include <QAbstractItemDelegate>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QTreeView>
 
@@ -57,24 +55,6 @@ inline QPushButton *getButton(const QWidget &dialog, const char *text)
 inline QTreeView *getTree(const QWidget &dialog)
 {
     return find<QTreeView>(dialog, "cameraTreeView");
-}
-
-/// A cell of @p size as the delegate paints it. Its left edge lies 40 pixels from that of the
-/// painted image, its top edge 30 pixels below: what is painted elsewhere is not in the picture.
-inline QImage paint(const QAbstractItemDelegate &delegate, const QModelIndex &index, qreal ratio,
-                    int state, int position, const QSize &size = {200, 20})
-{
-    QImage image((size + QSize(80, 60)) * ratio, QImage::Format_RGB32);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::white);
-    QStyleOptionViewItem option;
-    option.rect = QRect(QPoint(40, 30), size);
-    option.state = QStyle::State_Enabled | QStyle::State(state);
-    option.viewItemPosition = QStyleOptionViewItem::ViewItemPosition(position);
-    QPainter painter(&image);
-    delegate.paint(&painter, option, index);
-    painter.end();
-    return image.copy(QRect(QPoint(40, 30) * ratio, size * ratio));
 }
 
 /// The smallest rectangle around the pixels of @p place that @p matches says yes to.
