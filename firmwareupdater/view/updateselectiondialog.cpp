@@ -16,9 +16,11 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
     setIcon(m_ui->errorIconLabel, QStringLiteral("error_icon_24x24_en"));
     setIcon(m_ui->infoIconLabel, QStringLiteral("info_icon_24x24_en"));
     initializeFrame(m_ui->buttonBox);
-    // The background that a style sheet does not name comes from the application's palette.
-    m_ui->updateFileLineEdit->setStyleSheet(m_ui->updateFileLineEdit->styleSheet()
-                                            + QStringLiteral("\nbackground-color: white;"));
+    // The background that a style sheet does not name comes from the application's palette. The
+    // field's menu keeps the looks of the application.
+    m_ui->updateFileLineEdit->setStyleSheet(
+        QStringLiteral("QLineEdit { %1 background-color: white; }")
+            .arg(m_ui->updateFileLineEdit->styleSheet()));
     m_ui->updateFileLineEdit->setText(QDir::toNativeSeparators(QDir::homePath()));
     m_nextButton = addBackAndNextButtons(tr("Back"), tr("Next"));
 
