@@ -11,6 +11,11 @@ using Core::Logging::ELogLevel;
 using Entity::CFirmwareUpdateEntity;
 using Plugin::CameraPool::EFirmwareUpdateStep;
 
+// Logged as it stands; who asks the service for its failure message gets it in the user's language.
+static const char *const MissingUpdateText
+    = QT_TRANSLATE_NOOP("Plugin::FirmwareUpdater::Internal::Service::CFirmwareUpdaterService",
+                        "Internal error: Firmware update is missing and could not be applied.");
+
 CFirmwareUpdatingStep::CFirmwareUpdatingStep(
     QPointer<Core::Plugin::IPluginInitializer> pluginInitializer, QDialog *dialog, QState *parent)
     : CFirmwareUpdateStepBase(pluginInitializer, dialog, parent)
@@ -131,8 +136,7 @@ void CFirmwareUpdatingStep::startUpdate()
     }
 
     if (!m_currentUpdate) {
-        onFirmwareUpdateError(
-            QStringLiteral("Internal error: Firmware update is missing and could not be applied."));
+        onFirmwareUpdateError(QLatin1String(MissingUpdateText));
         emit firmwareUpdateDone();
         return;
     }
