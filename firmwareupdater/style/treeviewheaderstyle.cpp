@@ -41,7 +41,10 @@ QRect CTreeViewHeaderStyle::subElementRect(SubElement element, const QStyleOptio
     if (element == SE_HeaderLabel) {
         const auto *header = static_cast<const QStyleOptionHeader *>(option);
         QRect rect = header->rect;
-        rect.setHeight(header->fontMetrics.height());
+        // One line of the font, or more where another font lends the letters that it lacks: those
+        // of Chinese, Japanese and Korean are taller than what a Latin font reserves for a line.
+        const int textHeight = header->fontMetrics.size(Qt::TextSingleLine, header->text).height();
+        rect.setHeight(qMax(header->fontMetrics.height(), textHeight));
         if (header->section != 0)
             rect.setLeft(rect.left() + TITLE_INDENT);
         return rect;
