@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFont>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -67,28 +66,6 @@ static bool hasDisplay(int argc, char **argv)
         || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-// A desktop says which font its programs use, and its word counts. Where nobody says anything, Qt
-// asks for any sans serif font and mostly gets a wide one, DejaVu Sans or Noto Sans; the titles of
-// narrow columns do not fit in it. A font with the widths of Helvetica is asked for first there.
-// Where it is not installed, the old family still stands behind it.
-static void chooseFont(const QString &languageCode)
-{
-    QFont font = QApplication::font();
-    if (font.family() != QLatin1String("Sans Serif") && font.family() != QLatin1String("Sans"))
-        return;
-    QStringList families(QStringLiteral("Liberation Sans"));
-    // Unicode has one code for characters that China and Japan write differently; which form is
-    // meant depends on the language.
-    if (languageCode == QLatin1String("ja"))
-        families.append(QStringLiteral("Noto Sans CJK JP"));
-    else if (languageCode == QLatin1String("ko"))
-        families.append(QStringLiteral("Noto Sans CJK KR"));
-    else if (languageCode == QLatin1String("zh"))
-        families.append(QStringLiteral("Noto Sans CJK SC"));
-    font.setFamilies(families);
-    QApplication::setFont(font);
-}
-
 static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language)
 {
     AppCore::CViewer viewer(options, language);
@@ -137,7 +114,7 @@ int main(int argc, char **argv)
 
     const QString languageCode = AppCore::CLanguage::choose(options.language);
     const AppCore::CLanguage language(languageCode);
-    chooseFont(languageCode);
+    AppCore::CLanguage::chooseFont(languageCode);
     try {
         return runViewer(options, languageCode);
     } catch (const Core::Exception::BaseException &exception) {

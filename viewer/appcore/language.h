@@ -34,6 +34,10 @@ public:
     /// Takes effect at the next start.
     static void remember(const QString &code);
 
+    /// Where the desktop does not say which font its programs use, gives the application one that
+    /// suits the wizard's pages and the language @p code.
+    static void chooseFont(const QString &code);
+
     /// Installs the viewer's and Qt's own texts in the language @p code until destruction. Needs
     /// the application object.
     explicit CLanguage(const QString &code);

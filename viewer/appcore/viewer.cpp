@@ -24,6 +24,7 @@
 #include <QDesktopServices>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSessionManager>
 #include <QToolBar>
 #include <QUrl>
@@ -42,6 +43,14 @@ static QSharedPointer<Service> findService(const CameraPool::CCameraPool &pool)
             return match;
     }
     return {};
+}
+
+// Qt drops the "&" of a mnemonic from a button's text, but not the parentheses and the letter that
+// stand behind a text whose script has no letters to underline.
+static QString withoutMnemonic(QString text)
+{
+    static const QRegularExpression mnemonic(QStringLiteral("\\(&.\\)|&|\\.\\.\\.$"));
+    return text.remove(mnemonic);
 }
 
 CViewer::CViewer(const CCommandLineOptions &options, const QString &language)
@@ -117,6 +126,9 @@ void CViewer::fillMenus()
             &ICameraEnumerationService::refreshEnumeration);
     m_window->getToolBar()->addSeparator();
     m_window->getToolBar()->addAction(refreshAction);
+    const QList<QAction *> toolActions = m_window->getToolBar()->actions();
+    for (QAction *const action : toolActions)
+        action->setIconText(withoutMnemonic(action->text()));
     fileMenu->addSeparator();
     fileMenu->addAction(refreshAction);
     if (!m_options.samplesDirectory.isEmpty()) {

@@ -12,6 +12,7 @@
 namespace Viewer::CameraSelector {
 
 static constexpr int ColumnSpace = 16;
+static constexpr int MinimumColumnWidth = 32;
 
 CCameraSelectorView::CCameraSelectorView(
     const QSharedPointer<Plugin::CameraPool::ICameraEnumerationService> &enumeration,
@@ -29,6 +30,9 @@ CCameraSelectorView::CCameraSelectorView(
     setExpandsOnDoubleClick(false);
     setSelectionMode(QAbstractItemView::SingleSelection);
     header()->setStretchLastSection(true);
+    // Not the width of the font's widest letter: fonts with Chinese, Japanese and Korean letters
+    // have some that would push the last column out of sight.
+    header()->setMinimumSectionSize(MinimumColumnWidth);
     header()->setSectionsMovable(false);
     connect(m_enumeration.data(),
             &Plugin::CameraPool::ICameraEnumerationService::enumerationChanged, this,

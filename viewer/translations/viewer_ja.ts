@@ -5,357 +5,357 @@
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>開始(&amp;S)</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>停止(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Record...</source>
-        <translation type="unfinished"></translation>
+        <translation>録画(&amp;R)...</translation>
     </message>
     <message>
         <source>Sto&amp;p recording</source>
-        <translation type="unfinished"></translation>
+        <translation>録画の停止(&amp;P)</translation>
     </message>
     <message>
         <source>Start continuous acquisition (F6)</source>
-        <translation type="unfinished"></translation>
+        <translation>連続画像取得を開始 (F6)</translation>
     </message>
     <message>
         <source>Stop continuous acquisition (F7)</source>
-        <translation type="unfinished"></translation>
+        <translation>連続画像取得を停止 (F7)</translation>
     </message>
     <message>
         <source>Record images into a folder (F8)</source>
-        <translation type="unfinished"></translation>
+        <translation>画像をフォルダーに録画 (F8)</translation>
     </message>
     <message>
         <source>Stop recording; acquisition goes on (F9)</source>
-        <translation type="unfinished"></translation>
+        <translation>録画を停止 (画像取得は継続) (F9)</translation>
     </message>
     <message>
         <source>Record into folder</source>
-        <translation type="unfinished"></translation>
+        <translation>録画先フォルダー</translation>
     </message>
     <message>
         <source>%1 records into %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 の画像を %2 に録画しています。</translation>
     </message>
     <message>
         <source>No camera selected</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが選択されていません</translation>
     </message>
     <message>
         <source>Select a camera in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>一覧からカメラを選択してください。</translation>
     </message>
     <message>
         <source>No cameras found</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラが見つかりません</translation>
     </message>
     <message>
         <source>Plug one in and press Refresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを接続して「再検索」を押してください。</translation>
     </message>
     <message>
         <source>Press Start to see its image.</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を表示するには「開始」を押してください。</translation>
     </message>
     <message>
         <source>Its firmware is being updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアを更新しています。</translation>
     </message>
     <message>
         <source>Another application is using it.</source>
-        <translation type="unfinished"></translation>
+        <translation>別のアプリケーションが使用しています。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CCommandLine</name>
     <message>
         <source>Shows cameras and lets plug-ins work with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを表示し、プラグインで操作できるようにします。</translation>
     </message>
     <message>
         <source>Simulate the cameras described in &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;ファイル&gt; に記述されたカメラをシミュレートします。</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
-        <translation type="unfinished"></translation>
+        <translation>以前の更新でシミュレーションカメラに書き込まれたファームウェアを破棄します。</translation>
     </message>
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times faster than real ones (a demonstration: %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>シミュレーションカメラを実機の &lt;n&gt; 倍の速さで動作させます (デモ: %1)。</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>Look for plug-ins in &lt;dir&gt;, too; can be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;フォルダー&gt; でもプラグインを探します。複数回指定できます。</translation>
     </message>
     <message>
         <source>dir</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー</translation>
     </message>
     <message>
         <source>Use the language en, ko, ja or zh this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>今回使用する言語を en、ko、ja、zh から指定します。</translation>
     </message>
     <message>
         <source>code</source>
-        <translation type="unfinished"></translation>
+        <translation>コード</translation>
     </message>
     <message>
         <source>Offer the update files in &lt;dir&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;フォルダー&gt; の更新ファイルを提供します。</translation>
     </message>
     <message>
         <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and end.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア更新ウィザードを自動で進め、画面を &lt;フォルダー&gt; に保存して終了します。</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>予期しない引数「%1」です。</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
-        <translation type="unfinished"></translation>
+        <translation>言語「%1」は使用できません。en、ko、ja、zh のいずれかを指定してください。</translation>
     </message>
     <message>
         <source>The folder for the demonstration&apos;s pictures is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>デモの画面を保存するフォルダーが指定されていません。</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
-        <translation type="unfinished"></translation>
+        <translation>速度「%1」は 0.01 から 10000 までの数値ではありません。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLinkOpener</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー</translation>
     </message>
     <message>
         <source>The file cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを読み取れません: %1。</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>アドレス</translation>
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>このデスクトップには Web ページを開くプログラムがありません。別の場所で開くには、アドレスをコピーしてください。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CMainWindow</name>
     <message>
         <source>Nuvex Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuvex Viewer</translation>
     </message>
     <message>
         <source>Acquisition</source>
-        <translation type="unfinished"></translation>
+        <translation>画像取得</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>シミュレーション(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>ツール(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Tool bar</source>
-        <translation type="unfinished"></translation>
+        <translation>ツールバー(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語(&amp;L)</translation>
     </message>
     <message>
         <source>The language changes when the viewer is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>言語は次回のビューアー起動時に変更されます。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CPluginListDialog</name>
     <message>
         <source>Plug-ins</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグイン</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>実行中</translation>
     </message>
     <message>
         <source>Part of the viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>ビューアーの一部</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>利用できません</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CSimulationMenu</name>
     <message>
         <source>&amp;Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>接続済み(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Busy elsewhere</source>
-        <translation type="unfinished"></translation>
+        <translation>他で使用中(&amp;B)</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CTextDialog</name>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてコピー(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>再検索(&amp;F)</translation>
     </message>
     <message>
         <source>Look for cameras (F5)</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラを検索 (F5)</translation>
     </message>
     <message>
         <source>&amp;Open sample folder</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプルフォルダーを開く(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Plug-ins...</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグイン(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報(&amp;A)</translation>
     </message>
     <message>
         <source>Main window and menus</source>
-        <translation type="unfinished"></translation>
+        <translation>メインウィンドウとメニュー</translation>
     </message>
     <message>
         <source>Camera tree and selection</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラツリーと選択</translation>
     </message>
     <message>
         <source>Cameras, update files and firmware updates</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ、更新ファイル、ファームウェアの更新</translation>
     </message>
     <message>
         <source>The viewer as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>ビューアー全体</translation>
     </message>
     <message>
         <source>Not all plug-ins are available: see Help &gt; Plug-ins.</source>
-        <translation type="unfinished"></translation>
+        <translation>利用できないプラグインがあります。ヘルプ &gt; プラグイン をご覧ください。</translation>
     </message>
     <message>
         <source>A firmware update is running. Wait until it has ended before you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェアの更新中です。更新が終わってから終了してください。</translation>
     </message>
     <message>
         <source>A dialog is still open. Close it before you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>ダイアログが開いています。閉じてから終了してください。</translation>
     </message>
     <message numerus="yes">
         <source>%n camera(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n 台のカメラが見つかりました。</numerusform>
         </translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;カメラを表示し、プラグインで操作できるようにします。&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
     <message>
         <source>The folder &quot;%1&quot; does not exist; choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー「%1」は存在しません。別のフォルダーを選択してください。</translation>
     </message>
     <message>
         <source>Camera %1 does not answer any more; its acquisition has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ %1 が応答しなくなったため、画像取得が終了しました。</translation>
     </message>
     <message>
         <source>The recording of camera %1 has ended: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ %1 の録画が終了しました: %2。</translation>
     </message>
     <message>
         <source>Camera %1 cannot be started while the firmware updater is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア更新ツールが開いている間は、カメラ %1 を開始できません。</translation>
     </message>
     <message>
         <source>Camera %1 does not answer; check its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ %1 が応答しません。ケーブルを確認してください。</translation>
     </message>
     <message>
         <source>Camera %1 is used by another application.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ %1 は別のアプリケーションが使用しています。</translation>
     </message>
     <message>
         <source>Camera %1 is being updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ %1 を更新しています。</translation>
     </message>
 </context>
 <context>
@@ -366,158 +366,166 @@ Model: %2
 Serial number: %3
 Device version: %4
 Firmware: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+モデル: %2
+シリアル番号: %3
+デバイスバージョン: %4
+ファームウェア: %5</translation>
     </message>
     <message>
         <source>Acquiring</source>
-        <translation type="unfinished"></translation>
+        <translation>取得中</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>録画中</translation>
     </message>
     <message>
         <source>Updating</source>
-        <translation type="unfinished"></translation>
+        <translation>更新中</translation>
     </message>
     <message>
         <source>In use elsewhere</source>
-        <translation type="unfinished"></translation>
+        <translation>他で使用中</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>準備完了</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>シリアル番号</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>ファームウェア</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
     </message>
     <message>
         <source>Not updatable (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>更新不可 (%1)</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
     </message>
 </context>
 <context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CDependencyResolver</name>
     <message>
         <source>Its name is that of a part of the viewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>名前がビューアーの構成要素と同じです。</translation>
     </message>
     <message>
         <source>A plug-in of the same name was found before: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>同じ名前のプラグインがすでに見つかっています: %1。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot; %2, which is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」%2 が必要ですが、ありません。</translation>
     </message>
     <message>
         <source>It is in a circle of dependencies: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>依存関係が循環しています: %1。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot; %2, but the one that is there has version %3 and is compatible down to %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」%2 が必要ですが、現在のバージョンは %3 で、%4 以降とのみ互換性があります。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」が必要ですが、開始できませんでした。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
-        <translation type="unfinished"></translation>
+        <translation>不明な例外</translation>
     </message>
     <message>
         <source>It could not set its language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語を設定できませんでした</translation>
     </message>
     <message>
         <source>It could not be initialized</source>
-        <translation type="unfinished"></translation>
+        <translation>初期化できませんでした</translation>
     </message>
     <message>
         <source>It could not be connected to the viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>ビューアーに接続できませんでした</translation>
     </message>
     <message>
         <source>It could not be constructed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>作成できませんでした: %1。</translation>
     </message>
     <message>
         <source>Its library could not be loaded: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブラリを読み込めませんでした: %1。</translation>
     </message>
     <message>
         <source>Its library does not contain what its metadata says.</source>
-        <translation type="unfinished"></translation>
+        <translation>ライブラリの内容がメタデータと一致しません。</translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。</translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」が必要ですが、開始できませんでした。</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; (%2) is not available. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグイン「%1」(%2) は利用できません。%3</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginScanner</name>
     <message>
         <source>The file is damaged or is not a library.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しているか、ライブラリではありません。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginSpec</name>
     <message>
         <source>It was built for the interface &quot;%1&quot;, but this viewer has &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>インターフェイス「%1」用にビルドされていますが、このビューアーのインターフェイスは「%2」です。</translation>
     </message>
     <message>
         <source>Its metadata has no &quot;Name&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>メタデータに「Name」がありません。</translation>
     </message>
     <message>
         <source>The &quot;Dependencies&quot; of its metadata are not a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>メタデータの「Dependencies」がリストではありません。</translation>
     </message>
     <message>
         <source>A dependency in its metadata has no &quot;Name&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>メタデータの依存項目に「Name」がありません。</translation>
     </message>
     <message>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>メタデータの「%2」の「%1」がバージョン番号ではありません:「%3」。</translation>
     </message>
 </context>
 </TS>

@@ -5,357 +5,357 @@
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>시작(&amp;S)</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>중지(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Record...</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화(&amp;R)...</translation>
     </message>
     <message>
         <source>Sto&amp;p recording</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화 중지(&amp;P)</translation>
     </message>
     <message>
         <source>Start continuous acquisition (F6)</source>
-        <translation type="unfinished"></translation>
+        <translation>연속 영상 획득 시작(F6)</translation>
     </message>
     <message>
         <source>Stop continuous acquisition (F7)</source>
-        <translation type="unfinished"></translation>
+        <translation>연속 영상 획득 중지(F7)</translation>
     </message>
     <message>
         <source>Record images into a folder (F8)</source>
-        <translation type="unfinished"></translation>
+        <translation>영상을 폴더에 녹화(F8)</translation>
     </message>
     <message>
         <source>Stop recording; acquisition goes on (F9)</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화 중지(영상 획득은 계속됨)(F9)</translation>
     </message>
     <message>
         <source>Record into folder</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화할 폴더</translation>
     </message>
     <message>
         <source>%1 records into %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1의 영상을 %2에 녹화하고 있습니다.</translation>
     </message>
     <message>
         <source>No camera selected</source>
-        <translation type="unfinished"></translation>
+        <translation>선택한 카메라 없음</translation>
     </message>
     <message>
         <source>Select a camera in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>목록에서 카메라를 선택하십시오.</translation>
     </message>
     <message>
         <source>No cameras found</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 찾을 수 없음</translation>
     </message>
     <message>
         <source>Plug one in and press Refresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 연결한 후 새로 고침을 누르십시오.</translation>
     </message>
     <message>
         <source>Press Start to see its image.</source>
-        <translation type="unfinished"></translation>
+        <translation>영상을 보려면 시작을 누르십시오.</translation>
     </message>
     <message>
         <source>Its firmware is being updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어를 업데이트하고 있습니다.</translation>
     </message>
     <message>
         <source>Another application is using it.</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 응용 프로그램에서 사용 중입니다.</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CCommandLine</name>
     <message>
         <source>Shows cameras and lets plug-ins work with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라를 표시하고 플러그인으로 카메라를 제어합니다.</translation>
     </message>
     <message>
         <source>Simulate the cameras described in &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;파일&gt;에 기술된 카메라를 시뮬레이션합니다.</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>파일</translation>
     </message>
     <message>
         <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
-        <translation type="unfinished"></translation>
+        <translation>이전 업데이트에서 시뮬레이션 카메라에 기록한 펌웨어를 지웁니다.</translation>
     </message>
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times faster than real ones (a demonstration: %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>시뮬레이션 카메라를 실제 카메라보다 &lt;n&gt;배 빠르게 작동시킵니다(데모: %1).</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>Look for plug-ins in &lt;dir&gt;, too; can be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;폴더&gt;에서도 플러그인을 찾습니다. 여러 번 지정할 수 있습니다.</translation>
     </message>
     <message>
         <source>dir</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더</translation>
     </message>
     <message>
         <source>Use the language en, ko, ja or zh this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>이번 실행에 사용할 언어를 en, ko, ja, zh 중에서 지정합니다.</translation>
     </message>
     <message>
         <source>code</source>
-        <translation type="unfinished"></translation>
+        <translation>코드</translation>
     </message>
     <message>
         <source>Offer the update files in &lt;dir&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;폴더&gt;의 업데이트 파일을 제공합니다.</translation>
     </message>
     <message>
         <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and end.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어 업데이트 마법사를 자동으로 진행하고, 화면을 &lt;폴더&gt;에 저장한 후 종료합니다.</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>예기치 않은 인수 &quot;%1&quot;입니다.</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 언어 &quot;%1&quot;입니다. en, ko, ja, zh 중에서 지정하십시오.</translation>
     </message>
     <message>
         <source>The folder for the demonstration&apos;s pictures is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>데모 화면을 저장할 폴더가 지정되지 않았습니다.</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
-        <translation type="unfinished"></translation>
+        <translation>속도 &quot;%1&quot;은(는) 0.01에서 10000 사이의 숫자가 아닙니다.</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLinkOpener</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더</translation>
     </message>
     <message>
         <source>The file cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일을 읽을 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>주소</translation>
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 데스크톱에는 웹 페이지를 여는 프로그램이 없습니다. 다른 곳에서 열려면 주소를 복사하십시오.</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CMainWindow</name>
     <message>
         <source>Nuvex Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuvex Viewer</translation>
     </message>
     <message>
         <source>Acquisition</source>
-        <translation type="unfinished"></translation>
+        <translation>영상 획득</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>파일(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>보기(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>시뮬레이션(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>도구(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말(&amp;H)</translation>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Tool bar</source>
-        <translation type="unfinished"></translation>
+        <translation>도구 모음(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>언어(&amp;L)</translation>
     </message>
     <message>
         <source>The language changes when the viewer is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>언어는 다음에 뷰어를 시작할 때 변경됩니다.</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CPluginListDialog</name>
     <message>
         <source>Plug-ins</source>
-        <translation type="unfinished"></translation>
+        <translation>플러그인</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>버전</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>상태</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 중</translation>
     </message>
     <message>
         <source>Part of the viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>뷰어에 포함됨</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>사용할 수 없음</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CSimulationMenu</name>
     <message>
         <source>&amp;Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>연결됨(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Busy elsewhere</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 곳에서 사용 중(&amp;B)</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CTextDialog</name>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 복사(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>새로 고침(&amp;F)</translation>
     </message>
     <message>
         <source>Look for cameras (F5)</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 검색(F5)</translation>
     </message>
     <message>
         <source>&amp;Open sample folder</source>
-        <translation type="unfinished"></translation>
+        <translation>샘플 폴더 열기(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>종료(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Plug-ins...</source>
-        <translation type="unfinished"></translation>
+        <translation>플러그인(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보(&amp;A)</translation>
     </message>
     <message>
         <source>Main window and menus</source>
-        <translation type="unfinished"></translation>
+        <translation>기본 창 및 메뉴</translation>
     </message>
     <message>
         <source>Camera tree and selection</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 트리 및 선택</translation>
     </message>
     <message>
         <source>Cameras, update files and firmware updates</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라, 업데이트 파일 및 펌웨어 업데이트</translation>
     </message>
     <message>
         <source>The viewer as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>뷰어 전체</translation>
     </message>
     <message>
         <source>Not all plug-ins are available: see Help &gt; Plug-ins.</source>
-        <translation type="unfinished"></translation>
+        <translation>일부 플러그인을 사용할 수 없습니다. 도움말 &gt; 플러그인을 참조하십시오.</translation>
     </message>
     <message>
         <source>A firmware update is running. Wait until it has ended before you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어 업데이트가 진행 중입니다. 업데이트가 끝난 후 종료하십시오.</translation>
     </message>
     <message>
         <source>A dialog is still open. Close it before you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>대화 상자가 열려 있습니다. 대화 상자를 닫은 후 종료하십시오.</translation>
     </message>
     <message numerus="yes">
         <source>%n camera(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>카메라 %n대를 찾았습니다.</numerusform>
         </translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;카메라를 표시하고 플러그인으로 카메라를 제어합니다.&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
     <message>
         <source>The folder &quot;%1&quot; does not exist; choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>폴더 &quot;%1&quot;이(가) 없습니다. 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>Camera %1 does not answer any more; its acquisition has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 %1이(가) 더 이상 응답하지 않아 영상 획득이 종료되었습니다.</translation>
     </message>
     <message>
         <source>The recording of camera %1 has ended: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 %1의 녹화가 종료되었습니다: %2.</translation>
     </message>
     <message>
         <source>Camera %1 cannot be started while the firmware updater is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어 업데이터가 열려 있는 동안에는 카메라 %1을(를) 시작할 수 없습니다.</translation>
     </message>
     <message>
         <source>Camera %1 does not answer; check its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 %1이(가) 응답하지 않습니다. 케이블을 확인하십시오.</translation>
     </message>
     <message>
         <source>Camera %1 is used by another application.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 %1을(를) 다른 응용 프로그램에서 사용 중입니다.</translation>
     </message>
     <message>
         <source>Camera %1 is being updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 %1을(를) 업데이트하고 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -366,158 +366,166 @@ Model: %2
 Serial number: %3
 Device version: %4
 Firmware: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+모델: %2
+일련번호: %3
+장치 버전: %4
+펌웨어: %5</translation>
     </message>
     <message>
         <source>Acquiring</source>
-        <translation type="unfinished"></translation>
+        <translation>획득 중</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화 중</translation>
     </message>
     <message>
         <source>Updating</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트 중</translation>
     </message>
     <message>
         <source>In use elsewhere</source>
-        <translation type="unfinished"></translation>
+        <translation>다른 곳에서 사용 중</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>준비됨</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>일련번호</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>펌웨어</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>상태</translation>
     </message>
     <message>
         <source>Not updatable (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>업데이트할 수 없음(%1)</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>모델</translation>
     </message>
 </context>
 <context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CDependencyResolver</name>
     <message>
         <source>Its name is that of a part of the viewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>이름이 뷰어의 구성 요소와 같습니다.</translation>
     </message>
     <message>
         <source>A plug-in of the same name was found before: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>같은 이름의 플러그인을 이미 찾았습니다: %1.</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot; %2, which is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; %2이(가) 필요하지만 없습니다.</translation>
     </message>
     <message>
         <source>It is in a circle of dependencies: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>종속성이 순환합니다: %1.</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot; %2, but the one that is there has version %3 and is compatible down to %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; %2이(가) 필요하지만, 현재 버전은 %3이고 %4까지만 호환됩니다.</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;이(가) 필요하지만 시작할 수 없었습니다.</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
-        <translation type="unfinished"></translation>
+        <translation>알 수 없는 예외</translation>
     </message>
     <message>
         <source>It could not set its language</source>
-        <translation type="unfinished"></translation>
+        <translation>언어를 설정할 수 없습니다</translation>
     </message>
     <message>
         <source>It could not be initialized</source>
-        <translation type="unfinished"></translation>
+        <translation>초기화할 수 없습니다</translation>
     </message>
     <message>
         <source>It could not be connected to the viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>뷰어에 연결할 수 없습니다</translation>
     </message>
     <message>
         <source>It could not be constructed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>생성할 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>Its library could not be loaded: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브러리를 불러올 수 없습니다: %1.</translation>
     </message>
     <message>
         <source>Its library does not contain what its metadata says.</source>
-        <translation type="unfinished"></translation>
+        <translation>라이브러리의 내용이 메타데이터와 다릅니다.</translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1.</translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2.</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;이(가) 필요하지만 시작할 수 없었습니다.</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; (%2) is not available. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>플러그인 &quot;%1&quot;(%2)을(를) 사용할 수 없습니다. %3</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginScanner</name>
     <message>
         <source>The file is damaged or is not a library.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었거나 라이브러리가 아닙니다.</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginSpec</name>
     <message>
         <source>It was built for the interface &quot;%1&quot;, but this viewer has &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>인터페이스 &quot;%1&quot;용으로 빌드되었지만, 이 뷰어의 인터페이스는 &quot;%2&quot;입니다.</translation>
     </message>
     <message>
         <source>Its metadata has no &quot;Name&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>메타데이터에 &quot;Name&quot;이 없습니다.</translation>
     </message>
     <message>
         <source>The &quot;Dependencies&quot; of its metadata are not a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>메타데이터의 &quot;Dependencies&quot;가 목록이 아닙니다.</translation>
     </message>
     <message>
         <source>A dependency in its metadata has no &quot;Name&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>메타데이터의 종속 항목에 &quot;Name&quot;이 없습니다.</translation>
     </message>
     <message>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>메타데이터에서 &quot;%2&quot;의 &quot;%1&quot;이(가) 버전 번호가 아닙니다: &quot;%3&quot;.</translation>
     </message>
 </context>
 </TS>

@@ -5,357 +5,357 @@
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
-        <translation type="unfinished"></translation>
+        <translation>开始(&amp;S)</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>停止(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Record...</source>
-        <translation type="unfinished"></translation>
+        <translation>录制(&amp;R)...</translation>
     </message>
     <message>
         <source>Sto&amp;p recording</source>
-        <translation type="unfinished"></translation>
+        <translation>停止录制(&amp;P)</translation>
     </message>
     <message>
         <source>Start continuous acquisition (F6)</source>
-        <translation type="unfinished"></translation>
+        <translation>开始连续采集 (F6)</translation>
     </message>
     <message>
         <source>Stop continuous acquisition (F7)</source>
-        <translation type="unfinished"></translation>
+        <translation>停止连续采集 (F7)</translation>
     </message>
     <message>
         <source>Record images into a folder (F8)</source>
-        <translation type="unfinished"></translation>
+        <translation>将图像录制到文件夹 (F8)</translation>
     </message>
     <message>
         <source>Stop recording; acquisition goes on (F9)</source>
-        <translation type="unfinished"></translation>
+        <translation>停止录制，采集继续 (F9)</translation>
     </message>
     <message>
         <source>Record into folder</source>
-        <translation type="unfinished"></translation>
+        <translation>录制到文件夹</translation>
     </message>
     <message>
         <source>%1 records into %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在将 %1 的图像录制到 %2。</translation>
     </message>
     <message>
         <source>No camera selected</source>
-        <translation type="unfinished"></translation>
+        <translation>未选择相机</translation>
     </message>
     <message>
         <source>Select a camera in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>请在列表中选择一台相机。</translation>
     </message>
     <message>
         <source>No cameras found</source>
-        <translation type="unfinished"></translation>
+        <translation>未找到相机</translation>
     </message>
     <message>
         <source>Plug one in and press Refresh.</source>
-        <translation type="unfinished"></translation>
+        <translation>请连接相机，然后单击“刷新”。</translation>
     </message>
     <message>
         <source>Press Start to see its image.</source>
-        <translation type="unfinished"></translation>
+        <translation>单击“开始”可查看图像。</translation>
     </message>
     <message>
         <source>Its firmware is being updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在更新其固件。</translation>
     </message>
     <message>
         <source>Another application is using it.</source>
-        <translation type="unfinished"></translation>
+        <translation>另一个应用程序正在使用它。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CCommandLine</name>
     <message>
         <source>Shows cameras and lets plug-ins work with them.</source>
-        <translation type="unfinished"></translation>
+        <translation>显示相机，并允许插件使用相机。</translation>
     </message>
     <message>
         <source>Simulate the cameras described in &lt;file&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>模拟 &lt;文件&gt; 中描述的相机。</translation>
     </message>
     <message>
         <source>file</source>
-        <translation type="unfinished"></translation>
+        <translation>文件</translation>
     </message>
     <message>
         <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
-        <translation type="unfinished"></translation>
+        <translation>清除以往更新写入模拟相机的固件。</translation>
     </message>
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times faster than real ones (a demonstration: %1).</source>
-        <translation type="unfinished"></translation>
+        <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（演示：%1）。</translation>
     </message>
     <message>
         <source>n</source>
-        <translation type="unfinished"></translation>
+        <translation>n</translation>
     </message>
     <message>
         <source>Look for plug-ins in &lt;dir&gt;, too; can be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>同时在 &lt;文件夹&gt; 中查找插件；可多次指定。</translation>
     </message>
     <message>
         <source>dir</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹</translation>
     </message>
     <message>
         <source>Use the language en, ko, ja or zh this time.</source>
-        <translation type="unfinished"></translation>
+        <translation>指定本次使用的语言：en、ko、ja 或 zh。</translation>
     </message>
     <message>
         <source>code</source>
-        <translation type="unfinished"></translation>
+        <translation>代码</translation>
     </message>
     <message>
         <source>Offer the update files in &lt;dir&gt;.</source>
-        <translation type="unfinished"></translation>
+        <translation>提供 &lt;文件夹&gt; 中的更新文件。</translation>
     </message>
     <message>
         <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and end.</source>
-        <translation type="unfinished"></translation>
+        <translation>自动执行固件更新向导，将截图保存到 &lt;文件夹&gt; 后退出。</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>意外的参数“%1”。</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
-        <translation type="unfinished"></translation>
+        <translation>未知的语言“%1”；请使用 en、ko、ja 或 zh。</translation>
     </message>
     <message>
         <source>The folder for the demonstration&apos;s pictures is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>未指定保存演示截图的文件夹。</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
-        <translation type="unfinished"></translation>
+        <translation>速度“%1”不是 0.01 到 10000 之间的数字。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLinkOpener</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹</translation>
     </message>
     <message>
         <source>The file cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法读取文件：%1。</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished"></translation>
+        <translation>地址</translation>
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>此桌面没有可打开网页的程序。请复制该地址，然后在其他位置打开。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CMainWindow</name>
     <message>
         <source>Nuvex Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuvex Viewer</translation>
     </message>
     <message>
         <source>Acquisition</source>
-        <translation type="unfinished"></translation>
+        <translation>采集</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>文件(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>视图(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Simulation</source>
-        <translation type="unfinished"></translation>
+        <translation>模拟(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>工具(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>帮助(&amp;H)</translation>
     </message>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>相机</translation>
     </message>
     <message>
         <source>&amp;Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>相机(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Tool bar</source>
-        <translation type="unfinished"></translation>
+        <translation>工具栏(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>语言(&amp;L)</translation>
     </message>
     <message>
         <source>The language changes when the viewer is started the next time.</source>
-        <translation type="unfinished"></translation>
+        <translation>语言将在下次启动查看器时更改。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CPluginListDialog</name>
     <message>
         <source>Plug-ins</source>
-        <translation type="unfinished"></translation>
+        <translation>插件</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名称</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>版本</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>正在运行</translation>
     </message>
     <message>
         <source>Part of the viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>查看器的一部分</translation>
     </message>
     <message>
         <source>Not available</source>
-        <translation type="unfinished"></translation>
+        <translation>不可用</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CSimulationMenu</name>
     <message>
         <source>&amp;Plugged in</source>
-        <translation type="unfinished"></translation>
+        <translation>已连接(&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Busy elsewhere</source>
-        <translation type="unfinished"></translation>
+        <translation>被其他程序占用(&amp;B)</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CTextDialog</name>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>全部复制(&amp;C)</translation>
     </message>
 </context>
 <context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>刷新(&amp;F)</translation>
     </message>
     <message>
         <source>Look for cameras (F5)</source>
-        <translation type="unfinished"></translation>
+        <translation>搜索相机 (F5)</translation>
     </message>
     <message>
         <source>&amp;Open sample folder</source>
-        <translation type="unfinished"></translation>
+        <translation>打开示例文件夹(&amp;O)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>退出(&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Plug-ins...</source>
-        <translation type="unfinished"></translation>
+        <translation>插件(&amp;P)...</translation>
     </message>
     <message>
         <source>&amp;About</source>
-        <translation type="unfinished"></translation>
+        <translation>关于(&amp;A)</translation>
     </message>
     <message>
         <source>Main window and menus</source>
-        <translation type="unfinished"></translation>
+        <translation>主窗口和菜单</translation>
     </message>
     <message>
         <source>Camera tree and selection</source>
-        <translation type="unfinished"></translation>
+        <translation>相机树和选择</translation>
     </message>
     <message>
         <source>Cameras, update files and firmware updates</source>
-        <translation type="unfinished"></translation>
+        <translation>相机、更新文件和固件更新</translation>
     </message>
     <message>
         <source>The viewer as a whole</source>
-        <translation type="unfinished"></translation>
+        <translation>整个查看器</translation>
     </message>
     <message>
         <source>Not all plug-ins are available: see Help &gt; Plug-ins.</source>
-        <translation type="unfinished"></translation>
+        <translation>部分插件不可用：请参阅“帮助”&gt;“插件”。</translation>
     </message>
     <message>
         <source>A firmware update is running. Wait until it has ended before you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件更新正在进行。请等待更新结束后再退出。</translation>
     </message>
     <message>
         <source>A dialog is still open. Close it before you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>仍有对话框处于打开状态。请先关闭它再退出。</translation>
     </message>
     <message numerus="yes">
         <source>%n camera(s) found.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>找到 %n 台相机。</numerusform>
         </translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>关于</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;显示相机，并允许插件使用相机。&lt;/p&gt;</translation>
     </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
     <message>
         <source>The folder &quot;%1&quot; does not exist; choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件夹“%1”不存在；请选择其他文件夹。</translation>
     </message>
     <message>
         <source>Camera %1 does not answer any more; its acquisition has ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机 %1 不再响应，采集已结束。</translation>
     </message>
     <message>
         <source>The recording of camera %1 has ended: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机 %1 的录制已结束：%2。</translation>
     </message>
     <message>
         <source>Camera %1 cannot be started while the firmware updater is open.</source>
-        <translation type="unfinished"></translation>
+        <translation>固件更新程序打开期间无法启动相机 %1。</translation>
     </message>
     <message>
         <source>Camera %1 does not answer; check its cable.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机 %1 没有响应；请检查电缆。</translation>
     </message>
     <message>
         <source>Camera %1 is used by another application.</source>
-        <translation type="unfinished"></translation>
+        <translation>相机 %1 正被另一个应用程序使用。</translation>
     </message>
     <message>
         <source>Camera %1 is being updated.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在更新相机 %1。</translation>
     </message>
 </context>
 <context>
@@ -366,158 +366,166 @@ Model: %2
 Serial number: %3
 Device version: %4
 Firmware: %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+型号：%2
+序列号：%3
+设备版本：%4
+固件：%5</translation>
     </message>
     <message>
         <source>Acquiring</source>
-        <translation type="unfinished"></translation>
+        <translation>正在采集</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>正在录制</translation>
     </message>
     <message>
         <source>Updating</source>
-        <translation type="unfinished"></translation>
+        <translation>正在更新</translation>
     </message>
     <message>
         <source>In use elsewhere</source>
-        <translation type="unfinished"></translation>
+        <translation>被占用</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>就绪</translation>
     </message>
     <message>
         <source>Camera</source>
-        <translation type="unfinished"></translation>
+        <translation>相机</translation>
     </message>
     <message>
         <source>Serial number</source>
-        <translation type="unfinished"></translation>
+        <translation>序列号</translation>
     </message>
     <message>
         <source>Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>固件</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished"></translation>
+        <translation>状态</translation>
     </message>
     <message>
         <source>Not updatable (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>无法更新 (%1)</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
     </message>
 </context>
 <context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
-        <translation type="unfinished"></translation>
+        <translation>相机</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CDependencyResolver</name>
     <message>
         <source>Its name is that of a part of the viewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>其名称与查看器的组成部分相同。</translation>
     </message>
     <message>
         <source>A plug-in of the same name was found before: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>此前已找到同名插件：%1。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot; %2, which is not there.</source>
-        <translation type="unfinished"></translation>
+        <translation>它需要“%1”%2，但该项不存在。</translation>
     </message>
     <message>
         <source>It is in a circle of dependencies: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>存在循环依赖：%1。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot; %2, but the one that is there has version %3 and is compatible down to %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>它需要“%1”%2，但现有版本为 %3，最低仅兼容到 %4。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>它需要“%1”，但该项无法启动。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
-        <translation type="unfinished"></translation>
+        <translation>未知异常</translation>
     </message>
     <message>
         <source>It could not set its language</source>
-        <translation type="unfinished"></translation>
+        <translation>无法设置语言</translation>
     </message>
     <message>
         <source>It could not be initialized</source>
-        <translation type="unfinished"></translation>
+        <translation>无法初始化</translation>
     </message>
     <message>
         <source>It could not be connected to the viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>无法连接到查看器</translation>
     </message>
     <message>
         <source>It could not be constructed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法创建：%1。</translation>
     </message>
     <message>
         <source>Its library could not be loaded: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>无法加载其库：%1。</translation>
     </message>
     <message>
         <source>Its library does not contain what its metadata says.</source>
-        <translation type="unfinished"></translation>
+        <translation>库的内容与其元数据不符。</translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1。</translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：%2。</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation type="unfinished"></translation>
+        <translation>它需要“%1”，但该项无法启动。</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; (%2) is not available. %3</source>
-        <translation type="unfinished"></translation>
+        <translation>插件“%1”（%2）不可用。%3</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginScanner</name>
     <message>
         <source>The file is damaged or is not a library.</source>
-        <translation type="unfinished"></translation>
+        <translation>文件已损坏或不是库文件。</translation>
     </message>
 </context>
 <context>
     <name>Viewer::PluginSystem::CPluginSpec</name>
     <message>
         <source>It was built for the interface &quot;%1&quot;, but this viewer has &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>它是为接口“%1”构建的，但此查看器的接口为“%2”。</translation>
     </message>
     <message>
         <source>Its metadata has no &quot;Name&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>其元数据中没有“Name”。</translation>
     </message>
     <message>
         <source>The &quot;Dependencies&quot; of its metadata are not a list.</source>
-        <translation type="unfinished"></translation>
+        <translation>其元数据中的“Dependencies”不是列表。</translation>
     </message>
     <message>
         <source>A dependency in its metadata has no &quot;Name&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>其元数据中的某个依赖项没有“Name”。</translation>
     </message>
     <message>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>其元数据中“%2”的“%1”不是版本号：“%3”。</translation>
     </message>
 </context>
 </TS>
