@@ -12,7 +12,6 @@
 namespace Viewer::CameraSelector {
 
 static constexpr int ColumnSpace = 16;
-static constexpr int MinimumColumnWidth = 32;
 
 CCameraSelectorView::CCameraSelectorView(
     const QSharedPointer<Plugin::CameraPool::ICameraEnumerationService> &enumeration,
@@ -30,9 +29,6 @@ CCameraSelectorView::CCameraSelectorView(
     setExpandsOnDoubleClick(false);
     setSelectionMode(QAbstractItemView::SingleSelection);
     header()->setStretchLastSection(true);
-    // Not the width of the font's widest letter: fonts with Chinese, Japanese and Korean letters
-    // have some that would push the last column out of sight.
-    header()->setMinimumSectionSize(MinimumColumnWidth);
     header()->setSectionsMovable(false);
     connect(m_enumeration.data(),
             &Plugin::CameraPool::ICameraEnumerationService::enumerationChanged, this,
@@ -67,9 +63,11 @@ void CCameraSelectorView::onEnumerationChanged()
     m_rebuilding = true;
     m_model->setTransportLayers(m_enumeration->getTransportLayerInfoVector());
     expandAll();
-    for (int column = 0; column < CCameraSelectorModel::StateColumn; ++column) {
+    for (int column = 0; column <= CCameraSelectorModel::StateColumn; ++column) {
         const int width = qMax(sizeHintForColumn(column), header()->sectionSizeHint(column));
-        setColumnWidth(column, width + ColumnSpace);
+        // The last column takes what is left, but never less than it has been given.
+        const bool isLast = column == CCameraSelectorModel::StateColumn;
+        setColumnWidth(column, isLast ? width : width + ColumnSpace);
     }
     const QModelIndex index = selected ? m_model->findId(selected->getId()) : QModelIndex();
     if (index.isValid())
