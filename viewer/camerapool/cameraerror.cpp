@@ -2,11 +2,22 @@
 
 namespace Viewer::CameraPool {
 
-CCameraError::CCameraError(const QString &cameraName, const QString &cause)
-    : BaseException(QStringLiteral("Camera %1: %2").arg(cameraName, cause))
+CCameraError::CCameraError(const QString &cameraName, const CErrorText &cause)
+    : CCameraError(CErrorText::tr("Camera %1: %2").arg(cameraName, cause))
+{
+}
+
+CCameraError::CCameraError(const CErrorText &text)
+    : BaseException(text.getEnglish())
+    , m_text(text)
 {
 }
 
 CCameraError::~CCameraError() = default;
+
+CErrorText CCameraError::getText() const
+{
+    return m_text;
+}
 
 } // namespace Viewer::CameraPool

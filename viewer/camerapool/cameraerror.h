@@ -1,5 +1,7 @@
 #pragma once
 
+#include "errortext.h"
+
 #include "core/baseexception.h"
 
 namespace Viewer::CameraPool {
@@ -10,8 +12,16 @@ class CCameraError : public Core::Exception::BaseException
 {
 public:
     /// "Camera <name>: <cause>"
-    CCameraError(const QString &cameraName, const QString &cause);
+    CCameraError(const QString &cameraName, const CErrorText &cause);
     ~CCameraError() override;
+
+    /// The message, also in the user's language.
+    [[nodiscard]] CErrorText getText() const;
+
+private:
+    explicit CCameraError(const CErrorText &text);
+
+    CErrorText m_text;
 };
 
 } // namespace Viewer::CameraPool

@@ -5,6 +5,7 @@
 #include "camerastatusservice.h"
 #include "camerastreamcontrolservice.h"
 #include "devicefirmwareupdateservice.h"
+#include "errortranslator.h"
 #include "framestream.h"
 #include "simulation/cameradescriptionreader.h"
 #include "simulation/firmwarestatefile.h"
@@ -12,6 +13,7 @@
 
 #include "core/baseexception.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
@@ -58,6 +60,7 @@ struct CCameraPool::CPrivate
     // The order matters: who is named first is used by those that follow.
     CSimulation simulation;
     const std::shared_ptr<CCameraActivities> activities = std::make_shared<CCameraActivities>();
+    const std::shared_ptr<CErrorTranslator> errors = std::make_shared<CErrorTranslator>();
     CFrameStream stream;
     QSharedPointer<CCameraEnumerationService> enumeration;
     QList<QSharedPointer<IService>> services;
@@ -77,8 +80,8 @@ CCameraPool::CCameraPool(const CCameraPoolOptions &options, QObject *parent)
     d->services
         = {d->enumeration, QSharedPointer<IService>(new CCameraStatusService(getActivityOf)),
            QSharedPointer<IService>(new CCameraStreamControlService([this] { stopAllCameras(); })),
-           QSharedPointer<IService>(
-               new CDeviceFirmwareUpdateService(d->simulation, findCamera, d->activities))};
+           QSharedPointer<IService>(new CDeviceFirmwareUpdateService(d->simulation, findCamera,
+                                                                     d->activities, d->errors))};
 
     connect(&d->simulation, &CSimulation::camerasChanged, d->enumeration.data(),
             &CCameraEnumerationService::onCamerasChanged);
@@ -86,6 +89,7 @@ CCameraPool::CCameraPool(const CCameraPoolOptions &options, QObject *parent)
             &CCameraPool::onCameraStateChanged);
     connect(&d->stream, &CFrameStream::frameReady, this, &CCameraPool::frameReady);
     connect(&d->stream, &CFrameStream::recordingFailed, this, &CCameraPool::onRecordingFailed);
+    QCoreApplication::installTranslator(d->errors.get());
     // Jobs report from their own threads.
     d->activities->setListener([this](const QString &cameraId) {
         QMetaObject::invokeMethod(
@@ -95,6 +99,7 @@ CCameraPool::CCameraPool(const CCameraPoolOptions &options, QObject *parent)
 
 CCameraPool::~CCameraPool()
 {
+    QCoreApplication::removeTranslator(d->errors.get());
     d->activities->setListener({});
 }
 

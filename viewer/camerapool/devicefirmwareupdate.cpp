@@ -2,6 +2,7 @@
 
 #include "cameraactivities.h"
 #include "cameraerror.h"
+#include "errortranslator.h"
 #include "firmwareupdateinfo.h"
 #include "firmwareversion.h"
 #include "icameradevice.h"
@@ -21,13 +22,15 @@ static unsigned int toUnsigned(std::chrono::milliseconds time)
 CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(const CCamera &camera,
                                              const QSharedPointer<CFirmwareUpdateInfo> &info,
                                              std::unique_ptr<ICameraDevice> device,
-                                             const std::shared_ptr<CCameraActivities> &activities)
+                                             const std::shared_ptr<CCameraActivities> &activities,
+                                             const std::shared_ptr<CErrorTranslator> &errors)
     : m_camera(camera)
     , m_info(info)
     , m_direction(getDirection(camera.firmwareVersion, info->getVersion()))
     , m_activities(activities)
-    , m_outOfMemoryText(getErrorText(QStringLiteral("out of memory"), false))
-    , m_outOfMemoryWrittenText(getErrorText(QStringLiteral("out of memory"), true))
+    , m_errors(errors)
+    , m_outOfMemoryText(getErrorText(CErrorText::tr("out of memory"), false))
+    , m_outOfMemoryWrittenText(getErrorText(CErrorText::tr("out of memory"), true))
     , m_device(std::move(device))
     , m_firmwareVersion(camera.firmwareVersion)
 {
@@ -57,11 +60,11 @@ void CDeviceFirmwareUpdate::executeFirmwareUpdate()
         // A series that the user has cancelled executes its last job once more and waits for an
         // answer: saying nothing would make it ask for ever, "done" would count a camera that was
         // never touched.
-        announceEnd(QStringLiteral("The series of updates was stopped before this camera"));
+        announceEnd(CErrorText::tr("The series of updates was stopped before this camera"));
         return;
     }
     bool claimed = false;
-    const QString error = execute(claimed);
+    const CErrorText error = execute(claimed);
     m_device.reset();
     announceEnd(error);
     if (claimed)
@@ -85,11 +88,11 @@ void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
     emit firmwareUpdateProgressStepDone(step.kind, toUnsigned(estimate));
 }
 
-QString CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
+CErrorText CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
 {
     CUpdateRun run(m_camera.displayName, m_info->getEntry(), m_info->getFileName(), *m_device,
                    *this);
-    QString error;
+    CErrorText error;
     try {
         error = attempt(run, claimed);
     } catch (...) {
@@ -104,7 +107,7 @@ QString CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
     return error;
 }
 
-QString CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
+CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
 {
     // Whatever happens here, in libraries or in the receivers of signals, the wizard waits for one
     // last signal.
@@ -114,14 +117,16 @@ QString CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
         emit firmwareUpdateBegin(
             m_info, toUnsigned(estimateEntry(m_info->getEntry(), m_device->getUploadRate())));
         if (other == ECameraActivity::Updating)
-            throw CCameraError(m_camera.displayName, QStringLiteral("it is already being updated"));
+            throw CCameraError(m_camera.displayName, CErrorText::tr("it is already being updated"));
         if (!claimed)
             throw CCameraError(m_camera.displayName,
-                               QStringLiteral("it is acquiring images; stop that and start the "
+                               CErrorText::tr("it is acquiring images; stop that and start the "
                                               "update again"));
         run.execute();
     } catch (const std::bad_alloc &) {
         throw;
+    } catch (const CCameraError &error) {
+        return getErrorText(error.getText(), run.hasWritten());
     } catch (const Core::Exception::BaseException &exception) {
         return getErrorText(exception.getMessage(), run.hasWritten());
     } catch (const std::exception &exception) {
@@ -132,32 +137,37 @@ QString CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
     return {};
 }
 
-void CDeviceFirmwareUpdate::announceEnd(const QString &error) noexcept
+void CDeviceFirmwareUpdate::announceEnd(const CErrorText &error) noexcept
 {
+    try {
+        if (m_errors && !error.isEmpty())
+            m_errors->remember(error);
+    } catch (...) {
+        // Then it is shown in English.
+    }
     try {
         if (error.isEmpty())
             emit firmwareUpdateDone();
         else
-            emit firmwareUpdateError(error);
+            emit firmwareUpdateError(error.getEnglish());
     } catch (...) {
         qCCritical(cameraPoolLog, "a receiver of the update's last signal has thrown an exception");
     }
 }
 
-QString CDeviceFirmwareUpdate::getErrorText(const QString &message, bool written) const
+CErrorText CDeviceFirmwareUpdate::getErrorText(const CErrorText &message, bool written) const
 {
-    QString text = message.simplified();
-    while (text.endsWith(QLatin1Char('.')))
-        text.chop(1);
+    CErrorText text = message.toClause();
     if (text.isEmpty())
-        text = QStringLiteral("the update failed for an unknown reason");
+        text = CErrorText::tr("the update failed for an unknown reason");
     const QString prefix = CCameraError(m_camera.displayName, {}).getMessage().simplified();
-    if (!text.startsWith(prefix))
-        text = CCameraError(m_camera.displayName, text).getMessage().simplified();
-    if (written)
-        text += QStringLiteral("; the update had already begun to write, so repeat it before the "
-                               "camera is used");
-    return text;
+    if (!text.getEnglish().startsWith(prefix))
+        text = CCameraError(m_camera.displayName, text).getText().toClause();
+    return written
+        ? CErrorText::tr("%1; the update had already begun to write, so repeat it before "
+                         "the camera is used")
+              .arg(text)
+        : text;
 }
 
 } // namespace Viewer::CameraPool

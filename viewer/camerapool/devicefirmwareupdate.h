@@ -1,5 +1,6 @@
 #pragma once
 
+#include "errortext.h"
 #include "updaterun.h"
 
 #include "camerapool/idevicefirmwareupdate.h"
@@ -13,6 +14,7 @@
 namespace Viewer::CameraPool {
 
 class CCameraActivities;
+class CErrorTranslator;
 class CFirmwareUpdateInfo;
 
 /// The update job of one camera, whatever camera that is.
@@ -29,10 +31,12 @@ public:
         QString firmwareVersion; ///< the current one
     };
 
-    /// @p info and @p device are not null; the device is closed.
+    /// @p info and @p device are not null; the device is closed. @p errors, which may be null, gets
+    /// to know the error before it is emitted.
     CDeviceFirmwareUpdate(const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
                           std::unique_ptr<ICameraDevice> device,
-                          const std::shared_ptr<CCameraActivities> &activities);
+                          const std::shared_ptr<CCameraActivities> &activities,
+                          const std::shared_ptr<CErrorTranslator> &errors);
     ~CDeviceFirmwareUpdate() override;
 
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
@@ -50,19 +54,20 @@ private:
 
     /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
     /// counts as being updated.
-    [[nodiscard]] QString execute(bool &claimed) noexcept;
+    [[nodiscard]] CErrorText execute(bool &claimed) noexcept;
     /// The same, but throws when memory runs out.
-    [[nodiscard]] QString attempt(CUpdateRun &run, bool &claimed);
-    void announceEnd(const QString &error) noexcept;
-    [[nodiscard]] QString getErrorText(const QString &message, bool written) const;
+    [[nodiscard]] CErrorText attempt(CUpdateRun &run, bool &claimed);
+    void announceEnd(const CErrorText &error) noexcept;
+    [[nodiscard]] CErrorText getErrorText(const CErrorText &message, bool written) const;
 
     const CCamera m_camera;
     const QSharedPointer<CFirmwareUpdateInfo> m_info;
     const Plugin::CameraPool::EFirmwareUpdateDirection m_direction;
     const std::shared_ptr<CCameraActivities> m_activities;
+    const std::shared_ptr<CErrorTranslator> m_errors;
     // Made beforehand: when memory runs out there is none for a message.
-    const QString m_outOfMemoryText;
-    const QString m_outOfMemoryWrittenText;
+    const CErrorText m_outOfMemoryText;
+    const CErrorText m_outOfMemoryWrittenText;
     std::unique_ptr<ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;
     mutable std::mutex m_versionMutex;

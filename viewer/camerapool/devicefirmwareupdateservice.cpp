@@ -39,11 +39,13 @@ static bool isNewer(const QSharedPointer<IFirmwareUpdateInfo> &left,
 
 CDeviceFirmwareUpdateService::CDeviceFirmwareUpdateService(
     ICameraDeviceFactory &factory, const CameraFinder &findCamera,
-    const std::shared_ptr<CCameraActivities> &activities, QObject *parent)
+    const std::shared_ptr<CCameraActivities> &activities,
+    const std::shared_ptr<CErrorTranslator> &errors, QObject *parent)
     : IDeviceFirmwareUpdateService(parent)
     , m_factory(factory)
     , m_findCamera(findCamera)
     , m_activities(activities)
+    , m_errors(errors)
 {
 }
 
@@ -109,7 +111,7 @@ QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDevice
         camera->getId(), camera->getDisplayName(),
         (current ? current : camera)->getFirmwareVersion()};
     return QSharedPointer<IDeviceFirmwareUpdate>(
-        new CDeviceFirmwareUpdate(description, info, std::move(device), m_activities));
+        new CDeviceFirmwareUpdate(description, info, std::move(device), m_activities, m_errors));
 }
 
 } // namespace Viewer::CameraPool

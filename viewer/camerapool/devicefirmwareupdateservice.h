@@ -10,6 +10,7 @@
 namespace Viewer::CameraPool {
 
 class CCameraActivities;
+class CErrorTranslator;
 class ICameraDeviceFactory;
 
 /// Reads update files, decides which of their entries fit a camera, and makes update jobs.
@@ -24,6 +25,7 @@ public:
     /// @p factory is borrowed and outlives this object.
     CDeviceFirmwareUpdateService(ICameraDeviceFactory &factory, const CameraFinder &findCamera,
                                  const std::shared_ptr<CCameraActivities> &activities,
+                                 const std::shared_ptr<CErrorTranslator> &errors,
                                  QObject *parent = nullptr);
     ~CDeviceFirmwareUpdateService() override;
 
@@ -47,6 +49,7 @@ private:
     ICameraDeviceFactory &m_factory;
     const CameraFinder m_findCamera;
     const std::shared_ptr<CCameraActivities> m_activities;
+    const std::shared_ptr<CErrorTranslator> m_errors;
     UpdateFile::CUpdateFileCache m_cache;
 };
 

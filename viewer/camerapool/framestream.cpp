@@ -95,7 +95,7 @@ void CFrameStream::makeFrames()
         if (!camera.folder.isEmpty()) {
             QFile file(QDir(camera.folder).filePath(getFrameFileName(cameraId, camera.savedCount)));
             if (!file.open(QIODevice::WriteOnly) || !frame.save(&file, "PNG") || !file.flush()) {
-                cause = QStringLiteral("the file \"%1\" cannot be written (%2)")
+                cause = tr("the file \"%1\" cannot be written (%2)")
                             .arg(QDir::toNativeSeparators(file.fileName()), file.errorString());
                 // Half a picture is of no use.
                 file.remove();

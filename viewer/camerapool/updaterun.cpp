@@ -96,24 +96,24 @@ void CUpdateRun::executeStep(const CUpdateStep &step)
     case EFirmwareUpdateStep::Invalid:
         break;
     }
-    fail(QStringLiteral("the update file contains a step of an unknown kind"));
+    fail(CErrorText::tr("the update file contains a step of an unknown kind"));
 }
 
 void CUpdateRun::checkPreconditions(const CUpdateStep *step)
 {
     const QString status = readFeature(QStringLiteral("DeviceStatus"));
     if (status != QLatin1String("0"))
-        fail(QStringLiteral("it cannot be updated now, since it reports status %1").arg(status));
+        fail(CErrorText::tr("it cannot be updated now, since it reports status %1").arg(status));
     const QString model = readFeature(QStringLiteral("DeviceModelName"));
     if (!m_entry.models.contains(model))
-        fail(QStringLiteral("the update is not for its model %1").arg(quote(model)));
+        fail(CErrorText::tr("the update is not for its model %1").arg(quote(model)));
     const QString deviceVersion = readFeature(QStringLiteral("DeviceVersion"));
     if (!m_entry.deviceVersions.isEmpty() && !m_entry.deviceVersions.contains(deviceVersion))
-        fail(QStringLiteral("the update is not for its device version %1")
+        fail(CErrorText::tr("the update is not for its device version %1")
                  .arg(quote(deviceVersion)));
     const QString version = readFirmwareVersion();
     if (isBelow(version, m_entry.minimumVersion))
-        fail(QStringLiteral("its firmware version %1 is below %2, from which on the update can be "
+        fail(CErrorText::tr("its firmware version %1 is below %2, from which on the update can be "
                             "installed; install an older update first")
                  .arg(quote(version), m_entry.minimumVersion));
     if (!step)
@@ -121,7 +121,7 @@ void CUpdateRun::checkPreconditions(const CUpdateStep *step)
     for (const CFeatureValue &precondition : step->preconditions) {
         const QString value = readFeature(precondition.feature);
         if (value != precondition.value)
-            fail(QStringLiteral("a precondition of the update is not met: its feature %1 is %2 "
+            fail(CErrorText::tr("a precondition of the update is not met: its feature %1 is %2 "
                                 "instead of %3")
                      .arg(quote(precondition.feature), quote(value), quote(precondition.value)));
     }
@@ -168,7 +168,7 @@ void CUpdateRun::assertFeature(const CFeatureValue &expected)
         ? readFirmwareVersion()
         : readFeature(expected.feature);
     if (value != expected.value)
-        fail(QStringLiteral("its feature %1 is %2 instead of %3")
+        fail(CErrorText::tr("its feature %1 is %2 instead of %3")
                  .arg(quote(expected.feature), quote(value), quote(expected.value)));
 }
 
@@ -200,7 +200,7 @@ void CUpdateRun::checkVersion()
 {
     const QString version = readFirmwareVersion();
     if (!isSameVersion(version, m_entry.version))
-        fail(QStringLiteral("after the update it reports firmware version %1 instead of %2")
+        fail(CErrorText::tr("after the update it reports firmware version %1 instead of %2")
                  .arg(quote(version), m_entry.version));
 }
 
@@ -215,7 +215,7 @@ QString CUpdateRun::readFeature(const QString &name)
     return m_device.readFeature(name, FeatureLimit);
 }
 
-void CUpdateRun::fail(const QString &cause) const
+void CUpdateRun::fail(const CErrorText &cause) const
 {
     throw CCameraError(m_cameraName, cause);
 }

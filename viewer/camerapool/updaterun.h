@@ -10,6 +10,7 @@
 
 namespace Viewer::CameraPool {
 
+class CErrorText;
 class ICameraDevice;
 
 namespace UpdateFile {
@@ -62,7 +63,7 @@ private:
     void checkVersion();
     [[nodiscard]] QString readFirmwareVersion();
     [[nodiscard]] QString readFeature(const QString &name);
-    [[noreturn]] void fail(const QString &cause) const;
+    [[noreturn]] void fail(const CErrorText &cause) const;
 
     const QString m_cameraName;
     const UpdateFile::CUpdateEntry &m_entry;

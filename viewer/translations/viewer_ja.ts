@@ -359,6 +359,144 @@
     </message>
 </context>
 <context>
+    <name>Viewer::CameraPool::CErrorText</name>
+    <message>
+        <source>Camera %1: %2</source>
+        <translation>カメラ %1: %2</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>メモリが不足しています</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera</source>
+        <translation>このカメラの更新前に、一連の更新が中止されました</translation>
+    </message>
+    <message>
+        <source>it is already being updated</source>
+        <translation>すでに更新中です</translation>
+    </message>
+    <message>
+        <source>it is acquiring images; stop that and start the update again</source>
+        <translation>画像を取得しています。画像取得を停止してから、更新をもう一度開始してください</translation>
+    </message>
+    <message>
+        <source>the update failed for an unknown reason</source>
+        <translation>不明な理由により更新に失敗しました</translation>
+    </message>
+    <message>
+        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
+        <translation>%1。すでに書き込みが始まっていたため、カメラを使用する前に更新をやり直してください</translation>
+    </message>
+    <message>
+        <source>it does not answer; check its cable and its power supply</source>
+        <translation>応答しません。ケーブルと電源を確認してください</translation>
+    </message>
+    <message>
+        <source>another application uses it; close that application</source>
+        <translation>別のアプリケーションが使用しています。そのアプリケーションを閉じてください</translation>
+    </message>
+    <message>
+        <source>it is already open</source>
+        <translation>すでに開かれています</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be read</source>
+        <translation>読み取り可能な機能「%1」がありません</translation>
+    </message>
+    <message>
+        <source>it refuses to write the feature &quot;%1&quot;</source>
+        <translation>機能「%1」の書き込みが拒否されました</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be written</source>
+        <translation>書き込み可能な機能「%1」がありません</translation>
+    </message>
+    <message>
+        <source>it has no command &quot;%1&quot;</source>
+        <translation>コマンド「%1」がありません</translation>
+    </message>
+    <message>
+        <source>it refuses to write the file &quot;%1&quot;</source>
+        <translation>ファイル「%1」の書き込みが拒否されました</translation>
+    </message>
+    <message>
+        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
+        <translation>ファイル「%1」のデータが %3 バイト中 %2 バイトで終了しました (%4)</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
+        <translation>ファイル「%1」のアップロードが %3 バイト中 %2 バイトで中断しました</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset within %1 s; switch it off and on</source>
+        <translation>リセット後 %1 秒以内に復帰しませんでした。電源を入れ直してください</translation>
+    </message>
+    <message>
+        <source>it did not answer within %1 s</source>
+        <translation>%1 秒以内に応答しませんでした</translation>
+    </message>
+    <message>
+        <source>it is not open</source>
+        <translation>開かれていません</translation>
+    </message>
+    <message>
+        <source>the connection was lost; check its cable and its power supply</source>
+        <translation>接続が切断されました。ケーブルと電源を確認してください</translation>
+    </message>
+    <message>
+        <source>there is no complete firmware image to activate</source>
+        <translation>有効化できる完全なファームウェアイメージがありません</translation>
+    </message>
+    <message>
+        <source>it does not accept the uploaded file as a firmware image</source>
+        <translation>アップロードされたファイルがファームウェアイメージとして認識されません</translation>
+    </message>
+    <message>
+        <source>the uploaded firmware image is for model %1, not for %2</source>
+        <translation>アップロードされたファームウェアイメージはモデル %2 用ではなく、%1 用です</translation>
+    </message>
+    <message>
+        <source>the update file contains a step of an unknown kind</source>
+        <translation>更新ファイルに不明な種類の手順が含まれています</translation>
+    </message>
+    <message>
+        <source>it cannot be updated now, since it reports status %1</source>
+        <translation>状態 %1 が報告されているため、現在は更新できません</translation>
+    </message>
+    <message>
+        <source>the update is not for its model %1</source>
+        <translation>この更新はモデル %1 用ではありません</translation>
+    </message>
+    <message>
+        <source>the update is not for its device version %1</source>
+        <translation>この更新はデバイスバージョン %1 用ではありません</translation>
+    </message>
+    <message>
+        <source>its firmware version %1 is below %2, from which on the update can be installed; install an older update first</source>
+        <translation>ファームウェアバージョン %1 は、この更新に必要な最小バージョン %2 を下回っています。先に古い更新をインストールしてください</translation>
+    </message>
+    <message>
+        <source>a precondition of the update is not met: its feature %1 is %2 instead of %3</source>
+        <translation>更新の前提条件が満たされていません: 機能 %1 の値が %3 ではなく %2 です</translation>
+    </message>
+    <message>
+        <source>its feature %1 is %2 instead of %3</source>
+        <translation>機能 %1 の値が %3 ではなく %2 です</translation>
+    </message>
+    <message>
+        <source>after the update it reports firmware version %1 instead of %2</source>
+        <translation>更新後に報告されたファームウェアバージョンが %2 ではなく %1 です</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool::CFrameStream</name>
+    <message>
+        <source>the file &quot;%1&quot; cannot be written (%2)</source>
+        <translation>ファイル「%1」に書き込めません (%2)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorModel</name>
     <message>
         <source>%1

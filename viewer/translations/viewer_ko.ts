@@ -359,6 +359,144 @@
     </message>
 </context>
 <context>
+    <name>Viewer::CameraPool::CErrorText</name>
+    <message>
+        <source>Camera %1: %2</source>
+        <translation>카메라 %1: %2</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>메모리가 부족합니다</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera</source>
+        <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다</translation>
+    </message>
+    <message>
+        <source>it is already being updated</source>
+        <translation>이미 업데이트 중입니다</translation>
+    </message>
+    <message>
+        <source>it is acquiring images; stop that and start the update again</source>
+        <translation>영상을 획득하고 있습니다. 영상 획득을 중지한 후 업데이트를 다시 시작하십시오</translation>
+    </message>
+    <message>
+        <source>the update failed for an unknown reason</source>
+        <translation>알 수 없는 이유로 업데이트에 실패했습니다</translation>
+    </message>
+    <message>
+        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
+        <translation>%1. 업데이트가 이미 쓰기를 시작했으므로, 카메라를 사용하기 전에 업데이트를 다시 수행하십시오</translation>
+    </message>
+    <message>
+        <source>it does not answer; check its cable and its power supply</source>
+        <translation>응답하지 않습니다. 케이블과 전원을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>another application uses it; close that application</source>
+        <translation>다른 응용 프로그램에서 사용 중입니다. 해당 응용 프로그램을 닫으십시오</translation>
+    </message>
+    <message>
+        <source>it is already open</source>
+        <translation>이미 열려 있습니다</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be read</source>
+        <translation>읽을 수 있는 기능 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it refuses to write the feature &quot;%1&quot;</source>
+        <translation>기능 &quot;%1&quot;의 쓰기를 거부했습니다</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be written</source>
+        <translation>쓸 수 있는 기능 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it has no command &quot;%1&quot;</source>
+        <translation>명령 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it refuses to write the file &quot;%1&quot;</source>
+        <translation>파일 &quot;%1&quot;의 쓰기를 거부했습니다</translation>
+    </message>
+    <message>
+        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
+        <translation>파일 &quot;%1&quot;의 데이터가 전체 %3바이트 중 %2바이트에서 끝났습니다(%4)</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
+        <translation>파일 &quot;%1&quot;의 업로드가 전체 %3바이트 중 %2바이트에서 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset within %1 s; switch it off and on</source>
+        <translation>재설정 후 %1초 이내에 다시 연결되지 않았습니다. 카메라를 껐다가 다시 켜십시오</translation>
+    </message>
+    <message>
+        <source>it did not answer within %1 s</source>
+        <translation>%1초 이내에 응답하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>it is not open</source>
+        <translation>열려 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>the connection was lost; check its cable and its power supply</source>
+        <translation>연결이 끊어졌습니다. 케이블과 전원을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>there is no complete firmware image to activate</source>
+        <translation>활성화할 완전한 펌웨어 이미지가 없습니다</translation>
+    </message>
+    <message>
+        <source>it does not accept the uploaded file as a firmware image</source>
+        <translation>업로드된 파일을 펌웨어 이미지로 인식하지 않습니다</translation>
+    </message>
+    <message>
+        <source>the uploaded firmware image is for model %1, not for %2</source>
+        <translation>업로드된 펌웨어 이미지는 모델 %2용이 아니라 %1용입니다</translation>
+    </message>
+    <message>
+        <source>the update file contains a step of an unknown kind</source>
+        <translation>업데이트 파일에 알 수 없는 종류의 단계가 있습니다</translation>
+    </message>
+    <message>
+        <source>it cannot be updated now, since it reports status %1</source>
+        <translation>상태 %1을(를) 보고하므로 지금은 업데이트할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the update is not for its model %1</source>
+        <translation>이 업데이트는 해당 카메라 모델 %1용이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the update is not for its device version %1</source>
+        <translation>이 업데이트는 해당 장치 버전 %1용이 아닙니다</translation>
+    </message>
+    <message>
+        <source>its firmware version %1 is below %2, from which on the update can be installed; install an older update first</source>
+        <translation>펌웨어 버전 %1이(가) 이 업데이트를 설치할 수 있는 최소 버전 %2보다 낮습니다. 먼저 이전 업데이트를 설치하십시오</translation>
+    </message>
+    <message>
+        <source>a precondition of the update is not met: its feature %1 is %2 instead of %3</source>
+        <translation>업데이트의 사전 조건이 충족되지 않았습니다: 기능 %1의 값이 %3이(가) 아니라 %2입니다</translation>
+    </message>
+    <message>
+        <source>its feature %1 is %2 instead of %3</source>
+        <translation>기능 %1의 값이 %3이(가) 아니라 %2입니다</translation>
+    </message>
+    <message>
+        <source>after the update it reports firmware version %1 instead of %2</source>
+        <translation>업데이트 후 보고된 펌웨어 버전이 %2이(가) 아니라 %1입니다</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool::CFrameStream</name>
+    <message>
+        <source>the file &quot;%1&quot; cannot be written (%2)</source>
+        <translation>파일 &quot;%1&quot;에 쓸 수 없습니다(%2)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorModel</name>
     <message>
         <source>%1

@@ -359,6 +359,144 @@
     </message>
 </context>
 <context>
+    <name>Viewer::CameraPool::CErrorText</name>
+    <message>
+        <source>Camera %1: %2</source>
+        <translation>相机 %1：%2</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera</source>
+        <translation>更新此相机之前，系列更新已停止</translation>
+    </message>
+    <message>
+        <source>it is already being updated</source>
+        <translation>已在更新中</translation>
+    </message>
+    <message>
+        <source>it is acquiring images; stop that and start the update again</source>
+        <translation>正在采集图像；请停止采集，然后重新开始更新</translation>
+    </message>
+    <message>
+        <source>the update failed for an unknown reason</source>
+        <translation>由于未知原因，更新失败</translation>
+    </message>
+    <message>
+        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
+        <translation>%1；更新已开始写入，因此在使用相机之前请重新执行更新</translation>
+    </message>
+    <message>
+        <source>it does not answer; check its cable and its power supply</source>
+        <translation>没有响应；请检查电缆和电源</translation>
+    </message>
+    <message>
+        <source>another application uses it; close that application</source>
+        <translation>另一个应用程序正在使用它；请关闭该应用程序</translation>
+    </message>
+    <message>
+        <source>it is already open</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be read</source>
+        <translation>没有可读取的功能“%1”</translation>
+    </message>
+    <message>
+        <source>it refuses to write the feature &quot;%1&quot;</source>
+        <translation>拒绝写入功能“%1”</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be written</source>
+        <translation>没有可写入的功能“%1”</translation>
+    </message>
+    <message>
+        <source>it has no command &quot;%1&quot;</source>
+        <translation>没有命令“%1”</translation>
+    </message>
+    <message>
+        <source>it refuses to write the file &quot;%1&quot;</source>
+        <translation>拒绝写入文件“%1”</translation>
+    </message>
+    <message>
+        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
+        <translation>文件“%1”的数据在 %3 字节中的第 %2 字节处结束（%4）</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
+        <translation>文件“%1”的上传在 %3 字节中的第 %2 字节处中断</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset within %1 s; switch it off and on</source>
+        <translation>重置后未在 %1 秒内恢复；请关闭电源后重新打开</translation>
+    </message>
+    <message>
+        <source>it did not answer within %1 s</source>
+        <translation>未在 %1 秒内响应</translation>
+    </message>
+    <message>
+        <source>it is not open</source>
+        <translation>未打开</translation>
+    </message>
+    <message>
+        <source>the connection was lost; check its cable and its power supply</source>
+        <translation>连接已断开；请检查电缆和电源</translation>
+    </message>
+    <message>
+        <source>there is no complete firmware image to activate</source>
+        <translation>没有可激活的完整固件映像</translation>
+    </message>
+    <message>
+        <source>it does not accept the uploaded file as a firmware image</source>
+        <translation>不接受上传的文件作为固件映像</translation>
+    </message>
+    <message>
+        <source>the uploaded firmware image is for model %1, not for %2</source>
+        <translation>上传的固件映像适用于型号 %1，而不是 %2</translation>
+    </message>
+    <message>
+        <source>the update file contains a step of an unknown kind</source>
+        <translation>更新文件包含未知类型的步骤</translation>
+    </message>
+    <message>
+        <source>it cannot be updated now, since it reports status %1</source>
+        <translation>它报告的状态为 %1，因此现在无法更新</translation>
+    </message>
+    <message>
+        <source>the update is not for its model %1</source>
+        <translation>此更新不适用于其型号 %1</translation>
+    </message>
+    <message>
+        <source>the update is not for its device version %1</source>
+        <translation>此更新不适用于其设备版本 %1</translation>
+    </message>
+    <message>
+        <source>its firmware version %1 is below %2, from which on the update can be installed; install an older update first</source>
+        <translation>其固件版本 %1 低于此更新所需的最低版本 %2；请先安装较旧的更新</translation>
+    </message>
+    <message>
+        <source>a precondition of the update is not met: its feature %1 is %2 instead of %3</source>
+        <translation>不满足更新的前提条件：其功能 %1 的值为 %2，而不是 %3</translation>
+    </message>
+    <message>
+        <source>its feature %1 is %2 instead of %3</source>
+        <translation>其功能 %1 的值为 %2，而不是 %3</translation>
+    </message>
+    <message>
+        <source>after the update it reports firmware version %1 instead of %2</source>
+        <translation>更新后报告的固件版本为 %1，而不是 %2</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool::CFrameStream</name>
+    <message>
+        <source>the file &quot;%1&quot; cannot be written (%2)</source>
+        <translation>无法写入文件“%1”（%2）</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorModel</name>
     <message>
         <source>%1

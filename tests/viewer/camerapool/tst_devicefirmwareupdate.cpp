@@ -150,10 +150,10 @@ void CDeviceFirmwareUpdateTest::init()
 QSharedPointer<CDeviceFirmwareUpdate> CDeviceFirmwareUpdateTest::makeJob() const
 {
     const auto manifest = QSharedPointer<UpdateFile::CUpdateManifest>::create(m_manifest);
-    return QSharedPointer<CDeviceFirmwareUpdate>(
-        new CDeviceFirmwareUpdate({"id", CameraName, "1.2.0"},
-                                  QSharedPointer<CFirmwareUpdateInfo>::create(manifest, 0, m_path),
-                                  std::make_unique<CScriptedDevice>(m_script), m_activities));
+    return QSharedPointer<CDeviceFirmwareUpdate>(new CDeviceFirmwareUpdate(
+        {"id", CameraName, "1.2.0"},
+        QSharedPointer<CFirmwareUpdateInfo>::create(manifest, 0, m_path),
+        std::make_unique<CScriptedDevice>(m_script), m_activities, nullptr));
 }
 
 void CDeviceFirmwareUpdateTest::verifyFailure(const QString &cause, bool written)

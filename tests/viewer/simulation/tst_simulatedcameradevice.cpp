@@ -109,7 +109,7 @@ void CSimulatedCameraDeviceTest::unpluggingEndsARestart()
 {
     // So slow that the test would run into its own time limit if it had to wait.
     CBench bench(0.001);
-    QString cause;
+    Viewer::CameraPool::CErrorText cause;
     const int session = bench.camera->connect(cause);
     CSimulatedCamera::ERestart result = CSimulatedCamera::ERestart::Back;
     std::thread thread([&] { result = bench.camera->restart(session, 4s, 30s, "2.0.0"); });

@@ -3,6 +3,8 @@
 #include "firmwarestatefile.h"
 #include "simulationnotifier.h"
 
+#include "viewer/camerapool/errortext.h"
+
 #include <algorithm>
 
 namespace Viewer::CameraPool::Simulation {
@@ -80,15 +82,15 @@ void CSimulatedCamera::setBusy(bool busy)
     notify();
 }
 
-CSimulatedCamera::Session CSimulatedCamera::connect(QString &cause)
+CSimulatedCamera::Session CSimulatedCamera::connect(CErrorText &cause)
 {
     const std::lock_guard lock(m_mutex);
     if (!m_plugged || m_restarting)
-        cause = QStringLiteral("it does not answer; check its cable and its power supply");
+        cause = CErrorText::tr("it does not answer; check its cable and its power supply");
     else if (m_busy)
-        cause = QStringLiteral("another application uses it; close that application");
+        cause = CErrorText::tr("another application uses it; close that application");
     else if (m_session != 0)
-        cause = QStringLiteral("it is already being updated");
+        cause = CErrorText::tr("it is already being updated");
     else
         m_session = ++m_lastSession;
     return cause.isEmpty() ? m_session : 0;

@@ -8,6 +8,10 @@
 #include <mutex>
 #include <optional>
 
+namespace Viewer::CameraPool {
+class CErrorText;
+}
+
 namespace Viewer::CameraPool::Simulation {
 
 class CFirmwareStateFile;
@@ -51,7 +55,7 @@ public:
     void setBusy(bool busy);
 
     /// Begins a session, or says in @p cause why there is none.
-    [[nodiscard]] Session connect(QString &cause);
+    [[nodiscard]] Session connect(CErrorText &cause);
     void disconnect(Session session);
 
     /// Waits for so long; false as soon as the session has ended otherwise.

@@ -51,8 +51,8 @@ CSimulatedCameraDevice::~CSimulatedCameraDevice()
 void CSimulatedCameraDevice::open(milliseconds timeLimit)
 {
     if (m_session != 0)
-        fail(QStringLiteral("it is already open"));
-    QString cause;
+        fail(CErrorText::tr("it is already open"));
+    CErrorText cause;
     m_session = m_camera->connect(cause);
     if (m_session == 0)
         fail(cause);
@@ -90,7 +90,7 @@ QString CSimulatedCameraDevice::readFeature(const QString &name, milliseconds ti
         return QString::number(faults.preconditionNotMet ? 1 : camera.statusCode);
     const auto feature = m_features.constFind(name);
     if (feature == m_features.constEnd())
-        fail(QStringLiteral("it has no feature \"%1\" that can be read").arg(name));
+        fail(CErrorText::tr("it has no feature \"%1\" that can be read").arg(name));
     return *feature;
 }
 
@@ -99,9 +99,9 @@ void CSimulatedCameraDevice::writeFeature(const QString &name, const QString &va
 {
     work(WriteDuration, timeLimit);
     if (m_camera->getDescription().faults.writeRefused)
-        fail(QStringLiteral("it refuses to write the feature \"%1\"").arg(name));
+        fail(CErrorText::tr("it refuses to write the feature \"%1\"").arg(name));
     if (!isFeatureName(name) || name.startsWith(QLatin1String("Device")))
-        fail(QStringLiteral("it has no feature \"%1\" that can be written").arg(name));
+        fail(CErrorText::tr("it has no feature \"%1\" that can be written").arg(name));
     m_features.insert(name, value);
 }
 
@@ -109,7 +109,7 @@ void CSimulatedCameraDevice::executeCommand(const QString &name, milliseconds ti
 {
     work(CommandDuration, timeLimit);
     if (!isFeatureName(name))
-        fail(QStringLiteral("it has no command \"%1\"").arg(name));
+        fail(CErrorText::tr("it has no command \"%1\"").arg(name));
     if (name == QLatin1String(ActivateCommand))
         activate();
 }
@@ -120,7 +120,7 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
     const CScriptedFaults &faults = m_camera->getDescription().faults;
     work(WriteDuration, timeLimit);
     if (faults.writeRefused)
-        fail(QStringLiteral("it refuses to write the file \"%1\"").arg(fileName));
+        fail(CErrorText::tr("it refuses to write the file \"%1\"").arg(fileName));
 
     m_uploaded = false;
     m_activatedVersion.clear();
@@ -137,7 +137,7 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
         if (wanted > 0) {
             const QByteArray block = source.read(wanted);
             if (block.isEmpty())
-                fail(QStringLiteral("the data for its file \"%1\" ended after %2 of %3 bytes (%4)")
+                fail(CErrorText::tr("the data for its file \"%1\" ended after %2 of %3 bytes (%4)")
                          .arg(fileName, QString::number(done), QString::number(size),
                               source.errorString()));
             if (m_image.size() < CFirmwareImage::MaximumHeaderSize)
@@ -152,7 +152,7 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
                 progress(done);
         }
         if (faults.uploadFailsAtByte == done)
-            fail(QStringLiteral("the upload of its file \"%1\" broke off after %2 of %3 bytes")
+            fail(CErrorText::tr("the upload of its file \"%1\" broke off after %2 of %3 bytes")
                      .arg(fileName, QString::number(done), QString::number(size)));
         if (faults.vanishesAtByte == done) {
             m_camera->setPlugged(false);
@@ -176,7 +176,7 @@ void CSimulatedCameraDevice::resetAndWait(milliseconds timeLimit)
         = m_camera->restart(m_session, duration, timeLimit, version);
     requireConnection(result != CSimulatedCamera::ERestart::Unplugged);
     if (result == CSimulatedCamera::ERestart::NotInTime)
-        fail(QStringLiteral("it did not come back from its reset within %1 s; switch it off and on")
+        fail(CErrorText::tr("it did not come back from its reset within %1 s; switch it off and on")
                  .arg(getSeconds(timeLimit)));
 }
 
@@ -185,20 +185,20 @@ qint64 CSimulatedCameraDevice::getUploadRate() const
     return m_camera->getDescription().uploadSpeed;
 }
 
-void CSimulatedCameraDevice::fail(const QString &cause) const
+void CSimulatedCameraDevice::fail(const CErrorText &cause) const
 {
     throw CCameraError(m_camera->getDescription().camera.displayName, cause);
 }
 
 void CSimulatedCameraDevice::failByTime(milliseconds timeLimit) const
 {
-    fail(QStringLiteral("it did not answer within %1 s").arg(getSeconds(timeLimit)));
+    fail(CErrorText::tr("it did not answer within %1 s").arg(getSeconds(timeLimit)));
 }
 
 void CSimulatedCameraDevice::work(milliseconds duration, milliseconds timeLimit) const
 {
     if (m_session == 0)
-        fail(QStringLiteral("it is not open"));
+        fail(CErrorText::tr("it is not open"));
     requireConnection(m_camera->wait(m_session, std::min(duration, timeLimit)));
     if (duration > timeLimit)
         failByTime(timeLimit);
@@ -207,19 +207,19 @@ void CSimulatedCameraDevice::work(milliseconds duration, milliseconds timeLimit)
 void CSimulatedCameraDevice::requireConnection(bool connected) const
 {
     if (!connected)
-        fail(QStringLiteral("the connection was lost; check its cable and its power supply"));
+        fail(CErrorText::tr("the connection was lost; check its cable and its power supply"));
 }
 
 void CSimulatedCameraDevice::activate()
 {
     if (!m_uploaded)
-        fail(QStringLiteral("there is no complete firmware image to activate"));
+        fail(CErrorText::tr("there is no complete firmware image to activate"));
     const CFirmwareImage image = CFirmwareImage::parse(m_image);
     if (image.version.isEmpty())
-        fail(QStringLiteral("it does not accept the uploaded file as a firmware image"));
+        fail(CErrorText::tr("it does not accept the uploaded file as a firmware image"));
     const QString model = m_camera->getDescription().camera.modelName;
     if (!image.model.isEmpty() && image.model != model)
-        fail(QStringLiteral("the uploaded firmware image is for model %1, not for %2")
+        fail(CErrorText::tr("the uploaded firmware image is for model %1, not for %2")
                  .arg(image.model, model));
     m_activatedVersion = image.version;
 }

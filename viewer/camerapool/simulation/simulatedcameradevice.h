@@ -7,6 +7,10 @@
 
 #include <memory>
 
+namespace Viewer::CameraPool {
+class CErrorText;
+}
+
 namespace Viewer::CameraPool::Simulation {
 
 class CSimulatedCamera;
@@ -36,7 +40,7 @@ public:
     [[nodiscard]] qint64 getUploadRate() const override;
 
 private:
-    [[noreturn]] void fail(const QString &cause) const;
+    [[noreturn]] void fail(const CErrorText &cause) const;
     [[noreturn]] void failByTime(std::chrono::milliseconds timeLimit) const;
     void work(std::chrono::milliseconds duration, std::chrono::milliseconds timeLimit) const;
     void requireConnection(bool connected) const;

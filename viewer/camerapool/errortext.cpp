@@ -1,0 +1,51 @@
+#include "errortext.h"
+
+#include <QCoreApplication>
+
+namespace Viewer::CameraPool {
+
+static QString toClauseText(const QString &text)
+{
+    QString clause = text.simplified();
+    while (clause.endsWith(QLatin1Char('.')) || clause.endsWith(QChar(0x3002)))
+        clause.chop(1);
+    return clause;
+}
+
+CErrorText::CErrorText(const QString &text)
+    : CErrorText(text, text)
+{
+}
+
+CErrorText::CErrorText(const QString &english, const QString &localized)
+    : m_english(english)
+    , m_localized(localized)
+{
+}
+
+CErrorText CErrorText::tr(const char *source)
+{
+    return {QString::fromUtf8(source), QCoreApplication::translate("Viewer::CameraPool::CErrorText", source)};
+}
+
+CErrorText CErrorText::toClause() const
+{
+    return {toClauseText(m_english), toClauseText(m_localized)};
+}
+
+bool CErrorText::isEmpty() const
+{
+    return m_english.isEmpty();
+}
+
+QString CErrorText::getEnglish() const
+{
+    return m_english;
+}
+
+QString CErrorText::getLocalized() const
+{
+    return m_localized;
+}
+
+} // namespace Viewer::CameraPool
