@@ -1,0 +1,385 @@
+#include "firmwareupdater/view/viewfixture.h"
+
+#include "view/cameraselectiondialog.h"
+#include "view/firmwareupdatedialog.h"
+#include "view/resultsummarydialog.h"
+#include "view/updateselectiondialog.h"
+#include "view/updatesummarydialog.h"
+#include "viewer/appcore/language.h"
+#include "viewer/appcore/mainwindow.h"
+#include "viewer/appcore/viewer.h"
+#include "viewer/camerapool/camerapool.h"
+#include "viewer/camerapool/simulation/simulation.h"
+#include "viewer/cameraselector/cameraselectorview.h"
+
+#include "camerapool/icameraenumerationservice.h"
+#include "camerapool/idevicefirmwareupdateservice.h"
+
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QtTest>
+
+using namespace ViewFixture;
+namespace View = Plugin::FirmwareUpdater::Internal::View;
+using Viewer::AppCore::CLanguage;
+
+struct CEntry
+{
+    QString source;
+    bool isFinished;
+    QStringList texts;
+};
+
+/// The catalogues, and what the windows look like with them.
+class CTranslationsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void catalogueIsComplete_data();
+    void catalogueIsComplete();
+    void pagesShowTheirWholeTexts_data();
+    void pagesShowTheirWholeTexts();
+    void qtSpeaksTheLanguage_data() { addLanguages(); }
+    void qtSpeaksTheLanguage();
+    void viewerSpeaksTheLanguage_data() { addLanguages(); }
+    void viewerSpeaksTheLanguage();
+
+private:
+    static void addLanguages();
+    void speak(const QString &language);
+
+    QTemporaryDir m_folder;
+    std::unique_ptr<CLanguage> m_language;
+    QTranslator m_pluginCatalogue;
+};
+
+void CTranslationsTest::addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"ko", "ja", "zh"})
+        QTest::newRow(language) << language;
+}
+
+void CTranslationsTest::speak(const QString &language)
+{
+    m_language.reset();
+    m_language = std::make_unique<CLanguage>(language);
+    QVERIFY(m_pluginCatalogue.load(":/translation/FirmwareUpdater_" + language + ".qm"));
+    QCoreApplication::installTranslator(&m_pluginCatalogue);
+    // What Qt asks for where no desktop says which font to use.
+    QApplication::setFont(QFont("Sans Serif", 9));
+    CLanguage::chooseFont(language);
+    for (const char16_t letter : {u'펌', u'ア', u'固'})
+        QVERIFY2(QFontMetrics(QApplication::font()).inFontUcs4(letter),
+                 "Letters are missing: install fonts with Korean, Japanese and Chinese ones, such "
+                 "as Debian's package fonts-noto-cjk.");
+}
+
+static QMap<QString, CEntry> readCatalogue(const QString &path)
+{
+    static const QRegularExpression part("<name>(?<context>.*?)</name>|<source>(?<source>.*?)"
+                                         "</source>\\s*<translation(?<state>.*?)>(?<text>.*?)"
+                                         "</translation>",
+                                         QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression plural("\\s*</?numerusform>\\s*");
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QString all = QString::fromUtf8(file.readAll());
+    all.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"").replace("&apos;", "'");
+    all.replace("&amp;", "&");
+    QMap<QString, CEntry> entries;
+    QString context;
+    for (auto i = part.globalMatch(all); i.hasNext();) {
+        const QRegularExpressionMatch match = i.next();
+        if (match.capturedLength("context") > 0)
+            context = match.captured("context");
+        else
+            entries.insert(context + ": " + match.captured("source"),
+                           {match.captured("source"), match.captured("state").isEmpty(),
+                            match.captured("text").split(plural, Qt::SkipEmptyParts)});
+    }
+    return entries;
+}
+
+/// All of a text that is meant for the program and not for people, in a form to compare.
+static QString getMarks(const QString &text)
+{
+    static const QRegularExpression inOrder("</?[abphr]+\\d?( [^>]*)?>|\n|\\.\\.\\.$");
+    static const QRegularExpression inAnyOrder("%\\w|&[A-Za-z]");
+    QStringList marks, sorted;
+    for (auto i = inOrder.globalMatch(text); i.hasNext();)
+        marks.append(i.next().captured());
+    for (auto i = inAnyOrder.globalMatch(text); i.hasNext();)
+        sorted.append(i.next().captured().toUpper());
+    sorted.sort();
+    return (marks + sorted).join(' ');
+}
+
+void CTranslationsTest::catalogueIsComplete_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("file");
+    const QString plugin = "resources/translations/FirmwareUpdater_%1.ts";
+    QTest::newRow("plug-in en") << "firmwareupdater" << plugin.arg("en");
+    for (const char *language : {"ko", "ja", "zh"}) {
+        QTest::addRow("plug-in %s", language) << "firmwareupdater" << plugin.arg(language);
+        QTest::addRow("viewer %s", language)
+            << "viewer" << QString("translations/viewer_%1.ts").arg(language);
+    }
+}
+
+void CTranslationsTest::catalogueIsComplete()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, file);
+    const QString sources = QString(SOURCE_FOLDER "/%1/").arg(folder);
+    const QString fresh = m_folder.filePath(folder + ".ts");
+    QProcess lupdate;
+    lupdate.start(LUPDATE, {"-silent", sources, "-I", SOURCE_FOLDER, "-ts", fresh});
+    QVERIFY(lupdate.waitForFinished());
+    const QMap<QString, CEntry> wanted = readCatalogue(fresh);
+    const QMap<QString, CEntry> entries = readCatalogue(sources + file);
+    QVERIFY(wanted.size() > 50);
+    QCOMPARE(QStringList(entries.keys()), QStringList(wanted.keys()));
+
+    // The same in every language: a product's name, a placeholder's, and punctuation.
+    const QStringList kept{"Nuvex Viewer", "n", "%1.", "%1: %2."};
+    for (auto i = entries.begin(); i != entries.end(); ++i) {
+        QVERIFY2(i->isFinished && !i->texts.isEmpty(), qPrintable(i.key()));
+        for (const QString &text : i->texts) {
+            QCOMPARE(getMarks(text), getMarks(i->source));
+            QVERIFY2(text != i->source || kept.contains(text) || file.endsWith("_en.ts"),
+                     qPrintable(i.key()));
+        }
+    }
+}
+
+/// What @p window says; not the rows of its lists.
+static QStringList getTexts(const QWidget &window)
+{
+    QStringList texts(window.windowTitle());
+    const auto widgets = window.findChildren<QWidget *>();
+    for (const QWidget *const widget : widgets) {
+        texts << widget->toolTip() << widget->windowTitle() << widget->accessibleName();
+        for (const char *property : {"text", "title"})
+            if (!qobject_cast<const QLineEdit *>(widget))
+                texts.append(widget->property(property).toString());
+        const auto *const view = qobject_cast<const QTreeView *>(widget);
+        for (int i = 0; view && view->model() && i < view->model()->columnCount(); ++i)
+            if (!view->isColumnHidden(i))
+                texts.append(view->model()->headerData(i, Qt::Horizontal).toString());
+    }
+    const auto actions = window.findChildren<QAction *>() + window.actions();
+    for (const QAction *const action : actions)
+        if (!action->objectName().startsWith("language_"))
+            texts << action->text() << action->iconText() << action->toolTip();
+    return texts;
+}
+
+/// The first of @p texts with an English word in it that is no name.
+static QString findEnglish(QStringList texts)
+{
+    static const QRegularExpression names(
+        "<[^>]*>|\t.*|Nuvex Viewer|Korvane|Line \\d \\w+|\\(F\\d\\)|\\.guf|Ctrl\\+|Alt\\+");
+    return texts.replaceInStrings(names, {}).filter(QRegularExpression("[A-Za-z]{2}")).value(0);
+}
+
+/// The first text of @p window that does not fit its place.
+static QString findCutText(const QWidget &window)
+{
+    const auto fits
+        = [](const QSize &size, const QSize &place) { return size.expandedTo(place) == place; };
+    const auto widgets = window.findChildren<QWidget *>();
+    for (const QWidget *const widget : widgets) {
+        const auto getSize = [widget](const QString &text) {
+            return widget->fontMetrics().size(Qt::TextShowMnemonic, text);
+        };
+        if (!widget->isVisible())
+            continue;
+        if (const auto *const label = qobject_cast<const QLabel *>(widget)) {
+            const QSize hint = label->wordWrap()
+                ? QSize(label->minimumSizeHint().width(), label->heightForWidth(label->width()))
+                : label->sizeHint();
+            if (!label->text().isEmpty() && !fits(hint, label->size()))
+                return label->text();
+        } else if (const auto *const button = qobject_cast<const QPushButton *>(widget)) {
+            QStyleOptionButton option;
+            option.initFrom(button);
+            const QRect place
+                = button->style()->subElementRect(QStyle::SE_PushButtonContents, &option, button);
+            if (!fits(getSize(button->text()), {place.width(), button->height()}))
+                return button->text();
+        } else if (const auto *const header = qobject_cast<const QHeaderView *>(widget)) {
+            QStyleOptionHeader option;
+            option.initFrom(header);
+            for (int i = 0; i < header->count(); ++i) {
+                option.section = i;
+                option.text = header->model()->headerData(i, Qt::Horizontal).toString();
+                option.rect.setWidth(header->sectionSize(i));
+                const QRect place
+                    = header->style()->subElementRect(QStyle::SE_HeaderLabel, &option, header);
+                // Headers elide four pixels early.
+                if (!header->isSectionHidden(i)
+                    && !fits(getSize(option.text),
+                             {qMin(place.width(), option.rect.width() - 4), place.height()}))
+                    return option.text;
+            }
+        }
+    }
+    return {};
+}
+
+/// The first cell of the dialog's tree that looks different when it gets more room.
+static QString findCutCell(QDialog &dialog)
+{
+    const QTreeView *const tree = getTree(dialog);
+    const auto grab = [tree](int row, int column, int width) {
+        const QRect cell = tree->visualRect(tree->model()->index(row, column));
+        // Without the separator at the right edge.
+        return tree->viewport()->grab({cell.topLeft(), QSize(width - 3, 20)}).toImage();
+    };
+    QMap<QPair<int, int>, QImage> narrow;
+    for (int row = 0; tree && row < tree->model()->rowCount(); ++row)
+        for (int column = 0; column < tree->model()->columnCount(); ++column)
+            if (!tree->isColumnHidden(column))
+                narrow[{row, column}] = grab(row, column, tree->columnWidth(column));
+    dialog.resize(dialog.width() * 2, dialog.height());
+    for (auto i = narrow.begin(); i != narrow.end(); ++i)
+        if (grab(i.key().first, i.key().second, i->width() + 3) != *i)
+            return QString("row %1, column %2").arg(i.key().first).arg(i.key().second);
+    return {};
+}
+
+void CTranslationsTest::pagesShowTheirWholeTexts_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<bool>("hasOwnFont");
+    for (const char *language : {"en", "ko", "ja", "zh"})
+        QTest::newRow(language) << language << true;
+    // As on a desktop whose font borrows the letters of the language from another one.
+    for (const char *language : {"ko", "ja", "zh"})
+        QTest::addRow("%s in a Latin font", language) << language << false;
+}
+
+void CTranslationsTest::pagesShowTheirWholeTexts()
+{
+    QFETCH(QString, language);
+    QFETCH(bool, hasOwnFont);
+    speak(language);
+    if (!hasOwnFont)
+        QApplication::setFont(QFont("Liberation Sans", 9));
+
+    const ModelPtr model = makeList(4);
+    for (int row = 0; row < 4; ++row) {
+        const QModelIndex index = model->index(row, 0);
+        static_cast<Entity *>(index.internalPointer())
+            ->setUpdateDetails(static_cast<Plugin::CameraPool::EFirmwareUpdateDirection>(row));
+        model->setData(index.siblingAtColumn(Entity::UpdateStatus), row % 3, Qt::EditRole);
+        model->setData(index.siblingAtColumn(Entity::UpdateResult), row % 3, Qt::EditRole);
+    }
+    View::CCameraSelectionDialog selection;
+    View::CUpdateSelectionDialog file, wrongFile, noFile;
+    View::CUpdateSummaryDialog summary;
+    View::CFirmwareUpdateDialog update;
+    View::CResultSummaryDialog success, failure, lastFailure;
+    const std::vector<View::CUpdateDialogBase *> pages{&selection, &file,    &wrongFile,
+                                                       &noFile,    &summary, &update,
+                                                       &success,   &failure, &lastFailure};
+    for (View::CUpdateDialogBase *const page : pages)
+        page->setModel(page == &success ? makeList(1) : model);
+    for (auto *const page : {&file, &wrongFile, &noFile})
+        page->setKorvaneSupportUrl("https:");
+    file.updateFirmwareUpdateInfo(
+        {TestSupport::UpdateInfoPtr(new TestSupport::CFakeUpdateInfo("2", "", "http:"))}, false);
+    wrongFile.updateCompatibility(false, false);
+    noFile.updateFirmwareUpdateInfo({}, true);
+    update.updateOverallProgress(100, 100);
+    TestSupport::CUpdaterFixture fixture;
+    fixture.service->setUpdateFailureMessage(
+        "Internal error: Firmware update is missing and could not be applied.");
+    for (auto *const page : {&success, &failure, &lastFailure}) {
+        page->updateView();
+        page->setInfoTextData("https:", "file:");
+        page->setErrorTextData(fixture.service->getUpdateFailureMessage(), page == &lastFailure);
+    }
+
+    for (View::CUpdateDialogBase *const page : pages) {
+        page->resize(page->minimumSize());
+        page->show();
+        QVERIFY(QTest::qWaitForWindowExposed(page));
+        QCOMPARE(page->size(), QSize(570, 556));
+        QCOMPARE(findCutText(*page), QString());
+        QCOMPARE(findCutCell(*page), QString());
+        QCOMPARE(language == "en" ? QString() : findEnglish(getTexts(*page)), QString());
+        // What a sentence tells the user to click is there under this name.
+        static const QRegularExpression bold("<b>(.*?)</b>");
+        const QStringList sentences = getTexts(*page).filter(bold);
+        for (const QString &sentence : sentences)
+            QVERIFY2(getButton(*page, bold.match(sentence).captured(1).toUtf8()),
+                     qPrintable(sentence));
+        page->hide();
+    }
+}
+
+void CTranslationsTest::qtSpeaksTheLanguage()
+{
+    QFETCH(QString, language);
+    speak(language);
+    QFileDialog files;
+    files.setOption(QFileDialog::DontUseNativeDialog);
+    QMessageBox question(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No);
+    QLineEdit lineEdit;
+    const std::unique_ptr<QMenu> menu(lineEdit.createStandardContextMenu());
+    for (const QWidget *const window : std::vector<QWidget *>{&files, &question, menu.get()})
+        QCOMPARE(findEnglish(getTexts(*window)), QString());
+}
+
+void CTranslationsTest::viewerSpeaksTheLanguage()
+{
+    QFETCH(QString, language);
+    speak(language);
+    Viewer::AppCore::CCommandLineOptions options;
+    options.samplesDirectory = m_folder.path();
+    options.pool.speedFactor = 1000;
+    Viewer::AppCore::CViewer viewer(options, language);
+    const auto &window = viewer.getMainWindow();
+    const auto enumeration = viewer.getEnumerationService();
+    QSignalSpy spy(enumeration.data(),
+                   &Plugin::CameraPool::ICameraEnumerationService::enumerationChanged);
+    QStringList failures;
+    QVERIFY(viewer.start(failures));
+    QVERIFY(spy.wait());
+    QStringList texts = getTexts(window);
+    const auto layers = enumeration->getTransportLayerInfoVector();
+    for (const auto &layer : layers)
+        for (const auto &camera : layer->getCameraInfoList())
+            texts.removeAll(camera->getDisplayName());
+    QCOMPARE(findEnglish(texts), QString());
+    QTRY_COMPARE(findCutText(window), QString());
+    QVERIFY(!window.findChild<QWidget *>("qt_toolbar_ext_button")->isVisible());
+    QVERIFY(!viewer.getCameraSelector().horizontalScrollBar()->isVisible());
+
+    // Jobs report in English, for the log; looked up in the catalogues it is another matter.
+    const auto updates = viewer.getUpdateService();
+    const auto camera = layers.at(0)->getCameraInfoList().at(0);
+    const auto job = updates->createDeviceFirmwareUpdate(
+        camera, updates->getFirmwareUpdateInfos(SAMPLE_FILE, {}).at(0));
+    QSignalSpy errors(job.data(), &Plugin::CameraPool::IDeviceFirmwareUpdate::firmwareUpdateError);
+    viewer.getCameraPool().getSimulation().setBusy(camera->getId(), true);
+    for (int execution = 0; execution < 2; ++execution) {
+        job->executeFirmwareUpdate();
+        const QByteArray error = errors.value(execution).value(0).toString().toUtf8();
+        QVERIFY(!findEnglish({error}).isEmpty());
+        QCOMPARE(findEnglish({QCoreApplication::translate("Any", error)}), QString());
+    }
+}
+
+QTEST_MAIN(CTranslationsTest)
+#include "tst_translations.moc"
