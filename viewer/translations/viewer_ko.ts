@@ -478,15 +478,15 @@
     </message>
     <message>
         <source>a precondition of the update is not met: its feature %1 is %2 instead of %3</source>
-        <translation>업데이트의 사전 조건이 충족되지 않았습니다: 기능 %1의 값이 %3이(가) 아니라 %2입니다</translation>
+        <translation>업데이트의 사전 조건이 충족되지 않았습니다: 기능 %1의 값이 %3이어야 하지만 %2입니다</translation>
     </message>
     <message>
         <source>its feature %1 is %2 instead of %3</source>
-        <translation>기능 %1의 값이 %3이(가) 아니라 %2입니다</translation>
+        <translation>기능 %1의 값이 %3이어야 하지만 %2입니다</translation>
     </message>
     <message>
         <source>after the update it reports firmware version %1 instead of %2</source>
-        <translation>업데이트 후 보고된 펌웨어 버전이 %2이(가) 아니라 %1입니다</translation>
+        <translation>업데이트 후 보고된 펌웨어 버전이 %2이어야 하지만 %1입니다</translation>
     </message>
 </context>
 <context>

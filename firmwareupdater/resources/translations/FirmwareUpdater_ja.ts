@@ -123,11 +123,11 @@
     </message>
     <message>
         <source>For more information, see the &lt;a href=&quot;%1&quot;&gt;log file&lt;/a&gt;. If you require assistance, contact the &lt;a href=&quot;%2&quot;&gt;Korvane Support&lt;/a&gt;.</source>
-        <translation>詳細については、&lt;a href=&quot;%1&quot;&gt;ログファイル&lt;/a&gt;をご覧ください。サポートが必要な場合は、&lt;a href=&quot;%2&quot;&gt;Korvaneサポート&lt;/a&gt;までお問い合わせください。</translation>
+        <translation>詳細は&lt;a href=&quot;%1&quot;&gt;ログファイル&lt;/a&gt;をご覧ください。サポートが必要な場合は、&lt;a href=&quot;%2&quot;&gt;Korvaneサポート&lt;/a&gt;にお問い合わせください。</translation>
     </message>
     <message>
         <source>See &lt;a href=&quot;%1&quot;&gt;log file&lt;/a&gt; for more information.</source>
-        <translation>詳細については、&lt;a href=&quot;%1&quot;&gt;ログファイル&lt;/a&gt;をご覧ください。</translation>
+        <translation>詳細は&lt;a href=&quot;%1&quot;&gt;ログファイル&lt;/a&gt;をご覧ください。</translation>
     </message>
     <message>
         <source>An error has occurred during the update.&lt;br&gt;Error message: %1.</source>
@@ -199,7 +199,7 @@
     </message>
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from &lt;a href=&quot;%1&quot;&gt;Korvane Support&lt;/a&gt;.</source>
-        <translation>カメラのファームウェアを更新するには、&lt;a href=&quot;%1&quot;&gt;Korvaneサポート&lt;/a&gt;が提供する更新ファイルが必要です。</translation>
+        <translation>ファームウェアを更新するには、&lt;a href=&quot;%1&quot;&gt;Korvaneサポート&lt;/a&gt;が提供する更新ファイルが必要です。</translation>
     </message>
     <message>
         <source>No file selected</source>
@@ -256,7 +256,7 @@
     </message>
     <message>
         <source>See log file for more information.</source>
-        <translation>詳細については、ログファイルをご覧ください。</translation>
+        <translation>詳細はログファイルをご覧ください。</translation>
     </message>
     <message>
         <source>Click &lt;b&gt;Next&lt;/b&gt; to repeat the update process.</source>
@@ -264,7 +264,7 @@
     </message>
     <message>
         <source>For more information, see the log file. If you require assistance, contact the Korvane Support.</source>
-        <translation>詳細については、ログファイルをご覧ください。サポートが必要な場合は、Korvaneサポートまでお問い合わせください。</translation>
+        <translation>詳細はログファイルをご覧ください。サポートが必要な場合は、Korvaneサポートにお問い合わせください。</translation>
     </message>
 </context>
 <context>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</source>
-        <translation>カメラのファームウェアを更新するには、Korvaneサポートが提供する更新ファイルが必要です。</translation>
+        <translation>ファームウェアを更新するには、Korvaneサポートが提供する更新ファイルが必要です。</translation>
     </message>
 </context>
 <context>
