@@ -206,8 +206,9 @@ bool CFirmwareUpdaterService::askToStopAllCameras() const
                    "as well as any recordings.</p>Do you want to stop all cameras and start using "
                    "the Firmware Updater?"));
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::No);
     box.setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    // After the flag, which takes the focus away: Enter clicks the button that has it.
+    box.setDefaultButton(QMessageBox::No);
     box.setIconPixmap(Style::getIconPixmap(QStringLiteral("help_icon_32x32_en")));
 
     // A message box takes its width from its text alone; a row of fixed width widens it.

@@ -205,7 +205,7 @@ void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
         auto *const box = qobject_cast<QMessageBox *>(widget);
         asked = box && box->windowTitle() == "Fimware Updater"
             && box->text().startsWith("<p>To use the Firmware Updater, you have to stop")
-            && box->defaultButton() == box->button(QMessageBox::No) && !box->iconPixmap().isNull()
+            && box->focusWidget() == box->button(QMessageBox::No) && !box->iconPixmap().isNull()
             && box->width() >= 570;
         if (answer == QMessageBox::NoButton)
             widget->close();
