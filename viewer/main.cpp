@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 using namespace Viewer;
 
@@ -41,6 +42,7 @@ static bool answersWithoutDisplay(int argc, char **argv, int &exitCode)
     if (!asked)
         return false;
     const QCoreApplication application(argc, argv);
+    const AppCore::CLanguage language(AppCore::CLanguage::choose({}));
     AppCore::CCommandLine commandLine;
     const auto result = commandLine.parse(QCoreApplication::arguments());
     if (result == AppCore::CCommandLine::EResult::Message) {
@@ -103,6 +105,9 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
+    QString languageCode = AppCore::CLanguage::choose({});
+    // What is wrong with the command line is told before its own choice of a language is known.
+    auto language = std::make_unique<AppCore::CLanguage>(languageCode);
     AppCore::CCommandLine commandLine;
     if (commandLine.parse(QCoreApplication::arguments()) != AppCore::CCommandLine::EResult::Start) {
         printError(commandLine.getMessage());
@@ -112,8 +117,9 @@ int main(int argc, char **argv)
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     options.pool.stateFile = QDir(dataFolder).filePath(QStringLiteral("cameras.json"));
 
-    const QString languageCode = AppCore::CLanguage::choose(options.language);
-    const AppCore::CLanguage language(languageCode);
+    languageCode = AppCore::CLanguage::choose(options.language);
+    language.reset();
+    language = std::make_unique<AppCore::CLanguage>(languageCode);
     AppCore::CLanguage::chooseFont(languageCode);
     try {
         return runViewer(options, languageCode);
