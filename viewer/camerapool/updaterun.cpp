@@ -6,6 +6,7 @@
 #include "progressthrottle.h"
 #include "updateestimate.h"
 #include "updatefile/updatearchive.h"
+#include "updatefile/updatefileerror.h"
 
 #include "core/baseexception.h"
 
@@ -138,8 +139,8 @@ void CUpdateRun::acquireData()
                 archive->checkPayload(step.payload);
         }
         m_archive = std::move(archive);
-    } catch (const Core::Exception::BaseException &error) {
-        fail(error.getMessage());
+    } catch (const UpdateFile::CUpdateFileError &error) {
+        fail(error.getText());
     }
 }
 
@@ -177,8 +178,8 @@ void CUpdateRun::upload(const CUpdateStep &step)
     std::unique_ptr<QIODevice> source;
     try {
         source = m_archive->openPayload(step.payload);
-    } catch (const Core::Exception::BaseException &error) {
-        fail(error.getMessage());
+    } catch (const UpdateFile::CUpdateFileError &error) {
+        fail(error.getText());
     }
     const qint64 size = step.payload.size;
     CProgressThrottle throttle(CProgressThrottle::Clock::now());

@@ -488,6 +488,130 @@
         <source>after the update it reports firmware version %1 instead of %2</source>
         <translation>更新後に報告されたファームウェアバージョンが %2 ではなく %1 です</translation>
     </message>
+    <message>
+        <source>the file %1 cannot be read; the archive is damaged</source>
+        <translation>ファイル %1 を読み取れません。アーカイブが破損しています</translation>
+    </message>
+    <message>
+        <source>the file %1 is damaged and cannot be unpacked</source>
+        <translation>ファイル %1 が破損しているため、展開できません</translation>
+    </message>
+    <message>
+        <source>the file %1 unpacks to more bytes than the archive declares</source>
+        <translation>ファイル %1 の展開後のサイズが、アーカイブの記載より大きくなっています</translation>
+    </message>
+    <message>
+        <source>the payload %1 does not match its SHA-256 in update.json</source>
+        <translation>データ %1 が update.json の SHA-256 と一致しません</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at its end; copy the file again</source>
+        <translation>アーカイブの末尾が欠けています。ファイルをもう一度コピーしてください</translation>
+    </message>
+    <message>
+        <source>this is not an update file, as it is not a ZIP archive</source>
+        <translation>ZIP アーカイブではないため、更新ファイルではありません</translation>
+    </message>
+    <message>
+        <source>the archive is one part of several; pack it as one file</source>
+        <translation>分割アーカイブの一部です。1 つのファイルに圧縮してください</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the archive</source>
+        <translation>アーカイブを読み取るためのメモリが不足しています</translation>
+    </message>
+    <message>
+        <source>the file cannot be read from the disk</source>
+        <translation>ディスクからファイルを読み取れません</translation>
+    </message>
+    <message>
+        <source>the archive is damaged; copy the file again</source>
+        <translation>アーカイブが破損しています。ファイルをもう一度コピーしてください</translation>
+    </message>
+    <message>
+        <source>update.json lies in a folder of the archive (%1); it has to lie at the top</source>
+        <translation>update.json がアーカイブ内のフォルダーにあります (%1)。最上位に置く必要があります</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the archive</source>
+        <translation>アーカイブに update.json がありません</translation>
+    </message>
+    <message>
+        <source>update.json has %1 bytes; %2 are allowed</source>
+        <translation>update.json のサイズは %1 バイトですが、%2 バイトまでしか使用できません</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>ファイルが存在しません</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>ファイルではなくフォルダーです</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; check its access rights</source>
+        <translation>ファイルを開けません。アクセス権を確認してください</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>ファイルが空です</translation>
+    </message>
+    <message>
+        <source>the file has %1 bytes; %2 are allowed</source>
+        <translation>ファイルのサイズは %1 バイトですが、%2 バイトまでしか使用できません</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; too many files are open</source>
+        <translation>開いているファイルが多すぎるため、ファイルを開けません</translation>
+    </message>
+    <message>
+        <source>the archive has %1 entries; %2 are allowed</source>
+        <translation>アーカイブの項目数は %1 ですが、%2 までしか使用できません</translation>
+    </message>
+    <message>
+        <source>the archive has two entries named %1</source>
+        <translation>アーカイブに %1 という名前の項目が 2 つあります</translation>
+    </message>
+    <message>
+        <source>the archive unpacks to more than %1 bytes</source>
+        <translation>展開後のサイズが %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
+        <translation>アーカイブの %1 番目の項目に名前がないか、名前が UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>the entry %1 of the archive is damaged</source>
+        <translation>アーカイブの項目 %1 が破損しています</translation>
+    </message>
+    <message>
+        <source>the entry %1 is encrypted; pack it without a password</source>
+        <translation>項目 %1 は暗号化されています。パスワードなしで圧縮してください</translation>
+    </message>
+    <message>
+        <source>the entry %1 is compressed by a method other than Deflate</source>
+        <translation>項目 %1 は Deflate 以外の方式で圧縮されています</translation>
+    </message>
+    <message>
+        <source>the payload %1 is missing in the archive</source>
+        <translation>アーカイブにデータ %1 がありません</translation>
+    </message>
+    <message>
+        <source>the payload %1 is too short: it has %2 bytes where update.json says %3</source>
+        <translation>データ %1 が短すぎます。update.json では %3 バイトですが、実際は %2 バイトです</translation>
+    </message>
+    <message>
+        <source>the payload %1 is too long: it has %2 bytes where update.json says %3</source>
+        <translation>データ %1 が長すぎます。update.json では %3 バイトですが、実際は %2 バイトです</translation>
+    </message>
+    <message>
+        <source>Update file %1: %2</source>
+        <translation>更新ファイル %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

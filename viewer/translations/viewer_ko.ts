@@ -488,6 +488,130 @@
         <source>after the update it reports firmware version %1 instead of %2</source>
         <translation>업데이트 후 보고된 펌웨어 버전이 %2이어야 하지만 %1입니다</translation>
     </message>
+    <message>
+        <source>the file %1 cannot be read; the archive is damaged</source>
+        <translation>파일 %1을(를) 읽을 수 없습니다. 압축 파일이 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>the file %1 is damaged and cannot be unpacked</source>
+        <translation>파일 %1이(가) 손상되어 압축을 풀 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the file %1 unpacks to more bytes than the archive declares</source>
+        <translation>파일 %1의 압축을 푼 크기가 압축 파일에 기록된 크기보다 큽니다</translation>
+    </message>
+    <message>
+        <source>the payload %1 does not match its SHA-256 in update.json</source>
+        <translation>데이터 %1이(가) update.json의 SHA-256과 일치하지 않습니다</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at its end; copy the file again</source>
+        <translation>압축 파일의 끝부분이 잘렸습니다. 파일을 다시 복사하십시오</translation>
+    </message>
+    <message>
+        <source>this is not an update file, as it is not a ZIP archive</source>
+        <translation>ZIP 압축 파일이 아니므로 업데이트 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the archive is one part of several; pack it as one file</source>
+        <translation>분할된 압축 파일의 일부입니다. 하나의 파일로 압축하십시오</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the archive</source>
+        <translation>압축 파일을 읽기 위한 메모리가 부족합니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be read from the disk</source>
+        <translation>디스크에서 파일을 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the archive is damaged; copy the file again</source>
+        <translation>압축 파일이 손상되었습니다. 파일을 다시 복사하십시오</translation>
+    </message>
+    <message>
+        <source>update.json lies in a folder of the archive (%1); it has to lie at the top</source>
+        <translation>update.json이 압축 파일의 폴더 안에 있습니다(%1). 최상위에 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the archive</source>
+        <translation>압축 파일에 update.json이 없습니다</translation>
+    </message>
+    <message>
+        <source>update.json has %1 bytes; %2 are allowed</source>
+        <translation>update.json의 크기가 %1바이트입니다. %2바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>파일이 없습니다</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>파일이 아니라 폴더입니다</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; check its access rights</source>
+        <translation>파일을 열 수 없습니다. 액세스 권한을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>파일이 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>the file has %1 bytes; %2 are allowed</source>
+        <translation>파일 크기가 %1바이트입니다. %2바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; too many files are open</source>
+        <translation>열려 있는 파일이 너무 많아 파일을 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the archive has %1 entries; %2 are allowed</source>
+        <translation>압축 파일에 항목이 %1개 있습니다. %2개까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>the archive has two entries named %1</source>
+        <translation>압축 파일에 이름이 %1인 항목이 두 개 있습니다</translation>
+    </message>
+    <message>
+        <source>the archive unpacks to more than %1 bytes</source>
+        <translation>압축을 푼 크기가 %1바이트를 초과합니다</translation>
+    </message>
+    <message>
+        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
+        <translation>압축 파일의 %1번째 항목에 이름이 없거나 이름이 UTF-8이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the entry %1 of the archive is damaged</source>
+        <translation>압축 파일의 항목 %1이(가) 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>the entry %1 is encrypted; pack it without a password</source>
+        <translation>항목 %1이(가) 암호화되어 있습니다. 암호 없이 압축하십시오</translation>
+    </message>
+    <message>
+        <source>the entry %1 is compressed by a method other than Deflate</source>
+        <translation>항목 %1이(가) Deflate 이외의 방식으로 압축되었습니다</translation>
+    </message>
+    <message>
+        <source>the payload %1 is missing in the archive</source>
+        <translation>압축 파일에 데이터 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>the payload %1 is too short: it has %2 bytes where update.json says %3</source>
+        <translation>데이터 %1이(가) 너무 짧습니다. update.json에는 %3바이트이지만 실제로는 %2바이트입니다</translation>
+    </message>
+    <message>
+        <source>the payload %1 is too long: it has %2 bytes where update.json says %3</source>
+        <translation>데이터 %1이(가) 너무 깁니다. update.json에는 %3바이트이지만 실제로는 %2바이트입니다</translation>
+    </message>
+    <message>
+        <source>Update file %1: %2</source>
+        <translation>업데이트 파일 %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

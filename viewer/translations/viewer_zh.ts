@@ -488,6 +488,130 @@
         <source>after the update it reports firmware version %1 instead of %2</source>
         <translation>更新后报告的固件版本为 %1，而不是 %2</translation>
     </message>
+    <message>
+        <source>the file %1 cannot be read; the archive is damaged</source>
+        <translation>无法读取文件 %1；压缩文件已损坏</translation>
+    </message>
+    <message>
+        <source>the file %1 is damaged and cannot be unpacked</source>
+        <translation>文件 %1 已损坏，无法解压</translation>
+    </message>
+    <message>
+        <source>the file %1 unpacks to more bytes than the archive declares</source>
+        <translation>文件 %1 解压后的大小超过压缩文件中声明的大小</translation>
+    </message>
+    <message>
+        <source>the payload %1 does not match its SHA-256 in update.json</source>
+        <translation>数据 %1 与 update.json 中的 SHA-256 不一致</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at its end; copy the file again</source>
+        <translation>压缩文件末尾不完整；请重新复制该文件</translation>
+    </message>
+    <message>
+        <source>this is not an update file, as it is not a ZIP archive</source>
+        <translation>这不是 ZIP 压缩文件，因此不是更新文件</translation>
+    </message>
+    <message>
+        <source>the archive is one part of several; pack it as one file</source>
+        <translation>这是分卷压缩文件的一部分；请打包为单个文件</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the archive</source>
+        <translation>内存不足，无法读取压缩文件</translation>
+    </message>
+    <message>
+        <source>the file cannot be read from the disk</source>
+        <translation>无法从磁盘读取文件</translation>
+    </message>
+    <message>
+        <source>the archive is damaged; copy the file again</source>
+        <translation>压缩文件已损坏；请重新复制该文件</translation>
+    </message>
+    <message>
+        <source>update.json lies in a folder of the archive (%1); it has to lie at the top</source>
+        <translation>update.json 位于压缩文件的文件夹中（%1）；它必须位于顶层</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the archive</source>
+        <translation>压缩文件中没有 update.json</translation>
+    </message>
+    <message>
+        <source>update.json has %1 bytes; %2 are allowed</source>
+        <translation>update.json 有 %1 字节；最多允许 %2 字节</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>这是文件夹，而不是文件</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>这不是普通文件</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; check its access rights</source>
+        <translation>无法打开文件；请检查其访问权限</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>the file has %1 bytes; %2 are allowed</source>
+        <translation>文件有 %1 字节；最多允许 %2 字节</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; too many files are open</source>
+        <translation>打开的文件过多，无法打开该文件</translation>
+    </message>
+    <message>
+        <source>the archive has %1 entries; %2 are allowed</source>
+        <translation>压缩文件有 %1 个条目；最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>the archive has two entries named %1</source>
+        <translation>压缩文件中有两个名为 %1 的条目</translation>
+    </message>
+    <message>
+        <source>the archive unpacks to more than %1 bytes</source>
+        <translation>压缩文件解压后超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
+        <translation>压缩文件的第 %1 个条目没有名称，或名称不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>the entry %1 of the archive is damaged</source>
+        <translation>压缩文件的条目 %1 已损坏</translation>
+    </message>
+    <message>
+        <source>the entry %1 is encrypted; pack it without a password</source>
+        <translation>条目 %1 已加密；请在不使用密码的情况下打包</translation>
+    </message>
+    <message>
+        <source>the entry %1 is compressed by a method other than Deflate</source>
+        <translation>条目 %1 使用了 Deflate 以外的压缩方式</translation>
+    </message>
+    <message>
+        <source>the payload %1 is missing in the archive</source>
+        <translation>压缩文件中缺少数据 %1</translation>
+    </message>
+    <message>
+        <source>the payload %1 is too short: it has %2 bytes where update.json says %3</source>
+        <translation>数据 %1 过短：update.json 中为 %3 字节，实际为 %2 字节</translation>
+    </message>
+    <message>
+        <source>the payload %1 is too long: it has %2 bytes where update.json says %3</source>
+        <translation>数据 %1 过长：update.json 中为 %3 字节，实际为 %2 字节</translation>
+    </message>
+    <message>
+        <source>Update file %1: %2</source>
+        <translation>更新文件 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

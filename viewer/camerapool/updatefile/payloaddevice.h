@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/camerapool/errortext.h"
+
 #include <QByteArray>
 #include <QCryptographicHash>
 #include <QIODevice>
@@ -34,7 +36,7 @@ public:
     ~CPayloadDevice() override;
 
     /// What is wrong with the file, without the archive's path; empty as long as nothing is.
-    [[nodiscard]] QString getFault() const;
+    [[nodiscard]] CErrorText getFault() const;
 
     [[nodiscard]] bool isSequential() const override;
     [[nodiscard]] bool atEnd() const override;
@@ -51,14 +53,14 @@ private:
     };
 
     bool checkEnd();
-    void setFault(const QString &cause);
+    void setFault(const CErrorText &cause);
 
     const std::shared_ptr<zip> m_archive; ///< outlives the file read from it
     const CSource m_source;
     std::unique_ptr<zip_file, CFileCloser> m_file;
     QCryptographicHash m_hash{QCryptographicHash::Sha256};
     qint64 m_remaining = 0;
-    QString m_fault;
+    CErrorText m_fault;
 };
 
 } // namespace Viewer::CameraPool::UpdateFile

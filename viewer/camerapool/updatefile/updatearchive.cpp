@@ -23,23 +23,23 @@ constexpr int BLOCK_SIZE = 64 * 1024;
 /// What the first bytes of an archive that is not empty are.
 const QByteArray ARCHIVE_BEGIN = QByteArrayLiteral("PK\x03\x04");
 
-QString describeOpenFault(int zipError, const QByteArray &firstBytes)
+CErrorText describeOpenFault(int zipError, const QByteArray &firstBytes)
 {
     switch (zipError) {
     case ZIP_ER_NOZIP:
         if (firstBytes == ARCHIVE_BEGIN)
-            return QStringLiteral("the archive is cut off at its end; copy the file again");
-        return QStringLiteral("this is not an update file, as it is not a ZIP archive");
+            return CErrorText::tr("the archive is cut off at its end; copy the file again");
+        return CErrorText::tr("this is not an update file, as it is not a ZIP archive");
     case ZIP_ER_MULTIDISK:
-        return QStringLiteral("the archive is one part of several; pack it as one file");
+        return CErrorText::tr("the archive is one part of several; pack it as one file");
     case ZIP_ER_MEMORY:
-        return QStringLiteral("there is not enough memory to read the archive");
+        return CErrorText::tr("there is not enough memory to read the archive");
     case ZIP_ER_READ:
     case ZIP_ER_SEEK:
     case ZIP_ER_OPEN:
-        return QStringLiteral("the file cannot be read from the disk");
+        return CErrorText::tr("the file cannot be read from the disk");
     default:
-        return QStringLiteral("the archive is damaged; copy the file again");
+        return CErrorText::tr("the archive is damaged; copy the file again");
     }
 }
 
@@ -84,16 +84,15 @@ QByteArray CUpdateArchive::readManifest() const
         const QString ending = QLatin1Char('/') + getManifestName();
         for (const CEntry &file : m_files) {
             if (file.name.endsWith(ending))
-                fail(QStringLiteral("update.json lies in a folder of the archive (%1); it has to "
+                fail(CErrorText::tr("update.json lies in a folder of the archive (%1); it has to "
                                     "lie at the top")
                          .arg(Json::quote(file.name)));
         }
-        fail(QStringLiteral("there is no update.json in the archive"));
+        fail(CErrorText::tr("there is no update.json in the archive"));
     }
     if (entry->size > Limits::MANIFEST_SIZE)
-        fail(QStringLiteral("update.json has %1 bytes; %2 are allowed")
-                 .arg(entry->size)
-                 .arg(Limits::MANIFEST_SIZE));
+        fail(CErrorText::tr("update.json has %1 bytes; %2 are allowed")
+                 .arg(QString::number(entry->size), QString::number(Limits::MANIFEST_SIZE)));
 
     const auto device = openFile(*entry, QByteArray());
     const QByteArray manifest = device->readAll();
@@ -121,28 +120,27 @@ void CUpdateArchive::openFile()
 {
     const QFileInfo info(m_path);
     if (!info.exists())
-        fail(QStringLiteral("the file does not exist"));
+        fail(CErrorText::tr("the file does not exist"));
     if (info.isDir())
-        fail(QStringLiteral("this is a folder, not a file"));
+        fail(CErrorText::tr("this is a folder, not a file"));
     // A pipe or a device could block for ever.
     if (!info.isFile())
-        fail(QStringLiteral("this is not a regular file"));
+        fail(CErrorText::tr("this is not a regular file"));
 
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        fail(QStringLiteral("the file cannot be opened; check its access rights"));
+        fail(CErrorText::tr("the file cannot be opened; check its access rights"));
     if (file.size() == 0)
-        fail(QStringLiteral("the file is empty"));
+        fail(CErrorText::tr("the file is empty"));
     if (file.size() > Limits::ARCHIVE_SIZE)
-        fail(QStringLiteral("the file has %1 bytes; %2 are allowed")
-                 .arg(file.size())
-                 .arg(Limits::ARCHIVE_SIZE));
+        fail(CErrorText::tr("the file has %1 bytes; %2 are allowed")
+                 .arg(QString::number(file.size()), QString::number(Limits::ARCHIVE_SIZE)));
     const QByteArray firstBytes = file.read(ARCHIVE_BEGIN.size());
 
     // A second descriptor of the same open file, which the library closes with the archive.
     const int descriptor = dup(file.handle());
     if (descriptor < 0)
-        fail(QStringLiteral("the file cannot be opened; too many files are open"));
+        fail(CErrorText::tr("the file cannot be opened; too many files are open"));
     int zipError = ZIP_ER_OK;
     zip_t *const archive = zip_fdopen(descriptor, 0, &zipError);
     if (!archive) {
@@ -156,22 +154,21 @@ void CUpdateArchive::readDirectory()
 {
     const qint64 entryCount = zip_get_num_entries(m_zip.get(), 0);
     if (entryCount > Limits::ENTRIES)
-        fail(QStringLiteral("the archive has %1 entries; %2 are allowed")
-                 .arg(entryCount)
-                 .arg(Limits::ENTRIES));
+        fail(CErrorText::tr("the archive has %1 entries; %2 are allowed")
+                 .arg(QString::number(entryCount), QString::number(Limits::ENTRIES)));
 
     QSet<QString> names;
     qint64 unpackedSize = 0;
     for (qint64 index = 0; index < entryCount; ++index) {
         const CEntry entry = readEntry(static_cast<quint64>(index));
         if (names.contains(entry.name))
-            fail(QStringLiteral("the archive has two entries named %1")
+            fail(CErrorText::tr("the archive has two entries named %1")
                      .arg(Json::quote(entry.name)));
         names.insert(entry.name);
 
         if (entry.size > Limits::UNPACKED_SIZE - unpackedSize)
-            fail(QStringLiteral("the archive unpacks to more than %1 bytes")
-                     .arg(Limits::UNPACKED_SIZE));
+            fail(CErrorText::tr("the archive unpacks to more than %1 bytes")
+                     .arg(QString::number(Limits::UNPACKED_SIZE)));
         unpackedSize += entry.size;
         if (!entry.isFolder)
             m_files.append(entry);
@@ -184,8 +181,8 @@ CUpdateArchive::CEntry CUpdateArchive::readEntry(quint64 index) const
     entry.index = index;
     entry.name = readEntryName(m_zip.get(), index);
     if (entry.name.isEmpty())
-        fail(QStringLiteral("entry %1 of the archive has no name, or one that is not UTF-8")
-                 .arg(index + 1));
+        fail(CErrorText::tr("entry %1 of the archive has no name, or one that is not UTF-8")
+                 .arg(QString::number(index + 1)));
     entry.isFolder = entry.name.endsWith(QLatin1Char('/')) && entry.name.size() > 1;
     if (entry.isFolder)
         entry.name.chop(1);
@@ -198,12 +195,12 @@ CUpdateArchive::CEntry CUpdateArchive::readEntry(quint64 index) const
     zip_stat_t status;
     zip_stat_init(&status);
     if (zip_stat_index(m_zip.get(), index, 0, &status) != 0 || (status.valid & NEEDED) != NEEDED)
-        fail(QStringLiteral("the entry %1 of the archive is damaged").arg(Json::quote(entry.name)));
+        fail(CErrorText::tr("the entry %1 of the archive is damaged").arg(Json::quote(entry.name)));
     if (status.encryption_method != ZIP_EM_NONE)
-        fail(QStringLiteral("the entry %1 is encrypted; pack it without a password")
+        fail(CErrorText::tr("the entry %1 is encrypted; pack it without a password")
                  .arg(Json::quote(entry.name)));
     if (status.comp_method != ZIP_CM_STORE && status.comp_method != ZIP_CM_DEFLATE)
-        fail(QStringLiteral("the entry %1 is compressed by a method other than Deflate")
+        fail(CErrorText::tr("the entry %1 is compressed by a method other than Deflate")
                  .arg(Json::quote(entry.name)));
     constexpr auto LARGEST = static_cast<zip_uint64_t>(Limits::UNPACKED_SIZE);
     entry.size = static_cast<qint64>(qMin<zip_uint64_t>(status.size, LARGEST + 1));
@@ -223,13 +220,17 @@ const CUpdateArchive::CEntry &CUpdateArchive::getPayloadEntry(const CPayload &pa
 {
     const CEntry *entry = findFile(payload.name);
     if (!entry)
-        fail(QStringLiteral("the payload %1 is missing in the archive")
+        fail(CErrorText::tr("the payload %1 is missing in the archive")
                  .arg(Json::quote(payload.name)));
-    if (entry->size != payload.size)
-        fail(QStringLiteral("the payload %1 is too %2: it has %3 bytes where update.json says %4")
-                 .arg(Json::quote(payload.name),
-                      entry->size < payload.size ? QStringLiteral("short") : QStringLiteral("long"),
-                      QString::number(entry->size), QString::number(payload.size)));
+    if (entry->size != payload.size) {
+        const CErrorText text = entry->size < payload.size
+            ? CErrorText::tr("the payload %1 is too short: it has %2 bytes where update.json says "
+                             "%3")
+            : CErrorText::tr("the payload %1 is too long: it has %2 bytes where update.json says "
+                             "%3");
+        fail(text.arg(Json::quote(payload.name), QString::number(entry->size),
+                      QString::number(payload.size)));
+    }
     return *entry;
 }
 
@@ -243,7 +244,7 @@ std::unique_ptr<CPayloadDevice> CUpdateArchive::openFile(const CEntry &entry,
     return device;
 }
 
-void CUpdateArchive::fail(const QString &cause) const
+void CUpdateArchive::fail(const CErrorText &cause) const
 {
     throw CUpdateFileError(m_path, cause);
 }

@@ -11,6 +11,10 @@
 class QIODevice;
 struct zip;
 
+namespace Viewer::CameraPool {
+class CErrorText;
+}
+
 namespace Viewer::CameraPool::UpdateFile {
 
 class CPayloadDevice;
@@ -65,7 +69,7 @@ private:
     [[nodiscard]] const CEntry &getPayloadEntry(const CPayload &payload) const;
     [[nodiscard]] std::unique_ptr<CPayloadDevice> openFile(const CEntry &entry,
                                                            const QByteArray &sha256) const;
-    [[noreturn]] void fail(const QString &cause) const;
+    [[noreturn]] void fail(const CErrorText &cause) const;
 
     QString m_path;
     std::shared_ptr<zip> m_zip;

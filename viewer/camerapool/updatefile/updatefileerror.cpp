@@ -6,10 +6,17 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
-CUpdateFileError::CUpdateFileError(const QString &path, const QString &cause)
-    : BaseException(QStringLiteral("Update file %1: %2")
-                        .arg(Json::toSingleLine(QDir::toNativeSeparators(path)), cause))
-    , m_cause(cause)
+CUpdateFileError::CUpdateFileError(const QString &path, const CErrorText &cause)
+    : CUpdateFileError(CErrorText::tr("Update file %1: %2")
+                           .arg(Json::toSingleLine(QDir::toNativeSeparators(path)), cause),
+                       cause)
+{
+}
+
+CUpdateFileError::CUpdateFileError(const CErrorText &text, const CErrorText &cause)
+    : BaseException(text.getEnglish())
+    , m_text(text)
+    , m_cause(cause.getEnglish())
 {
 }
 
@@ -18,6 +25,11 @@ CUpdateFileError::~CUpdateFileError() = default;
 QString CUpdateFileError::getCause() const
 {
     return m_cause;
+}
+
+CErrorText CUpdateFileError::getText() const
+{
+    return m_text;
 }
 
 } // namespace Viewer::CameraPool::UpdateFile

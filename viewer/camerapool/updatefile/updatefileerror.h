@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/camerapool/errortext.h"
+
 #include "core/baseexception.h"
 
 namespace Viewer::CameraPool::UpdateFile {
@@ -10,13 +12,19 @@ class CUpdateFileError : public Core::Exception::BaseException
 {
 public:
     /// "Update file <path>: <cause>", with native separators.
-    CUpdateFileError(const QString &path, const QString &cause);
+    CUpdateFileError(const QString &path, const CErrorText &cause);
     ~CUpdateFileError() override;
 
-    /// The cause alone.
+    /// The cause alone, in English.
     [[nodiscard]] QString getCause() const;
 
+    /// The message, also in the user's language.
+    [[nodiscard]] CErrorText getText() const;
+
 private:
+    CUpdateFileError(const CErrorText &text, const CErrorText &cause);
+
+    CErrorText m_text;
     QString m_cause;
 };
 
