@@ -10,7 +10,6 @@
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/simulation/simulation.h"
-#include "viewer/cameraselector/cameraselectorview.h"
 
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
@@ -18,9 +17,8 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMenuBar>
+#include <QMenu>
 #include <QMessageBox>
-#include <QScrollBar>
 #include <QtTest>
 
 using namespace ViewFixture;
@@ -130,13 +128,16 @@ void CTranslationsTest::catalogueIsComplete()
     QVERIFY(lupdate.waitForFinished());
     const CCatalogue catalogue = readCatalogue(sources + file);
     QVERIFY(catalogue.size() > 50);
-    QCOMPARE(catalogue.keys(), readCatalogue(fresh).keys());
+    const CCatalogue wanted = readCatalogue(fresh);
+    for (auto i = wanted.begin(); i != wanted.end(); ++i)
+        QVERIFY2(catalogue.contains(i.key()), qPrintable("missing: " + i.key().second));
 
     // The same in every language: a product's name, a placeholder's, and punctuation.
     const QStringList kept{"Nuvex Viewer", "n", "%1.", "%1: %2."};
     for (auto i = catalogue.begin(); i != catalogue.end(); ++i) {
         const QString &source = i.key().second;
-        QVERIFY2(!i->isEmpty(), qPrintable(source));
+        QVERIFY2(wanted.contains(i.key()), qPrintable("not in the sources: " + source));
+        QVERIFY2(!i->isEmpty(), qPrintable("not finished: " + source));
         for (const QString &text : *i) {
             QCOMPARE(getMarks(text), getMarks(source));
             QVERIFY2(text != source || kept.contains(text) || file.endsWith("_en.ts"),
@@ -350,7 +351,6 @@ void CTranslationsTest::viewerSpeaksTheLanguage()
     QCOMPARE(findEnglish(texts), QString());
     QTRY_COMPARE(findCutText(window), QString());
     QVERIFY(!window.findChild<QWidget *>("qt_toolbar_ext_button")->isVisible());
-    QVERIFY(!viewer.getCameraSelector().horizontalScrollBar()->isVisible());
 
     // Jobs report in English, for the log; looked up in the catalogues it is another matter.
     const auto updates = viewer.getUpdateService();
