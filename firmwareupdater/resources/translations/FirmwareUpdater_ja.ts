@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>The firmware versions selected for some cameras are identical with the firmware versions currently installed on the cameras. By clicking &lt;b&gt;Next&lt;/b&gt; you will reinstall the same firmware version.</source>
-        <translation>一部のカメラでは、選択したファームウェアバージョンが現在インストールされているバージョンと同じです。&lt;b&gt;次へ&lt;/b&gt;をクリックすると、同じファームウェアバージョンが再インストールされます。</translation>
+        <translation>一部のカメラでは、選択したバージョンが現在インストールされているバージョンと同じです。&lt;b&gt;次へ&lt;/b&gt;をクリックすると、同じファームウェアバージョンが再インストールされます。</translation>
     </message>
     <message>
         <source>Click &lt;b&gt;Next&lt;/b&gt; to start the update. The update process may take a while.</source>

@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>The firmware versions selected for some cameras are identical with the firmware versions currently installed on the cameras. By clicking &lt;b&gt;Next&lt;/b&gt; you will reinstall the same firmware version.</source>
-        <translation>部分相机的所选固件版本与相机上当前安装的固件版本相同。单击&lt;b&gt;下一步&lt;/b&gt;将重新安装相同的固件版本。</translation>
+        <translation>部分相机的所选固件版本与当前安装的版本相同。单击&lt;b&gt;下一步&lt;/b&gt;将重新安装相同的固件版本。</translation>
     </message>
     <message>
         <source>Click &lt;b&gt;Next&lt;/b&gt; to start the update. The update process may take a while.</source>
