@@ -25,7 +25,8 @@ CErrorText::CErrorText(const QString &english, const QString &localized)
 
 CErrorText CErrorText::tr(const char *source)
 {
-    return {QString::fromUtf8(source), QCoreApplication::translate("Viewer::CameraPool::CErrorText", source)};
+    return {QString::fromUtf8(source),
+            QCoreApplication::translate("Viewer::CameraPool::CErrorText", source)};
 }
 
 CErrorText CErrorText::toClause() const
