@@ -19,23 +19,7 @@ void CFirmwareUpdateStepBase::onEntry(QEvent *event)
     if (!m_dialog)
         return;
 
-    const QSize size = m_updaterService->getDialogSize();
-    const QPoint pos = m_updaterService->getDialogPos();
-    if (size.width() < 0 || size.height() < 0) {
-        m_dialog->show();
-        return;
-    }
-
-    const Qt::WindowStates state = m_updaterService->getDialogWindowState();
-    // A wizard that was full screen comes back maximized: full screen has no title bar to leave by.
-    if (state & (Qt::WindowFullScreen | Qt::WindowMaximized)) {
-        m_dialog->showMaximized();
-        return;
-    }
-
-    m_dialog->setWindowState(state);
-    m_dialog->move(pos);
-    m_dialog->resize(size);
+    placeDialog();
     m_dialog->show();
 }
 
@@ -55,6 +39,25 @@ void CFirmwareUpdateStepBase::onExit(QEvent *event)
 QPointer<QDialog> CFirmwareUpdateStepBase::getDialog() const
 {
     return m_dialog;
+}
+
+void CFirmwareUpdateStepBase::placeDialog() const
+{
+    const QSize size = m_updaterService->getDialogSize();
+    // Nothing is remembered before the first page was left.
+    if (!m_dialog || size.width() < 0 || size.height() < 0)
+        return;
+
+    const Qt::WindowStates state = m_updaterService->getDialogWindowState();
+    // A wizard that was full screen comes back maximized: full screen has no title bar to leave by.
+    if (state & (Qt::WindowFullScreen | Qt::WindowMaximized)) {
+        m_dialog->setWindowState(Qt::WindowMaximized);
+        return;
+    }
+
+    m_dialog->setWindowState(state);
+    m_dialog->move(m_updaterService->getDialogPos());
+    m_dialog->resize(size);
 }
 
 QSharedPointer<IFirmwareUpdaterService> CFirmwareUpdateStepBase::getUpdaterService() const

@@ -41,6 +41,9 @@ protected:
         return qobject_cast<T *>(getDialog().data());
     }
 
+    /// Gives the dialog the place, size and window state that the wizard was left with, if any.
+    void placeDialog() const;
+
     [[nodiscard]] QSharedPointer<IFirmwareUpdaterService> getUpdaterService() const;
 
 private:

@@ -49,6 +49,8 @@ void CFirmwareUpdatingStep::onEntry(QEvent *event)
     if (!dialog)
         return;
 
+    // enableButtons() shows the dialog, which must not be seen somewhere else first.
+    placeDialog();
     dialog->enableButtons(true);
     CFirmwareUpdateStepBase::onEntry(event);
 

@@ -5,6 +5,8 @@
 #include "treeviewstatusdelegate.h"
 #include "ui_firmwareupdatedialog.h"
 
+#include <QWindow>
+
 namespace Plugin::FirmwareUpdater::Internal::View {
 
 using Entity::CFirmwareUpdateEntity;
@@ -64,10 +66,16 @@ void CFirmwareUpdateDialog::enableButtons(bool enable)
     Qt::WindowFlags flags
         = Qt::Dialog | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
     flags.setFlag(Qt::WindowCloseButtonHint, enable);
-    // A window that gets other buttons is made anew and would no longer be maximized.
-    const Qt::WindowStates state = windowState();
-    setWindowFlags(flags);
-    setWindowState(state);
+    if (isVisible()) {
+        // Hiding the page to show it with other buttons would be seen, and lose its place.
+        overrideWindowFlags(flags);
+        windowHandle()->setFlags(flags);
+    } else {
+        // A window that gets other buttons is made anew and would no longer be maximized.
+        const Qt::WindowStates state = windowState();
+        setWindowFlags(flags);
+        setWindowState(state);
+    }
     show();
 }
 

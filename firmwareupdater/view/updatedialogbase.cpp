@@ -6,9 +6,11 @@
 #include "treeviewheaderview.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QTreeView>
+#include <QWindow>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
@@ -137,6 +139,17 @@ void CUpdateDialogBase::setIcon(QLabel *label, const QString &iconName)
     label->setPixmap(Style::getIconPixmap(iconName));
 }
 
+bool CUpdateDialogBase::event(QEvent *event)
+{
+    if (event->type() == QEvent::WindowActivate && windowHandle()) {
+        // Qt looks at the frame when the window moves, which on its way to the screen can be before
+        // the window manager has made one. An active window has its frame.
+        QMoveEvent look(windowHandle()->position(), windowHandle()->position());
+        QCoreApplication::sendEvent(windowHandle(), &look);
+    }
+    return QDialog::event(event);
+}
+
 void CUpdateDialogBase::closeEvent(QCloseEvent *event)
 {
     event->ignore();
@@ -152,6 +165,10 @@ void CUpdateDialogBase::showEvent(QShowEvent *event)
     for (QAbstractButton *button : buttons)
         if (auto *pushButton = qobject_cast<QPushButton *>(button))
             pushButton->setDefault(pushButton == m_defaultButton);
+    // A window that is not on the screen has no frame, so that it would get its own corner where
+    // that of its frame belongs, and wander by a title bar each time that it is shown.
+    if (!event->spontaneous() && !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
+        windowHandle()->setFramePosition(pos());
 }
 
 void CUpdateDialogBase::resizeEvent(QResizeEvent *event)

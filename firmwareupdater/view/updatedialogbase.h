@@ -96,6 +96,7 @@ protected:
     /// Replaces a form's picture by that of the screen's resolution.
     static void setIcon(QLabel *label, const QString &iconName);
 
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -70,8 +70,11 @@ private slots:
     void waitsForTheCameraOnExit();
     void survivesALostDialog();
     void survivesAnEmptiedList();
+    void isFirstSeenWhereTheWizardWas();
 
 private:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     enum class EOutcome { Success, Failure, Hold };
 
     /// Fills the model with cameras 'a', 'b', ... whose jobs end as given.
@@ -87,6 +90,7 @@ private:
     std::unique_ptr<State::CFirmwareUpdatingStep> m_step;
     std::unique_ptr<QSignalSpy> m_endSpy;
     QVector<CScriptedUpdate *> m_jobs;
+    QVector<QRect> m_shownAt; ///< where the dialog was each time it was shown
 };
 
 void CFirmwareUpdatingStepTest::init()
@@ -429,6 +433,22 @@ void CFirmwareUpdatingStepTest::survivesAnEmptiedList()
     waitForEnd();
     QVERIFY(m_fixture->getLog().contains(
         "CRITICAL Internal error: Firmware update is missing and could not be applied."));
+}
+
+bool CFirmwareUpdatingStepTest::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Show)
+        m_shownAt.append(QRect(m_dialog->pos(), m_dialog->size()));
+    return QObject::eventFilter(watched, event);
+}
+
+void CFirmwareUpdatingStepTest::isFirstSeenWhereTheWizardWas()
+{
+    m_fixture->service->setDialogPos(QPoint(30, 20));
+    m_fixture->service->setDialogSize(QSize(600, 560));
+    m_dialog->installEventFilter(this);
+    enter();
+    QCOMPARE(m_shownAt, {QRect(30, 20, 600, 560)});
 }
 
 QTEST_MAIN(CFirmwareUpdatingStepTest)

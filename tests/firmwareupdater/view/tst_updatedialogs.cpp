@@ -243,8 +243,11 @@ void CUpdateDialogsTest::warningsCloseTheirGap()
 void CUpdateDialogsTest::showsProgressWhileItCannotBeClosed()
 {
     CFirmwareUpdateDialog &dialog = m_dialogs->update;
+    dialog.show();
+    const QSignalSpy blinkSpy(dialog.windowHandle(), &QWindow::visibleChanged);
     for (const bool enable : {true, false}) {
         dialog.enableButtons(enable);
+        QVERIFY(blinkSpy.isEmpty());
         QCOMPARE(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint), enable);
         QCOMPARE(getButton(dialog, "Cancel")->isEnabled(), enable);
         QCOMPARE(record(dialog, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }),
