@@ -85,6 +85,9 @@ void CCustomTreeView::keyPressEvent(QKeyEvent *event)
 void CCustomTreeView::updateGeometries()
 {
     QTreeView::updateGeometries();
+    // The columns are as wide as the tree, also where the vertical scroll bar hides the end of the
+    // last one. That end holds nothing to scroll to.
+    horizontalScrollBar()->setRange(0, 0);
     updateScrollBarGeometry();
 }
 
