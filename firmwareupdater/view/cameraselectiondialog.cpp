@@ -16,7 +16,7 @@ CCameraSelectionDialog::CCameraSelectionDialog(QWidget *parent)
 {
     m_ui->setupUi(this);
     setIcon(m_ui->infoIconLabel, QStringLiteral("info_icon_24x24_en"));
-    initializeFrame(m_ui->buttonBox);
+    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
     m_nextButton = addNextButton(tr("Next"));
     initializeCameraTree(m_ui->cameraTreeView);
     connect(m_ui->refreshButton, &QPushButton::clicked, this,

@@ -18,7 +18,7 @@ CFirmwareUpdateDialog::CFirmwareUpdateDialog(QWidget *parent)
     m_ui->setupUi(this);
     setIcon(m_ui->infoIconLabel_1, QStringLiteral("warning_icon_24x24_en"));
     setIcon(m_ui->infoIconLabel_2, QStringLiteral("warning_icon_24x24_en"));
-    initializeFrame(m_ui->buttonBox);
+    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
     initializeCameraTree(m_ui->cameraTreeView);
     m_cancelButton = m_ui->buttonBox->button(QDialogButtonBox::Cancel);
 }

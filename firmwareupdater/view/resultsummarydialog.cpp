@@ -19,7 +19,7 @@ CResultSummaryDialog::CResultSummaryDialog(QWidget *parent)
     setIcon(m_ui->infoIconLabel_2, QStringLiteral("info_icon_24x24_en"));
     setIcon(m_ui->infoIconLabel_3, QStringLiteral("info_icon_24x24_en"));
     setIcon(m_ui->errorIconLabel, QStringLiteral("error_icon_24x24_en"));
-    initializeFrame(m_ui->buttonBox);
+    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
     addNextButton(tr("Next"));
     initializeCameraTree(m_ui->cameraTreeView);
 }

@@ -9,12 +9,21 @@
 #include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QScreen>
 #include <QTreeView>
+#include <QVBoxLayout>
 #include <QWindow>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
 using Entity::CFirmwareUpdateEntity;
+
+/// What a window manager's frame may add to a dialog. The true size is only known once a window is
+/// on the screen.
+static constexpr QSize FRAME_SIZE(10, 40);
+
+/// Gaps up to this height hold rows apart that belong together, and stay on small screens, too.
+static constexpr int ROW_GAP = 16;
 
 CUpdateDialogBase::CUpdateDialogBase(QWidget *parent)
     : QDialog(parent,
@@ -40,8 +49,20 @@ void CUpdateDialogBase::reject()
     emit closeClicked();
 }
 
-void CUpdateDialogBase::initializeFrame(QDialogButtonBox *buttonBox)
+void CUpdateDialogBase::initializeFrame(QVBoxLayout *content, QDialogButtonBox *buttonBox)
 {
+    m_content = content;
+    for (int i = 0; i < content->count(); ++i) {
+        QSpacerItem *gap = content->itemAt(i)->spacerItem();
+        if (gap && gap->sizePolicy().verticalPolicy() == QSizePolicy::Fixed
+            && gap->sizeHint().height() > ROW_GAP) {
+            m_gaps.append(gap);
+            m_designGapHeights.append(gap->sizeHint().height());
+        }
+    }
+    m_designMinimumSize = minimumSize();
+    fitScreen();
+
     m_buttonBox = buttonBox;
     connect(buttonBox, &QDialogButtonBox::clicked, this, &CUpdateDialogBase::dialogButtonClicked);
 
@@ -158,6 +179,8 @@ void CUpdateDialogBase::closeEvent(QCloseEvent *event)
 
 void CUpdateDialogBase::showEvent(QShowEvent *event)
 {
+    if (!event->spontaneous())
+        fitScreen();
     QDialog::showEvent(event);
     // A button box that is shown without a default button chooses one: Back, or a Next that is
     // unavailable.
@@ -174,6 +197,7 @@ void CUpdateDialogBase::showEvent(QShowEvent *event)
 void CUpdateDialogBase::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
+    fitGaps();
     if (!m_columns.isEmpty())
         fitColumns();
 }
@@ -190,6 +214,31 @@ void CUpdateDialogBase::fitColumns()
         remainder -= width;
     }
     m_treeView->setColumnWidth(m_columns.last().column, remainder);
+}
+
+void CUpdateDialogBase::fitScreen()
+{
+    const bool isSmallest = size() == minimumSize();
+    setMinimumSize(m_designMinimumSize.boundedTo(screen()->availableSize() - FRAME_SIZE));
+    if (isSmallest)
+        resize(minimumSize());
+}
+
+void CUpdateDialogBase::fitGaps()
+{
+    const bool isCompact = height() < m_designMinimumSize.height();
+    if (m_isCompact == isCompact)
+        return;
+    m_isCompact = isCompact;
+    for (int i = 0; i < m_gaps.size(); ++i) {
+        const int designHeight = m_designGapHeights.at(i);
+        m_gaps.at(i)->changeSize(m_gaps.at(i)->sizeHint().width(),
+                                 isCompact ? designHeight / 2 : designHeight, QSizePolicy::Minimum,
+                                 QSizePolicy::Fixed);
+    }
+    // A spacer does not tell its layout of a new size.
+    m_content->invalidate();
+    layout()->activate();
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

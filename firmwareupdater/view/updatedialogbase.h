@@ -10,7 +10,9 @@ class QAbstractButton;
 class QAbstractItemModel;
 class QDialogButtonBox;
 class QLabel;
+class QSpacerItem;
 class QTreeView;
+class QVBoxLayout;
 
 namespace Plugin::FirmwareUpdater::Internal::Model {
 class CFirmwareUpdateTreeModel;
@@ -67,8 +69,9 @@ protected:
         int designWidth;
     };
 
-    /// Connects the button box and makes texts readable on the dialog's white.
-    void initializeFrame(QDialogButtonBox *buttonBox);
+    /// Connects the button box, makes texts readable on the dialog's white, and lets @p content,
+    /// which is all that stands above the buttons, give way on small screens.
+    void initializeFrame(QVBoxLayout *content, QDialogButtonBox *buttonBox);
 
     /// Empties the tree and gives it the wizard's header.
     void initializeCameraTree(QTreeView *treeView);
@@ -103,9 +106,16 @@ protected:
 
 private:
     void fitColumns();
+    void fitScreen();
+    void fitGaps();
 
     QSharedPointer<Model::CFirmwareUpdateTreeModel> m_model;
     QDialogButtonBox *m_buttonBox = nullptr;
+    QVBoxLayout *m_content = nullptr;
+    QVector<QSpacerItem *> m_gaps; ///< those of m_content that give way on small screens
+    QVector<int> m_designGapHeights;
+    QSize m_designMinimumSize;
+    bool m_isCompact = false;
     QPointer<QPushButton> m_backButton;
     QPointer<QPushButton> m_defaultButton;
     QTreeView *m_treeView = nullptr;

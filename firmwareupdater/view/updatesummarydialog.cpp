@@ -19,7 +19,7 @@ CUpdateSummaryDialog::CUpdateSummaryDialog(QWidget *parent)
     setIcon(m_ui->warningIconLabel_2, QStringLiteral("warning_icon_24x24_en"));
     setIcon(m_ui->infoIconLabel_1, QStringLiteral("info_icon_24x24_en"));
     setIcon(m_ui->infoIconLabel_2, QStringLiteral("info_icon_24x24_en"));
-    initializeFrame(m_ui->buttonBox);
+    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
     m_nextButton = addBackAndNextButtons(tr("Back"), tr("Next"));
     initializeCameraTree(m_ui->cameraTreeView);
 }

@@ -68,6 +68,9 @@ void CCameraTreeTest::init()
     m_summary = std::make_unique<CUpdateSummaryDialog>();
     m_summary->setModel(m_list);
     m_dialog->setModel(m_model);
+    // Also where the screen is smaller.
+    m_dialog->resize(570, 556);
+    m_summary->resize(570, 556);
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
     m_tree = getTree(*m_dialog);
