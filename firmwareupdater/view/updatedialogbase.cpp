@@ -54,8 +54,11 @@ void CUpdateDialogBase::initializeFrame(QVBoxLayout *content, QDialogButtonBox *
     m_content = content;
     for (int i = 0; i < content->count(); ++i) {
         QSpacerItem *gap = content->itemAt(i)->spacerItem();
-        if (gap && gap->sizePolicy().verticalPolicy() == QSizePolicy::Fixed
-            && gap->sizeHint().height() > ROW_GAP) {
+        if (!gap)
+            continue;
+        if (gap->expandingDirections() & Qt::Vertical) {
+            content->setStretch(i, 1);
+        } else if (gap->sizeHint().height() > ROW_GAP) {
             m_gaps.append(gap);
             m_designGapHeights.append(gap->sizeHint().height());
         }
@@ -95,6 +98,8 @@ void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
 {
     m_treeView = treeView;
     treeView->setModel(nullptr);
+    // Rows need the height of a large page more than the gaps below them.
+    m_content->setStretchFactor(treeView, 8);
     treeView->setHeader(new CTreeViewHeaderView);
 }
 
