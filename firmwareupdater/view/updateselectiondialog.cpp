@@ -8,6 +8,20 @@
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
+/// Makes large texts small enough for @p widget, whose size is fixed: they would be cut off.
+static void fitFont(QWidget *widget, const QString &text)
+{
+    const QSize space = widget->maximumSize() - QSize(8, 2);
+    const auto isTooLarge = [&](const QFont &font) {
+        const QFontMetrics metrics(font);
+        return metrics.height() > space.height() || metrics.horizontalAdvance(text) > space.width();
+    };
+    QFont font = widget->font();
+    for (int size = QFontInfo(font).pixelSize(); size > 8 && isTooLarge(font); --size)
+        font.setPixelSize(size - 1);
+    widget->setFont(font);
+}
+
 CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
     : CUpdateDialogBase(parent)
     , m_ui(std::make_unique<Ui::UpdateSelectionDialogUi>())
@@ -23,6 +37,9 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
             .arg(m_ui->updateFileLineEdit->styleSheet()));
     m_ui->updateFileLineEdit->setText(QDir::toNativeSeparators(QDir::homePath()));
     m_nextButton = addBackAndNextButtons(tr("Back"), tr("Next"));
+
+    fitFont(m_ui->updateFileLineEdit, {});
+    fitFont(m_ui->browseButton, m_ui->browseButton->text());
 
     connect(m_ui->browseButton, &QPushButton::clicked, this,
             &CUpdateSelectionDialog::browseClicked);
