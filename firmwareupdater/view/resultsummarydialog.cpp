@@ -6,9 +6,21 @@
 #include "treeviewresultdelegate.h"
 #include "ui_resultsummarydialog.h"
 
+#include <QRegularExpression>
+
 namespace Plugin::FirmwareUpdater::Internal::View {
 
 using Entity::CFirmwareUpdateEntity;
+
+/// Space between the line and the first row below it.
+static constexpr int LINE_GAP = 10;
+
+/// Lets words be broken that are longer than any in a language, as they would be cut off.
+static QString makeBreakable(QString text)
+{
+    static const QRegularExpression longWord(QStringLiteral("(\\S{40})(?=\\S)"));
+    return text.replace(longWord, QStringLiteral("\\1\u200b"));
+}
 
 CResultSummaryDialog::CResultSummaryDialog(QWidget *parent)
     : CUpdateDialogBase(parent)
@@ -93,7 +105,7 @@ void CResultSummaryDialog::setErrorTextData(const QString &message, bool lastCam
         ? tr("An error has occurred during the update.<br>Error message: %1.")
         : tr("An error has occurred during the update. The subsequent updates have been "
              "skipped.<br>Error message: %1.");
-    m_ui->errorTextLabel->setText(text.arg(message.toHtmlEscaped()));
+    m_ui->errorTextLabel->setText(text.arg(makeBreakable(message).toHtmlEscaped()));
 }
 
 void CResultSummaryDialog::dialogButtonClicked(QAbstractButton *pButton)
@@ -126,6 +138,9 @@ void CResultSummaryDialog::showTexts(bool isFailure)
         widget->setVisible(!isFailure);
     for (QWidget *widget : failureWidgets)
         widget->setVisible(isFailure);
+    // The row that follows the line keeps off it; a hidden row's margin would still take its place.
+    m_ui->errorHorizontalLayout->setContentsMargins(0, isFailure ? LINE_GAP : 0, 0, 0);
+    m_ui->infoHorizontalLayout_2->setContentsMargins(0, isFailure ? 0 : LINE_GAP, 0, 0);
     m_ui->repeatHintSpacer->changeSize(0, isFailure ? 0 : 16, QSizePolicy::Minimum,
                                        QSizePolicy::Fixed);
     // A spacer does not tell its layout of a new size.
