@@ -102,6 +102,9 @@ int main(int argc, char **argv)
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Rounded, a desktop set to 150 % would get 200 %, which does not fit on small screens.
+    QApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     const QApplication application(argc, argv);
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
