@@ -5,9 +5,13 @@
 #include "view/updatesummarydialog.h"
 #include "viewfixture.h"
 
+#include <QDialogButtonBox>
 #include <QLayout>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -25,6 +29,8 @@ private slots:
     void stayOpenWhenTheUserLeaves();
     void enterClicksNothingButNext();
     void columnsFillTheTree();
+    void showEverythingAtEverySize_data();
+    void showEverythingAtEverySize();
     void judgesTheFile();
     void showsTheFirstUpdate();
     void announcesThePathOfTheUser();
@@ -47,6 +53,12 @@ private:
     /// The dialog's signals that @p act leads to.
     template <typename TAct>
     static QString record(QDialog &dialog, const TAct &act);
+
+    /// Puts as much on each page as it may have to show.
+    void fillPages();
+
+    /// What is outside of the page, cut off or covered.
+    static QStringList getFlaws(const QDialog &dialog);
 
     /// A plus for each of the widgets that is shown, a minus for each that is hidden.
     static QString getShown(const QDialog &dialog, const std::vector<const char *> &names);
@@ -161,6 +173,93 @@ void CUpdateDialogsTest::columnsFillTheTree()
     QCOMPARE(getWidths(m_dialogs->update, 512), QVector<int>({94, 142, 148, 128}));
     QCOMPARE(getWidths(m_dialogs->update, 600), QVector<int>({110, 166, 173, 151}));
     QCOMPARE(getWidths(m_dialogs->result, 512), QVector<int>({185, 152, 175}));
+}
+
+void CUpdateDialogsTest::fillPages()
+{
+    m_dialogs = std::make_unique<CDialogs>();
+    for (CUpdateDialogBase *const dialog : m_dialogs->all)
+        dialog->setModel(makeList(60));
+    const QString text = QString("Some words of a long text. ").repeated(185);
+    m_dialogs->file.setKorvaneSupportUrl("https://a.example");
+    m_dialogs->file.updateFirmwareUpdateInfo(
+        {QSharedPointer<TestSupport::CFakeUpdateInfo>::create("2.0", text.left(300), text)}, false);
+    m_dialogs->file.updateCompatibility(false, false);
+    m_dialogs->summary.updateDowngradeInfo(true);
+    m_dialogs->summary.updateSidegradeInfo(true);
+    static_cast<Entity *>(m_dialogs->result.getModel()->index(3, 0).internalPointer())
+        ->setUpdateResult(Entity::EFirmwareUpdateResult::Failed);
+    m_dialogs->result.updateView();
+    m_dialogs->result.setInfoTextData("https://a.example", "/tmp/a.log");
+    m_dialogs->result.setErrorTextData(text.left(150) + QString(150, 'W'), false);
+}
+
+QStringList CUpdateDialogsTest::getFlaws(const QDialog &dialog)
+{
+    QStringList flaws;
+    QRegion covered;
+    const auto widgets = dialog.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *const widget : widgets) {
+        if (widget->isHidden())
+            continue;
+        const auto *const label = qobject_cast<QLabel *>(widget);
+        if (!dialog.rect().contains(widget->geometry()))
+            flaws.append(widget->objectName() + " is outside");
+        if (covered.intersects(widget->geometry()))
+            flaws.append(widget->objectName() + " is covered");
+        if (label
+            && (label->wordWrap() ? label->heightForWidth(label->width()) > label->height()
+                                  : label->sizeHint().width() > label->width()))
+            flaws.append(widget->objectName() + " is cut off");
+        covered += widget->geometry();
+    }
+    const auto *const box = dialog.findChild<QDialogButtonBox *>();
+    if (!box->rect().contains(box->childrenRect()))
+        flaws.append("buttons are cut off");
+    return flaws;
+}
+
+void CUpdateDialogsTest::showEverythingAtEverySize_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<qreal>("textScale");
+    QTest::newRow("design size") << QSize(570, 556) << 1.0;
+    QTest::newRow("texts of 150 %") << QSize(570, 556) << 1.5;
+    QTest::newRow("1024 x 768 at 150 %") << QSize(570, 472) << 1.0;
+    QTest::newRow("maximized") << QSize(1280, 1005) << 1.0;
+}
+
+void CUpdateDialogsTest::showEverythingAtEverySize()
+{
+    QFETCH(QSize, size);
+    QFETCH(qreal, textScale);
+    const QFont usualFont = QApplication::font();
+    QFont font = usualFont;
+    font.setPointSizeF(font.pointSizeF() * textScale);
+    QApplication::setFont(font);
+    const auto restoreFont = qScopeGuard([&] { QApplication::setFont(usualFont); });
+    fillPages();
+
+    for (CUpdateDialogBase *const dialog : m_dialogs->all) {
+        dialog->show();
+        QVERIFY(dialog->screen()->availableGeometry().contains({QPoint(1, 1), dialog->size()}));
+        dialog->setMinimumSize(size);
+        dialog->resize(size);
+        QCOMPARE(dialog->size(), size);
+        QCOMPARE(getFlaws(*dialog).join(", "), QString());
+        if (const QTreeView *const tree = getTree(*dialog)) {
+            QVERIFY(tree->verticalScrollBar()->isVisible());
+            QVERIFY(tree->viewport()->height() >= 50);
+            QCOMPARE(tree->horizontalScrollBar()->maximum(), 0);
+        }
+    }
+    const auto *const area = find<QScrollArea>(m_dialogs->file, "scrollArea");
+    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+    const auto *const path = find(m_dialogs->file, "updateFileLineEdit");
+    QVERIFY(path->fontMetrics().height() < path->height() - 1);
+    QVERIFY(find(m_dialogs->file, "browseButton")->x() - path->geometry().right() < 10);
+    QVERIFY(find(m_dialogs->update, "progressIndicatorLabel")->geometry().center().x()
+            < find(m_dialogs->update, "progressBar")->geometry().right());
 }
 
 void CUpdateDialogsTest::judgesTheFile()
