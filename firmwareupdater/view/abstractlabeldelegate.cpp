@@ -5,6 +5,7 @@
 #include "treerow.h"
 
 #include <QLabel>
+#include <QTextDocumentFragment>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
@@ -66,6 +67,17 @@ QSize CAbstractLabelDelegate::sizeHint(const QStyleOptionViewItem &option,
     const CTreeRow row(index);
     const QSize hint = QStyledItemDelegate::sizeHint(option, index);
     return row.isValid() ? QSize(hint.width(), row.getHeight()) : hint;
+}
+
+QString CAbstractLabelDelegate::getText(const QModelIndex &index) const
+{
+    const CTreeRow row(index);
+    if (!row.isValid())
+        return {};
+    const CCellContent content = getContent(*row.getEntity(), index.column());
+    return content.textFormat == Qt::RichText
+        ? QTextDocumentFragment::fromHtml(content.text).toPlainText()
+        : content.text;
 }
 
 void CAbstractLabelDelegate::showContent(const CCellContent &content, const QRect &cell,

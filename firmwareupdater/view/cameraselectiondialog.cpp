@@ -17,8 +17,8 @@ CCameraSelectionDialog::CCameraSelectionDialog(QWidget *parent)
     m_ui->setupUi(this);
     // The tree begins as far below the title as on the other pages.
     m_ui->stepTitleLabel->setContentsMargins(0, 0, 0, 21);
-    setIcon(m_ui->infoIconLabel, QStringLiteral("info_icon_24x24_en"));
-    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
+    setIcon(m_ui->infoIconLabel, EIcon::Info);
+    initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);
     m_nextButton = addNextButton(tr("Next"));
     initializeCameraTree(m_ui->cameraTreeView);
     connect(m_ui->refreshButton, &QPushButton::clicked, this,

@@ -1,5 +1,8 @@
 #include "customtreeview.h"
 
+#include "accessibletreeview.h"
+#include "inputmonitor.h"
+
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -10,17 +13,28 @@ namespace Plugin::FirmwareUpdater::Internal::View {
 
 CCustomTreeView::CCustomTreeView(QWidget *parent)
     : QTreeView(parent)
+    , m_inputMonitor(new CInputMonitor(this))
 {
+    CAccessibleTreeView::installFactory();
 }
 
 void CCustomTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                   const QVector<int> &roles)
 {
+    if (const CAccessibleTreeView *const accessible = CAccessibleTreeView::find(this))
+        accessible->announceRow(topLeft);
     if (topLeft == bottomRight && !isPersistentEditorOpen(topLeft)) {
         viewport()->update();
         return;
     }
     QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
+bool CCustomTreeView::toggleRow(const QModelIndex &index)
+{
+    QKeyEvent space(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    // The box of a row stands in column 0, whichever cell is meant.
+    return edit(index.siblingAtColumn(0), AnyKeyPressed, &space);
 }
 
 void CCustomTreeView::setVisible(bool visible)
@@ -34,6 +48,14 @@ void CCustomTreeView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEdi
 {
     if (hint != QAbstractItemDelegate::EditNextItem)
         QTreeView::closeEditor(editor, hint);
+}
+
+void CCustomTreeView::showEvent(QShowEvent *event)
+{
+    QTreeView::showEvent(event);
+    // Whoever came to this page by keyboard sees at once which row the keys work on.
+    if (!event->spontaneous())
+        setKeyboardUsed(m_inputMonitor->isKeyboardUsed());
 }
 
 void CCustomTreeView::resizeEvent(QResizeEvent *event)
@@ -66,16 +88,22 @@ bool CCustomTreeView::viewportEvent(QEvent *event)
 void CCustomTreeView::focusInEvent(QFocusEvent *event)
 {
     QTreeView::focusInEvent(event);
+    // A dialog that is shown tells its first control so before the focus has really come.
+    if (!hasFocus())
+        return;
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         setKeyboardUsed(true);
+    // Later, because Qt announces now that the tree as a whole has the focus.
+    if (QAccessible::isActive()) {
+        QMetaObject::invokeMethod(this, &CCustomTreeView::announceCurrentCell,
+                                  Qt::QueuedConnection);
+    }
 }
 
 void CCustomTreeView::keyPressEvent(QKeyEvent *event)
 {
     setKeyboardUsed(true);
-    // The box of the current row stands in column 0, whichever cell is the current one.
-    if (event->key() == Qt::Key_Space
-        && edit(currentIndex().siblingAtColumn(0), AnyKeyPressed, event)) {
+    if (event->key() == Qt::Key_Space && toggleRow(currentIndex())) {
         event->accept();
         return;
     }
@@ -106,6 +134,15 @@ void CCustomTreeView::setKeyboardUsed(bool used)
     if (m_isKeyboardUsed != used) {
         m_isKeyboardUsed = used;
         viewport()->update();
+    }
+}
+
+void CCustomTreeView::announceCurrentCell()
+{
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(this);
+    if (QAccessibleInterface *const cell = accessible ? accessible->focusChild() : nullptr) {
+        QAccessibleEvent event(cell, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
     }
 }
 

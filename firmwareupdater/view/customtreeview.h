@@ -4,6 +4,8 @@
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
+class CInputMonitor;
+
 /// The camera tree of the wizard's dialogs. Its vertical scroll bar begins below the header, and
 /// its editors stay open when they write their value.
 class CCustomTreeView : public QTreeView
@@ -18,6 +20,10 @@ public:
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = {}) override;
 
+    /// Ticks or unticks the row of @p index as Space does with the current one. False when the row
+    /// has no check box.
+    bool toggleRow(const QModelIndex &index);
+
 public slots:
     void setVisible(bool visible) override;
 
@@ -27,6 +33,7 @@ protected slots:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
                  const QModelIndex &index) const override;
@@ -38,6 +45,9 @@ protected:
 private:
     void updateScrollBarGeometry();
     void setKeyboardUsed(bool used);
+    void announceCurrentCell();
+
+    const CInputMonitor *const m_inputMonitor;
 
     /// Whether the current row was reached by keyboard and so shows a focus frame.
     bool m_isKeyboardUsed = false;

@@ -16,9 +16,9 @@ CFirmwareUpdateDialog::CFirmwareUpdateDialog(QWidget *parent)
     , m_ui(std::make_unique<Ui::FirmwareUpdateDialogUi>())
 {
     m_ui->setupUi(this);
-    setIcon(m_ui->infoIconLabel_1, QStringLiteral("warning_icon_24x24_en"));
-    setIcon(m_ui->infoIconLabel_2, QStringLiteral("warning_icon_24x24_en"));
-    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
+    setIcon(m_ui->infoIconLabel_1, EIcon::Warning);
+    setIcon(m_ui->infoIconLabel_2, EIcon::Warning);
+    initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);
     initializeCameraTree(m_ui->cameraTreeView);
     m_cancelButton = m_ui->buttonBox->button(QDialogButtonBox::Cancel);
 }
@@ -50,6 +50,8 @@ void CFirmwareUpdateDialog::setModel(QSharedPointer<Model::CFirmwareUpdateTreeMo
 void CFirmwareUpdateDialog::updateOverallProgress(int current, int total)
 {
     m_ui->progressIndicatorLabel->setText(QStringLiteral("%1/%2").arg(current).arg(total));
+    m_ui->progressIndicatorLabel->setAccessibleName(
+        tr("Camera %1 of %2").arg(QString::number(current), QString::number(total)));
 }
 
 void CFirmwareUpdateDialog::updateProgress(int value, int maximum)

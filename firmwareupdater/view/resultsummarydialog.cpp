@@ -27,11 +27,11 @@ CResultSummaryDialog::CResultSummaryDialog(QWidget *parent)
     , m_ui(std::make_unique<Ui::ResultSummaryDialogUi>())
 {
     m_ui->setupUi(this);
-    setIcon(m_ui->infoIconLabel_1, QStringLiteral("info_icon_24x24_en"));
-    setIcon(m_ui->infoIconLabel_2, QStringLiteral("info_icon_24x24_en"));
-    setIcon(m_ui->infoIconLabel_3, QStringLiteral("info_icon_24x24_en"));
-    setIcon(m_ui->errorIconLabel, QStringLiteral("error_icon_24x24_en"));
-    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
+    setIcon(m_ui->infoIconLabel_1, EIcon::Info);
+    setIcon(m_ui->infoIconLabel_2, EIcon::Info);
+    setIcon(m_ui->infoIconLabel_3, EIcon::Info);
+    setIcon(m_ui->errorIconLabel, EIcon::Error);
+    initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);
     addNextButton(tr("Next"));
     initializeCameraTree(m_ui->cameraTreeView);
 }

@@ -177,6 +177,7 @@ QWidget *CTreeViewCameraSelectionDelegate::createEditor(QWidget *parent,
     checkBox->setAutoFillBackground(false);
     checkBox->setBaseSize(option.rect.size());
     checkBox->setFocusPolicy(Qt::NoFocus);
+    checkBox->setAccessibleName(index.data().toString());
     checkBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     // So high that its middle, where styles put the box, is the middle of the painted one.
     checkBox->setMaximumHeight(option.rect.height() - 2 * (top - getPaintedTop(row)));

@@ -49,7 +49,8 @@ void CUpdateDialogBase::reject()
     emit closeClicked();
 }
 
-void CUpdateDialogBase::initializeFrame(QVBoxLayout *content, QDialogButtonBox *buttonBox)
+void CUpdateDialogBase::initializeFrame(const QLabel *title, QVBoxLayout *content,
+                                        QDialogButtonBox *buttonBox)
 {
     m_content = content;
     for (int i = 0; i < content->count(); ++i) {
@@ -67,6 +68,7 @@ void CUpdateDialogBase::initializeFrame(QVBoxLayout *content, QDialogButtonBox *
     fitScreen();
 
     m_buttonBox = buttonBox;
+    setAccessibleDescription(title->text());
     connect(buttonBox, &QDialogButtonBox::clicked, this, &CUpdateDialogBase::dialogButtonClicked);
 
     // Leaving must be a decision: while Next is unavailable, Enter does nothing.
@@ -97,6 +99,7 @@ void CUpdateDialogBase::initializeFrame(QVBoxLayout *content, QDialogButtonBox *
 void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
 {
     m_treeView = treeView;
+    treeView->setAccessibleName(QObject::tr("Cameras"));
     treeView->setModel(nullptr);
     // Rows need the height of a large page more than the gaps below them.
     m_content->setStretchFactor(treeView, 8);
@@ -160,9 +163,22 @@ void CUpdateDialogBase::showColumns(QAbstractItemModel *model, const QVector<CTr
     }
 }
 
-void CUpdateDialogBase::setIcon(QLabel *label, const QString &iconName)
+void CUpdateDialogBase::setIcon(QLabel *label, EIcon icon)
 {
-    label->setPixmap(Style::getIconPixmap(iconName));
+    switch (icon) {
+    case EIcon::Info:
+        label->setPixmap(Style::getIconPixmap(QStringLiteral("info_icon_24x24_en")));
+        label->setAccessibleName(tr("Information"));
+        break;
+    case EIcon::Warning:
+        label->setPixmap(Style::getIconPixmap(QStringLiteral("warning_icon_24x24_en")));
+        label->setAccessibleName(tr("Warning"));
+        break;
+    case EIcon::Error:
+        label->setPixmap(Style::getIconPixmap(QStringLiteral("error_icon_24x24_en")));
+        label->setAccessibleName(tr("Error"));
+        break;
+    }
 }
 
 bool CUpdateDialogBase::event(QEvent *event)
@@ -197,6 +213,19 @@ void CUpdateDialogBase::showEvent(QShowEvent *event)
     // that of its frame belongs, and wander by a title bar each time that it is shown.
     if (!event->spontaneous() && !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
         windowHandle()->setFramePosition(pos());
+    if (!event->spontaneous())
+        focusFirstControl();
+}
+
+void CUpdateDialogBase::focusFirstControl()
+{
+    // Also when the page comes back, to the button with which it was left.
+    QWidget *control = nextInFocusChain();
+    while (control != this
+           && (!(control->focusPolicy() & Qt::TabFocus) || !control->isVisible()
+               || !control->isEnabled()))
+        control = control->nextInFocusChain();
+    control->setFocus();
 }
 
 void CUpdateDialogBase::resizeEvent(QResizeEvent *event)

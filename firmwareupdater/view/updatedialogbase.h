@@ -70,8 +70,9 @@ protected:
     };
 
     /// Connects the button box, makes texts readable on the dialog's white, and lets @p content,
-    /// which is all that stands above the buttons, give way on small screens.
-    void initializeFrame(QVBoxLayout *content, QDialogButtonBox *buttonBox);
+    /// which is all that stands above the buttons, give way on small screens. Screen readers get to
+    /// know @p title, because all pages have the name of the window.
+    void initializeFrame(const QLabel *title, QVBoxLayout *content, QDialogButtonBox *buttonBox);
 
     /// Empties the tree and gives it the wizard's header.
     void initializeCameraTree(QTreeView *treeView);
@@ -96,8 +97,16 @@ protected:
     /// the dialog is resized; from then on they fill the tree.
     void showColumns(QAbstractItemModel *model, const QVector<CTreeColumn> &columns);
 
-    /// Replaces a form's picture by that of the screen's resolution.
-    static void setIcon(QLabel *label, const QString &iconName);
+    /// What the picture beside a text says about it.
+    enum class EIcon {
+        Info,
+        Warning,
+        Error,
+    };
+
+    /// Replaces a form's picture by that of the screen's resolution, and names it for those who
+    /// cannot see it.
+    static void setIcon(QLabel *label, EIcon icon);
 
     bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
@@ -108,6 +117,7 @@ private:
     void fitColumns();
     void fitScreen();
     void fitGaps();
+    void focusFirstControl();
 
     QSharedPointer<Model::CFirmwareUpdateTreeModel> m_model;
     QDialogButtonBox *m_buttonBox = nullptr;

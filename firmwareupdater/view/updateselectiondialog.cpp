@@ -27,9 +27,9 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
     , m_ui(std::make_unique<Ui::UpdateSelectionDialogUi>())
 {
     m_ui->setupUi(this);
-    setIcon(m_ui->errorIconLabel, QStringLiteral("error_icon_24x24_en"));
-    setIcon(m_ui->infoIconLabel, QStringLiteral("info_icon_24x24_en"));
-    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
+    setIcon(m_ui->errorIconLabel, EIcon::Error);
+    setIcon(m_ui->infoIconLabel, EIcon::Info);
+    initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);
     // The background that a style sheet does not name comes from the application's palette. The
     // field's menu keeps the looks of the application.
     m_ui->updateFileLineEdit->setStyleSheet(

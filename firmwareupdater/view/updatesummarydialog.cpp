@@ -15,11 +15,11 @@ CUpdateSummaryDialog::CUpdateSummaryDialog(QWidget *parent)
     , m_ui(std::make_unique<Ui::UpdateSummaryDialogUi>())
 {
     m_ui->setupUi(this);
-    setIcon(m_ui->warningIconLabel_1, QStringLiteral("warning_icon_24x24_en"));
-    setIcon(m_ui->warningIconLabel_2, QStringLiteral("warning_icon_24x24_en"));
-    setIcon(m_ui->infoIconLabel_1, QStringLiteral("info_icon_24x24_en"));
-    setIcon(m_ui->infoIconLabel_2, QStringLiteral("info_icon_24x24_en"));
-    initializeFrame(m_ui->contentVerticalLayout, m_ui->buttonBox);
+    setIcon(m_ui->warningIconLabel_1, EIcon::Warning);
+    setIcon(m_ui->warningIconLabel_2, EIcon::Warning);
+    setIcon(m_ui->infoIconLabel_1, EIcon::Info);
+    setIcon(m_ui->infoIconLabel_2, EIcon::Info);
+    initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);
     m_nextButton = addBackAndNextButtons(tr("Back"), tr("Next"));
     initializeCameraTree(m_ui->cameraTreeView);
 }

@@ -1,14 +1,8 @@
 #include "core/iplugin.h"
 #include "support/fakehost.h"
+#include "support/wizardpages.h"
 #include "viewer/camerapool/camerapool.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPluginLoader>
 #include <QProgressBar>
@@ -17,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTreeView>
 #include <QtTest>
+
+using namespace WizardPages;
 
 /// The built plug-in and the viewer's camera pool together: a user clicks through the wizard, and
 /// simulated cameras are updated from real update files.
@@ -38,14 +34,10 @@ private slots:
 
 private:
     void openPool(const QString &descriptionFile);
-    [[nodiscard]] QString describeCameras(const QString &firmware, int faulty = -1);
     [[nodiscard]] QHash<QString, QString> getVersions() const;
 
-    /// The wizard's visible page, once its title begins with @p title; null when it does not come.
-    [[nodiscard]] QDialog *waitForPage(const char *title) const;
     static void click(QDialog *page, const char *button);
     static void toggle(QDialog *page, const QString &row);
-    [[nodiscard]] static QString text(const QDialog *page, const char *label);
     [[nodiscard]] static bool isShown(const QDialog *page, const char *label);
     [[nodiscard]] static QStringList column(const QDialog *page, int column);
     [[nodiscard]] QString readLog(const QDialog *resultPage) const;
@@ -108,29 +100,6 @@ void CWizardTest::openPool(const QString &descriptionFile)
     QTRY_COMPARE(announced.count(), 1);
 }
 
-QString CWizardTest::describeCameras(const QString &firmware, int faulty)
-{
-    QJsonArray cameras;
-    for (int i = 1; i <= 3; ++i) {
-        QJsonObject camera{{"id", QString("camera-%1").arg(i)},
-                           {"displayName", QString("Line %1").arg(i)},
-                           {"model", "VX-1400M"},
-                           {"serialNumber", QString("4000000%1").arg(i)},
-                           {"deviceVersion", "R2"},
-                           {"firmwareVersion", firmware},
-                           {"uploadSpeed", 100000}};
-        if (i == faulty)
-            camera.insert("faults", QJsonObject{{"uploadFailsAtByte", 5000}});
-        cameras.append(camera);
-    }
-    const QJsonObject layer{{"id", "gev"}, {"displayName", "GigE"}, {"cameras", cameras}};
-    QFile file(m_folder.filePath("cameras.json"));
-    if (!file.open(QIODevice::WriteOnly))
-        return {};
-    file.write(QJsonDocument(QJsonObject{{"format", 1}, {"layers", QJsonArray{layer}}}).toJson());
-    return file.fileName();
-}
-
 QHash<QString, QString> CWizardTest::getVersions() const
 {
     QHash<QString, QString> versions;
@@ -140,22 +109,6 @@ QHash<QString, QString> CWizardTest::getVersions() const
             versions.insert(camera->getId(), camera->getFirmwareVersion());
     }
     return versions;
-}
-
-QDialog *CWizardTest::waitForPage(const char *title) const
-{
-    const QList<QDialog *> pages = m_host->windows->getMainWindow()->findChildren<QDialog *>();
-    QDialog *found = nullptr;
-    const auto isThere = [&] {
-        for (QDialog *const page : pages) {
-            if (page->isVisible() && text(page, "stepTitleLabel").startsWith(title))
-                found = page;
-        }
-        return found != nullptr;
-    };
-    if (!QTest::qWaitFor(isThere, 60000) || !QTest::qWaitForWindowExposed(found))
-        return nullptr;
-    return found;
 }
 
 void CWizardTest::click(QDialog *page, const char *button)
@@ -182,11 +135,6 @@ void CWizardTest::toggle(QDialog *page, const QString &row)
                       tree->visualRect(found.first()).center());
 }
 
-QString CWizardTest::text(const QDialog *page, const char *label)
-{
-    return page->findChild<QLabel *>(label)->text();
-}
-
 bool CWizardTest::isShown(const QDialog *page, const char *label)
 {
     return page->findChild<QLabel *>(label)->isVisible();
@@ -203,7 +151,7 @@ QStringList CWizardTest::column(const QDialog *page, int column)
 
 QString CWizardTest::readLog(const QDialog *resultPage) const
 {
-    QFile file(text(resultPage, "infoTextLabel_2").section('"', 1, 1));
+    QFile file(getText(resultPage, "infoTextLabel_2").section('"', 1, 1));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -254,7 +202,7 @@ void CWizardTest::updatesAllCamerasOfAModel()
     QFETCH(QString, target);
     QFETCH(int, direction);
 
-    openPool(describeCameras(current));
+    openPool(describeCameras(m_folder.path(), current));
     startWizard("VX-1400M");
     chooseFile(file.constData());
 
@@ -268,7 +216,7 @@ void CWizardTest::updatesAllCamerasOfAModel()
 
     QDialog *const result = waitForPage("Step 5");
     QVERIFY(result);
-    QTRY_COMPARE(text(result, "successfulUpdatesLabel"), "Successful updates: 3");
+    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"), "Successful updates: 3");
     QVERIFY(!isShown(result, "failedUpdatesLabel"));
     QVERIFY(!isShown(result, "errorTextLabel"));
     QVERIFY(readLog(result).contains("Finished firmware update (3/3)"));
@@ -279,18 +227,18 @@ void CWizardTest::updatesAllCamerasOfAModel()
 
 void CWizardTest::stopsAtAFailureInTheMiddle()
 {
-    openPool(describeCameras("1.2.0", 2));
+    openPool(describeCameras(m_folder.path(), "1.2.0", 2));
     startWizard("VX-1400M");
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
     QDialog *const result = waitForPage("Step 5");
     QVERIFY(result);
-    QTRY_COMPARE(text(result, "successfulUpdatesLabel"), "Successful updates: 1");
-    QCOMPARE(text(result, "failedUpdatesLabel"), "Failed updates: 1");
-    QCOMPARE(text(result, "skippedUpdatesLabel"), "Skipped updates: 1");
+    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"), "Successful updates: 1");
+    QCOMPARE(getText(result, "failedUpdatesLabel"), "Failed updates: 1");
+    QCOMPARE(getText(result, "skippedUpdatesLabel"), "Skipped updates: 1");
     QCOMPARE(column(result, 7), QStringList({"0", "1", "2"}));
-    QVERIFY(text(result, "errorTextLabel").contains("subsequent updates have been skipped"));
-    QVERIFY(text(result, "errorTextLabel").contains("Line 2"));
+    QVERIFY(getText(result, "errorTextLabel").contains("subsequent updates have been skipped"));
+    QVERIFY(getText(result, "errorTextLabel").contains("Line 2"));
     QVERIFY(readLog(result).contains("Firmware update (2/3) failed."));
     QTRY_COMPARE(getVersions().value("camera-1"), "2.0.0");
     QCOMPARE(getVersions().value("camera-3"), "1.2.0");
@@ -298,7 +246,7 @@ void CWizardTest::stopsAtAFailureInTheMiddle()
 
 void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
 {
-    openPool(describeCameras("1.2.0"));
+    openPool(describeCameras(m_folder.path(), "1.2.0"));
     startWizard("VX-1400M");
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
@@ -308,7 +256,7 @@ void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
 
     QDialog *const result = waitForPage("Step 5");
     QVERIFY(result);
-    QTRY_COMPARE(text(result, "successfulUpdatesLabel"), "Successful updates: 1");
+    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"), "Successful updates: 1");
     QVERIFY(readLog(result).contains("Firmware updates have been canceled by the user"));
     // No camera that was left out has been touched, and none of them counts as updated.
     QTRY_COMPARE(getVersions().value("camera-1"), "2.0.0");
@@ -319,7 +267,7 @@ void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
 
 void CWizardTest::updatesAgainInTheSameRun()
 {
-    openPool(describeCameras("1.2.0"));
+    openPool(describeCameras(m_folder.path(), "1.2.0"));
     startWizard("Line 2");
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
@@ -376,12 +324,12 @@ void CWizardTest::tellsEachFault()
     QDialog *const result = waitForPage("Step 5");
     QVERIFY(result);
     const bool failed = !error.isEmpty();
-    QTRY_COMPARE(text(result, "successfulUpdatesLabel"),
+    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"),
                  QString("Successful updates: %1").arg(failed ? 0 : 1));
     QCOMPARE(isShown(result, "errorTextLabel"), failed);
     QCOMPARE(column(result, 7), QStringList({failed ? "1" : "0"}));
     if (failed) {
-        const QString shown = text(result, "errorTextLabel");
+        const QString shown = getText(result, "errorTextLabel");
         QVERIFY2(shown.contains(error.toHtmlEscaped()), qPrintable(shown));
         QVERIFY2(shown.startsWith("An error has occurred during the update.<br>"),
                  qPrintable(shown));

@@ -1,4 +1,5 @@
 #include "style/icons.h"
+#include "support/accessiblereader.h"
 #include "view/cameraselectiondialog.h"
 #include "view/treeviewdetailsdelegate.h"
 #include "view/treeviewheaderview.h"
@@ -40,6 +41,8 @@ private slots:
     void clicksReachTheModel();
     void disabledRowsCannotBeToggled();
     void spaceTogglesTheCurrentRow();
+    void rowsTellTheirState();
+    void cellsAreNumberedAsInEvents();
     void scrollBarBeginsBelowTheHeader();
     void arrowPointsUpAtAscendingOrder();
 
@@ -235,6 +238,60 @@ void CCameraTreeTest::spaceTogglesTheCurrentRow()
     getTree(*m_summary)->setCurrentIndex(m_list->index(1, 3));
     QTest::keyClick(getTree(*m_summary), Qt::Key_Space);
     QCOMPARE(m_list->getSelectedCameraList().count(), 1);
+}
+
+void CCameraTreeTest::rowsTellTheirState()
+{
+    const QString rows = "Layer l|A %1 (Layer l)|Camera a1 %2 (A, Layer l)|"
+                         "Camera a2 %3 (A, Layer l)|B %4 (Layer l)|Camera b1 %4 (B, Layer l)";
+    const auto read = [this] { return AccessibleReader::readRows(m_tree).join('|'); };
+    QCOMPARE(read(), rows.arg("[ ]", "[ ]", "[ ]", "[ ]"));
+    (void)AccessibleReader::takeAnnouncements();
+    click("Camera a1", 8);
+    QCOMPARE(read(), rows.arg("[-]", "[x]", "[ ]", "[ ] off"));
+    QAccessibleInterface *const cell
+        = QAccessible::queryAccessibleInterface(m_tree)->tableInterface()->cellAt(3, 0);
+    cell->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    QCOMPARE(read(), rows.arg("[x]", "[x]", "[x]", "[ ] off"));
+    const QStringList told = AccessibleReader::takeAnnouncements();
+    for (const char *row : {"A [-] (Layer l)", "A [x] (Layer l)", "Camera a1 [x] (A, Layer l)",
+                            "Camera b1 [ ] off (B, Layer l)"})
+        QCOMPARE(told.count(QString("state ") + row), 1);
+    // The live box on top of a row has the row's name.
+    QVERIFY(AccessibleReader::findNameless(*m_dialog).isEmpty());
+    // A rebuild leaves no cell of the old tree.
+    m_model->setTransportLayerInfoVector({TestSupport::makeLayer("l", {{"z1", "Z"}})});
+    m_dialog->setModel(m_model);
+    QVERIFY(!cell->isValid());
+    QCOMPARE(read(), "Layer l|Z [ ] (Layer l)|Camera z1 [ ] (Z, Layer l)");
+}
+
+void CCameraTreeTest::cellsAreNumberedAsInEvents()
+{
+    m_summary->show();
+    QTreeView *const tree = getTree(*m_summary);
+    tree->setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(m_summary.get()));
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(tree);
+    QAccessibleTableInterface *const table = accessible->tableInterface();
+    (void)AccessibleReader::takeAnnouncements();
+    // The view itself announces the current cell by its number.
+    QTest::keyClick(tree, Qt::Key_Down);
+    QCOMPARE(AccessibleReader::takeAnnouncements().constFirst(),
+             "focus " + AccessibleReader::readRows(tree).at(1));
+    QCOMPARE(accessible->focusChild(), table->cellAt(1, 0));
+    for (int i = 0; i < accessible->childCount(); ++i) {
+        QAccessibleInterface *const child = accessible->child(i);
+        QCOMPARE(accessible->indexOfChild(child), i);
+        const QPoint center = child->rect().center();
+        QAccessibleTableCellInterface *const cell = child->tableCellInterface();
+        if (!child->state().invisible)
+            QCOMPARE(accessible->childAt(center.x(), center.y()), child);
+        if (cell && !child->state().invisible)
+            QCOMPARE(table->cellAt(cell->rowIndex(), cell->columnIndex()), child);
+    }
+    QCOMPARE(accessible->childCount(), 3 * 8);
+    QCOMPARE(table->columnDescription(2), "Firmware Selected");
 }
 
 void CCameraTreeTest::scrollBarBeginsBelowTheHeader()

@@ -1,3 +1,4 @@
+#include "support/accessiblereader.h"
 #include "view/cameraselectiondialog.h"
 #include "view/firmwareupdatedialog.h"
 #include "view/resultsummarydialog.h"
@@ -28,6 +29,8 @@ private slots:
     void tellWhatWasClicked();
     void stayOpenWhenTheUserLeaves();
     void enterClicksNothingButNext();
+    void controlsHaveNames();
+    void tabGoesFromTopToBottom();
     void columnsFillTheTree();
     void showEverythingAtEverySize_data();
     void showEverythingAtEverySize();
@@ -154,6 +157,57 @@ void CUpdateDialogsTest::enterClicksNothingButNext()
         QCOMPARE(press(m_dialogs->file, "updateFileLineEdit"), wanted);
         QCOMPARE(press(m_dialogs->summary, "cameraTreeView"), wanted);
     }
+}
+
+void CUpdateDialogsTest::controlsHaveNames()
+{
+    for (CUpdateDialogBase *const dialog : m_dialogs->all) {
+        dialog->show();
+        const auto widgets = dialog->findChildren<QWidget *>();
+        for (QWidget *const widget : widgets)
+            widget->setVisible(widget->objectName() != "updateNotesTextLabel");
+        QCOMPARE(AccessibleReader::findNameless(*dialog), {});
+        QCOMPARE(AccessibleReader::describe(QAccessible::queryAccessibleInterface(dialog)),
+                 QString("Firmware Updater (%1)").arg(getText(*dialog, "stepTitleLabel")));
+    }
+    m_dialogs->update.updateOverallProgress(2, 3);
+    QVERIFY(AccessibleReader::takeAnnouncements().contains("name Camera 2 of 3"));
+}
+
+void CUpdateDialogsTest::tabGoesFromTopToBottom()
+{
+    QVector<int> counts;
+    for (CUpdateDialogBase *const dialog : m_dialogs->all) {
+        m_dialogs->file.setKorvaneSupportUrl("http://a");
+        m_dialogs->result.updateView();
+        m_dialogs->result.setInfoTextData("http://a", "/b.log");
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QVector<QWidget *> reached;
+        QWidget *focus = QApplication::focusWidget();
+        for (; !reached.contains(focus); focus = QApplication::focusWidget()) {
+            reached.append(focus);
+            // The first stroke on a text goes to its link.
+            for (int i = 0; i < 2 && QApplication::focusWidget() == focus; ++i)
+                QTest::keyClick(focus, Qt::Key_Tab);
+        }
+        QCOMPARE(focus, reached.constFirst());
+        QVERIFY(std::is_sorted(reached.cbegin(), reached.cend(),
+                               [dialog](const QWidget *left, const QWidget *right) {
+                                   const QPoint first = left->mapTo(dialog, QPoint());
+                                   const QPoint second = right->mapTo(dialog, QPoint());
+                                   return std::make_pair(first.y(), first.x())
+                                       < std::make_pair(second.y(), second.x());
+                               }));
+        counts.append(reached.count());
+        // Whichever control was used last, the page comes back with its first one.
+        reached.constLast()->setFocus();
+        dialog->hide();
+        dialog->show();
+        QCOMPARE(dialog->focusWidget(), reached.constFirst());
+        dialog->hide();
+    }
+    QCOMPARE(counts, QVector<int>({4, 8, 4, 2, 4}));
 }
 
 void CUpdateDialogsTest::columnsFillTheTree()

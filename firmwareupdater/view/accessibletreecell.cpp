@@ -1,0 +1,287 @@
+#include "accessibletreecell.h"
+
+#include "abstractlabeldelegate.h"
+#include "accessibletreeview.h"
+#include "customtreeview.h"
+#include "treerow.h"
+#include "treeviewcameraselectiondelegate.h"
+
+#include <QKeySequence>
+
+#include <algorithm>
+
+namespace Plugin::FirmwareUpdater::Internal::View {
+
+using Entity::CFirmwareUpdateEntity;
+
+/// A group counts as ticked once one of its cameras is.
+static bool isPartlyTicked(const CFirmwareUpdateEntity &group)
+{
+    const QVector<QPointer<CFirmwareUpdateEntity>> cameras = group.getChildren();
+    return std::any_of(cameras.cbegin(), cameras.cend(), [&group](const auto &camera) {
+        return camera && camera->isSelected() != group.isSelected();
+    });
+}
+
+CAccessibleTreeCell::CAccessibleTreeCell(CCustomTreeView *view, const QModelIndex &index)
+    : m_view(view)
+    , m_index(index)
+    , m_announced(getNews())
+{
+}
+
+QModelIndex CAccessibleTreeCell::getIndex() const
+{
+    return m_index;
+}
+
+void CAccessibleTreeCell::announceNews()
+{
+    const CNews before = m_announced;
+    m_announced = getNews();
+
+    // One event each: who listens looks at the first difference only.
+    QAccessible::State ticked;
+    ticked.checked = m_announced.state.checked != before.state.checked;
+    ticked.checkStateMixed = m_announced.state.checkStateMixed != before.state.checkStateMixed;
+    if (ticked.checked || ticked.checkStateMixed) {
+        QAccessibleStateChangeEvent event(this, ticked);
+        QAccessible::updateAccessibility(&event);
+    }
+    QAccessible::State disabled;
+    disabled.disabled = m_announced.state.disabled != before.state.disabled;
+    if (disabled.disabled) {
+        QAccessibleStateChangeEvent event(this, disabled);
+        QAccessible::updateAccessibility(&event);
+    }
+    if (m_announced.name != before.name) {
+        QAccessibleEvent event(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+    if (m_announced.description != before.description) {
+        QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+CAccessibleTreeCell::CNews CAccessibleTreeCell::getNews() const
+{
+    return {state(), text(QAccessible::Name), text(QAccessible::Description)};
+}
+
+bool CAccessibleTreeCell::isValid() const
+{
+    return m_view && m_index.isValid() && m_index.model() == m_view->model();
+}
+
+QObject *CAccessibleTreeCell::object() const
+{
+    return nullptr;
+}
+
+QWindow *CAccessibleTreeCell::window() const
+{
+    return parent() ? parent()->window() : nullptr;
+}
+
+QAccessibleInterface *CAccessibleTreeCell::childAt(int x, int y) const
+{
+    Q_UNUSED(x)
+    Q_UNUSED(y)
+    return nullptr;
+}
+
+QAccessibleInterface *CAccessibleTreeCell::parent() const
+{
+    return QAccessible::queryAccessibleInterface(m_view);
+}
+
+QAccessibleInterface *CAccessibleTreeCell::child(int index) const
+{
+    Q_UNUSED(index)
+    return nullptr;
+}
+
+int CAccessibleTreeCell::childCount() const
+{
+    return 0;
+}
+
+int CAccessibleTreeCell::indexOfChild(const QAccessibleInterface *child) const
+{
+    Q_UNUSED(child)
+    return -1;
+}
+
+QString CAccessibleTreeCell::text(QAccessible::Text kind) const
+{
+    if (!isValid())
+        return {};
+    switch (kind) {
+    case QAccessible::Name:
+        return getText(m_index);
+    case QAccessible::Description:
+        return getDescription();
+    default:
+        return {};
+    }
+}
+
+void CAccessibleTreeCell::setText(QAccessible::Text kind,
+                                  const QString &text){Q_UNUSED(kind) Q_UNUSED(text)}
+
+QRect CAccessibleTreeCell::rect() const
+{
+    if (!isValid())
+        return {};
+    const QRect cell = m_view->visualRect(m_index);
+    return cell.isEmpty() ? cell
+                          : QRect(m_view->viewport()->mapToGlobal(cell.topLeft()), cell.size());
+}
+
+QAccessible::Role CAccessibleTreeCell::role() const
+{
+    return QAccessible::TreeItem;
+}
+
+QAccessible::State CAccessibleTreeCell::state() const
+{
+    QAccessible::State state;
+    if (!isValid()) {
+        state.invalid = true;
+        return state;
+    }
+    state.invisible = !m_view->isVisible() || m_view->isColumnHidden(m_index.column());
+    state.offscreen = !m_view->viewport()->rect().intersects(m_view->visualRect(m_index));
+    state.focusable = true;
+    state.focused = m_view->hasFocus() && m_view->currentIndex() == m_index;
+    state.expanded = m_view->isExpanded(m_index) && m_view->model()->hasChildren(m_index);
+
+    const CTreeRow row(m_index);
+    if (!row.isValid())
+        return state;
+    const QPointer<CFirmwareUpdateEntity> entity = row.getEntity();
+    state.disabled = !entity->isEnabled();
+    if (hasCheckBox()) {
+        state.checkable = true;
+        // A row that cannot be ticked is painted without its tick.
+        state.checked = entity->isEnabled() && entity->isSelected();
+        state.checkStateMixed = state.checked && isPartlyTicked(*entity);
+    }
+    return state;
+}
+
+void *CAccessibleTreeCell::interface_cast(QAccessible::InterfaceType type)
+{
+    switch (type) {
+    case QAccessible::TableCellInterface:
+        return static_cast<QAccessibleTableCellInterface *>(this);
+    case QAccessible::ActionInterface:
+        return static_cast<QAccessibleActionInterface *>(this);
+    default:
+        return nullptr;
+    }
+}
+
+bool CAccessibleTreeCell::isSelected() const
+{
+    return false;
+}
+
+QList<QAccessibleInterface *> CAccessibleTreeCell::columnHeaderCells() const
+{
+    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(m_view);
+    QAccessibleInterface *const title = tree ? tree->getTitle(m_index.column()) : nullptr;
+    return title ? QList<QAccessibleInterface *>{title} : QList<QAccessibleInterface *>();
+}
+
+QList<QAccessibleInterface *> CAccessibleTreeCell::rowHeaderCells() const
+{
+    return {};
+}
+
+int CAccessibleTreeCell::columnIndex() const
+{
+    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(m_view);
+    return tree ? tree->getTableColumn(m_index.column()) : -1;
+}
+
+int CAccessibleTreeCell::rowIndex() const
+{
+    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(m_view);
+    return tree ? tree->getTableRow(m_index) : -1;
+}
+
+int CAccessibleTreeCell::columnExtent() const
+{
+    return 1;
+}
+
+int CAccessibleTreeCell::rowExtent() const
+{
+    return 1;
+}
+
+QAccessibleInterface *CAccessibleTreeCell::table() const
+{
+    return parent();
+}
+
+QStringList CAccessibleTreeCell::actionNames() const
+{
+    QStringList names;
+    if (isValid() && hasCheckBox() && !state().disabled)
+        names.append(toggleAction());
+    names.append(setFocusAction());
+    return names;
+}
+
+void CAccessibleTreeCell::doAction(const QString &actionName)
+{
+    if (!actionNames().contains(actionName) || !isValid())
+        return;
+    if (actionName == toggleAction()) {
+        m_view->toggleRow(m_index);
+    } else {
+        m_view->setFocus();
+        m_view->setCurrentIndex(m_index);
+    }
+}
+
+QStringList CAccessibleTreeCell::keyBindingsForAction(const QString &actionName) const
+{
+    return actionName == toggleAction() ? QStringList(QKeySequence(Qt::Key_Space).toString())
+                                        : QStringList();
+}
+
+bool CAccessibleTreeCell::hasCheckBox() const
+{
+    const CTreeRow row(m_index);
+    return row.isValid() && !row.isTransportLayer()
+        && qobject_cast<CTreeViewCameraSelectionDelegate *>(m_view->itemDelegate(m_index));
+}
+
+QString CAccessibleTreeCell::getText(const QModelIndex &index) const
+{
+    const auto *const delegate
+        = qobject_cast<const CAbstractLabelDelegate *>(m_view->itemDelegate(index));
+    return delegate ? delegate->getText(index) : index.data().toString();
+}
+
+QString CAccessibleTreeCell::getDescription() const
+{
+    QStringList parts;
+    for (QModelIndex parent = m_index.parent(); parent.isValid(); parent = parent.parent())
+        parts.append(getText(parent));
+    const QAbstractItemModel *const model = m_index.model();
+    for (int column = 0; column < model->columnCount(); ++column) {
+        const QString text = getText(m_index.sibling(m_index.row(), column));
+        if (column != m_index.column() && !m_view->isColumnHidden(column) && !text.isEmpty()) {
+            const QString title = model->headerData(column, Qt::Horizontal).toString();
+            parts.append(QStringLiteral("%1: %2").arg(title, text));
+        }
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace Plugin::FirmwareUpdater::Internal::View

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QApplication>
+#include <QDialog>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QtTest>
+
+/// What tests of the whole wizard share: cameras for it, and its pages.
+namespace WizardPages {
+
+/// Describes the simulated cameras "Line 1" to "Line 3" of the model VX-1400M in a file in
+/// @p folder. The upload to camera number @p faulty breaks off.
+inline QString describeCameras(const QString &folder, const QString &firmware, int faulty = -1)
+{
+    QJsonArray cameras;
+    for (int i = 1; i <= 3; ++i) {
+        QJsonObject camera{{"id", QString("camera-%1").arg(i)},
+                           {"displayName", QString("Line %1").arg(i)},
+                           {"model", "VX-1400M"},
+                           {"serialNumber", QString("4000000%1").arg(i)},
+                           {"deviceVersion", "R2"},
+                           {"firmwareVersion", firmware},
+                           {"uploadSpeed", 100000}};
+        if (i == faulty)
+            camera.insert("faults", QJsonObject{{"uploadFailsAtByte", 5000}});
+        cameras.append(camera);
+    }
+    const QJsonObject layer{{"id", "gev"}, {"displayName", "GigE"}, {"cameras", cameras}};
+    QFile file(folder + "/cameras.json");
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write(QJsonDocument(QJsonObject{{"format", 1}, {"layers", QJsonArray{layer}}}).toJson());
+    return file.fileName();
+}
+
+inline QString getText(const QDialog *page, const char *label)
+{
+    return page->findChild<QLabel *>(label)->text();
+}
+
+/// The wizard's page with a title that begins with @p title, shown or not.
+inline QDialog *findPage(const char *title)
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *const window : windows) {
+        auto *const page = qobject_cast<QDialog *>(window);
+        if (page && page->findChild<QLabel *>("stepTitleLabel")
+            && getText(page, "stepTitleLabel").startsWith(title))
+            return page;
+    }
+    return nullptr;
+}
+
+/// The same once it is shown; null when that does not happen.
+inline QDialog *waitForPage(const char *title)
+{
+    QDialog *const page = findPage(title);
+    const bool isShown = page && QTest::qWaitFor([page] { return page->isVisible(); }, 60000)
+        && QTest::qWaitForWindowExposed(page);
+    return isShown ? page : nullptr;
+}
+
+} // namespace WizardPages
