@@ -2,12 +2,12 @@
 
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
+#include "style/buttonfocusstyle.h"
 #include "style/icons.h"
 #include "treeviewheaderview.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QScreen>
 #include <QTreeView>
@@ -29,6 +29,7 @@ CUpdateDialogBase::CUpdateDialogBase(QWidget *parent)
     : QDialog(parent,
               Qt::Window | Qt::WindowMaximizeButtonHint | Qt::CustomizeWindowHint
                   | Qt::WindowCloseButtonHint)
+    , m_buttonStyle(new Style::CButtonFocusStyle(this))
 {
 }
 
@@ -78,6 +79,7 @@ void CUpdateDialogBase::initializeFrame(const QLabel *title, QVBoxLayout *conten
             pushButton->setAutoDefault(false);
             // Back and Next have no icon either.
             pushButton->setIcon({});
+            pushButton->setStyle(m_buttonStyle);
         }
     }
 
@@ -109,18 +111,25 @@ void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
 QPushButton *CUpdateDialogBase::addBackAndNextButtons(const QString &backText,
                                                       const QString &nextText)
 {
-    m_backButton = m_buttonBox->addButton(backText, QDialogButtonBox::AcceptRole);
+    m_backButton = addButton(backText, QDialogButtonBox::AcceptRole);
     m_backButton->setAutoDefault(false);
-    QPushButton *nextButton = m_buttonBox->addButton(nextText, QDialogButtonBox::DestructiveRole);
+    QPushButton *nextButton = addButton(nextText, QDialogButtonBox::DestructiveRole);
     setDefaultButton(nextButton, true);
     return nextButton;
 }
 
 QPushButton *CUpdateDialogBase::addNextButton(const QString &text)
 {
-    QPushButton *nextButton = m_buttonBox->addButton(text, QDialogButtonBox::AcceptRole);
+    QPushButton *nextButton = addButton(text, QDialogButtonBox::AcceptRole);
     setDefaultButton(nextButton, true);
     return nextButton;
+}
+
+QPushButton *CUpdateDialogBase::addButton(const QString &text, QDialogButtonBox::ButtonRole role)
+{
+    QPushButton *button = m_buttonBox->addButton(text, role);
+    button->setStyle(m_buttonStyle);
+    return button;
 }
 
 CUpdateDialogBase::EButton CUpdateDialogBase::getButton(QAbstractButton *button) const

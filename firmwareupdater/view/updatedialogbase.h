@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QSharedPointer>
@@ -8,7 +9,6 @@
 
 class QAbstractButton;
 class QAbstractItemModel;
-class QDialogButtonBox;
 class QLabel;
 class QSpacerItem;
 class QTreeView;
@@ -16,6 +16,10 @@ class QVBoxLayout;
 
 namespace Plugin::FirmwareUpdater::Internal::Model {
 class CFirmwareUpdateTreeModel;
+}
+
+namespace Plugin::FirmwareUpdater::Internal::Style {
+class CButtonFocusStyle;
 }
 
 namespace Plugin::FirmwareUpdater::Internal::View {
@@ -114,12 +118,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    [[nodiscard]] QPushButton *addButton(const QString &text, QDialogButtonBox::ButtonRole role);
     void fitColumns();
     void fitScreen();
     void fitGaps();
     void focusFirstControl();
 
     QSharedPointer<Model::CFirmwareUpdateTreeModel> m_model;
+    Style::CButtonFocusStyle *const m_buttonStyle;
     QDialogButtonBox *m_buttonBox = nullptr;
     QVBoxLayout *m_content = nullptr;
     QVector<QSpacerItem *> m_gaps; ///< those of m_content that give way on small screens

@@ -5,6 +5,7 @@
 #include "ui_updateselectiondialog.h"
 
 #include <QDir>
+#include <QScrollBar>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
@@ -45,6 +46,12 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
             &CUpdateSelectionDialog::browseClicked);
     connect(m_ui->updateFileLineEdit, &QLineEdit::textEdited, this,
             &CUpdateSelectionDialog::pathChanged);
+    // The keyboard goes to the details only when they can be scrolled.
+    m_ui->scrollArea->setFocusPolicy(Qt::NoFocus);
+    connect(m_ui->scrollArea->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this](int minimum, int maximum) {
+                m_ui->scrollArea->setFocusPolicy(maximum > minimum ? Qt::StrongFocus : Qt::NoFocus);
+            });
 }
 
 CUpdateSelectionDialog::~CUpdateSelectionDialog() = default;

@@ -176,29 +176,26 @@ void CUpdateDialogsTest::controlsHaveNames()
 
 void CUpdateDialogsTest::tabGoesFromTopToBottom()
 {
+    m_dialogs->file.setKorvaneSupportUrl("http://a");
+    m_dialogs->result.setInfoTextData("http://a", "/b.log");
+    m_dialogs->result.updateView();
     QVector<int> counts;
     for (CUpdateDialogBase *const dialog : m_dialogs->all) {
-        m_dialogs->file.setKorvaneSupportUrl("http://a");
-        m_dialogs->result.updateView();
-        m_dialogs->result.setInfoTextData("http://a", "/b.log");
         dialog->show();
         QVERIFY(QTest::qWaitForWindowActive(dialog));
         QVector<QWidget *> reached;
+        QVector<std::pair<int, int>> places;
         QWidget *focus = QApplication::focusWidget();
         for (; !reached.contains(focus); focus = QApplication::focusWidget()) {
             reached.append(focus);
+            const QPoint corner = focus->mapTo(dialog, QPoint());
+            places.append({corner.y(), corner.x()});
             // The first stroke on a text goes to its link.
             for (int i = 0; i < 2 && QApplication::focusWidget() == focus; ++i)
                 QTest::keyClick(focus, Qt::Key_Tab);
         }
         QCOMPARE(focus, reached.constFirst());
-        QVERIFY(std::is_sorted(reached.cbegin(), reached.cend(),
-                               [dialog](const QWidget *left, const QWidget *right) {
-                                   const QPoint first = left->mapTo(dialog, QPoint());
-                                   const QPoint second = right->mapTo(dialog, QPoint());
-                                   return std::make_pair(first.y(), first.x())
-                                       < std::make_pair(second.y(), second.x());
-                               }));
+        QVERIFY(std::is_sorted(places.cbegin(), places.cend()));
         counts.append(reached.count());
         // Whichever control was used last, the page comes back with its first one.
         reached.constLast()->setFocus();
@@ -207,7 +204,7 @@ void CUpdateDialogsTest::tabGoesFromTopToBottom()
         QCOMPARE(dialog->focusWidget(), reached.constFirst());
         dialog->hide();
     }
-    QCOMPARE(counts, QVector<int>({4, 8, 4, 2, 4}));
+    QCOMPARE(counts, QVector<int>({4, 7, 4, 2, 4}));
 }
 
 void CUpdateDialogsTest::columnsFillTheTree()
