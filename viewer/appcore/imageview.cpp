@@ -16,6 +16,7 @@ CImageView::CImageView(QWidget *parent)
     : QWidget(parent)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Image"));
     setMinimumSize(240, 180);
 }
 

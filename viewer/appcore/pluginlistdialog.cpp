@@ -25,6 +25,7 @@ CPluginListDialog::CPluginListDialog(const QList<PluginSystem::CPluginSpec> &spe
     resize(560, 380);
 
     m_tree->setObjectName(QStringLiteral("pluginTree"));
+    m_tree->setAccessibleName(windowTitle());
     m_tree->setColumnCount(ColumnCount);
     m_tree->setHeaderLabels({tr("Name"), tr("Version"), tr("State")});
     m_tree->setRootIsDecorated(false);

@@ -23,6 +23,7 @@ CTextDialog::CTextDialog(const QString &title, const QString &text, QWidget *par
     m_hintLabel->setWordWrap(true);
     m_hintLabel->hide();
     m_textEdit->setObjectName(QStringLiteral("textEdit"));
+    m_textEdit->setAccessibleName(title);
     m_textEdit->setReadOnly(true);
     m_textEdit->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_textEdit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
