@@ -21,8 +21,10 @@ CCustomTreeView::CCustomTreeView(QWidget *parent)
 void CCustomTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                                   const QVector<int> &roles)
 {
-    if (const CAccessibleTreeView *const accessible = CAccessibleTreeView::find(this))
-        accessible->announceRow(topLeft);
+    if (QAccessible::isActive()) {
+        if (const CAccessibleTreeView *const accessible = CAccessibleTreeView::find(this))
+            accessible->announceRow(topLeft);
+    }
     if (topLeft == bottomRight && !isPersistentEditorOpen(topLeft)) {
         viewport()->update();
         return;
