@@ -106,6 +106,9 @@ void CUpdateSelectionDialog::setVisible(bool visible)
     if (visible)
         emit pathChanged(m_ui->updateFileLineEdit->text());
     CUpdateDialogBase::setVisible(visible);
+    // Qt tells the first control of a page that Tab has led to it, and a field then selects its
+    // text. Here a folder waits for the name of a file behind it.
+    m_ui->updateFileLineEdit->deselect();
 }
 
 void CUpdateSelectionDialog::dialogButtonClicked(QAbstractButton *pButton)
