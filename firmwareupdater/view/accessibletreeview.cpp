@@ -60,9 +60,6 @@ QAccessibleInterface *CAccessibleTreeView::getCell(const QModelIndex &index) con
 {
     if (!index.isValid())
         return nullptr;
-    // Changes of the model are only told while a screen reader runs. A rebuild leaves no cell.
-    if (!m_cells.isEmpty() && !m_cells.constBegin().key().isValid())
-        forgetCells();
     auto id = m_cells.find(index);
     if (id == m_cells.end()) {
         auto *const cell = new CAccessibleTreeCell(getView(), index);
@@ -295,7 +292,7 @@ QVector<int> CAccessibleTreeView::getShownColumns() const
     return columns;
 }
 
-void CAccessibleTreeView::forgetCells() const
+void CAccessibleTreeView::forgetCells()
 {
     for (const QAccessible::Id id : qAsConst(m_cells))
         QAccessible::deleteAccessibleInterface(id);

@@ -79,9 +79,9 @@ private:
     [[nodiscard]] QVector<QModelIndex> getShownRows() const;
     [[nodiscard]] QVector<int> getShownColumns() const;
     void announceCell(const QModelIndex &index) const;
-    void forgetCells() const;
+    void forgetCells();
 
-    // Made when somebody asks for them; the ids belong to this.
+    // Made when somebody asks for them; the interfaces with these ids belong to this.
     mutable QHash<QPersistentModelIndex, QAccessible::Id> m_cells;
     mutable QHash<int, QAccessible::Id> m_titles;
 };

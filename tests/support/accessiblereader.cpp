@@ -18,14 +18,17 @@ bool QAccessible::isActive()
 
 void QAccessible::updateAccessibility(QAccessibleEvent *event)
 {
+    QAccessibleInterface *const accessible = event->accessibleInterface();
+    if (event->type() == TableModelChanged && accessible->tableInterface())
+        accessible->tableInterface()->modelChange(
+            static_cast<QAccessibleTableModelChangeEvent *>(event));
     static const QHash<int, QString> kinds{{Focus, "focus "},
                                            {StateChanged, "state "},
                                            {NameChanged, "name "},
                                            {DescriptionChanged, "description "},
                                            {ValueChanged, "value "}};
     if (kinds.contains(event->type()))
-        announcements.append(kinds.value(event->type())
-                             + AccessibleReader::describe(event->accessibleInterface()));
+        announcements.append(kinds.value(event->type()) + AccessibleReader::describe(accessible));
 }
 
 namespace AccessibleReader {

@@ -190,9 +190,12 @@ void CUpdateDialogsTest::tabGoesFromTopToBottom()
             reached.append(focus);
             const QPoint corner = focus->mapTo(dialog, QPoint());
             places.append({corner.y(), corner.x()});
+            const QImage focused = focus->grab().toImage();
             // The first stroke on a text goes to its link.
             for (int i = 0; i < 2 && QApplication::focusWidget() == focus; ++i)
                 QTest::keyClick(focus, Qt::Key_Tab);
+            // Also the button that Enter clicks shows whether it has the focus.
+            QVERIFY(!qobject_cast<QPushButton *>(focus) || focus->grab().toImage() != focused);
         }
         QCOMPARE(focus, reached.constFirst());
         QVERIFY(std::is_sorted(places.cbegin(), places.cend()));
