@@ -1,0 +1,326 @@
+#include "cameramemory.h"
+
+#include "featuredescription.h"
+#include "icameraobserver.h"
+#include "memorymap.h"
+
+#include <QtEndian>
+
+#include <cstring>
+#include <utility>
+
+namespace VirtualCamera {
+
+using Gvcp::EStatus;
+
+// Values of FileOperationStatus.
+static constexpr quint32 FileSuccess = 0;
+static constexpr quint32 FileFailure = 1;
+
+CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer)
+    : m_settings(settings)
+    , m_observer(observer)
+    , m_bootstrap(MemoryMap::BOOTSTRAP_SIZE, '\0')
+    , m_description(makeFeatureDescription(settings.bufferLength))
+    , m_features(MemoryMap::FEATURES_SIZE, '\0')
+    , m_buffer(settings.bufferLength, '\0')
+    , m_firmwareVersion(settings.firmwareVersion)
+{
+    setUpBootstrap();
+    setUpFeatures();
+}
+
+void CCameraMemory::setUpBootstrap()
+{
+    setWord(MemoryMap::PROTOCOL_VERSION, 0x00010002);
+    setWord(MemoryMap::DEVICE_MODE, 0x80000001); // big-endian registers, texts in UTF-8
+    // A hardware address of the kind that nobody has bought.
+    setWord(MemoryMap::HARDWARE_ADDRESS_HIGH, 0x0200);
+    setWord(MemoryMap::HARDWARE_ADDRESS_LOW, m_settings.address);
+    setWord(MemoryMap::SUPPORTED_IP_CONFIGURATION, 0x00000005);
+    setWord(MemoryMap::CURRENT_IP_CONFIGURATION, 0x00000005);
+    setWord(MemoryMap::CURRENT_ADDRESS, m_settings.address);
+    setWord(MemoryMap::CURRENT_SUBNET_MASK, 0xff000000);
+    setText(MemoryMap::VENDOR_NAME, m_settings.vendor, 32);
+    setText(MemoryMap::MODEL_NAME, m_settings.model, 32);
+    setText(MemoryMap::DEVICE_VERSION, m_firmwareVersion, 32);
+    setText(MemoryMap::VENDOR_INFORMATION, "virtual camera", 48);
+    setText(MemoryMap::SERIAL_NUMBER, m_settings.serialNumber, 16);
+    setText(MemoryMap::USER_NAME, m_settings.userName, 16);
+    setText(MemoryMap::FIRST_URL,
+            "Local:camera.xml;" + QByteArray::number(MemoryMap::DESCRIPTION, 16) + ';'
+                + QByteArray::number(m_description.size(), 16),
+            MemoryMap::URL_SIZE);
+    setWord(MemoryMap::INTERFACE_COUNT, 1);
+    setWord(MemoryMap::CAPABILITY, 0xc0000007); // user name, serial number, writes, many registers
+    setWord(MemoryMap::HEARTBEAT_TIMEOUT,
+            static_cast<quint32>(m_settings.heartbeatTimeout.count()));
+    setWord(MemoryMap::TICK_FREQUENCY_LOW, 1000);
+}
+
+void CCameraMemory::setUpFeatures()
+{
+    m_features.fill('\0');
+    setText(MemoryMap::FIRMWARE_VERSION, m_firmwareVersion, 32);
+    setWord(MemoryMap::DEVICE_STATUS, m_settings.status);
+    const float exposureTime = 10000.0F;
+    quint32 bits = 0;
+    std::memcpy(&bits, &exposureTime, sizeof bits);
+    setWord(MemoryMap::EXPOSURE_TIME, bits);
+    setWord(MemoryMap::FILE_ACCESS_LENGTH, static_cast<quint32>(m_settings.bufferLength));
+    setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
+}
+
+char *CCameraMemory::getRegister(quint32 address)
+{
+    return address < MemoryMap::FEATURES ? m_bootstrap.data() + address
+                                         : m_features.data() + (address - MemoryMap::FEATURES);
+}
+
+void CCameraMemory::setWord(quint32 address, quint32 value)
+{
+    qToBigEndian(value, getRegister(address));
+}
+
+quint32 CCameraMemory::getWord(quint32 address) const
+{
+    int offset = 0;
+    const QByteArray *const area = findArea(address, 4, offset);
+    return Gvcp::readWord(*area, offset);
+}
+
+void CCameraMemory::setText(quint32 address, const QByteArray &text, int size)
+{
+    // One byte stays for the end of the text.
+    const QByteArray field = text.left(size - 1).leftJustified(size, '\0');
+    std::memcpy(getRegister(address), field.constData(), static_cast<std::size_t>(size));
+}
+
+const QByteArray *CCameraMemory::findArea(quint32 address, int size, int &offset) const
+{
+    const std::pair<quint32, const QByteArray *> areas[] = {
+        {0, &m_bootstrap},
+        {MemoryMap::DESCRIPTION, &m_description},
+        {MemoryMap::FEATURES, &m_features},
+        {MemoryMap::FILE_ACCESS_BUFFER, &m_buffer},
+    };
+    for (const auto &[begin, bytes] : areas) {
+        if (address >= begin && address - begin + static_cast<qint64>(size) <= bytes->size()) {
+            offset = static_cast<int>(address - begin);
+            return bytes;
+        }
+    }
+    return nullptr;
+}
+
+EStatus CCameraMemory::read(quint32 address, int size, Time now, QByteArray &bytes) const
+{
+    int offset = 0;
+    const QByteArray *const area = findArea(address, size, offset);
+    if (!area)
+        return EStatus::InvalidAddress;
+    bytes = area->mid(offset, size);
+
+    // A command reads as not yet done for as long as it takes.
+    const qint64 command = static_cast<qint64>(MemoryMap::FIRMWARE_ACTIVATE) - address;
+    if (now < m_activationEnd && command >= 0 && command < size)
+        qToBigEndian<quint32>(1, bytes.data() + command);
+    return EStatus::Success;
+}
+
+bool CCameraMemory::isWritable(quint32 address)
+{
+    if (address < MemoryMap::FEATURES) {
+        const bool isUserName
+            = address >= MemoryMap::USER_NAME && address < MemoryMap::DISCOVERY_SIZE;
+        return isUserName || address == MemoryMap::HEARTBEAT_TIMEOUT;
+    }
+    switch (address) {
+    case MemoryMap::DEVICE_STATUS:
+    case MemoryMap::FILE_OPERATION_STATUS:
+    case MemoryMap::FILE_OPERATION_RESULT:
+    case MemoryMap::FILE_SIZE:
+        return false;
+    default:
+        return address >= MemoryMap::DEVICE_STATUS;
+    }
+}
+
+CCameraMemory::CWriteResult CCameraMemory::write(quint32 address, const QByteArray &bytes, Time now)
+{
+    int offset = 0;
+    const QByteArray *const area = findArea(address, bytes.size(), offset);
+    if (!area)
+        return {EStatus::InvalidAddress, {}};
+    if (area == &m_buffer) {
+        m_buffer.replace(offset, bytes.size(), bytes);
+        return {};
+    }
+    for (int i = 0; i < bytes.size(); i += 4) {
+        if (!isWritable(address + static_cast<quint32>(i)))
+            return {EStatus::WriteProtect, {}};
+    }
+    CWriteResult result;
+    for (int i = 0; i < bytes.size() && result.status == EStatus::Success; i += 4) {
+        const CWriteResult next
+            = writeWord(address + static_cast<quint32>(i), Gvcp::readWord(bytes, i), now);
+        result = {next.status, result.duration + next.duration};
+    }
+    return result;
+}
+
+CCameraMemory::CWriteResult CCameraMemory::writeWord(quint32 address, quint32 value, Time now)
+{
+    switch (address) {
+    case MemoryMap::DEVICE_RESET:
+    case MemoryMap::FIRMWARE_ACTIVATE:
+    case MemoryMap::FILE_OPERATION_EXECUTE:
+        return value == 0 ? CWriteResult() : executeCommand(address, now);
+    case MemoryMap::FILE_ACCESS_LENGTH:
+        if (value == 0 || value > static_cast<quint32>(m_settings.bufferLength))
+            return {EStatus::InvalidParameter, {}};
+        break;
+    case MemoryMap::HEARTBEAT_TIMEOUT:
+        // Shorter ones are of no use: a camera rounds them up.
+        value = qMax<quint32>(value, 500);
+        break;
+    default:
+        break;
+    }
+    setWord(address, value);
+    return {};
+}
+
+CCameraMemory::CWriteResult CCameraMemory::executeCommand(quint32 address, Time now)
+{
+    switch (address) {
+    case MemoryMap::DEVICE_RESET:
+        if (isRefused("DeviceReset"))
+            return {EStatus::Error, {}};
+        m_resetRequested = true;
+        return {};
+    case MemoryMap::FIRMWARE_ACTIVATE:
+        if (isRefused("FirmwareActivate") || m_file.getVersion().isEmpty())
+            return {EStatus::Error, {}};
+        m_activatedVersion = m_file.getVersion();
+        m_activationEnd = now + m_settings.activationDuration;
+        m_observer.onEvent("activate " + m_activatedVersion);
+        return {};
+    default:
+        if (isRefused("FileOperationExecute"))
+            return {EStatus::Error, {}};
+        return executeFileOperation();
+    }
+}
+
+CCameraMemory::CWriteResult CCameraMemory::executeFileOperation()
+{
+    quint32 result = 0;
+    const bool succeeded = runFileOperation(result);
+    setWord(MemoryMap::FILE_OPERATION_STATUS, succeeded ? FileSuccess : FileFailure);
+    setWord(MemoryMap::FILE_OPERATION_RESULT, result);
+    setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
+    const bool isOpening
+        = getWord(MemoryMap::FILE_OPERATION_SELECTOR) == static_cast<quint32>(EFileOperation::Open);
+    return {EStatus::Success, isOpening && succeeded ? m_settings.openDuration : Time(0)};
+}
+
+bool CCameraMemory::runFileOperation(quint32 &result)
+{
+    const quint32 offset = getWord(MemoryMap::FILE_ACCESS_OFFSET);
+    const int length = static_cast<int>(getWord(MemoryMap::FILE_ACCESS_LENGTH));
+    switch (static_cast<EFileOperation>(getWord(MemoryMap::FILE_OPERATION_SELECTOR))) {
+    case EFileOperation::Open:
+        if (!m_file.open(getWord(MemoryMap::FILE_OPEN_MODE)))
+            return false;
+        m_observer.onEvent("open FirmwareImage");
+        return true;
+    case EFileOperation::Close:
+        if (!m_file.close())
+            return false;
+        m_observer.onEvent("close " + QByteArray::number(m_file.getContent().size()));
+        m_observer.onFileClosed(m_file.getContent());
+        return true;
+    case EFileOperation::Read: {
+        const QByteArray bytes = m_file.read(offset, length);
+        if (bytes.isNull())
+            return false;
+        m_buffer.replace(0, bytes.size(), bytes);
+        result = static_cast<quint32>(bytes.size());
+        return true;
+    }
+    case EFileOperation::Write: {
+        const int written = m_file.write(offset, m_buffer.left(length));
+        if (written < 0)
+            return false;
+        m_uploadedBytes += written;
+        result = static_cast<quint32>(written);
+        return true;
+    }
+    case EFileOperation::Delete:
+        return m_file.remove();
+    }
+    return false;
+}
+
+bool CCameraMemory::isRefused(const char *command) const
+{
+    if (m_settings.refusedCommand != command)
+        return false;
+    m_observer.onEvent(QByteArray("refuse ") + command);
+    return true;
+}
+
+QByteArray CCameraMemory::getDiscoveryData() const
+{
+    return m_bootstrap.left(MemoryMap::DISCOVERY_SIZE);
+}
+
+void CCameraMemory::setControlPrivilege(quint32 value)
+{
+    setWord(MemoryMap::CONTROL_PRIVILEGE, value);
+}
+
+std::chrono::milliseconds CCameraMemory::getHeartbeatTimeout() const
+{
+    return std::chrono::milliseconds(getWord(MemoryMap::HEARTBEAT_TIMEOUT));
+}
+
+void CCameraMemory::abandonFile()
+{
+    if (!m_file.isOpen())
+        return;
+    m_file.abandon();
+    m_observer.onEvent("abandon FirmwareImage");
+}
+
+bool CCameraMemory::isResetRequested() const
+{
+    return m_resetRequested;
+}
+
+void CCameraMemory::restart()
+{
+    m_resetRequested = false;
+    m_activationEnd = Time(0);
+    if (!m_activatedVersion.isEmpty() && !m_settings.returnsWithOldVersion)
+        m_firmwareVersion = m_activatedVersion;
+    m_activatedVersion.clear();
+    m_file.abandon();
+    m_buffer.fill('\0');
+    setUpBootstrap();
+    setUpFeatures();
+    m_observer.onEvent("back " + m_firmwareVersion);
+}
+
+qint64 CCameraMemory::getUploadedBytes() const
+{
+    return m_uploadedBytes;
+}
+
+QByteArray CCameraMemory::getFirmwareVersion() const
+{
+    return m_firmwareVersion;
+}
+
+} // namespace VirtualCamera

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "camerasettings.h"
+#include "firmwarefile.h"
+#include "gvcp.h"
+
+#include <QByteArray>
+
+#include <chrono>
+
+namespace VirtualCamera {
+
+class ICameraObserver;
+
+/// Points in time are given in milliseconds since an arbitrary beginning; time never runs back.
+using Time = std::chrono::milliseconds;
+
+/// The address space of a camera and what happens when it is written: features, file access,
+/// firmware. It knows nothing of datagrams, and takes the time from its caller.
+class CCameraMemory
+{
+public:
+    struct CWriteResult
+    {
+        Gvcp::EStatus status = Gvcp::EStatus::Success;
+        std::chrono::milliseconds duration{0}; ///< until the camera has done what was asked
+    };
+
+    /// @p observer is borrowed.
+    CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer);
+
+    /// Reads @p size bytes; both numbers are multiples of 4. On any other status than Success
+    /// @p bytes is left alone.
+    Gvcp::EStatus read(quint32 address, int size, Time now, QByteArray &bytes) const;
+
+    /// Writes @p bytes, a multiple of 4 of them, all or nothing.
+    CWriteResult write(quint32 address, const QByteArray &bytes, Time now);
+
+    /// The part of the memory that answers a discovery.
+    [[nodiscard]] QByteArray getDiscoveryData() const;
+
+    /// The register shows who has control; the decision about it is not the memory's.
+    void setControlPrivilege(quint32 value);
+    [[nodiscard]] std::chrono::milliseconds getHeartbeatTimeout() const;
+
+    /// An upload that its writer has left is forgotten.
+    void abandonFile();
+
+    /// True once a reset has been asked for.
+    [[nodiscard]] bool isResetRequested() const;
+
+    /// The camera comes back from a reset: activated firmware takes effect, settings are lost.
+    void restart();
+
+    /// Bytes that have been written to the file so far, over all uploads.
+    [[nodiscard]] qint64 getUploadedBytes() const;
+
+    [[nodiscard]] QByteArray getFirmwareVersion() const;
+
+private:
+    void setUpBootstrap();
+    void setUpFeatures();
+    void setWord(quint32 address, quint32 value);
+    [[nodiscard]] quint32 getWord(quint32 address) const;
+    void setText(quint32 address, const QByteArray &text, int size);
+    [[nodiscard]] const QByteArray *findArea(quint32 address, int size, int &offset) const;
+    [[nodiscard]] char *getRegister(quint32 address);
+    [[nodiscard]] static bool isWritable(quint32 address);
+
+    CWriteResult writeWord(quint32 address, quint32 value, Time now);
+    CWriteResult executeCommand(quint32 address, Time now);
+    CWriteResult executeFileOperation();
+    [[nodiscard]] bool runFileOperation(quint32 &result);
+    [[nodiscard]] bool isRefused(const char *command) const;
+
+    const CCameraSettings m_settings;
+    ICameraObserver &m_observer;
+    QByteArray m_bootstrap;
+    QByteArray m_description;
+    QByteArray m_features;
+    QByteArray m_buffer;
+    CFirmwareFile m_file;
+    QByteArray m_firmwareVersion;
+    QByteArray m_activatedVersion; ///< takes effect at the next reset; empty: none
+    Time m_activationEnd{0};
+    qint64 m_uploadedBytes = 0;
+    bool m_resetRequested = false;
+};
+
+} // namespace VirtualCamera

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QtGlobal>
+
+#include <chrono>
+#include <optional>
+
+namespace VirtualCamera {
+
+/// What a virtual camera is, how long things take it, and what goes wrong with it.
+struct CCameraSettings
+{
+    // Identity; texts are cut to the length of their registers.
+    QByteArray vendor = "Korvane";
+    QByteArray model = "VX-1400M";
+    QByteArray serialNumber = "50000001";
+    QByteArray userName;
+    QByteArray firmwareVersion = "1.2.0"; ///< also what the discovery calls the device's version
+    quint32 address = 0x7f000002; ///< IPv4, 127.0.0.2; also the end of the hardware address
+    quint32 status = 0; ///< 0: the camera can be updated
+
+    int bufferLength = 4096; ///< of the file access buffer in bytes, 512 to 65536, a multiple of 4
+
+    std::chrono::milliseconds resetDuration{2000};
+    std::chrono::milliseconds activationDuration{200};
+    std::chrono::milliseconds openDuration{0}; ///< of the file; above 0 it is announced as pending
+    std::chrono::milliseconds heartbeatTimeout{3000};
+
+    // Faults.
+    std::optional<qint64> diesAfterBytes; ///< falls silent for ever when so much has been uploaded
+    bool neverReturns = false; ///< from a reset
+    bool returnsWithOldVersion = false;
+    QByteArray refusedCommand; ///< name of a command feature
+    int losesEvery = 0; ///< each n-th datagram is lost before it is read; 0: none
+    int losesAcknowledge = 0; ///< the answer to the n-th write of memory is lost; 0: none
+};
+
+} // namespace VirtualCamera

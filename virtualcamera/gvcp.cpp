@@ -1,0 +1,59 @@
+#include "gvcp.h"
+
+#include <QtEndian>
+
+namespace VirtualCamera::Gvcp {
+
+static constexpr quint8 Key = 0x42;
+static constexpr quint8 AcknowledgeFlag = 0x01;
+
+static quint16 readHalfWord(const QByteArray &bytes, int offset)
+{
+    return qFromBigEndian<quint16>(bytes.constData() + offset);
+}
+
+std::optional<CRequest> parseRequest(const QByteArray &datagram)
+{
+    if (datagram.size() < HEADER_SIZE || static_cast<quint8>(datagram.at(0)) != Key)
+        return {};
+
+    CRequest request;
+    request.wantsAnswer = (static_cast<quint8>(datagram.at(1)) & AcknowledgeFlag) != 0;
+    request.command = readHalfWord(datagram, 2);
+    request.id = readHalfWord(datagram, 6);
+    request.payload = datagram.mid(HEADER_SIZE);
+    request.isComplete = request.id != 0 && request.payload.size() <= MAXIMUM_PAYLOAD
+        && request.payload.size() == readHalfWord(datagram, 4);
+    return request;
+}
+
+QByteArray makeAnswer(EStatus status, quint16 command, quint16 id, const QByteArray &payload)
+{
+    QByteArray answer;
+    answer.reserve(HEADER_SIZE + payload.size());
+    appendHalfWord(answer, static_cast<quint16>(status));
+    // Each command is followed by its acknowledge.
+    appendHalfWord(answer, static_cast<quint16>(command + 1));
+    appendHalfWord(answer, static_cast<quint16>(payload.size()));
+    appendHalfWord(answer, id);
+    return answer + payload;
+}
+
+quint32 readWord(const QByteArray &bytes, int offset)
+{
+    return qFromBigEndian<quint32>(bytes.constData() + offset);
+}
+
+void appendWord(QByteArray &bytes, quint32 word)
+{
+    word = qToBigEndian(word);
+    bytes.append(reinterpret_cast<const char *>(&word), sizeof word);
+}
+
+void appendHalfWord(QByteArray &bytes, quint16 word)
+{
+    word = qToBigEndian(word);
+    bytes.append(reinterpret_cast<const char *>(&word), sizeof word);
+}
+
+} // namespace VirtualCamera::Gvcp

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QtGlobal>
+
+/// Where things lie in the camera's address space.
+namespace VirtualCamera::MemoryMap {
+
+// Bootstrap registers, placed by the standard.
+inline constexpr quint32 PROTOCOL_VERSION = 0x0000;
+inline constexpr quint32 DEVICE_MODE = 0x0004;
+inline constexpr quint32 HARDWARE_ADDRESS_HIGH = 0x0008;
+inline constexpr quint32 HARDWARE_ADDRESS_LOW = 0x000C;
+inline constexpr quint32 SUPPORTED_IP_CONFIGURATION = 0x0010;
+inline constexpr quint32 CURRENT_IP_CONFIGURATION = 0x0014;
+inline constexpr quint32 CURRENT_ADDRESS = 0x0024;
+inline constexpr quint32 CURRENT_SUBNET_MASK = 0x0034;
+inline constexpr quint32 VENDOR_NAME = 0x0048;
+inline constexpr quint32 MODEL_NAME = 0x0068;
+inline constexpr quint32 DEVICE_VERSION = 0x0088;
+inline constexpr quint32 VENDOR_INFORMATION = 0x00A8;
+inline constexpr quint32 SERIAL_NUMBER = 0x00D8;
+inline constexpr quint32 USER_NAME = 0x00E8;
+inline constexpr int DISCOVERY_SIZE = 0x00F8; ///< a discovery answer holds everything up to here
+inline constexpr quint32 FIRST_URL = 0x0200;
+inline constexpr quint32 SECOND_URL = 0x0400;
+inline constexpr int URL_SIZE = 512;
+inline constexpr quint32 INTERFACE_COUNT = 0x0600;
+inline constexpr quint32 MESSAGE_CHANNEL_COUNT = 0x0900;
+inline constexpr quint32 STREAM_CHANNEL_COUNT = 0x0904;
+inline constexpr quint32 CAPABILITY = 0x0934;
+inline constexpr quint32 HEARTBEAT_TIMEOUT = 0x0938;
+inline constexpr quint32 TICK_FREQUENCY_HIGH = 0x093C;
+inline constexpr quint32 TICK_FREQUENCY_LOW = 0x0940;
+inline constexpr quint32 CONTROL_PRIVILEGE = 0x0A00;
+inline constexpr int BOOTSTRAP_SIZE = 0x0B00;
+
+/// The description of the features, padded to a whole word.
+inline constexpr quint32 DESCRIPTION = 0x00010000;
+
+// Features.
+inline constexpr quint32 FEATURES = 0x00100000;
+inline constexpr quint32 FIRMWARE_VERSION = FEATURES + 0x00; ///< 32 bytes of text
+inline constexpr quint32 DEVICE_STATUS = FEATURES + 0x20;
+inline constexpr quint32 DEVICE_RESET = FEATURES + 0x24;
+inline constexpr quint32 FIRMWARE_UPDATE_MODE = FEATURES + 0x28;
+inline constexpr quint32 FIRMWARE_ACTIVATE = FEATURES + 0x2C;
+inline constexpr quint32 EXPOSURE_TIME = FEATURES + 0x30;
+inline constexpr quint32 REVERSE_X = FEATURES + 0x34;
+
+// File access.
+inline constexpr quint32 FILE_SELECTOR = FEATURES + 0x40;
+inline constexpr quint32 FILE_OPERATION_SELECTOR = FEATURES + 0x44;
+inline constexpr quint32 FILE_OPEN_MODE = FEATURES + 0x48;
+inline constexpr quint32 FILE_ACCESS_OFFSET = FEATURES + 0x4C;
+inline constexpr quint32 FILE_ACCESS_LENGTH = FEATURES + 0x50;
+inline constexpr quint32 FILE_OPERATION_EXECUTE = FEATURES + 0x54;
+inline constexpr quint32 FILE_OPERATION_STATUS = FEATURES + 0x58;
+inline constexpr quint32 FILE_OPERATION_RESULT = FEATURES + 0x5C;
+inline constexpr quint32 FILE_SIZE = FEATURES + 0x60;
+inline constexpr int FEATURES_SIZE = 0x64;
+
+inline constexpr quint32 FILE_ACCESS_BUFFER = 0x00200000;
+
+} // namespace VirtualCamera::MemoryMap

@@ -1,0 +1,119 @@
+#include "udpshell.h"
+
+#include <QHostAddress>
+#include <QNetworkDatagram>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace VirtualCamera {
+
+static void printLine(const QByteArray &line)
+{
+    std::fputs(line.constData(), stdout);
+    std::fputc('\n', stdout);
+    // Whoever started the camera waits for single lines.
+    std::fflush(stdout);
+}
+
+CUdpShell::CUdpShell(const CCameraSettings &settings, const QString &flashFile, QObject *parent)
+    : QObject(parent)
+    , m_address(settings.address)
+    , m_flashFile(flashFile)
+    , m_camera(settings, *this)
+{
+    m_clock.start();
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &CUdpShell::tick);
+    for (QUdpSocket *const socket : {&m_socket, &m_broadcastSocket})
+        connect(socket, &QUdpSocket::readyRead, this, [this, socket] { readDatagrams(*socket); });
+}
+
+CUdpShell::~CUdpShell() = default;
+
+bool CUdpShell::start(QString &error)
+{
+    const QHostAddress address(m_address);
+    if (!m_socket.bind(address, Gvcp::PORT, QAbstractSocket::DontShareAddress)) {
+        error = QStringLiteral("The address %1 with port %2 cannot be used: %3.")
+                    .arg(address.toString(), QString::number(Gvcp::PORT), m_socket.errorString());
+        return false;
+    }
+    // All cameras of a machine listen to the one address.
+    m_broadcastSocket.bind(QHostAddress(QHostAddress::Broadcast), Gvcp::PORT,
+                           QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
+    printLine("READY " + address.toString().toLatin1() + ':' + QByteArray::number(Gvcp::PORT));
+    return true;
+}
+
+void CUdpShell::readDatagrams(QUdpSocket &socket)
+{
+    while (socket.hasPendingDatagrams()) {
+        const QNetworkDatagram datagram = socket.receiveDatagram();
+        const CPeer sender{datagram.senderAddress().toIPv4Address(),
+                           static_cast<quint16>(datagram.senderPort())};
+        send(m_camera.handle(datagram.data(), sender, getTime()));
+    }
+    scheduleTick();
+}
+
+void CUdpShell::send(const QVector<CDatagram> &datagrams)
+{
+    for (const CDatagram &datagram : datagrams) {
+        m_socket.writeDatagram(datagram.bytes, QHostAddress(datagram.receiver.address),
+                               datagram.receiver.port);
+    }
+}
+
+void CUdpShell::tick()
+{
+    send(m_camera.tick(getTime()));
+    scheduleTick();
+}
+
+void CUdpShell::scheduleTick()
+{
+    if (const std::optional<Time> deadline = m_camera.getNextDeadline())
+        m_timer.start(std::max(*deadline - getTime(), Time(0)));
+    else
+        m_timer.stop();
+}
+
+Time CUdpShell::getTime() const
+{
+    return Time(m_clock.elapsed());
+}
+
+void CUdpShell::onEvent(const QByteArray &event)
+{
+    printLine("EVENT " + event);
+}
+
+void CUdpShell::onFileClosed(const QByteArray &content)
+{
+    if (m_flashFile.isEmpty())
+        return;
+    QSaveFile file(m_flashFile);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
+        std::fprintf(stderr, "virtualcamera: %s cannot be written: %s.\n", qPrintable(m_flashFile),
+                     qPrintable(file.errorString()));
+}
+
+void CUdpShell::printStatistics() const
+{
+    const CStatistics &statistics = m_camera.getStatistics();
+    const auto number = [](const char *name, qint64 value) {
+        return QByteArray(" ") + name + '=' + QByteArray::number(value);
+    };
+    printLine(
+        "STATS" + number("discovery", statistics.discoveries)
+        + number("readreg", statistics.registerReads)
+        + number("writereg", statistics.registerWrites) + number("readmem", statistics.memoryReads)
+        + number("writemem", statistics.memoryWrites) + number("repeated", statistics.repeated)
+        + number("lost", statistics.lost) + number("dropped", statistics.dropped)
+        + number("uploaded", m_camera.getUploadedBytes()));
+}
+
+} // namespace VirtualCamera

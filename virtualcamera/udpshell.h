@@ -1,0 +1,53 @@
+#pragma once
+
+#include "camerasettings.h"
+#include "icameraobserver.h"
+#include "virtualcamera.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QObject>
+#include <QTimer>
+#include <QUdpSocket>
+
+namespace VirtualCamera {
+
+/// Gives a virtual camera its sockets, its clock and a voice: a line on standard output for
+/// everything that happens to it.
+class CUdpShell : public QObject, private ICameraObserver
+{
+    Q_OBJECT
+
+public:
+    /// @p flashFile gets what was uploaded whenever the camera's file is closed; empty: nothing
+    /// does.
+    CUdpShell(const CCameraSettings &settings, const QString &flashFile, QObject *parent = nullptr);
+    ~CUdpShell() override;
+
+    /// Binds the camera's address and, where the system lets it, the one that discoveries are
+    /// broadcast to. False with a sentence in @p error when the address is not to be had.
+    bool start(QString &error);
+
+    /// Prints what the camera has been asked so far.
+    void printStatistics() const;
+
+private:
+    void onEvent(const QByteArray &event) override;
+    void onFileClosed(const QByteArray &content) override;
+
+    void readDatagrams(QUdpSocket &socket);
+    void send(const QVector<CDatagram> &datagrams);
+    void tick();
+    void scheduleTick();
+    [[nodiscard]] Time getTime() const;
+
+    const quint32 m_address;
+    const QString m_flashFile;
+    CVirtualCamera m_camera;
+    QUdpSocket m_socket;
+    QUdpSocket m_broadcastSocket;
+    QElapsedTimer m_clock;
+    QTimer m_timer;
+};
+
+} // namespace VirtualCamera
