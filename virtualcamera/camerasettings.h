@@ -13,7 +13,7 @@ struct CCameraSettings
 {
     // Identity; texts are cut to the length of their registers.
     QByteArray vendor = "Korvane";
-    QByteArray model = "VX-1400M";
+    QByteArray model = "GV-1400M";
     QByteArray serialNumber = "50000001";
     QByteArray userName;
     QByteArray firmwareVersion = "1.2.0"; ///< also what the discovery calls the device's version

@@ -156,7 +156,7 @@ void CVirtualCameraTest::answersByteByByte_data()
     row("register between two", "42010080 00040004 00000939", "80050081 00000004");
     row("half an address", "42010080 00020005 0000", "800e0081 00000005");
     row("memory", "42010084 00080006 00000068 00000008",
-        "00000085 000c0006 00000068 56582d31 3430304d");
+        "00000085 000c0006 00000068 47562d31 3430304d");
     row("no memory", "42010084 00080007 00000068 00000000", "80020085 00000007");
     row("too much memory", "42010084 00080008 00000000 0000021c", "80020085 00000008");
     row("memory over an end", "42010084 00080009 00000afc 00000008", "80030085 00000009");
@@ -198,7 +198,7 @@ void CVirtualCameraTest::dropsWhatIsNoRequest()
     // It goes on working.
     const QByteArray answer = ask(ECommand::Discovery, {});
     QCOMPARE(answer.size(), 256);
-    QCOMPARE(answer.mid(8 + 0x68, 9), QByteArray("VX-1400M\0", 9));
+    QCOMPARE(answer.mid(8 + 0x68, 9), QByteArray("GV-1400M\0", 9));
 }
 
 void CVirtualCameraTest::givesControlToOneAtATime()

@@ -28,6 +28,15 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         tr("Let the simulated cameras work <n> times faster than real ones (a demonstration: %1).")
             .arg(DemoSpeedFactor),
         tr("n"));
+    const QCommandLineOption noSimulationOption(QStringLiteral("no-simulation"),
+                                                tr("Leave out the simulated cameras."));
+    const QCommandLineOption networkOption(
+        QStringLiteral("network"),
+        tr("Search the network and USB for cameras this time, by broadcast."));
+    const QCommandLineOption addressOption(
+        QStringLiteral("camera-address"),
+        tr("Ask for a camera at <address>, without a broadcast; can be given several times."),
+        tr("address"));
     const QCommandLineOption pluginsOption(
         QStringLiteral("plugins"),
         tr("Look for plug-ins in <dir>, too; can be given several times."), tr("dir"));
@@ -39,8 +48,8 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         QStringLiteral("demo"),
         tr("Walk through the firmware update wizard, save pictures into <dir> and end."),
         tr("dir"));
-    parser.addOptions({camerasOption, resetOption, speedOption, pluginsOption, languageOption,
-                       samplesOption, demoOption});
+    parser.addOptions({camerasOption, resetOption, speedOption, noSimulationOption, networkOption,
+                       addressOption, pluginsOption, languageOption, samplesOption, demoOption});
 
     if (!parser.parse(arguments)) {
         m_message = parser.errorText();
@@ -83,6 +92,23 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     }
     m_options.pool.descriptionFile = absolutePath(parser.value(camerasOption));
     m_options.pool.resetCameras = parser.isSet(resetOption);
+    m_options.pool.simulates = !parser.isSet(noSimulationOption);
+    m_options.pool.searchesNetwork = parser.isSet(networkOption);
+    const QStringList addresses = parser.values(addressOption);
+    for (const QString &text : addresses) {
+        const QHostAddress address(text);
+        if (address.protocol() != QAbstractSocket::IPv4Protocol) {
+            m_message = tr("\"%1\" is no camera address; it has the form 192.168.0.10.").arg(text);
+            return EResult::Error;
+        }
+        m_options.pool.cameraAddresses.append(address);
+    }
+    const bool wantsRealCameras
+        = m_options.pool.searchesNetwork || !m_options.pool.cameraAddresses.isEmpty();
+    if (wantsRealCameras && !CameraPool::CCameraPool::canSearchNetwork()) {
+        m_message = tr("This viewer was built without the library for cameras on real wires.");
+        return EResult::Error;
+    }
     const QStringList pluginDirectories = parser.values(pluginsOption);
     for (const QString &directory : pluginDirectories)
         m_options.pluginDirectories.append(absolutePath(directory));

@@ -4,9 +4,13 @@
 #include "cameraenumerationservice.h"
 #include "camerastatusservice.h"
 #include "camerastreamcontrolservice.h"
+#include "combinedcameras.h"
 #include "devicefirmwareupdateservice.h"
 #include "errortranslator.h"
 #include "framestream.h"
+#ifdef WITH_ARAVIS
+#include "genicam/genicam.h"
+#endif
 #include "simulation/cameradescriptionreader.h"
 #include "simulation/firmwarestatefile.h"
 #include "simulation/simulation.h"
@@ -32,6 +36,8 @@ static CCameraDescription readDescription(const CCameraPoolOptions &options)
     if (!std::isfinite(options.speedFactor) || options.speedFactor <= 0.0)
         throw Core::Exception::BaseException(
             QStringLiteral("The simulation's speed must be a number greater than 0"));
+    if (!options.simulates)
+        return {};
     return options.descriptionFile.isEmpty()
         ? CCameraDescriptionReader::readBuiltIn()
         : CCameraDescriptionReader::readFile(options.descriptionFile);
@@ -47,7 +53,14 @@ struct CCameraPool::CPrivate
 {
     explicit CPrivate(const CCameraPoolOptions &options)
         : simulation(readDescription(options), getStateFile(options), options.speedFactor)
+#ifdef WITH_ARAVIS
+        , genICam(options.cameraAddresses, options.searchesNetwork)
+#endif
     {
+        cameras.add(simulation);
+#ifdef WITH_ARAVIS
+        cameras.add(genICam);
+#endif
     }
 
     static QString getStateFile(const CCameraPoolOptions &options)
@@ -59,6 +72,10 @@ struct CCameraPool::CPrivate
 
     // The order matters: who is named first is used by those that follow.
     CSimulation simulation;
+#ifdef WITH_ARAVIS
+    GenICam::CGenICam genICam;
+#endif
+    CCombinedCameras cameras;
     const std::shared_ptr<CCameraActivities> activities = std::make_shared<CCameraActivities>();
     const std::shared_ptr<CErrorTranslator> errors = std::make_shared<CErrorTranslator>();
     CFrameStream stream;
@@ -73,15 +90,15 @@ CCameraPool::CCameraPool(const CCameraPoolOptions &options, QObject *parent)
     : QObject(parent)
     , d(std::make_unique<CPrivate>(options))
 {
-    d->enumeration.reset(new CCameraEnumerationService(d->simulation, d->activities));
+    d->enumeration.reset(new CCameraEnumerationService(d->cameras, d->activities));
     const auto getActivityOf = [this](const QString &cameraId) { return getActivity(cameraId); };
     const auto findCamera
         = [service = d->enumeration.data()](const QString &id) { return service->findCamera(id); };
     d->services
         = {d->enumeration, QSharedPointer<IService>(new CCameraStatusService(getActivityOf)),
            QSharedPointer<IService>(new CCameraStreamControlService([this] { stopAllCameras(); })),
-           QSharedPointer<IService>(new CDeviceFirmwareUpdateService(d->simulation, findCamera,
-                                                                     d->activities, d->errors))};
+           QSharedPointer<IService>(
+               new CDeviceFirmwareUpdateService(d->cameras, findCamera, d->activities, d->errors))};
 
     connect(&d->simulation, &CSimulation::camerasChanged, d->enumeration.data(),
             &CCameraEnumerationService::onCamerasChanged);
@@ -169,6 +186,34 @@ bool CCameraPool::isUpdateRunning() const
     return d->activities->isUpdateRunning();
 }
 
+bool CCameraPool::canSearchNetwork()
+{
+#ifdef WITH_ARAVIS
+    return true;
+#else
+    return false;
+#endif
+}
+
+bool CCameraPool::searchesNetwork() const
+{
+#ifdef WITH_ARAVIS
+    return d->genICam.searchesNetwork();
+#else
+    return false;
+#endif
+}
+
+void CCameraPool::setSearchesNetwork(bool searches)
+{
+#ifdef WITH_ARAVIS
+    d->genICam.setSearchesNetwork(searches);
+    d->enumeration->refreshEnumeration();
+#else
+    Q_UNUSED(searches)
+#endif
+}
+
 CSimulation &CCameraPool::getSimulation()
 {
     return d->simulation;
@@ -217,6 +262,12 @@ bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity,
     if (d->startsLocked) {
         setError(error,
                  tr("Camera %1 cannot be started while the firmware updater is open.").arg(name));
+        return false;
+    }
+    if (!d->simulation.hasCamera(cameraId)) {
+        setError(
+            error,
+            tr("Camera %1 is on a real wire; only its firmware can be updated here.").arg(name));
         return false;
     }
     if (!d->simulation.isPlugged(cameraId)) {

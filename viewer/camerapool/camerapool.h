@@ -4,10 +4,12 @@
 
 #include "core/iservice.h"
 
+#include <QHostAddress>
 #include <QList>
 #include <QObject>
 #include <QSharedPointer>
 #include <QString>
+#include <QVector>
 
 #include <memory>
 
@@ -26,6 +28,10 @@ struct CCameraPoolOptions
     QString stateFile; ///< where the cameras' firmware versions are remembered; empty: nowhere
     double speedFactor = 1.0; ///< how many times faster than real cameras the simulation runs
     bool resetCameras = false; ///< forget what earlier updates wrote
+    bool simulates = true; ///< false: there are no simulated cameras
+
+    bool searchesNetwork = false; ///< looks for cameras by broadcast and on USB
+    QVector<QHostAddress> cameraAddresses; ///< cameras that are asked whether they are there
 };
 
 /// The host's camera pool: owns the cameras and the services that plug-ins use. GUI thread.
@@ -64,6 +70,13 @@ public:
 
     /// True while an update job executes, on whatever thread.
     [[nodiscard]] bool isUpdateRunning() const;
+
+    /// False: the viewer was built without the library for cameras on real wires.
+    [[nodiscard]] static bool canSearchNetwork();
+    [[nodiscard]] bool searchesNetwork() const;
+
+    /// Enumerates anew. Does nothing where the network cannot be searched.
+    void setSearchesNetwork(bool searches);
 
     /// What stands in for cables and people: plug, unplug, make busy.
     [[nodiscard]] Simulation::CSimulation &getSimulation();

@@ -90,8 +90,7 @@ void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
 
 CErrorText CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
 {
-    CUpdateRun run(m_camera.displayName, m_info->getEntry(), m_info->getFileName(), *m_device,
-                   *this);
+    CUpdateRun run(m_camera.name, m_info->getEntry(), m_info->getFileName(), *m_device, *this);
     CErrorText error;
     try {
         error = attempt(run, claimed);
@@ -117,9 +116,9 @@ CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
         emit firmwareUpdateBegin(
             m_info, toUnsigned(estimateEntry(m_info->getEntry(), m_device->getUploadRate())));
         if (other == ECameraActivity::Updating)
-            throw CCameraError(m_camera.displayName, CErrorText::tr("it is already being updated"));
+            throw CCameraError(m_camera.name, CErrorText::tr("it is already being updated"));
         if (!claimed)
-            throw CCameraError(m_camera.displayName,
+            throw CCameraError(m_camera.name,
                                CErrorText::tr("it is acquiring images; stop that and start the "
                                               "update again"));
         run.execute();
@@ -160,9 +159,9 @@ CErrorText CDeviceFirmwareUpdate::getErrorText(const CErrorText &message, bool w
     CErrorText text = message.toClause();
     if (text.isEmpty())
         text = CErrorText::tr("the update failed for an unknown reason");
-    const QString prefix = CCameraError(m_camera.displayName, {}).getMessage().simplified();
+    const QString prefix = CCameraError(m_camera.name, {}).getMessage().simplified();
     if (!text.getEnglish().startsWith(prefix))
-        text = CCameraError(m_camera.displayName, text).getText().toClause();
+        text = CCameraError(m_camera.name, text).getText().toClause();
     return written
         ? CErrorText::tr("%1; the update had already begun to write, so repeat it before "
                          "the camera is used")

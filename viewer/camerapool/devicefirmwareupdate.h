@@ -27,7 +27,7 @@ public:
     struct CCamera
     {
         QString id;
-        QString displayName;
+        QString name; ///< what messages call it
         QString firmwareVersion; ///< the current one
     };
 

@@ -108,8 +108,7 @@ QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDevice
     // unplugged gets its job too; that one can say what is wrong.
     const QSharedPointer<ICameraInfo> current = m_findCamera(camera->getId());
     const CDeviceFirmwareUpdate::CCamera description{
-        camera->getId(), camera->getDisplayName(),
-        (current ? current : camera)->getFirmwareVersion()};
+        camera->getId(), device->getName(), (current ? current : camera)->getFirmwareVersion()};
     return QSharedPointer<IDeviceFirmwareUpdate>(
         new CDeviceFirmwareUpdate(description, info, std::move(device), m_activities, m_errors));
 }

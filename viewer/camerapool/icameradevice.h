@@ -11,9 +11,9 @@ class QIODevice;
 namespace Viewer::CameraPool {
 
 /// Everything that an update does to one camera, whatever the wire. All operations but the
-/// constructor and getUploadRate() block and are called on one worker thread. Each ends within its
-/// time limit and reports a failure by throwing CCameraError; nothing else is thrown. After a
-/// failure only close() and destruction are safe.
+/// constructor, getName() and getUploadRate() block and are called on one worker thread. Each ends
+/// within its time limit and reports a failure by throwing CCameraError; nothing else is thrown.
+/// After a failure only close() and destruction are safe.
 class ICameraDevice
 {
 public:
@@ -21,6 +21,9 @@ public:
     using ProgressFunction = std::function<void(qint64 bytesDone)>;
 
     virtual ~ICameraDevice() = default;
+
+    /// What messages call the camera. Any thread.
+    [[nodiscard]] virtual QString getName() const = 0;
 
     /// Takes control of the camera. Fails when it is gone, or in use by somebody else.
     virtual void open(std::chrono::milliseconds timeLimit) = 0;

@@ -68,8 +68,10 @@ void CCameraPoolTest::createPool(double speedFactor)
 {
     m_announced.reset();
     m_pool.reset();
-    m_pool = std::make_unique<CCameraPool>(
-        CCameraPoolOptions{QString(), m_folder->filePath("firmware.json"), speedFactor, false});
+    CCameraPoolOptions options;
+    options.stateFile = m_folder->filePath("firmware.json");
+    options.speedFactor = speedFactor;
+    m_pool = std::make_unique<CCameraPool>(options);
     m_announced = std::make_unique<QSignalSpy>(getService<ICameraEnumerationService>().data(),
                                                &ICameraEnumerationService::enumerationChanged);
     m_pool->start();

@@ -51,6 +51,8 @@ public:
 
     ~CScriptedDevice() override { m_script->isAlive = false; }
 
+    QString getName() const override { return "Left"; }
+
     void open(milliseconds limit) override
     {
         m_script->isOpen = true; // also when it fails then: close() has to follow

@@ -48,6 +48,11 @@ CSimulatedCameraDevice::~CSimulatedCameraDevice()
     close();
 }
 
+QString CSimulatedCameraDevice::getName() const
+{
+    return m_camera->getDescription().camera.displayName;
+}
+
 void CSimulatedCameraDevice::open(milliseconds timeLimit)
 {
     if (m_session != 0)
@@ -187,7 +192,7 @@ qint64 CSimulatedCameraDevice::getUploadRate() const
 
 void CSimulatedCameraDevice::fail(const CErrorText &cause) const
 {
-    throw CCameraError(m_camera->getDescription().camera.displayName, cause);
+    throw CCameraError(getName(), cause);
 }
 
 void CSimulatedCameraDevice::failByTime(milliseconds timeLimit) const

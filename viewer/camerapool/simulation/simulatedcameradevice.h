@@ -27,6 +27,7 @@ public:
     ~CSimulatedCameraDevice() override;
     Q_DISABLE_COPY(CSimulatedCameraDevice)
 
+    [[nodiscard]] QString getName() const override;
     void open(std::chrono::milliseconds timeLimit) override;
     void close() noexcept override;
     [[nodiscard]] QString readFeature(const QString &name,

@@ -104,6 +104,11 @@ void CSimulation::unplug(const QString &cameraId)
         camera->setPlugged(false);
 }
 
+bool CSimulation::hasCamera(const QString &cameraId) const
+{
+    return d->find(cameraId) != nullptr;
+}
+
 bool CSimulation::isPlugged(const QString &cameraId) const
 {
     const auto camera = d->find(cameraId);

@@ -38,6 +38,8 @@ public:
     /// All described cameras in the order of the description, also unplugged ones.
     [[nodiscard]] QVector<CSimulatedCameraState> getCameras() const;
 
+    [[nodiscard]] bool hasCamera(const QString &cameraId) const;
+
     /// Removing a camera interrupts whatever is being done with it. Both do nothing for unknown
     /// ids and when the camera already is in that state.
     void plugIn(const QString &cameraId);

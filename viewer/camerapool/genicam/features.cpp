@@ -1,0 +1,183 @@
+#include "features.h"
+
+namespace Viewer::CameraPool::GenICam {
+
+using EReason = CFeatureError::EReason;
+
+CFeatureError::CFeatureError(const QString &message, EReason reason)
+    : BaseException(message)
+    , m_reason(reason)
+{
+}
+
+CFeatureError::~CFeatureError() = default;
+
+EReason CFeatureError::getReason() const
+{
+    return m_reason;
+}
+
+static QString describe(const CErrorGuard &error)
+{
+    if (error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED))
+        return QStringLiteral("it did not answer; check its cable, its power supply and the "
+                              "network");
+    // An application that has control is refused nothing for want of rights.
+    if (error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED)
+        || error.is(ARV_DEVICE_ERROR_NOT_CONTROLLER))
+        return QStringLiteral("control over it was lost; close other applications that use it");
+    if (error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY))
+        return QStringLiteral("it is busy; try again later");
+    return QStringLiteral("it refused (%1)").arg(error.getMessage().simplified());
+}
+
+void throwIf(const CErrorGuard &error, const QString &attempt)
+{
+    if (!error)
+        return;
+    const bool noAnswer
+        = error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED);
+    throw CFeatureError(QStringLiteral("%1: %2").arg(attempt, describe(error)),
+                        noAnswer ? EReason::NoAnswer : EReason::Refused);
+}
+
+static QString quote(const QByteArray &name)
+{
+    return QStringLiteral("\"%1\"").arg(QString::fromUtf8(name));
+}
+
+static QString readingOf(const QByteArray &name)
+{
+    return QStringLiteral("its feature %1 could not be read").arg(quote(name));
+}
+
+static QString writingOf(const QByteArray &name, const QString &value)
+{
+    return QStringLiteral("its feature %1 could not be set to \"%2\"").arg(quote(name), value);
+}
+
+CFeatures::CFeatures(ArvDevice *device)
+    : m_device(device)
+{
+}
+
+bool CFeatures::has(const QByteArray &name) const
+{
+    return ARV_IS_GC_FEATURE_NODE(arv_device_get_feature(m_device, name.constData()));
+}
+
+ArvGcNode *CFeatures::getNode(const QByteArray &name) const
+{
+    ArvGcNode *const node = arv_device_get_feature(m_device, name.constData());
+    if (!ARV_IS_GC_FEATURE_NODE(node))
+        throw CFeatureError(QStringLiteral("it has no feature %1; the update file may be for "
+                                           "another model")
+                                .arg(quote(name)),
+                            EReason::Refused);
+    return node;
+}
+
+QString CFeatures::read(const QByteArray &name) const
+{
+    CErrorGuard error;
+    const char *const value = arv_gc_feature_node_get_value_as_string(
+        ARV_GC_FEATURE_NODE(getNode(name)), error.receive());
+    throwIf(error, readingOf(name));
+    return QString::fromUtf8(value);
+}
+
+void CFeatures::write(const QByteArray &name, const QString &value) const
+{
+    CErrorGuard error;
+    arv_gc_feature_node_set_value_from_string(ARV_GC_FEATURE_NODE(getNode(name)),
+                                              value.toUtf8().constData(), error.receive());
+    throwIf(error, writingOf(name, value));
+}
+
+qint64 CFeatures::readInteger(const QByteArray &name) const
+{
+    CErrorGuard error;
+    const qint64 value
+        = arv_device_get_integer_feature_value(m_device, name.constData(), error.receive());
+    throwIf(error, readingOf(name));
+    return value;
+}
+
+void CFeatures::writeInteger(const QByteArray &name, qint64 value) const
+{
+    CErrorGuard error;
+    arv_device_set_integer_feature_value(m_device, name.constData(), value, error.receive());
+    throwIf(error, writingOf(name, QString::number(value)));
+}
+
+void CFeatures::execute(const QByteArray &name) const
+{
+    ArvGcNode *const node = getNode(name);
+    if (!ARV_IS_GC_COMMAND(node))
+        throw CFeatureError(QStringLiteral("its feature %1 is no command").arg(quote(name)),
+                            EReason::Refused);
+    CErrorGuard error;
+    arv_gc_command_execute(ARV_GC_COMMAND(node), error.receive());
+    throwIf(error, QStringLiteral("its command %1 could not be executed").arg(quote(name)));
+}
+
+bool CFeatures::isDone(const QByteArray &name) const
+{
+    // A command that is being executed reads as the value that was written to start it.
+    ArvGcNode *value = nullptr;
+    gint64 commandValue = 1;
+    ArvDomNode *const command = ARV_DOM_NODE(getNode(name));
+    for (ArvDomNode *child = arv_dom_node_get_first_child(command); child;
+         child = arv_dom_node_get_next_sibling(child)) {
+        if (!ARV_IS_GC_PROPERTY_NODE(child))
+            continue;
+        ArvGcPropertyNode *const property = ARV_GC_PROPERTY_NODE(child);
+        CErrorGuard error;
+        switch (arv_gc_property_node_get_node_type(property)) {
+        case ARV_GC_PROPERTY_NODE_TYPE_P_VALUE:
+            value = arv_gc_property_node_get_linked_node(property);
+            break;
+        case ARV_GC_PROPERTY_NODE_TYPE_COMMAND_VALUE:
+        case ARV_GC_PROPERTY_NODE_TYPE_P_COMMAND_VALUE:
+            commandValue = arv_gc_property_node_get_int64(property, error.receive());
+            break;
+        default:
+            break;
+        }
+    }
+    const bool tells = ARV_IS_GC_INTEGER(value) && ARV_IS_GC_FEATURE_NODE(value)
+        && arv_gc_feature_node_get_actual_access_mode(ARV_GC_FEATURE_NODE(value))
+            != ARV_GC_ACCESS_MODE_WO;
+    if (!tells)
+        return true;
+    CErrorGuard error;
+    const gint64 current = arv_gc_integer_get_value(ARV_GC_INTEGER(value), error.receive());
+    throwIf(error,
+            QStringLiteral("the end of its command %1 could not be awaited").arg(quote(name)));
+    return current != commandValue;
+}
+
+CFeatures::CRegister CFeatures::findRegister(const QByteArray &name) const
+{
+    ArvGcNode *const node = getNode(name);
+    if (!ARV_IS_GC_REGISTER(node))
+        throw CFeatureError(QStringLiteral("its feature %1 is no register").arg(quote(name)),
+                            EReason::Refused);
+    CErrorGuard error;
+    CRegister found;
+    found.address = arv_gc_register_get_address(ARV_GC_REGISTER(node), error.receive());
+    throwIf(error, readingOf(name));
+    found.length = arv_gc_register_get_length(ARV_GC_REGISTER(node), error.receive());
+    throwIf(error, readingOf(name));
+    return found;
+}
+
+void CFeatures::writeMemory(quint64 address, QByteArray bytes) const
+{
+    CErrorGuard error;
+    arv_device_write_memory(m_device, address, static_cast<guint32>(bytes.size()), bytes.data(),
+                            error.receive());
+    throwIf(error, QStringLiteral("its memory could not be written"));
+}
+
+} // namespace Viewer::CameraPool::GenICam

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "glibpointers.h"
+
+#include "core/baseexception.h"
+
+#include <QByteArray>
+
+namespace Viewer::CameraPool::GenICam {
+
+/// A camera did not do what was asked of a feature. The message is a cause without the camera's
+/// name, to be put behind it.
+class CFeatureError : public Core::Exception::BaseException
+{
+public:
+    enum class EReason {
+        NoAnswer, ///< the camera may be gone
+        Refused,
+    };
+
+    CFeatureError(const QString &message, EReason reason);
+    ~CFeatureError() override;
+
+    [[nodiscard]] EReason getReason() const;
+
+private:
+    EReason m_reason;
+};
+
+/// Throws the CFeatureError for @p error: "<attempt>: <why, and what to do about it>". Does
+/// nothing when there is no error.
+void throwIf(const CErrorGuard &error, const QString &attempt);
+
+/// The features of one open camera, by name. All operations block for as long as the camera takes,
+/// up to 2.5 s for an answer that does not come, and throw CFeatureError. The thread that owns the
+/// device.
+class CFeatures
+{
+public:
+    /// @p device is borrowed.
+    explicit CFeatures(ArvDevice *device);
+
+    [[nodiscard]] bool has(const QByteArray &name) const;
+
+    /// The value as text, whatever kind the feature is of: of an enumeration the entry's name, of a
+    /// boolean "true" or "false".
+    [[nodiscard]] QString read(const QByteArray &name) const;
+    void write(const QByteArray &name, const QString &value) const;
+
+    [[nodiscard]] qint64 readInteger(const QByteArray &name) const;
+    void writeInteger(const QByteArray &name, qint64 value) const;
+
+    /// Starts the command. Whether the camera is done is told by isDone().
+    void execute(const QByteArray &name) const;
+
+    /// False as long as the camera tells that the command is being executed. A camera that tells
+    /// nothing is done at once.
+    [[nodiscard]] bool isDone(const QByteArray &name) const;
+
+    /// A stretch of the camera's memory.
+    struct CRegister
+    {
+        quint64 address = 0;
+        quint64 length = 0; ///< in bytes
+    };
+
+    [[nodiscard]] CRegister findRegister(const QByteArray &name) const;
+
+    /// Writes @p bytes, a multiple of 4 of them, at @p address.
+    void writeMemory(quint64 address, QByteArray bytes) const;
+
+private:
+    [[nodiscard]] ArvGcNode *getNode(const QByteArray &name) const;
+
+    ArvDevice *const m_device;
+};
+
+} // namespace Viewer::CameraPool::GenICam

@@ -1,0 +1,142 @@
+#include "fileupload.h"
+
+#include <QThread>
+
+#include <algorithm>
+
+namespace Viewer::CameraPool::GenICam {
+
+using namespace std::chrono_literals;
+
+// Names that the standard gives.
+static const QByteArray AccessBuffer = QByteArrayLiteral("FileAccessBuffer");
+static const QByteArray AccessLength = QByteArrayLiteral("FileAccessLength");
+static const QByteArray AccessOffset = QByteArrayLiteral("FileAccessOffset");
+static const QByteArray OpenMode = QByteArrayLiteral("FileOpenMode");
+static const QByteArray OperationExecute = QByteArrayLiteral("FileOperationExecute");
+static const QByteArray OperationResult = QByteArrayLiteral("FileOperationResult");
+static const QByteArray OperationSelector = QByteArrayLiteral("FileOperationSelector");
+static const QByteArray OperationStatus = QByteArrayLiteral("FileOperationStatus");
+static const QByteArray Selector = QByteArrayLiteral("FileSelector");
+
+/// More than one block at a time would only lengthen the wait for each single one.
+static constexpr quint64 MaximumBlockSize = 1024 * 1024;
+
+[[noreturn]] static void fail(const QString &cause)
+{
+    throw CFeatureError(cause, CFeatureError::EReason::Refused);
+}
+
+CFileUpload::CFileUpload(const CFeatures &features, const QString &fileName,
+                         const QDeadlineTimer &deadline)
+    : m_features(features)
+    , m_fileName(fileName)
+    , m_deadline(deadline)
+{
+    attempt(QStringLiteral("opening"), [this] { open(); });
+}
+
+CFileUpload::~CFileUpload()
+{
+    if (!m_isOpen)
+        return;
+    try {
+        m_features.write(OperationSelector, QStringLiteral("Close"));
+        m_features.execute(OperationExecute);
+    } catch (const CFeatureError &) {
+        // The failure that led here says more.
+    }
+}
+
+int CFileUpload::getBlockSize() const
+{
+    return static_cast<int>(m_buffer.length);
+}
+
+void CFileUpload::writeBlock(const QByteArray &block)
+{
+    attempt(QStringLiteral("writing at byte %1 of").arg(m_offset),
+            [this, &block] { write(block); });
+}
+
+void CFileUpload::close()
+{
+    // Whether it works or not, it is not tried again.
+    m_isOpen = false;
+    attempt(QStringLiteral("closing"), [this] { operate(QByteArrayLiteral("Close")); });
+}
+
+template <typename Action>
+void CFileUpload::attempt(const QString &attempt, Action action)
+{
+    try {
+        action();
+    } catch (const CFeatureError &error) {
+        throw CFeatureError(QStringLiteral("%1 its file \"%2\" failed: %3")
+                                .arg(attempt, m_fileName, error.getMessage()),
+                            error.getReason());
+    }
+}
+
+void CFileUpload::open()
+{
+    m_buffer = m_features.findRegister(AccessBuffer);
+    // Whole words only: the last block is filled up to one.
+    m_buffer.length = std::min(m_buffer.length, MaximumBlockSize) / 4 * 4;
+    if (m_buffer.length == 0)
+        fail(QStringLiteral("its buffer for files is empty"));
+    m_hasOffset = m_features.has(AccessOffset);
+    m_features.write(Selector, m_fileName);
+    m_features.write(OpenMode, QStringLiteral("Write"));
+    operate(QByteArrayLiteral("Open"));
+    m_isOpen = true;
+}
+
+void CFileUpload::write(const QByteArray &block)
+{
+    if (!m_isWriteSelected) {
+        m_features.write(OperationSelector, QStringLiteral("Write"));
+        m_isWriteSelected = true;
+    }
+    if (m_hasOffset)
+        m_features.writeInteger(AccessOffset, m_offset);
+    if (m_length != block.size()) {
+        m_features.writeInteger(AccessLength, block.size());
+        m_length = block.size();
+    }
+    m_features.writeMemory(m_buffer.address, block.leftJustified((block.size() + 3) / 4 * 4, '\0'));
+    execute();
+    // The number of bytes says it all; the status is asked for only when they do not fit.
+    const qint64 written = m_features.readInteger(OperationResult);
+    if (written != block.size()) {
+        checkStatus();
+        fail(QStringLiteral("it took %1 of %2 bytes").arg(written).arg(block.size()));
+    }
+    m_offset += written;
+}
+
+void CFileUpload::operate(const QByteArray &operation)
+{
+    m_features.write(OperationSelector, QString::fromLatin1(operation));
+    execute();
+    checkStatus();
+}
+
+void CFileUpload::execute()
+{
+    m_features.execute(OperationExecute);
+    while (!m_features.isDone(OperationExecute)) {
+        if (m_deadline.hasExpired())
+            fail(QStringLiteral("it took too long"));
+        QThread::msleep(1);
+    }
+}
+
+void CFileUpload::checkStatus() const
+{
+    const QString status = m_features.read(OperationStatus);
+    if (status != QLatin1String("Success"))
+        fail(QStringLiteral("it reports the status \"%1\"").arg(status));
+}
+
+} // namespace Viewer::CameraPool::GenICam

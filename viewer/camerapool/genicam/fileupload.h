@@ -1,0 +1,52 @@
+#pragma once
+
+#include "features.h"
+
+#include "viewer/camerapool/icameradevice.h"
+
+#include <QDeadlineTimer>
+
+namespace Viewer::CameraPool::GenICam {
+
+/// Writes one file of a camera through the standard features for file access, block by block, and
+/// sends no command that the standard does not need. The file is closed on every way out.
+class CFileUpload
+{
+public:
+    /// Opens the camera's file @p fileName to write. Throws CFeatureError, as all operations do.
+    CFileUpload(const CFeatures &features, const QString &fileName, const QDeadlineTimer &deadline);
+    ~CFileUpload();
+    Q_DISABLE_COPY(CFileUpload)
+
+    /// Bytes that one block holds at most.
+    [[nodiscard]] int getBlockSize() const;
+
+    /// Writes @p block behind those before.
+    void writeBlock(const QByteArray &block);
+
+    /// Closes the file and learns whether the camera has taken all of it.
+    void close();
+
+private:
+    void open();
+    void write(const QByteArray &block);
+    void operate(const QByteArray &operation);
+    void execute();
+    void checkStatus() const;
+
+    /// Runs @p action; a failure is thrown on as the failure of @p attempt on this file.
+    template <typename Action>
+    void attempt(const QString &attempt, Action action);
+
+    const CFeatures &m_features;
+    const QString m_fileName;
+    const QDeadlineTimer m_deadline;
+    CFeatures::CRegister m_buffer;
+    bool m_hasOffset = false;
+    qint64 m_offset = 0;
+    qint64 m_length = -1; ///< as the camera knows it; negative: it does not yet
+    bool m_isOpen = false;
+    bool m_isWriteSelected = false;
+};
+
+} // namespace Viewer::CameraPool::GenICam

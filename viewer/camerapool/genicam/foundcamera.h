@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+namespace Viewer::CameraPool::GenICam {
+
+enum class ETransport {
+    Ethernet,
+    Usb,
+};
+
+/// Who a camera is and where it is to be reached, as its answer to a search says.
+struct CFoundCamera
+{
+    ETransport transport = ETransport::Ethernet;
+    QString address; ///< IPv4 address; on USB empty
+    QString vendor;
+    QString model;
+    QString version; ///< empty: the camera has to be opened to tell
+    QString serialNumber;
+    QString userName; ///< given by the user; may be empty
+
+    /// The same for one camera wherever it is found, another one for each camera.
+    [[nodiscard]] QString getId() const
+    {
+        const QString transportName
+            = transport == ETransport::Ethernet ? QStringLiteral("GEV") : QStringLiteral("U3V");
+        return QStringLiteral("%1:%2:%3:%4").arg(transportName, vendor, model, serialNumber);
+    }
+
+    /// What the user reads: the user's own name for the camera, else what tells it from others.
+    [[nodiscard]] QString getDisplayName() const
+    {
+        return userName.isEmpty() ? QStringLiteral("%1 (%2)").arg(serialNumber, model) : userName;
+    }
+
+    /// What messages call the camera: everything that helps to find it in a hall.
+    [[nodiscard]] QString getFullName() const
+    {
+        const QString place
+            = transport == ETransport::Ethernet ? address : QStringLiteral("on USB");
+        return userName.isEmpty()
+            ? QStringLiteral("%1 (%2, %3)").arg(serialNumber, model, place)
+            : QStringLiteral("%1 (%2, %3, %4)").arg(userName, model, serialNumber, place);
+    }
+};
+
+} // namespace Viewer::CameraPool::GenICam

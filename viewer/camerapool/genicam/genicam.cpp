@@ -1,0 +1,102 @@
+#include "genicamdevice.h"
+
+#include "genicam.h"
+#include "networksearch.h"
+#include "unicastdiscovery.h"
+
+#include "camerapool/transportlayertypes.h"
+
+#include <QSet>
+
+namespace Viewer::CameraPool::GenICam {
+
+/// Two cameras say that they are the same one: nobody can tell which one an update would reach.
+static constexpr qint32 AmbiguousIdentityStatus = 1001;
+
+CGenICam::CGenICam(const QVector<QHostAddress> &addresses, bool searchesNetwork)
+    : m_addresses(addresses)
+    , m_searchesNetwork(searchesNetwork)
+{
+}
+
+CGenICam::~CGenICam() = default;
+
+void CGenICam::setSearchesNetwork(bool searches)
+{
+    m_searchesNetwork = searches;
+}
+
+bool CGenICam::searchesNetwork() const
+{
+    return m_searchesNetwork;
+}
+
+std::unique_ptr<ICameraDevice> CGenICam::createDevice(const QString &cameraId)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto camera = m_found.constFind(cameraId);
+    if (camera == m_found.constEnd())
+        return nullptr;
+    return std::make_unique<CGenICamDevice>(*camera);
+}
+
+QVector<CFoundCamera> CGenICam::find() const
+{
+    QVector<CFoundCamera> found = discoverUnicast(m_addresses);
+    if (!m_searchesNetwork || m_isCanceled)
+        return found;
+
+    QSet<QString> addresses;
+    for (const CFoundCamera &camera : qAsConst(found))
+        addresses.insert(camera.address);
+    const QVector<CFoundCamera> searched = searchNetwork();
+    for (const CFoundCamera &camera : searched) {
+        if (camera.transport == ETransport::Usb || !addresses.contains(camera.address))
+            found.append(camera);
+    }
+    return found;
+}
+
+QVector<CTransportLayerSnapshot> CGenICam::enumerate()
+{
+    if (m_isCanceled)
+        return {};
+    const QVector<CFoundCamera> found = find();
+
+    QHash<QString, int> counts;
+    for (const CFoundCamera &camera : found)
+        ++counts[camera.getId()];
+
+    CTransportLayerSnapshot ethernet{
+        QString::fromLatin1(Plugin::CameraPool::TLTypeGigE), QStringLiteral("GigE Vision"), {}};
+    CTransportLayerSnapshot usb{
+        QString::fromLatin1(Plugin::CameraPool::TLTypeUSB), QStringLiteral("USB3 Vision"), {}};
+    QHash<QString, CFoundCamera> byId;
+    for (const CFoundCamera &camera : found) {
+        CCameraSnapshot snapshot;
+        snapshot.id = camera.getId();
+        snapshot.displayName = camera.getDisplayName();
+        snapshot.modelName = camera.model;
+        snapshot.serialNumber = camera.serialNumber;
+        snapshot.deviceVersion = camera.version;
+        snapshot.firmwareVersion = camera.version;
+        if (counts.value(snapshot.id) > 1) {
+            snapshot.statusCode = AmbiguousIdentityStatus;
+            snapshot.id += QLatin1Char('@') + camera.address;
+        }
+        byId.insert(snapshot.id, camera);
+        (camera.transport == ETransport::Ethernet ? ethernet : usb).cameras.append(snapshot);
+    }
+    {
+        const std::lock_guard lock(m_mutex);
+        m_found = byId;
+    }
+    return {ethernet, usb};
+}
+
+void CGenICam::cancel()
+{
+    m_isCanceled = true;
+}
+
+} // namespace Viewer::CameraPool::GenICam

@@ -1,0 +1,268 @@
+#include "genicamdevice.h"
+
+#include "fileupload.h"
+#include "unicastdiscovery.h"
+
+#include "viewer/camerapool/cameraerror.h"
+
+#include <QDeadlineTimer>
+#include <QIODevice>
+#include <QThread>
+#include <QUdpSocket>
+
+#include <algorithm>
+
+namespace Viewer::CameraPool::GenICam {
+
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+
+/// Cameras that write their flash memory while they start take long.
+static constexpr milliseconds ShortestResetLimit = 60s;
+
+/// How often a camera is looked at that is busy with something.
+static constexpr milliseconds PollInterval = 50ms;
+
+/// Bytes a second: an 8 MiB image in half a minute, what a block of 512 bytes and three more
+/// commands, each with its way to the camera and back, come to.
+static constexpr qint64 UsualUploadRate = 300'000;
+
+CGenICamDevice::CGenICamDevice(const CFoundCamera &camera)
+    : m_camera(camera)
+{
+}
+
+CGenICamDevice::~CGenICamDevice()
+{
+    close();
+}
+
+QString CGenICamDevice::getName() const
+{
+    return m_camera.getFullName();
+}
+
+void CGenICamDevice::open(milliseconds timeLimit)
+{
+    if (m_device)
+        fail(QStringLiteral("it is already open"));
+    // The library's own limits are shorter than any that is asked for here.
+    Q_UNUSED(timeLimit)
+    m_device = translate([this] { return makeDevice(); });
+}
+
+// The address on this machine from which @p camera is reached.
+static CObjectPointer<GInetAddress> findInterface(const QHostAddress &camera)
+{
+    QUdpSocket socket;
+    // Asks the system for a route; nothing is sent.
+    socket.connectToHost(camera, 9);
+    socket.waitForConnected(0);
+    return CObjectPointer<GInetAddress>(
+        g_inet_address_new_from_string(socket.localAddress().toString().toLatin1().constData()));
+}
+
+CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
+{
+    CErrorGuard error;
+    CObjectPointer<ArvDevice> device;
+    if (m_camera.transport == ETransport::Ethernet) {
+        // By address and without the library's list of devices, which a search locks for a second.
+        const QHostAddress address(m_camera.address);
+        const CObjectPointer<GInetAddress> interfaceAddress = findInterface(address);
+        const CObjectPointer<GInetAddress> cameraAddress(
+            g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
+        if (!interfaceAddress || !cameraAddress)
+            throw CFeatureError(QStringLiteral("there is no way to its address; check the network "
+                                               "settings of this computer"),
+                                CFeatureError::EReason::NoAnswer);
+        device.reset(
+            arv_gv_device_new(interfaceAddress.get(), cameraAddress.get(), error.receive()));
+    } else {
+        device.reset(arv_uv_device_new(
+            m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
+            m_camera.serialNumber.toUtf8().constData(), error.receive()));
+    }
+    throwIf(error, QStringLiteral("it could not be opened"));
+    if (!device)
+        throw CFeatureError(QStringLiteral("it could not be opened"),
+                            CFeatureError::EReason::NoAnswer);
+    if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
+        throw CFeatureError(QStringLiteral("it is in use by another application; close that one "
+                                           "and start the update again"),
+                            CFeatureError::EReason::Refused);
+    return device;
+}
+
+void CGenICamDevice::close() noexcept
+{
+    m_device.reset();
+}
+
+QString CGenICamDevice::readFeature(const QString &name, milliseconds timeLimit)
+{
+    Q_UNUSED(timeLimit)
+    return translate([this, &name] { return readKnownFeature(getFeatures(), name.toUtf8()); });
+}
+
+QString CGenICamDevice::readKnownFeature(const CFeatures &features, const QByteArray &name) const
+{
+    if (features.has(name))
+        return features.read(name);
+    // What the pool expects of every camera and the standard leaves to the maker.
+    if (name == "DeviceStatus")
+        return QStringLiteral("0");
+    if (name == "DeviceFirmwareVersion" && features.has("DeviceVersion"))
+        return features.read("DeviceVersion");
+    if (name == "DeviceSerialNumber")
+        return m_camera.serialNumber;
+    return features.read(name);
+}
+
+void CGenICamDevice::writeFeature(const QString &name, const QString &value, milliseconds timeLimit)
+{
+    Q_UNUSED(timeLimit)
+    translate([this, &name, &value] { getFeatures().write(name.toUtf8(), value); });
+}
+
+void CGenICamDevice::executeCommand(const QString &name, milliseconds timeLimit)
+{
+    const QDeadlineTimer deadline(timeLimit);
+    translate([this, &name, &deadline] {
+        const CFeatures features = getFeatures();
+        const QByteArray command = name.toUtf8();
+        features.execute(command);
+        while (!features.isDone(command)) {
+            if (deadline.hasExpired())
+                fail(QStringLiteral("its command \"%1\" took too long; switch the camera off and "
+                                    "on and repeat the update")
+                         .arg(name));
+            QThread::msleep(PollInterval.count());
+        }
+    });
+}
+
+void CGenICamDevice::uploadFile(const QString &fileName, QIODevice &source, qint64 size,
+                                const ProgressFunction &progress, milliseconds timeLimit)
+{
+    const QDeadlineTimer deadline(timeLimit);
+    translate([&] {
+        const CFeatures features = getFeatures();
+        CFileUpload upload(features, fileName, deadline);
+        for (qint64 done = 0; done < size;) {
+            if (deadline.hasExpired())
+                fail(QStringLiteral("the upload of its file \"%1\" took too long; it was broken "
+                                    "off after %2 of %3 bytes")
+                         .arg(fileName, QString::number(done), QString::number(size)));
+            const QByteArray block
+                = source.read(std::min<qint64>(upload.getBlockSize(), size - done));
+            if (block.isEmpty())
+                fail(QStringLiteral("the data for its file \"%1\" ended after %2 of %3 bytes (%4)")
+                         .arg(fileName, QString::number(done), QString::number(size),
+                              source.errorString()));
+            upload.writeBlock(block);
+            done += block.size();
+            if (progress)
+                progress(done);
+        }
+        upload.close();
+    });
+}
+
+void CGenICamDevice::resetAndWait(milliseconds timeLimit)
+{
+    const QDeadlineTimer deadline(std::max(timeLimit, ShortestResetLimit));
+    translate([this, &deadline] {
+        QString oldVersion;
+        if (!isPresent(oldVersion))
+            oldVersion = m_camera.version;
+        try {
+            getFeatures().execute(QByteArrayLiteral("DeviceReset"));
+        } catch (const CFeatureError &error) {
+            // A camera may be gone before it answers.
+            if (error.getReason() != CFeatureError::EReason::NoAnswer)
+                throw;
+        }
+        waitForReturn(oldVersion, deadline);
+        // Kept until here: closing it earlier would wait for answers of a camera that is away.
+        m_device.reset();
+        while (!m_device) {
+            try {
+                m_device = makeDevice();
+            } catch (const CFeatureError &) {
+                // It answers questions for its name a little before it can be opened.
+                if (deadline.hasExpired())
+                    throw;
+                QThread::msleep(PollInterval.count());
+            }
+        }
+    });
+}
+
+void CGenICamDevice::waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const
+{
+    // Right after the command the camera is still there: only one that has been away, or is
+    // another than before, has returned. One missing answer may just be lost on the way.
+    constexpr int sureSilence = 2;
+    int silence = 0;
+    while (!deadline.hasExpired()) {
+        QString version;
+        const bool isThere = isPresent(version);
+        if (isThere && (silence >= sureSilence || version != oldVersion))
+            return;
+        if (!isThere)
+            ++silence;
+        else
+            silence = 0;
+        QThread::msleep(PollInterval.count());
+    }
+    fail(silence > 0 ? QStringLiteral("it did not come back from its reset; switch it off and on "
+                                      "and look for its firmware version")
+                     : QStringLiteral("it did not restart; switch it off and on and look for its "
+                                      "firmware version"));
+}
+
+bool CGenICamDevice::isPresent(QString &version) const
+{
+    if (m_camera.transport == ETransport::Ethernet) {
+        const QVector<CFoundCamera> found = discoverUnicast({QHostAddress(m_camera.address)});
+        if (found.isEmpty() || found.first().getId() != m_camera.getId())
+            return false;
+        version = found.first().version;
+        return true;
+    }
+    CErrorGuard error;
+    const CObjectPointer<ArvDevice> device(
+        arv_uv_device_new(m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
+                          m_camera.serialNumber.toUtf8().constData(), error.receive()));
+    return device && !error;
+}
+
+qint64 CGenICamDevice::getUploadRate() const
+{
+    return UsualUploadRate;
+}
+
+CFeatures CGenICamDevice::getFeatures() const
+{
+    if (!m_device)
+        fail(QStringLiteral("it is not open"));
+    return CFeatures(m_device.get());
+}
+
+template <typename Action>
+std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
+{
+    try {
+        return action();
+    } catch (const CFeatureError &error) {
+        fail(error.getMessage());
+    }
+}
+
+void CGenICamDevice::fail(const QString &cause) const
+{
+    throw CCameraError(getName(), cause);
+}
+
+} // namespace Viewer::CameraPool::GenICam

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "features.h"
+#include "foundcamera.h"
+
+#include "viewer/camerapool/icameradevice.h"
+
+#include <type_traits>
+
+class QDeadlineTimer;
+
+namespace Viewer::CameraPool::GenICam {
+
+/// A camera on a real wire. The thread that opens it owns it: only that thread uses and closes it,
+/// and closing one that has died takes seconds.
+class CGenICamDevice : public ICameraDevice
+{
+public:
+    explicit CGenICamDevice(const CFoundCamera &camera);
+    ~CGenICamDevice() override;
+    Q_DISABLE_COPY(CGenICamDevice)
+
+    [[nodiscard]] QString getName() const override;
+    void open(std::chrono::milliseconds timeLimit) override;
+    void close() noexcept override;
+    [[nodiscard]] QString readFeature(const QString &name,
+                                      std::chrono::milliseconds timeLimit) override;
+    void writeFeature(const QString &name, const QString &value,
+                      std::chrono::milliseconds timeLimit) override;
+    void executeCommand(const QString &name, std::chrono::milliseconds timeLimit) override;
+    void uploadFile(const QString &fileName, QIODevice &source, qint64 size,
+                    const ProgressFunction &progress, std::chrono::milliseconds timeLimit) override;
+    void resetAndWait(std::chrono::milliseconds timeLimit) override;
+    [[nodiscard]] qint64 getUploadRate() const override;
+
+private:
+    [[nodiscard]] CObjectPointer<ArvDevice> makeDevice() const;
+    void waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const;
+
+    /// Whether the camera answers, and then with which version.
+    [[nodiscard]] bool isPresent(QString &version) const;
+    [[nodiscard]] CFeatures getFeatures() const;
+    [[nodiscard]] QString readKnownFeature(const CFeatures &features, const QByteArray &name) const;
+
+    /// Runs @p action; whatever it throws leaves as a CCameraError.
+    template <typename Action>
+    std::invoke_result_t<Action> translate(Action action) const;
+    [[noreturn]] void fail(const QString &cause) const;
+
+    const CFoundCamera m_camera;
+    CObjectPointer<ArvDevice> m_device;
+};
+
+} // namespace Viewer::CameraPool::GenICam

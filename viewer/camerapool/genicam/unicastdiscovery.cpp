@@ -1,0 +1,81 @@
+#include "unicastdiscovery.h"
+
+#include <QDeadlineTimer>
+#include <QHash>
+#include <QNetworkDatagram>
+#include <QSet>
+#include <QUdpSocket>
+
+namespace Viewer::CameraPool::GenICam {
+
+// The control protocol of GigE Vision: the only question that is asked here, and its answer.
+static constexpr quint16 ControlPort = 3956;
+static constexpr int HeaderSize = 8;
+static constexpr int DiscoverySize = 0xF8;
+static const QByteArray DiscoveryRequest = QByteArray::fromHex("4201000200000001");
+static const QByteArray DiscoveryAnswerHeader = QByteArray::fromHex("0000000300f80001");
+
+static QString readText(const QByteArray &payload, int offset, int size)
+{
+    // Terminated only when it is shorter than its field.
+    const QByteArray field = payload.mid(offset, size);
+    return QString::fromUtf8(field.constData(),
+                             static_cast<int>(qstrnlen(field.constData(), uint(field.size()))))
+        .simplified();
+}
+
+static CFoundCamera readAnswer(const QByteArray &payload, const QString &address)
+{
+    CFoundCamera camera;
+    camera.address = address;
+    camera.vendor = readText(payload, 0x48, 32);
+    camera.model = readText(payload, 0x68, 32);
+    camera.version = readText(payload, 0x88, 32);
+    camera.serialNumber = readText(payload, 0xD8, 16);
+    camera.userName = readText(payload, 0xE8, 16);
+    return camera;
+}
+
+// Datagrams get lost: whoever has not answered by half-time is asked once more.
+static constexpr int Rounds = 2;
+
+QVector<CFoundCamera> discoverUnicast(const QVector<QHostAddress> &addresses,
+                                      std::chrono::milliseconds limit)
+{
+    QUdpSocket socket;
+    QHash<quint32, CFoundCamera> found;
+    QSet<quint32> missing;
+    for (const QHostAddress &address : addresses)
+        missing.insert(address.toIPv4Address());
+
+    for (int round = 0; round < Rounds && !missing.isEmpty(); ++round) {
+        for (const quint32 address : qAsConst(missing))
+            socket.writeDatagram(DiscoveryRequest, QHostAddress(address), ControlPort);
+
+        const QDeadlineTimer deadline(limit / Rounds);
+        while (!missing.isEmpty()
+               && (socket.hasPendingDatagrams()
+                   || socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))) {
+            const QNetworkDatagram datagram = socket.receiveDatagram();
+            const QHostAddress sender(datagram.senderAddress().toIPv4Address());
+            const QByteArray answer = datagram.data();
+            const bool isAnswer = answer.size() == HeaderSize + DiscoverySize
+                && answer.startsWith(DiscoveryAnswerHeader);
+            if (isAnswer && missing.remove(sender.toIPv4Address()))
+                found.insert(sender.toIPv4Address(),
+                             readAnswer(answer.mid(HeaderSize), sender.toString()));
+        }
+    }
+
+    QVector<CFoundCamera> cameras;
+    for (const QHostAddress &address : addresses) {
+        const auto camera = found.find(address.toIPv4Address());
+        if (camera == found.end())
+            continue;
+        cameras.append(*camera);
+        found.erase(camera);
+    }
+    return cameras;
+}
+
+} // namespace Viewer::CameraPool::GenICam
