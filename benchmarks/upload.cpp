@@ -1,0 +1,218 @@
+// How close an upload to a camera comes to what its connection can do.
+//
+// An image is uploaded to virtual cameras with file access buffers of different lengths. The
+// baseline is a bare loop over a plain socket that sends commands of the same kinds, numbers and
+// sizes to the same camera and waits for each answer.
+
+#include "viewer/camerapool/genicam/genicam.h"
+#include "viewer/camerapool/icameradevice.h"
+#include "virtualcamera/gvcp.h"
+#include "virtualcamera/memorymap.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <arpa/inet.h>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace VirtualCamera;
+using Viewer::CameraPool::ICameraDevice;
+using Viewer::CameraPool::GenICam::CGenICam;
+
+static constexpr int ImageSize = 8 * 1024 * 1024;
+static constexpr int MemoryBlock = 512; // what the library puts into one command
+static constexpr double RoundTripMs = 0.2; // of a quiet network
+
+[[noreturn]] static void fail(const char *text)
+{
+    std::fprintf(stderr, "%s\n", text);
+    std::exit(EXIT_FAILURE);
+}
+
+namespace {
+
+/// A virtual camera in a process of its own.
+class CCameraProcess
+{
+public:
+    CCameraProcess(const QString &program, const QString &address, int bufferLength)
+    {
+        m_process.setReadChannel(QProcess::StandardOutput);
+        m_process.start(program,
+                        {"--address", address, "--serial", QString::number(bufferLength),
+                         "--buffer", QString::number(bufferLength)});
+        if (!m_process.waitForReadyRead())
+            fail("The virtual camera does not start.");
+    }
+
+    /// Ends the camera; how many commands of the kind @p name it was sent.
+    QHash<QString, qint64> end()
+    {
+        m_process.terminate();
+        m_process.waitForFinished();
+        QHash<QString, qint64> counts;
+        const QString output = QString::fromUtf8(m_process.readAllStandardOutput());
+        QRegularExpressionMatchIterator match
+            = QRegularExpression("(\\w+)=(\\d+)").globalMatch(output);
+        while (match.hasNext()) {
+            const QRegularExpressionMatch next = match.next();
+            counts.insert(next.captured(1), next.captured(2).toLongLong());
+        }
+        return counts;
+    }
+
+private:
+    QProcess m_process;
+};
+
+/// A plain socket, one command at a time.
+class CBareClient
+{
+public:
+    explicit CBareClient(const QString &address)
+        : m_socket(socket(AF_INET, SOCK_DGRAM, 0))
+    {
+        sockaddr_in camera{};
+        camera.sin_family = AF_INET;
+        camera.sin_port = htons(Gvcp::PORT);
+        inet_pton(AF_INET, address.toLatin1().constData(), &camera.sin_addr);
+        if (connect(m_socket, reinterpret_cast<sockaddr *>(&camera), sizeof camera) != 0)
+            fail("The virtual camera cannot be reached.");
+    }
+    ~CBareClient() { close(m_socket); }
+    Q_DISABLE_COPY(CBareClient)
+
+    QByteArray ask(Gvcp::ECommand command, const QByteArray &payload)
+    {
+        QByteArray request("\x42\x01", 2);
+        Gvcp::appendHalfWord(request, static_cast<quint16>(command));
+        Gvcp::appendHalfWord(request, static_cast<quint16>(payload.size()));
+        Gvcp::appendHalfWord(request, ++m_id == 0 ? ++m_id : m_id);
+        request += payload;
+        QByteArray answer(Gvcp::HEADER_SIZE + Gvcp::MAXIMUM_PAYLOAD, '\0');
+        if (send(m_socket, request.constData(), static_cast<size_t>(request.size()), 0) < 0
+            || recv(m_socket, answer.data(), static_cast<size_t>(answer.size()), 0) < 8
+            || Gvcp::readWord(answer, 0) >> 16 != 0)
+            fail("The virtual camera refuses.");
+        return answer;
+    }
+
+    void write(quint32 address, const QByteArray &bytes)
+    {
+        QByteArray payload;
+        Gvcp::appendWord(payload, address);
+        ask(Gvcp::ECommand::WriteMemory, payload + bytes);
+    }
+
+    void writeWord(quint32 address, quint32 value)
+    {
+        QByteArray bytes;
+        Gvcp::appendWord(bytes, value);
+        write(address, bytes);
+    }
+
+    void readWord(quint32 address)
+    {
+        QByteArray payload;
+        Gvcp::appendWord(payload, address);
+        Gvcp::appendWord(payload, 4);
+        ask(Gvcp::ECommand::ReadMemory, payload);
+    }
+
+private:
+    const int m_socket;
+    quint16 m_id = 0;
+};
+
+} // namespace
+
+static double megabytesPerSecond(qint64 nanoseconds)
+{
+    return ImageSize / 1e6 / (static_cast<double>(nanoseconds) / 1e9);
+}
+
+static std::unique_ptr<ICameraDevice> openDevice(const QString &address)
+{
+    CGenICam cameras({QHostAddress(address)}, false);
+    const auto found = cameras.enumerate().value(0).cameras;
+    std::unique_ptr<ICameraDevice> device
+        = found.isEmpty() ? nullptr : cameras.createDevice(found.first().id);
+    if (!device)
+        fail("The virtual camera does not answer.");
+    device->open(std::chrono::seconds(10));
+    return device;
+}
+
+static qint64 upload(const QString &address, const QByteArray &image)
+{
+    const std::unique_ptr<ICameraDevice> device = openDevice(address);
+    QBuffer source;
+    source.setData(image);
+    source.open(QIODevice::ReadOnly);
+    QElapsedTimer timer;
+    timer.start();
+    device->uploadFile("FirmwareImage", source, image.size(), {}, std::chrono::minutes(10));
+    return timer.nsecsElapsed();
+}
+
+// What the upload sends for each block, and nothing else.
+static qint64 runBaseline(const QString &address, const QByteArray &image, int bufferLength)
+{
+    CBareClient client(address);
+    client.writeWord(MemoryMap::CONTROL_PRIVILEGE, 2);
+    client.writeWord(MemoryMap::FILE_OPEN_MODE, 1);
+    client.writeWord(MemoryMap::FILE_OPERATION_EXECUTE, 1);
+    client.writeWord(MemoryMap::FILE_OPERATION_SELECTOR, 3);
+    QElapsedTimer timer;
+    timer.start();
+    for (int offset = 0; offset < image.size(); offset += bufferLength) {
+        client.writeWord(MemoryMap::FILE_ACCESS_OFFSET, static_cast<quint32>(offset));
+        for (int i = 0; i < bufferLength; i += MemoryBlock)
+            client.write(MemoryMap::FILE_ACCESS_BUFFER + static_cast<quint32>(i),
+                         image.mid(offset + i, MemoryBlock));
+        client.writeWord(MemoryMap::FILE_OPERATION_EXECUTE, 1);
+        client.readWord(MemoryMap::FILE_OPERATION_RESULT);
+    }
+    return timer.nsecsElapsed();
+}
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QString program = QCoreApplication::applicationDirPath() + "/virtualcamera";
+    const QByteArray image(ImageSize, 'x');
+
+    std::printf("%8s %10s %10s %10s %12s %8s %16s\n", "buffer", "commands", "per block", "MB/s",
+                "bare MB/s", "ratio", "s at 0.2 ms");
+    int host = 60;
+    for (const int bufferLength : {512, 4096, 65536}) {
+        const QString address = QStringLiteral("127.0.1.%1").arg(++host);
+        CCameraProcess idle(program, address, bufferLength);
+        openDevice(address).reset(); // to leave out of the count what has nothing to do with blocks
+        const QHash<QString, qint64> before = idle.end();
+
+        CCameraProcess camera(program, address, bufferLength);
+        const qint64 time = upload(address, image);
+        const QHash<QString, qint64> after = camera.end();
+        CCameraProcess baseline(program, address, bufferLength);
+        const qint64 bareTime = runBaseline(address, image, bufferLength);
+        baseline.end();
+
+        qint64 commands = 0;
+        for (const char *const kind : {"readreg", "writereg", "readmem", "writemem"})
+            commands += after.value(kind) - before.value(kind);
+        const double perBlock = static_cast<double>(commands) / (ImageSize / bufferLength);
+        std::printf("%8d %10lld %10.2f %10.2f %12.2f %8.2f %16.1f\n", bufferLength, commands,
+                    perBlock, megabytesPerSecond(time), megabytesPerSecond(bareTime),
+                    static_cast<double>(bareTime) / static_cast<double>(time),
+                    static_cast<double>(commands) * RoundTripMs / 1000.0);
+    }
+    return EXIT_SUCCESS;
+}
