@@ -26,6 +26,7 @@
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QSessionManager>
+#include <QSettings>
 #include <QToolBar>
 #include <QUrl>
 
@@ -53,12 +54,23 @@ static QString withoutMnemonic(QString text)
     return text.remove(mnemonic);
 }
 
+static const QLatin1String SearchNetworkKey("searchNetwork");
+
+// A search by broadcast reaches devices of others: it is asked for, now or once for all.
+static CameraPool::CCameraPoolOptions getPoolOptions(const CCommandLineOptions &options)
+{
+    CameraPool::CCameraPoolOptions poolOptions = options.pool;
+    poolOptions.searchesNetwork
+        = poolOptions.searchesNetwork || QSettings().value(SearchNetworkKey).toBool();
+    return poolOptions;
+}
+
 CViewer::CViewer(const CCommandLineOptions &options, const QString &language)
     : m_options(options)
     , m_language(language)
     , m_dialogWatcher(std::make_unique<CModalDialogWatcher>())
     , m_linkOpener(std::make_unique<CLinkOpener>())
-    , m_pool(std::make_unique<CameraPool::CCameraPool>(options.pool))
+    , m_pool(std::make_unique<CameraPool::CCameraPool>(getPoolOptions(options)))
     , m_menuService(QSharedPointer<CMenuService>::create())
     , m_selectorService(QSharedPointer<CameraSelector::CDeviceSelectorService>::create())
     , m_window(std::make_unique<CMainWindow>(*m_menuService))
@@ -131,6 +143,8 @@ void CViewer::fillMenus()
         action->setIconText(withoutMnemonic(action->text()));
     fileMenu->addSeparator();
     fileMenu->addAction(refreshAction);
+    if (CameraPool::CCameraPool::canSearchNetwork())
+        fileMenu->addAction(createNetworkAction());
     if (!m_options.samplesDirectory.isEmpty()) {
         fileMenu->addAction(tr("&Open sample folder"), this, [this] {
             QDesktopServices::openUrl(QUrl::fromLocalFile(m_options.samplesDirectory));
@@ -143,11 +157,25 @@ void CViewer::fillMenus()
 
     m_simulationMenu
         = std::make_unique<CSimulationMenu>(m_pool->getSimulation(), m_window->getSimulationMenu());
+    m_window->getSimulationMenu()->menuAction()->setVisible(m_options.pool.simulates);
     QMenu *const helpMenu = m_window->getHelpMenu();
     helpMenu->addAction(tr("&Plug-ins..."), this, &CViewer::showPlugins)
         ->setObjectName(QStringLiteral("plugins"));
     helpMenu->addAction(tr("&About"), this, &CViewer::showAbout)
         ->setObjectName(QStringLiteral("about"));
+}
+
+QAction *CViewer::createNetworkAction()
+{
+    auto *const action = new QAction(tr("Search the &network for cameras"), m_window.get());
+    action->setObjectName(QStringLiteral("searchNetwork"));
+    action->setCheckable(true);
+    action->setChecked(m_pool->searchesNetwork());
+    connect(action, &QAction::triggered, m_pool.get(), [this](bool searches) {
+        QSettings().setValue(SearchNetworkKey, searches);
+        m_pool->setSearchesNetwork(searches);
+    });
+    return action;
 }
 
 void CViewer::registerServices()

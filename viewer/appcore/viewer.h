@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QAction;
+
 namespace Viewer::CameraPool {
 class CCameraPool;
 }
@@ -65,6 +67,7 @@ public:
 private:
     void createWindow();
     void fillMenus();
+    [[nodiscard]] QAction *createNetworkAction();
     void registerServices();
     void addBuiltIns();
     [[nodiscard]] QString getReasonToStayOpen() const;
