@@ -4,40 +4,46 @@ namespace Viewer::CameraPool::GenICam {
 
 using EReason = CFeatureError::EReason;
 
-CFeatureError::CFeatureError(const QString &message, EReason reason)
-    : BaseException(message)
+CFeatureError::CFeatureError(const CErrorText &text, EReason reason)
+    : BaseException(text.getEnglish())
+    , m_text(text)
     , m_reason(reason)
 {
 }
 
 CFeatureError::~CFeatureError() = default;
 
+CErrorText CFeatureError::getText() const
+{
+    return m_text;
+}
+
 EReason CFeatureError::getReason() const
 {
     return m_reason;
 }
 
-static QString describe(const CErrorGuard &error)
+static CErrorText describe(const CErrorGuard &error)
 {
     if (error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED))
-        return QStringLiteral("it did not answer; check its cable, its power supply and the "
+        return CErrorText::tr("it did not answer; check its cable, its power supply and the "
                               "network");
     // An application that has control is refused nothing for want of rights.
     if (error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED)
         || error.is(ARV_DEVICE_ERROR_NOT_CONTROLLER))
-        return QStringLiteral("control over it was lost; close other applications that use it");
+        return CErrorText::tr("control over it was lost; close other applications that use it");
     if (error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY))
-        return QStringLiteral("it is busy; try again later");
-    return QStringLiteral("it refused (%1)").arg(error.getMessage().simplified());
+        return CErrorText::tr("it is busy; try again later");
+    return CErrorText::tr("it refused (%1)").arg(error.getMessage().simplified());
 }
 
-void throwIf(const CErrorGuard &error, const QString &attempt)
+void throwIf(const CErrorGuard &error, const CErrorText &attempt)
 {
     if (!error)
         return;
     const bool noAnswer
         = error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED);
-    throw CFeatureError(QStringLiteral("%1: %2").arg(attempt, describe(error)),
+    throw CFeatureError(CErrorText::tr("%1: %2").arg(attempt, describe(error)),
                         noAnswer ? EReason::NoAnswer : EReason::Refused);
 }
 
@@ -46,14 +52,14 @@ static QString quote(const QByteArray &name)
     return QStringLiteral("\"%1\"").arg(QString::fromUtf8(name));
 }
 
-static QString readingOf(const QByteArray &name)
+static CErrorText readingOf(const QByteArray &name)
 {
-    return QStringLiteral("its feature %1 could not be read").arg(quote(name));
+    return CErrorText::tr("its feature %1 could not be read").arg(quote(name));
 }
 
-static QString writingOf(const QByteArray &name, const QString &value)
+static CErrorText writingOf(const QByteArray &name, const QString &value)
 {
-    return QStringLiteral("its feature %1 could not be set to \"%2\"").arg(quote(name), value);
+    return CErrorText::tr("its feature %1 could not be set to \"%2\"").arg(quote(name), value);
 }
 
 CFeatures::CFeatures(ArvDevice *device)
@@ -70,7 +76,7 @@ ArvGcNode *CFeatures::getNode(const QByteArray &name) const
 {
     ArvGcNode *const node = arv_device_get_feature(m_device, name.constData());
     if (!ARV_IS_GC_FEATURE_NODE(node))
-        throw CFeatureError(QStringLiteral("it has no feature %1; the update file may be for "
+        throw CFeatureError(CErrorText::tr("it has no feature %1; the update file may be for "
                                            "another model")
                                 .arg(quote(name)),
                             EReason::Refused);
@@ -114,11 +120,11 @@ void CFeatures::execute(const QByteArray &name) const
 {
     ArvGcNode *const node = getNode(name);
     if (!ARV_IS_GC_COMMAND(node))
-        throw CFeatureError(QStringLiteral("its feature %1 is no command").arg(quote(name)),
+        throw CFeatureError(CErrorText::tr("its feature %1 is no command").arg(quote(name)),
                             EReason::Refused);
     CErrorGuard error;
     arv_gc_command_execute(ARV_GC_COMMAND(node), error.receive());
-    throwIf(error, QStringLiteral("its command %1 could not be executed").arg(quote(name)));
+    throwIf(error, CErrorText::tr("its command %1 could not be executed").arg(quote(name)));
 }
 
 bool CFeatures::isDone(const QByteArray &name) const
@@ -153,7 +159,7 @@ bool CFeatures::isDone(const QByteArray &name) const
     CErrorGuard error;
     const gint64 current = arv_gc_integer_get_value(ARV_GC_INTEGER(value), error.receive());
     throwIf(error,
-            QStringLiteral("the end of its command %1 could not be awaited").arg(quote(name)));
+            CErrorText::tr("the end of its command %1 could not be awaited").arg(quote(name)));
     return current != commandValue;
 }
 
@@ -161,7 +167,7 @@ CFeatures::CRegister CFeatures::findRegister(const QByteArray &name) const
 {
     ArvGcNode *const node = getNode(name);
     if (!ARV_IS_GC_REGISTER(node))
-        throw CFeatureError(QStringLiteral("its feature %1 is no register").arg(quote(name)),
+        throw CFeatureError(CErrorText::tr("its feature %1 is no register").arg(quote(name)),
                             EReason::Refused);
     CErrorGuard error;
     CRegister found;
@@ -177,7 +183,7 @@ void CFeatures::writeMemory(quint64 address, QByteArray bytes) const
     CErrorGuard error;
     arv_device_write_memory(m_device, address, static_cast<guint32>(bytes.size()), bytes.data(),
                             error.receive());
-    throwIf(error, QStringLiteral("its memory could not be written"));
+    throwIf(error, CErrorText::tr("its memory could not be written"));
 }
 
 } // namespace Viewer::CameraPool::GenICam

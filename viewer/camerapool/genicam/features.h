@@ -2,6 +2,8 @@
 
 #include "glibpointers.h"
 
+#include "viewer/camerapool/errortext.h"
+
 #include "core/baseexception.h"
 
 #include <QByteArray>
@@ -18,18 +20,21 @@ public:
         Refused,
     };
 
-    CFeatureError(const QString &message, EReason reason);
+    CFeatureError(const CErrorText &text, EReason reason);
     ~CFeatureError() override;
 
+    /// The message, also in the user's language.
+    [[nodiscard]] CErrorText getText() const;
     [[nodiscard]] EReason getReason() const;
 
 private:
+    CErrorText m_text;
     EReason m_reason;
 };
 
 /// Throws the CFeatureError for @p error: "<attempt>: <why, and what to do about it>". Does
 /// nothing when there is no error.
-void throwIf(const CErrorGuard &error, const QString &attempt);
+void throwIf(const CErrorGuard &error, const CErrorText &attempt);
 
 /// The features of one open camera, by name. All operations block for as long as the camera takes,
 /// up to 2.5 s for an answer that does not come, and throw CFeatureError. The thread that owns the

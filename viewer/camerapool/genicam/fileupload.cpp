@@ -22,7 +22,7 @@ static const QByteArray Selector = QByteArrayLiteral("FileSelector");
 /// More than one block at a time would only lengthen the wait for each single one.
 static constexpr quint64 MaximumBlockSize = 1024 * 1024;
 
-[[noreturn]] static void fail(const QString &cause)
+[[noreturn]] static void fail(const CErrorText &cause)
 {
     throw CFeatureError(cause, CFeatureError::EReason::Refused);
 }
@@ -33,7 +33,7 @@ CFileUpload::CFileUpload(const CFeatures &features, const QString &fileName,
     , m_fileName(fileName)
     , m_deadline(deadline)
 {
-    attempt(QStringLiteral("opening"), [this] { open(); });
+    attempt(CErrorText::tr("opening its file \"%1\" failed").arg(m_fileName), [this] { open(); });
 }
 
 CFileUpload::~CFileUpload()
@@ -55,7 +55,8 @@ int CFileUpload::getBlockSize() const
 
 void CFileUpload::writeBlock(const QByteArray &block)
 {
-    attempt(QStringLiteral("writing at byte %1 of").arg(m_offset),
+    attempt(CErrorText::tr("writing its file \"%1\" failed at byte %2")
+                .arg(m_fileName, QString::number(m_offset)),
             [this, &block] { write(block); });
 }
 
@@ -63,17 +64,17 @@ void CFileUpload::close()
 {
     // Whether it works or not, it is not tried again.
     m_isOpen = false;
-    attempt(QStringLiteral("closing"), [this] { operate(QByteArrayLiteral("Close")); });
+    attempt(CErrorText::tr("closing its file \"%1\" failed").arg(m_fileName),
+            [this] { operate(QByteArrayLiteral("Close")); });
 }
 
 template <typename Action>
-void CFileUpload::attempt(const QString &attempt, Action action)
+void CFileUpload::attempt(const CErrorText &failure, Action action)
 {
     try {
         action();
     } catch (const CFeatureError &error) {
-        throw CFeatureError(QStringLiteral("%1 its file \"%2\" failed: %3")
-                                .arg(attempt, m_fileName, error.getMessage()),
+        throw CFeatureError(CErrorText::tr("%1: %2").arg(failure, error.getText()),
                             error.getReason());
     }
 }
@@ -84,7 +85,7 @@ void CFileUpload::open()
     // Whole words only: the last block is filled up to one.
     m_buffer.length = std::min(m_buffer.length, MaximumBlockSize) / 4 * 4;
     if (m_buffer.length == 0)
-        fail(QStringLiteral("its buffer for files is empty"));
+        fail(CErrorText::tr("its buffer for files is empty"));
     m_hasOffset = m_features.has(AccessOffset);
     m_features.write(Selector, m_fileName);
     m_features.write(OpenMode, QStringLiteral("Write"));
@@ -110,7 +111,8 @@ void CFileUpload::write(const QByteArray &block)
     const qint64 written = m_features.readInteger(OperationResult);
     if (written != block.size()) {
         checkStatus();
-        fail(QStringLiteral("it took %1 of %2 bytes").arg(written).arg(block.size()));
+        fail(CErrorText::tr("it took %1 of %2 bytes")
+                 .arg(QString::number(written), QString::number(block.size())));
     }
     m_offset += written;
 }
@@ -127,7 +129,7 @@ void CFileUpload::execute()
     m_features.execute(OperationExecute);
     while (!m_features.isDone(OperationExecute)) {
         if (m_deadline.hasExpired())
-            fail(QStringLiteral("it took too long"));
+            fail(CErrorText::tr("it took too long"));
         QThread::msleep(1);
     }
 }
@@ -136,7 +138,7 @@ void CFileUpload::checkStatus() const
 {
     const QString status = m_features.read(OperationStatus);
     if (status != QLatin1String("Success"))
-        fail(QStringLiteral("it reports the status \"%1\"").arg(status));
+        fail(CErrorText::tr("it reports the status \"%1\"").arg(status));
 }
 
 } // namespace Viewer::CameraPool::GenICam

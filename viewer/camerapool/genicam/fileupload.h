@@ -34,9 +34,9 @@ private:
     void execute();
     void checkStatus() const;
 
-    /// Runs @p action; a failure is thrown on as the failure of @p attempt on this file.
+    /// Runs @p action; what it throws is thrown on behind @p failure.
     template <typename Action>
-    void attempt(const QString &attempt, Action action);
+    void attempt(const CErrorText &failure, Action action);
 
     const CFeatures &m_features;
     const QString m_fileName;

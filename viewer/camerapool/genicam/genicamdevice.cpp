@@ -45,7 +45,7 @@ QString CGenICamDevice::getName() const
 void CGenICamDevice::open(milliseconds timeLimit)
 {
     if (m_device)
-        fail(QStringLiteral("it is already open"));
+        fail(CErrorText::tr("it is already open"));
     // The library's own limits are shorter than any that is asked for here.
     Q_UNUSED(timeLimit)
     m_device = translate([this] { return makeDevice(); });
@@ -73,7 +73,7 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
         const CObjectPointer<GInetAddress> cameraAddress(
             g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
         if (!interfaceAddress || !cameraAddress)
-            throw CFeatureError(QStringLiteral("there is no way to its address; check the network "
+            throw CFeatureError(CErrorText::tr("there is no way to its address; check the network "
                                                "settings of this computer"),
                                 CFeatureError::EReason::NoAnswer);
         device.reset(
@@ -83,12 +83,12 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
             m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
             m_camera.serialNumber.toUtf8().constData(), error.receive()));
     }
-    throwIf(error, QStringLiteral("it could not be opened"));
+    throwIf(error, CErrorText::tr("it could not be opened"));
     if (!device)
-        throw CFeatureError(QStringLiteral("it could not be opened"),
+        throw CFeatureError(CErrorText::tr("it could not be opened"),
                             CFeatureError::EReason::NoAnswer);
     if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
-        throw CFeatureError(QStringLiteral("it is in use by another application; close that one "
+        throw CFeatureError(CErrorText::tr("it is in use by another application; close that one "
                                            "and start the update again"),
                             CFeatureError::EReason::Refused);
     return device;
@@ -134,7 +134,7 @@ void CGenICamDevice::executeCommand(const QString &name, milliseconds timeLimit)
         features.execute(command);
         while (!features.isDone(command)) {
             if (deadline.hasExpired())
-                fail(QStringLiteral("its command \"%1\" took too long; switch the camera off and "
+                fail(CErrorText::tr("its command \"%1\" took too long; switch the camera off and "
                                     "on and repeat the update")
                          .arg(name));
             QThread::msleep(PollInterval.count());
@@ -151,13 +151,13 @@ void CGenICamDevice::uploadFile(const QString &fileName, QIODevice &source, qint
         CFileUpload upload(features, fileName, deadline);
         for (qint64 done = 0; done < size;) {
             if (deadline.hasExpired())
-                fail(QStringLiteral("the upload of its file \"%1\" took too long; it was broken "
+                fail(CErrorText::tr("the upload of its file \"%1\" took too long; it was broken "
                                     "off after %2 of %3 bytes")
                          .arg(fileName, QString::number(done), QString::number(size)));
             const QByteArray block
                 = source.read(std::min<qint64>(upload.getBlockSize(), size - done));
             if (block.isEmpty())
-                fail(QStringLiteral("the data for its file \"%1\" ended after %2 of %3 bytes (%4)")
+                fail(CErrorText::tr("the data for its file \"%1\" ended after %2 of %3 bytes (%4)")
                          .arg(fileName, QString::number(done), QString::number(size),
                               source.errorString()));
             upload.writeBlock(block);
@@ -216,9 +216,9 @@ void CGenICamDevice::waitForReturn(const QString &oldVersion, const QDeadlineTim
             silence = 0;
         QThread::msleep(PollInterval.count());
     }
-    fail(silence > 0 ? QStringLiteral("it did not come back from its reset; switch it off and on "
+    fail(silence > 0 ? CErrorText::tr("it did not come back from its reset; switch it off and on "
                                       "and look for its firmware version")
-                     : QStringLiteral("it did not restart; switch it off and on and look for its "
+                     : CErrorText::tr("it did not restart; switch it off and on and look for its "
                                       "firmware version"));
 }
 
@@ -246,7 +246,7 @@ qint64 CGenICamDevice::getUploadRate() const
 CFeatures CGenICamDevice::getFeatures() const
 {
     if (!m_device)
-        fail(QStringLiteral("it is not open"));
+        fail(CErrorText::tr("it is not open"));
     return CFeatures(m_device.get());
 }
 
@@ -256,11 +256,11 @@ std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
     try {
         return action();
     } catch (const CFeatureError &error) {
-        fail(error.getMessage());
+        fail(error.getText());
     }
 }
 
-void CGenICamDevice::fail(const QString &cause) const
+void CGenICamDevice::fail(const CErrorText &cause) const
 {
     throw CCameraError(getName(), cause);
 }
