@@ -4,6 +4,7 @@
 // baseline is a bare loop over a plain socket that sends commands of the same kinds, numbers and
 // sizes to the same camera and waits for each answer.
 
+#include "support/virtualcameraprocess.h"
 #include "viewer/camerapool/genicam/genicam.h"
 #include "viewer/camerapool/icameradevice.h"
 #include "virtualcamera/gvcp.h"
@@ -12,9 +13,6 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <arpa/inet.h>
 #include <cstdio>
@@ -23,6 +21,7 @@
 #include <unistd.h>
 
 using namespace VirtualCamera;
+using TestSupport::CVirtualCameraProcess;
 using Viewer::CameraPool::ICameraDevice;
 using Viewer::CameraPool::GenICam::CGenICam;
 
@@ -38,51 +37,17 @@ static constexpr double RoundTripMs = 0.2; // of a quiet network
 
 namespace {
 
-/// A virtual camera in a process of its own.
-class CCameraProcess
-{
-public:
-    CCameraProcess(const QString &program, const QString &address, int bufferLength)
-    {
-        m_process.setReadChannel(QProcess::StandardOutput);
-        m_process.start(program,
-                        {"--address", address, "--serial", QString::number(bufferLength),
-                         "--buffer", QString::number(bufferLength)});
-        if (!m_process.waitForReadyRead())
-            fail("The virtual camera does not start.");
-    }
-
-    /// Ends the camera; how many commands of the kind @p name it was sent.
-    QHash<QString, qint64> end()
-    {
-        m_process.terminate();
-        m_process.waitForFinished();
-        QHash<QString, qint64> counts;
-        const QString output = QString::fromUtf8(m_process.readAllStandardOutput());
-        QRegularExpressionMatchIterator match
-            = QRegularExpression("(\\w+)=(\\d+)").globalMatch(output);
-        while (match.hasNext()) {
-            const QRegularExpressionMatch next = match.next();
-            counts.insert(next.captured(1), next.captured(2).toLongLong());
-        }
-        return counts;
-    }
-
-private:
-    QProcess m_process;
-};
-
 /// A plain socket, one command at a time.
 class CBareClient
 {
 public:
-    explicit CBareClient(const QString &address)
+    explicit CBareClient(const QHostAddress &address)
         : m_socket(socket(AF_INET, SOCK_DGRAM, 0))
     {
         sockaddr_in camera{};
         camera.sin_family = AF_INET;
         camera.sin_port = htons(Gvcp::PORT);
-        inet_pton(AF_INET, address.toLatin1().constData(), &camera.sin_addr);
+        camera.sin_addr.s_addr = htonl(address.toIPv4Address());
         if (connect(m_socket, reinterpret_cast<sockaddr *>(&camera), sizeof camera) != 0)
             fail("The virtual camera cannot be reached.");
     }
@@ -138,9 +103,9 @@ static double megabytesPerSecond(qint64 nanoseconds)
     return ImageSize / 1e6 / (static_cast<double>(nanoseconds) / 1e9);
 }
 
-static std::unique_ptr<ICameraDevice> openDevice(const QString &address)
+static std::unique_ptr<ICameraDevice> openDevice(const QHostAddress &address)
 {
-    CGenICam cameras({QHostAddress(address)}, false);
+    CGenICam cameras({address}, false);
     const auto found = cameras.enumerate().value(0).cameras;
     std::unique_ptr<ICameraDevice> device
         = found.isEmpty() ? nullptr : cameras.createDevice(found.first().id);
@@ -150,7 +115,7 @@ static std::unique_ptr<ICameraDevice> openDevice(const QString &address)
     return device;
 }
 
-static qint64 upload(const QString &address, const QByteArray &image)
+static qint64 upload(const QHostAddress &address, const QByteArray &image)
 {
     const std::unique_ptr<ICameraDevice> device = openDevice(address);
     QBuffer source;
@@ -163,7 +128,7 @@ static qint64 upload(const QString &address, const QByteArray &image)
 }
 
 // What the upload sends for each block, and nothing else.
-static qint64 runBaseline(const QString &address, const QByteArray &image, int bufferLength)
+static qint64 runBaseline(const QHostAddress &address, const QByteArray &image, int bufferLength)
 {
     CBareClient client(address);
     client.writeWord(MemoryMap::CONTROL_PRIVILEGE, 2);
@@ -186,22 +151,22 @@ static qint64 runBaseline(const QString &address, const QByteArray &image, int b
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QString program = QCoreApplication::applicationDirPath() + "/virtualcamera";
     const QByteArray image(ImageSize, 'x');
 
     std::printf("%8s %10s %10s %10s %12s %8s %16s\n", "buffer", "commands", "per block", "MB/s",
                 "bare MB/s", "ratio", "s at 0.2 ms");
-    int host = 60;
+    int host = 0;
     for (const int bufferLength : {512, 4096, 65536}) {
-        const QString address = QStringLiteral("127.0.1.%1").arg(++host);
-        CCameraProcess idle(program, address, bufferLength);
+        const QHostAddress address = CVirtualCameraProcess::getOwnAddress(++host);
+        const QStringList arguments{"--buffer", QString::number(bufferLength)};
+        CVirtualCameraProcess idle(address, arguments);
         openDevice(address).reset(); // to leave out of the count what has nothing to do with blocks
         const QHash<QString, qint64> before = idle.end();
 
-        CCameraProcess camera(program, address, bufferLength);
+        CVirtualCameraProcess camera(address, arguments);
         const qint64 time = upload(address, image);
         const QHash<QString, qint64> after = camera.end();
-        CCameraProcess baseline(program, address, bufferLength);
+        CVirtualCameraProcess baseline(address, arguments);
         const qint64 bareTime = runBaseline(address, image, bufferLength);
         baseline.end();
 
