@@ -1,0 +1,220 @@
+#include "jobrecorder.h"
+#include "support/virtualcameraprocess.h"
+#include "viewer/camerapool/camerapool.h"
+#include "viewer/camerapool/genicam/genicam.h"
+#include "viewer/camerapool/icameradevice.h"
+
+#include "camerapool/icameraenumerationservice.h"
+#include "camerapool/idevicefirmwareupdateservice.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace Plugin::CameraPool;
+using TestSupport::CVirtualCameraProcess;
+using Viewer::CameraPool::CCameraPool;
+using Viewer::CameraPool::GenICam::CGenICam;
+
+/// Update jobs against virtual cameras in processes of their own, over the loopback interface.
+class CRealCamerasTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void updatesACamera_data();
+    void updatesACamera();
+    void tellsEachFault_data();
+    void tellsEachFault();
+    void leavesACameraInUseAlone();
+    void refusesTwoCamerasOfOneIdentity();
+
+private:
+    template <typename Service>
+    [[nodiscard]] QSharedPointer<Service> getService() const;
+
+    /// Starts a camera at the next address.
+    CVirtualCameraProcess &startCamera(const QStringList &arguments);
+
+    /// Opens a pool that knows the cameras started so far; they are its only ones.
+    QVector<CameraInfoPtr> openPool();
+
+    /// Updates @p camera with the sample while events are processed here; the error, or nothing.
+    QString update(const CameraInfoPtr &camera);
+
+    QVector<QHostAddress> m_addresses;
+    std::vector<std::unique_ptr<CVirtualCameraProcess>> m_cameras;
+    std::unique_ptr<CCameraPool> m_pool;
+    QTemporaryDir m_folder;
+};
+
+void CRealCamerasTest::init()
+{
+    m_pool.reset();
+    m_cameras.clear();
+    m_addresses.clear();
+}
+
+template <typename Service>
+QSharedPointer<Service> CRealCamerasTest::getService() const
+{
+    const auto services = m_pool->getServices();
+    for (const auto &service : services) {
+        if (const auto match = service.dynamicCast<Service>())
+            return match;
+    }
+    return {};
+}
+
+CVirtualCameraProcess &CRealCamerasTest::startCamera(const QStringList &arguments)
+{
+    m_addresses.append(CVirtualCameraProcess::getOwnAddress(m_addresses.size() + 1));
+    m_cameras.push_back(
+        std::make_unique<CVirtualCameraProcess>(m_addresses.constLast(), arguments));
+    return *m_cameras.back();
+}
+
+QVector<CameraInfoPtr> CRealCamerasTest::openPool()
+{
+    Viewer::CameraPool::CCameraPoolOptions options;
+    options.simulates = false;
+    options.cameraAddresses = m_addresses;
+    m_pool = std::make_unique<CCameraPool>(options);
+    const auto enumeration = getService<ICameraEnumerationService>();
+    QSignalSpy spy(enumeration.data(), &ICameraEnumerationService::enumerationChanged);
+    m_pool->start();
+    spy.wait();
+    const auto layers = enumeration->getTransportLayerInfoVector();
+    return layers.isEmpty() ? QVector<CameraInfoPtr>() : layers.first()->getCameraInfoList();
+}
+
+QString CRealCamerasTest::update(const CameraInfoPtr &camera)
+{
+    const auto updates = getService<IDeviceFirmwareUpdateService>();
+    QVector<QSharedPointer<IFirmwareUpdateInfo>> fitting;
+    bool updatable = false;
+    updates->getCompatibleFirmwareUpdates(
+        camera, updates->getFirmwareUpdateInfos(SAMPLE_UPDATE, {}), fitting, updatable);
+    if (fitting.isEmpty())
+        return "no update fits";
+    const auto job = updates->createDeviceFirmwareUpdate(camera, fitting.first());
+    const Test::CJobRecorder recorder(*job);
+    QSignalSpy done(m_pool.get(), &CCameraPool::updateRunningChanged);
+
+    QElapsedTimer lastTurn;
+    qint64 longestGap = 0;
+    QTimer turns;
+    connect(&turns, &QTimer::timeout, this,
+            [&] { longestGap = qMax(longestGap, lastTurn.restart()); });
+    turns.start(1);
+    lastTurn.start();
+    std::thread worker([&job] { job->executeFirmwareUpdate(); });
+    while (recorder.getAll("done").isEmpty() && recorder.getAll("error").isEmpty())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    worker.join();
+    qInfo("longest gap of this thread: %lld ms", longestGap);
+    return recorder.getAll("done").isEmpty() ? recorder.getError() : QString();
+}
+
+void CRealCamerasTest::updatesACamera_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("smallest buffer") << QStringList{"--buffer", "512"};
+    QTest::newRow("buffer of no whole block") << QStringList{"--buffer", "700"};
+    QTest::newRow("largest buffer, requests lost")
+        << QStringList{"--buffer", "65536", "--lose-every", "150"};
+    QTest::newRow("an acknowledge lost") << QStringList{"--lose-ack", "30"};
+    QTest::newRow("file opened slowly") << QStringList{"--open-ms", "1500"};
+}
+
+void CRealCamerasTest::updatesACamera()
+{
+    QFETCH(QStringList, arguments);
+    const QString flash = m_folder.filePath("flash");
+    QFile::remove(flash);
+    CVirtualCameraProcess &camera
+        = startCamera(arguments + QStringList{"--flash", flash, "--user-name", "hall"});
+    const QVector<CameraInfoPtr> found = openPool();
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found[0]->getDisplayName(), "hall");
+    QCOMPARE(found[0]->getFirmwareVersion(), "1.2.0");
+
+    QCOMPARE(update(found[0]), QString());
+    QFile written(flash), payload(SAMPLE_PAYLOAD);
+    QVERIFY(written.open(QIODevice::ReadOnly) && payload.open(QIODevice::ReadOnly));
+    QVERIFY(written.readAll() == payload.readAll());
+    QVERIFY(camera.getEvents().contains("back 2.0.0"));
+    const auto enumeration = getService<ICameraEnumerationService>();
+    QTRY_COMPARE(enumeration->getTransportLayerInfoVector()
+                     .value(0)
+                     ->getCameraInfoList()
+                     .value(0)
+                     ->getFirmwareVersion(),
+                 "2.0.0");
+}
+
+void CRealCamerasTest::tellsEachFault_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    QTest::newRow("dies during the upload")
+        << QStringList{"--die-after", "20480"}
+        << "writing its file \"FirmwareImage\" failed at byte 16384: .*it did not answer; check";
+    QTest::newRow("refuses a command")
+        << QStringList{"--refuse", "FirmwareActivate"}
+        << "its command \"FirmwareActivate\" could not be executed: it refused";
+    QTest::newRow("refuses to open the file")
+        << QStringList{"--refuse", "FileOperationExecute"}
+        << "opening its file \"FirmwareImage\" failed: its command";
+    QTest::newRow("comes back with the old version")
+        << QStringList{"--old-version"}
+        << "its feature \"DeviceFirmwareVersion\" is \"1.2.0\" instead of \"2.0.0\"";
+    QTest::newRow("does not restart") << QStringList{"--refuse", "DeviceReset"}
+                                      << "its command \"DeviceReset\" could not be executed";
+    QTest::newRow("never comes back")
+        << QStringList{"--never-return"} << "it did not come back from its reset; switch it off";
+}
+
+void CRealCamerasTest::tellsEachFault()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    startCamera(arguments);
+    const QVector<CameraInfoPtr> found = openPool();
+    QCOMPARE(found.size(), 1);
+    const QString text = update(found[0]);
+    QVERIFY2(text.startsWith("Camera 50000001 (GV-1400M, 127."), qPrintable(text));
+    QVERIFY2(text.contains(QRegularExpression(error)), qPrintable(text));
+}
+
+void CRealCamerasTest::leavesACameraInUseAlone()
+{
+    CVirtualCameraProcess &camera = startCamera({});
+    CGenICam others(m_addresses, false);
+    const auto layers = others.enumerate();
+    const auto device = others.createDevice(layers.value(0).cameras.value(0).id);
+    QVERIFY(device);
+    device->open(std::chrono::seconds(10));
+
+    const QVector<CameraInfoPtr> found = openPool();
+    QVERIFY(update(found.value(0)).contains("it is in use by another application; close that one"));
+    QVERIFY(!camera.getEvents().contains("open FirmwareImage"));
+    QCOMPARE(device->readFeature("DeviceFirmwareVersion", std::chrono::seconds(5)), "1.2.0");
+}
+
+void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
+{
+    startCamera({"--serial", "1"});
+    startCamera({"--serial", "1"});
+    startCamera({"--serial", "2"});
+    const QVector<CameraInfoPtr> found = openPool();
+    QCOMPARE(found.size(), 3);
+    QVERIFY(found[0]->getId() != found[1]->getId());
+    QVERIFY(found[0]->getCameraStatusCode() != 0);
+    QVERIFY(found[1]->getCameraStatusCode() != 0);
+    QCOMPARE(found[2]->getCameraStatusCode(), 0);
+    QCOMPARE(update(found[0]), "no update fits");
+}
+
+QTEST_GUILESS_MAIN(CRealCamerasTest)
+#include "tst_realcameras.moc"
