@@ -50,13 +50,14 @@ endif()
 # Builds the tests that are worth a run under ThreadSanitizer.
 add_custom_target(thread_tests)
 
-# add_project_test(<name> LABELS <label>... SOURCES <file>... LIBRARIES <target>...)
+# add_project_test(<name> LABELS <label>... SOURCES <file>... LIBRARIES <target>...
+#                  [TIMEOUT <seconds>] [LAUNCHER <script of the project>])
 #
 # One test executable, run without a display. A label says what it needs: `unit` nothing, `ui`
 # widgets, `integration` built programs or plug-ins. Tests with the label `thread` also run under
 # ThreadSanitizer.
 function(add_project_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "LABELS;SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT;LAUNCHER" "LABELS;SOURCES;LIBRARIES")
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 120)
   endif()
@@ -66,7 +67,10 @@ function(add_project_test name)
   if("thread" IN_LIST arg_LABELS)
     add_dependencies(thread_tests ${name})
   endif()
-  add_test(NAME ${name} COMMAND ${name})
+  if(arg_LAUNCHER)
+    set(arg_LAUNCHER ${PROJECT_SOURCE_DIR}/${arg_LAUNCHER})
+  endif()
+  add_test(NAME ${name} COMMAND ${arg_LAUNCHER} $<TARGET_FILE:${name}>)
   set_tests_properties(${name} PROPERTIES
     LABELS "${arg_LABELS}"
     TIMEOUT ${arg_TIMEOUT}

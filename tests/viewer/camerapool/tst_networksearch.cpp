@@ -1,0 +1,82 @@
+// Before anything of Qt, whose keyword "signals" is a name in GLib.
+#include <arv.h>
+
+#include "support/virtualcameraprocess.h"
+#include "viewer/camerapool/genicam/genicam.h"
+#include "viewer/camerapool/icameradevice.h"
+
+#include <QNetworkInterface>
+#include <QtTest>
+
+using TestSupport::CVirtualCameraProcess;
+using Viewer::CameraPool::CCameraSnapshot;
+using Viewer::CameraPool::GenICam::CGenICam;
+
+/// Searches by broadcast, which are only made where nobody but this machine's own cameras can hear
+/// them.
+class CNetworkSearchTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void findsCamerasByBroadcast();
+    void servesAnotherClient();
+};
+
+void CNetworkSearchTest::initTestCase()
+{
+    const auto interfaces = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface &networkInterface : interfaces) {
+        if (!(networkInterface.flags() & QNetworkInterface::IsLoopBack))
+            QSKIP("A broadcast would leave this machine: no network namespace could be made.");
+    }
+}
+
+void CNetworkSearchTest::findsCamerasByBroadcast()
+{
+    CVirtualCameraProcess first(CVirtualCameraProcess::getOwnAddress(1), {"--serial", "1"});
+    CVirtualCameraProcess second(CVirtualCameraProcess::getOwnAddress(2),
+                                 {"--serial", "2", "--firmware", "1.5.0"});
+    CGenICam cameras({CVirtualCameraProcess::getOwnAddress(2)}, false);
+    QCOMPARE(cameras.enumerate().value(0).cameras.size(), 1);
+
+    cameras.setSearchesNetwork(true);
+    const auto layers = cameras.enumerate();
+    QCOMPARE(layers.size(), 2);
+    QMap<QString, QString> versions;
+    for (const CCameraSnapshot &camera : layers[0].cameras) {
+        versions.insert(camera.serialNumber, camera.firmwareVersion);
+        QCOMPARE(camera.statusCode, 0);
+    }
+    // The camera whose address is known is there once.
+    QCOMPARE(layers[0].cameras.size(), 2);
+    QCOMPARE(versions, (QMap<QString, QString>{{"1", "1.2.0"}, {"2", "1.5.0"}}));
+    QVERIFY(first.end().value("discovery") >= 2);
+    QCOMPARE(second.end().value("readmem"), 0); // none was opened
+}
+
+void CNetworkSearchTest::servesAnotherClient()
+{
+    CVirtualCameraProcess camera(CVirtualCameraProcess::getOwnAddress(3), {"--serial", "3"});
+    GError *error = nullptr;
+    ArvCamera *const client = arv_camera_new(
+        CVirtualCameraProcess::getOwnAddress(3).toString().toLatin1().constData(), &error);
+    QVERIFY2(client, error ? error->message : "");
+    QCOMPARE(arv_camera_get_model_name(client, nullptr), "GV-1400M");
+    arv_camera_set_float(client, "ExposureTime", 250.0, &error);
+    QVERIFY(!error);
+    QCOMPARE(arv_camera_get_float(client, "ExposureTime", nullptr), 250.0);
+    arv_camera_set_boolean(client, "ReverseX", TRUE, nullptr);
+    QVERIFY(arv_camera_get_boolean(client, "ReverseX", nullptr));
+    arv_camera_set_string(client, "FirmwareUpdateMode", "On", nullptr);
+    QCOMPARE(arv_camera_get_string(client, "FirmwareUpdateMode", nullptr), "On");
+    arv_camera_set_string(client, "FirmwareUpdateMode", "Perhaps", &error);
+    QVERIFY(error);
+    g_clear_error(&error);
+    g_object_unref(client);
+    QTRY_VERIFY(camera.getEvents().contains("control released"));
+}
+
+QTEST_GUILESS_MAIN(CNetworkSearchTest)
+#include "tst_networksearch.moc"
