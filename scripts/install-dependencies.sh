@@ -9,6 +9,8 @@ set -euo pipefail
 run_packages=(
   cmake
   g++
+  libaravis-dev
+  libusb-1.0-0-dev
   libzip-dev
   ninja-build
   pkg-config
@@ -27,6 +29,7 @@ test_packages=(
   ccache
   clang-format
   git
+  iproute2
   # The address and thread sanitizers' libraries come with the compiler.
 )
 
