@@ -127,8 +127,11 @@ QString CAccessibleTreeCell::text(QAccessible::Text kind) const
     }
 }
 
-void CAccessibleTreeCell::setText(QAccessible::Text kind,
-                                  const QString &text){Q_UNUSED(kind) Q_UNUSED(text)}
+void CAccessibleTreeCell::setText(QAccessible::Text kind, const QString &text)
+{
+    Q_UNUSED(kind);
+    Q_UNUSED(text);
+}
 
 QRect CAccessibleTreeCell::rect() const
 {

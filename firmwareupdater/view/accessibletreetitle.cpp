@@ -68,8 +68,11 @@ QString CAccessibleTreeTitle::text(QAccessible::Text kind) const
     return m_view->model()->headerData(m_section, Qt::Horizontal).toString();
 }
 
-void CAccessibleTreeTitle::setText(QAccessible::Text kind,
-                                   const QString &text){Q_UNUSED(kind) Q_UNUSED(text)}
+void CAccessibleTreeTitle::setText(QAccessible::Text kind, const QString &text)
+{
+    Q_UNUSED(kind);
+    Q_UNUSED(text);
+}
 
 QRect CAccessibleTreeTitle::rect() const
 {

@@ -8,6 +8,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 #include <QTreeView>
@@ -199,6 +200,16 @@ bool CUpdateDialogBase::event(QEvent *event)
         QCoreApplication::sendEvent(windowHandle(), &look);
     }
     return QDialog::event(event);
+}
+
+void CUpdateDialogBase::keyPressEvent(QKeyEvent *event)
+{
+    // Enter held down on one page must not go on to click buttons of the next, Cancel among them.
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && event->isAutoRepeat())
+        event->ignore();
+    else
+        QDialog::keyPressEvent(event);
 }
 
 void CUpdateDialogBase::closeEvent(QCloseEvent *event)

@@ -113,6 +113,7 @@ protected:
     static void setIcon(QLabel *label, EIcon icon);
 
     bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -6,8 +6,17 @@
 
 #include <QDir>
 #include <QScrollBar>
+#include <QTextDocument>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
+
+/// Text with markup stays as it is; of any other the lines and signs are kept.
+static QString toRichText(const QString &text)
+{
+    if (Qt::mightBeRichText(text))
+        return text;
+    return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+}
 
 /// Makes large texts small enough for @p widget, whose size is fixed: they would be cut off.
 static void fitFont(QWidget *widget, const QString &text)
@@ -143,7 +152,7 @@ void CUpdateSelectionDialog::showReleaseNotes(const QString &notes)
     showTextWithLinks(m_ui->updateNotesTextLabel,
                       isLink ? QStringLiteral("<a href=\"%1\">%2</a>")
                                    .arg(notes.toHtmlEscaped(), tr("Firmware Release Notes"))
-                             : notes);
+                             : toRichText(notes));
     m_ui->updateNotesLabel->setVisible(!notes.isEmpty());
     m_ui->updateNotesTextLabel->setVisible(!notes.isEmpty());
 }

@@ -138,6 +138,37 @@
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
         <translation>速度「%1」は 0.01 から 10000 までの数値ではありません。</translation>
     </message>
+    <message>
+        <source>Leave out the simulated cameras.</source>
+        <translation>シミュレーションカメラを使用しません。</translation>
+    </message>
+    <message>
+        <source>Search the network and USB for cameras this time, by broadcast.</source>
+        <translation>今回はネットワーク (ブロードキャスト) と USB のカメラを検索します。</translation>
+    </message>
+    <message>
+        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
+        <translation>ブロードキャストを使わずに &lt;アドレス&gt; のカメラを探します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no camera address; it has the form 192.168.0.10.</source>
+        <translation>「%1」はカメラのアドレスではありません。192.168.0.10 の形式で指定してください。</translation>
+    </message>
+    <message>
+        <source>This viewer was built without the library for cameras on real wires.</source>
+        <translation>このビューアーは、実際に接続されたカメラ用のライブラリなしでビルドされています。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CImageView</name>
+    <message>
+        <source>Image</source>
+        <translation>画像</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLinkOpener</name>
@@ -326,6 +357,10 @@
         <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;カメラを表示し、プラグインで操作できるようにします。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Search the &amp;network for cameras</source>
+        <translation>ネットワークのカメラを検索(&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
@@ -356,6 +391,10 @@
     <message>
         <source>Camera %1 is being updated.</source>
         <translation>カメラ %1 を更新しています。</translation>
+    </message>
+    <message>
+        <source>Camera %1 is on a real wire; only its firmware can be updated here.</source>
+        <translation>カメラ %1 は実際に接続されたカメラのため、ここではファームウェアの更新のみ可能です。</translation>
     </message>
 </context>
 <context>
@@ -611,6 +650,114 @@
     <message>
         <source>Update file %1: %2</source>
         <translation>更新ファイル %1: %2</translation>
+    </message>
+    <message>
+        <source>it did not answer; check its cable, its power supply and the network</source>
+        <translation>応答しませんでした。ケーブル、電源、ネットワークを確認してください</translation>
+    </message>
+    <message>
+        <source>control over it was lost; close other applications that use it</source>
+        <translation>制御が失われました。カメラを使用している他のアプリケーションを閉じてください</translation>
+    </message>
+    <message>
+        <source>it is busy; try again later</source>
+        <translation>ビジー状態です。しばらくしてからもう一度お試しください</translation>
+    </message>
+    <message>
+        <source>it refused (%1)</source>
+        <translation>拒否されました (%1)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>its feature %1 could not be read</source>
+        <translation>機能 %1 を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>its feature %1 could not be set to &quot;%2&quot;</source>
+        <translation>機能 %1 を「%2」に設定できませんでした</translation>
+    </message>
+    <message>
+        <source>it has no feature %1; the update file may be for another model</source>
+        <translation>機能 %1 がありません。更新ファイルが別のモデル用の可能性があります</translation>
+    </message>
+    <message>
+        <source>its feature %1 is no command</source>
+        <translation>機能 %1 はコマンドではありません</translation>
+    </message>
+    <message>
+        <source>its command %1 could not be executed</source>
+        <translation>コマンド %1 を実行できませんでした</translation>
+    </message>
+    <message>
+        <source>the end of its command %1 could not be awaited</source>
+        <translation>コマンド %1 の完了を確認できませんでした</translation>
+    </message>
+    <message>
+        <source>its feature %1 is no register</source>
+        <translation>機能 %1 はレジスターではありません</translation>
+    </message>
+    <message>
+        <source>its memory could not be written</source>
+        <translation>メモリーに書き込めませんでした</translation>
+    </message>
+    <message>
+        <source>opening its file &quot;%1&quot; failed</source>
+        <translation>ファイル「%1」を開けませんでした</translation>
+    </message>
+    <message>
+        <source>writing its file &quot;%1&quot; failed at byte %2</source>
+        <translation>ファイル「%1」の %2 バイト目で書き込みに失敗しました</translation>
+    </message>
+    <message>
+        <source>closing its file &quot;%1&quot; failed</source>
+        <translation>ファイル「%1」を閉じられませんでした</translation>
+    </message>
+    <message>
+        <source>its buffer for files is empty</source>
+        <translation>ファイル用のバッファーが空です</translation>
+    </message>
+    <message>
+        <source>it took %1 of %2 bytes</source>
+        <translation>%2 バイト中 %1 バイトしか受け付けませんでした</translation>
+    </message>
+    <message>
+        <source>it took too long</source>
+        <translation>時間がかかりすぎました</translation>
+    </message>
+    <message>
+        <source>it reports the status &quot;%1&quot;</source>
+        <translation>状態「%1」が報告されました</translation>
+    </message>
+    <message>
+        <source>there is no way to its address; check the network settings of this computer</source>
+        <translation>カメラのアドレスに到達できません。このコンピューターのネットワーク設定を確認してください</translation>
+    </message>
+    <message>
+        <source>it could not be opened</source>
+        <translation>カメラを開けませんでした</translation>
+    </message>
+    <message>
+        <source>it is in use by another application; close that one and start the update again</source>
+        <translation>別のアプリケーションが使用しています。そのアプリケーションを閉じてから、更新をもう一度開始してください</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
+        <translation>コマンド「%1」に時間がかかりすぎました。カメラの電源を入れ直してから、更新をやり直してください</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
+        <translation>ファイル「%1」のアップロードに時間がかかりすぎたため、%3 バイト中 %2 バイトで中断されました</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset; switch it off and on and look for its firmware version</source>
+        <translation>リセット後に復帰しませんでした。電源を入れ直して、ファームウェアバージョンを確認してください</translation>
+    </message>
+    <message>
+        <source>it did not restart; switch it off and on and look for its firmware version</source>
+        <translation>再起動しませんでした。電源を入れ直して、ファームウェアバージョンを確認してください</translation>
     </message>
 </context>
 <context>

@@ -138,6 +138,37 @@
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
         <translation>속도 &quot;%1&quot;은(는) 0.01에서 10000 사이의 숫자가 아닙니다.</translation>
     </message>
+    <message>
+        <source>Leave out the simulated cameras.</source>
+        <translation>시뮬레이션 카메라를 사용하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Search the network and USB for cameras this time, by broadcast.</source>
+        <translation>이번 실행에서 네트워크(브로드캐스트)와 USB의 카메라를 검색합니다.</translation>
+    </message>
+    <message>
+        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
+        <translation>브로드캐스트 없이 &lt;주소&gt;의 카메라를 찾습니다. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation>주소</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no camera address; it has the form 192.168.0.10.</source>
+        <translation>&quot;%1&quot;은(는) 카메라 주소가 아닙니다. 192.168.0.10 형식으로 입력하십시오.</translation>
+    </message>
+    <message>
+        <source>This viewer was built without the library for cameras on real wires.</source>
+        <translation>이 뷰어는 실제 연결된 카메라용 라이브러리 없이 빌드되었습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CImageView</name>
+    <message>
+        <source>Image</source>
+        <translation>영상</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLinkOpener</name>
@@ -326,6 +357,10 @@
         <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;카메라를 표시하고 플러그인으로 카메라를 제어합니다.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Search the &amp;network for cameras</source>
+        <translation>네트워크에서 카메라 검색(&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
@@ -356,6 +391,10 @@
     <message>
         <source>Camera %1 is being updated.</source>
         <translation>카메라 %1을(를) 업데이트하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Camera %1 is on a real wire; only its firmware can be updated here.</source>
+        <translation>카메라 %1은(는) 실제로 연결된 카메라이므로 여기서는 펌웨어만 업데이트할 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -611,6 +650,114 @@
     <message>
         <source>Update file %1: %2</source>
         <translation>업데이트 파일 %1: %2</translation>
+    </message>
+    <message>
+        <source>it did not answer; check its cable, its power supply and the network</source>
+        <translation>응답하지 않았습니다. 케이블, 전원 및 네트워크를 확인하십시오</translation>
+    </message>
+    <message>
+        <source>control over it was lost; close other applications that use it</source>
+        <translation>카메라의 제어권을 잃었습니다. 카메라를 사용하는 다른 응용 프로그램을 닫으십시오</translation>
+    </message>
+    <message>
+        <source>it is busy; try again later</source>
+        <translation>사용 중입니다. 나중에 다시 시도하십시오</translation>
+    </message>
+    <message>
+        <source>it refused (%1)</source>
+        <translation>거부되었습니다(%1)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>its feature %1 could not be read</source>
+        <translation>기능 %1을(를) 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>its feature %1 could not be set to &quot;%2&quot;</source>
+        <translation>기능 %1을(를) &quot;%2&quot;(으)로 설정할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>it has no feature %1; the update file may be for another model</source>
+        <translation>기능 %1이(가) 없습니다. 업데이트 파일이 다른 모델용일 수 있습니다</translation>
+    </message>
+    <message>
+        <source>its feature %1 is no command</source>
+        <translation>기능 %1은(는) 명령이 아닙니다</translation>
+    </message>
+    <message>
+        <source>its command %1 could not be executed</source>
+        <translation>명령 %1을(를) 실행할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the end of its command %1 could not be awaited</source>
+        <translation>명령 %1의 완료를 확인할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>its feature %1 is no register</source>
+        <translation>기능 %1은(는) 레지스터가 아닙니다</translation>
+    </message>
+    <message>
+        <source>its memory could not be written</source>
+        <translation>메모리에 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>opening its file &quot;%1&quot; failed</source>
+        <translation>파일 &quot;%1&quot;을(를) 열지 못했습니다</translation>
+    </message>
+    <message>
+        <source>writing its file &quot;%1&quot; failed at byte %2</source>
+        <translation>파일 &quot;%1&quot;의 %2바이트 위치에서 쓰지 못했습니다</translation>
+    </message>
+    <message>
+        <source>closing its file &quot;%1&quot; failed</source>
+        <translation>파일 &quot;%1&quot;을(를) 닫지 못했습니다</translation>
+    </message>
+    <message>
+        <source>its buffer for files is empty</source>
+        <translation>파일용 버퍼가 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>it took %1 of %2 bytes</source>
+        <translation>%2바이트 중 %1바이트만 받았습니다</translation>
+    </message>
+    <message>
+        <source>it took too long</source>
+        <translation>시간이 너무 오래 걸렸습니다</translation>
+    </message>
+    <message>
+        <source>it reports the status &quot;%1&quot;</source>
+        <translation>상태 &quot;%1&quot;을(를) 보고합니다</translation>
+    </message>
+    <message>
+        <source>there is no way to its address; check the network settings of this computer</source>
+        <translation>카메라의 주소에 연결할 수 없습니다. 이 컴퓨터의 네트워크 설정을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>it could not be opened</source>
+        <translation>카메라를 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>it is in use by another application; close that one and start the update again</source>
+        <translation>다른 응용 프로그램에서 사용 중입니다. 해당 응용 프로그램을 닫고 업데이트를 다시 시작하십시오</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
+        <translation>명령 &quot;%1&quot;의 시간이 너무 오래 걸렸습니다. 카메라를 껐다가 다시 켠 후 업데이트를 반복하십시오</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
+        <translation>파일 &quot;%1&quot;의 업로드 시간이 너무 오래 걸려 전체 %3바이트 중 %2바이트에서 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset; switch it off and on and look for its firmware version</source>
+        <translation>재설정 후 다시 연결되지 않았습니다. 카메라를 껐다가 다시 켠 후 펌웨어 버전을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>it did not restart; switch it off and on and look for its firmware version</source>
+        <translation>다시 시작되지 않았습니다. 카메라를 껐다가 다시 켠 후 펌웨어 버전을 확인하십시오</translation>
     </message>
 </context>
 <context>

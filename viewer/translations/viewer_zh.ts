@@ -138,6 +138,37 @@
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
         <translation>速度“%1”不是 0.01 到 10000 之间的数字。</translation>
     </message>
+    <message>
+        <source>Leave out the simulated cameras.</source>
+        <translation>不使用模拟相机。</translation>
+    </message>
+    <message>
+        <source>Search the network and USB for cameras this time, by broadcast.</source>
+        <translation>本次通过广播搜索网络以及 USB 上的相机。</translation>
+    </message>
+    <message>
+        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
+        <translation>不使用广播，查找位于 &lt;地址&gt; 的相机；可多次指定。</translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no camera address; it has the form 192.168.0.10.</source>
+        <translation>“%1”不是相机地址；其格式应为 192.168.0.10。</translation>
+    </message>
+    <message>
+        <source>This viewer was built without the library for cameras on real wires.</source>
+        <translation>此查看器构建时未包含用于实际连接相机的库。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CImageView</name>
+    <message>
+        <source>Image</source>
+        <translation>图像</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLinkOpener</name>
@@ -326,6 +357,10 @@
         <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
         <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;显示相机，并允许插件使用相机。&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Search the &amp;network for cameras</source>
+        <translation>在网络中搜索相机(&amp;N)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
@@ -356,6 +391,10 @@
     <message>
         <source>Camera %1 is being updated.</source>
         <translation>正在更新相机 %1。</translation>
+    </message>
+    <message>
+        <source>Camera %1 is on a real wire; only its firmware can be updated here.</source>
+        <translation>相机 %1 是实际连接的相机；此处只能更新其固件。</translation>
     </message>
 </context>
 <context>
@@ -611,6 +650,114 @@
     <message>
         <source>Update file %1: %2</source>
         <translation>更新文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>it did not answer; check its cable, its power supply and the network</source>
+        <translation>没有响应；请检查电缆、电源和网络</translation>
+    </message>
+    <message>
+        <source>control over it was lost; close other applications that use it</source>
+        <translation>失去了对它的控制；请关闭正在使用它的其他应用程序</translation>
+    </message>
+    <message>
+        <source>it is busy; try again later</source>
+        <translation>它正忙；请稍后重试</translation>
+    </message>
+    <message>
+        <source>it refused (%1)</source>
+        <translation>被拒绝（%1）</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>its feature %1 could not be read</source>
+        <translation>无法读取其功能 %1</translation>
+    </message>
+    <message>
+        <source>its feature %1 could not be set to &quot;%2&quot;</source>
+        <translation>无法将其功能 %1 设置为“%2”</translation>
+    </message>
+    <message>
+        <source>it has no feature %1; the update file may be for another model</source>
+        <translation>没有功能 %1；更新文件可能适用于其他型号</translation>
+    </message>
+    <message>
+        <source>its feature %1 is no command</source>
+        <translation>其功能 %1 不是命令</translation>
+    </message>
+    <message>
+        <source>its command %1 could not be executed</source>
+        <translation>无法执行其命令 %1</translation>
+    </message>
+    <message>
+        <source>the end of its command %1 could not be awaited</source>
+        <translation>无法确认其命令 %1 是否完成</translation>
+    </message>
+    <message>
+        <source>its feature %1 is no register</source>
+        <translation>其功能 %1 不是寄存器</translation>
+    </message>
+    <message>
+        <source>its memory could not be written</source>
+        <translation>无法写入其内存</translation>
+    </message>
+    <message>
+        <source>opening its file &quot;%1&quot; failed</source>
+        <translation>打开其文件“%1”失败</translation>
+    </message>
+    <message>
+        <source>writing its file &quot;%1&quot; failed at byte %2</source>
+        <translation>在第 %2 字节处写入其文件“%1”失败</translation>
+    </message>
+    <message>
+        <source>closing its file &quot;%1&quot; failed</source>
+        <translation>关闭其文件“%1”失败</translation>
+    </message>
+    <message>
+        <source>its buffer for files is empty</source>
+        <translation>其文件缓冲区为空</translation>
+    </message>
+    <message>
+        <source>it took %1 of %2 bytes</source>
+        <translation>只接受了 %2 字节中的 %1 字节</translation>
+    </message>
+    <message>
+        <source>it took too long</source>
+        <translation>耗时过长</translation>
+    </message>
+    <message>
+        <source>it reports the status &quot;%1&quot;</source>
+        <translation>报告的状态为“%1”</translation>
+    </message>
+    <message>
+        <source>there is no way to its address; check the network settings of this computer</source>
+        <translation>无法到达其地址；请检查此计算机的网络设置</translation>
+    </message>
+    <message>
+        <source>it could not be opened</source>
+        <translation>无法打开相机</translation>
+    </message>
+    <message>
+        <source>it is in use by another application; close that one and start the update again</source>
+        <translation>另一个应用程序正在使用它；请关闭该应用程序后重新开始更新</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
+        <translation>其命令“%1”耗时过长；请关闭相机电源后重新打开，然后重复更新</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
+        <translation>文件“%1”的上传耗时过长；已在 %3 字节中的第 %2 字节处中断</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset; switch it off and on and look for its firmware version</source>
+        <translation>重置后未恢复；请关闭电源后重新打开，并检查其固件版本</translation>
+    </message>
+    <message>
+        <source>it did not restart; switch it off and on and look for its firmware version</source>
+        <translation>未重新启动；请关闭电源后重新打开，并检查其固件版本</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,10 @@
         <source>Not all Korvane camera models can be updated using the Firmware Updater.</source>
         <translation>Not all Korvane camera models can be updated using the Firmware Updater.</translation>
     </message>
+    <message>
+        <source>Refresh camera list</source>
+        <translation>Refresh camera list</translation>
+    </message>
 </context>
 <context>
     <name>FirmwareUpdateDialogUi</name>
@@ -37,6 +41,10 @@
     <message>
         <source>The update process may take a while.&lt;br&gt;If you want to stop the update process before it has completed, click &lt;b&gt;Cancel&lt;/b&gt;. The update of the camera currently being updated will be completed, and then the update wizard will close.</source>
         <translation>The update process may take a while.&lt;br&gt;If you want to stop the update process before it has completed, click &lt;b&gt;Cancel&lt;/b&gt;. The update of the camera currently being updated will be completed, and then the update wizard will close.</translation>
+    </message>
+    <message>
+        <source>Update progress</source>
+        <translation>Update progress</translation>
     </message>
 </context>
 <context>
@@ -97,6 +105,13 @@
     <message>
         <source>Next</source>
         <translation>Next</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CFirmwareUpdateDialog</name>
+    <message>
+        <source>Camera %1 of %2</source>
+        <translation>Camera %1 of %2</translation>
     </message>
 </context>
 <context>
@@ -185,6 +200,21 @@
     <message>
         <source>Complete</source>
         <translation>Complete</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CUpdateDialogBase</name>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
     </message>
 </context>
 <context>
@@ -304,6 +334,10 @@
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</source>
         <translation>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</translation>
+    </message>
+    <message>
+        <source>Update file</source>
+        <translation>Update file</translation>
     </message>
 </context>
 <context>

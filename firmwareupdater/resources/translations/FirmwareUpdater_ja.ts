@@ -15,6 +15,10 @@
         <source>Not all Korvane camera models can be updated using the Firmware Updater.</source>
         <translation>Korvaneのカメラには、ファームウェア更新ツールで更新できないモデルもあります。</translation>
     </message>
+    <message>
+        <source>Refresh camera list</source>
+        <translation>カメラの再検索</translation>
+    </message>
 </context>
 <context>
     <name>FirmwareUpdateDialogUi</name>
@@ -37,6 +41,10 @@
     <message>
         <source>The update process may take a while.&lt;br&gt;If you want to stop the update process before it has completed, click &lt;b&gt;Cancel&lt;/b&gt;. The update of the camera currently being updated will be completed, and then the update wizard will close.</source>
         <translation>更新には時間がかかる場合があります。&lt;br&gt;完了前に更新を中止するには、&lt;b&gt;キャンセル&lt;/b&gt;をクリックしてください。現在更新中のカメラの更新が完了した後、更新ウィザードが閉じます。</translation>
+    </message>
+    <message>
+        <source>Update progress</source>
+        <translation>更新の進行状況</translation>
     </message>
 </context>
 <context>
@@ -97,6 +105,13 @@
     <message>
         <source>Next</source>
         <translation>次へ</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CFirmwareUpdateDialog</name>
+    <message>
+        <source>Camera %1 of %2</source>
+        <translation>カメラ %1/%2</translation>
     </message>
 </context>
 <context>
@@ -185,6 +200,21 @@
     <message>
         <source>Complete</source>
         <translation>完了</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CUpdateDialogBase</name>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
     </message>
 </context>
 <context>
@@ -304,6 +334,10 @@
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</source>
         <translation>ファームウェアを更新するには、Korvaneサポートが提供する更新ファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>Update file</source>
+        <translation>更新ファイル</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,10 @@
         <source>Not all Korvane camera models can be updated using the Firmware Updater.</source>
         <translation>일부 Korvane 카메라 모델은 펌웨어 업데이터로 업데이트할 수 없습니다.</translation>
     </message>
+    <message>
+        <source>Refresh camera list</source>
+        <translation>카메라 목록 새로 고침</translation>
+    </message>
 </context>
 <context>
     <name>FirmwareUpdateDialogUi</name>
@@ -37,6 +41,10 @@
     <message>
         <source>The update process may take a while.&lt;br&gt;If you want to stop the update process before it has completed, click &lt;b&gt;Cancel&lt;/b&gt;. The update of the camera currently being updated will be completed, and then the update wizard will close.</source>
         <translation>업데이트에는 시간이 다소 걸릴 수 있습니다.&lt;br&gt;업데이트가 완료되기 전에 중지하려면 &lt;b&gt;취소&lt;/b&gt;를 클릭하십시오. 현재 업데이트 중인 카메라의 업데이트가 완료된 후 업데이트 마법사가 닫힙니다.</translation>
+    </message>
+    <message>
+        <source>Update progress</source>
+        <translation>업데이트 진행률</translation>
     </message>
 </context>
 <context>
@@ -97,6 +105,13 @@
     <message>
         <source>Next</source>
         <translation>다음</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CFirmwareUpdateDialog</name>
+    <message>
+        <source>Camera %1 of %2</source>
+        <translation>카메라 %2대 중 %1번째</translation>
     </message>
 </context>
 <context>
@@ -185,6 +200,21 @@
     <message>
         <source>Complete</source>
         <translation>완료</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CUpdateDialogBase</name>
+    <message>
+        <source>Information</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
     </message>
 </context>
 <context>
@@ -304,6 +334,10 @@
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</source>
         <translation>카메라의 펌웨어를 업데이트하려면 Korvane 고객 지원의 업데이트 파일이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>Update file</source>
+        <translation>업데이트 파일</translation>
     </message>
 </context>
 <context>

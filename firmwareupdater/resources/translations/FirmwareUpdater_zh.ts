@@ -15,6 +15,10 @@
         <source>Not all Korvane camera models can be updated using the Firmware Updater.</source>
         <translation>并非所有 Korvane 相机型号都能使用固件更新程序进行更新。</translation>
     </message>
+    <message>
+        <source>Refresh camera list</source>
+        <translation>刷新相机列表</translation>
+    </message>
 </context>
 <context>
     <name>FirmwareUpdateDialogUi</name>
@@ -37,6 +41,10 @@
     <message>
         <source>The update process may take a while.&lt;br&gt;If you want to stop the update process before it has completed, click &lt;b&gt;Cancel&lt;/b&gt;. The update of the camera currently being updated will be completed, and then the update wizard will close.</source>
         <translation>更新过程可能需要一些时间。&lt;br&gt;如果要提前停止更新，请单击&lt;b&gt;取消&lt;/b&gt;。系统将完成当前相机的更新，然后关闭更新向导。</translation>
+    </message>
+    <message>
+        <source>Update progress</source>
+        <translation>更新进度</translation>
     </message>
 </context>
 <context>
@@ -97,6 +105,13 @@
     <message>
         <source>Next</source>
         <translation>下一步</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CFirmwareUpdateDialog</name>
+    <message>
+        <source>Camera %1 of %2</source>
+        <translation>第 %1 台相机，共 %2 台</translation>
     </message>
 </context>
 <context>
@@ -185,6 +200,21 @@
     <message>
         <source>Complete</source>
         <translation>已完成</translation>
+    </message>
+</context>
+<context>
+    <name>Plugin::FirmwareUpdater::Internal::View::CUpdateDialogBase</name>
+    <message>
+        <source>Information</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
     </message>
 </context>
 <context>
@@ -304,6 +334,10 @@
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</source>
         <translation>要更新相机的固件，您需要从 Korvane 技术支持获取固件更新文件。</translation>
+    </message>
+    <message>
+        <source>Update file</source>
+        <translation>更新文件</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,13 @@ void CUpdateDialogsTest::enterClicksNothingButNext()
         QCOMPARE(press(m_dialogs->file, "updateFileLineEdit"), wanted);
         QCOMPARE(press(m_dialogs->summary, "cameraTreeView"), wanted);
     }
+    // Held down since Step 3, it does not cancel the updates that it has started.
+    m_dialogs->update.enableButtons(true);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+    QCOMPARE(record(m_dialogs->update,
+                    [&] { QCoreApplication::sendEvent(QApplication::focusWidget(), &repeated); }),
+             "");
+    QCOMPARE(press(m_dialogs->update, "cameraTreeView"), "closeClicked()");
 }
 
 void CUpdateDialogsTest::controlsHaveNames()
@@ -345,7 +352,8 @@ void CUpdateDialogsTest::showsTheFirstUpdate()
                         "updateNotesTextLabel"});
     };
     QCOMPARE(show("2.0", "Fixes", "Faster"), "Fixes|2.0|Faster|++++");
-    QCOMPARE(show("", "Fixes", "Faster"), "Fixes||Faster|--++");
+    QCOMPARE(show("", "Fixes", "- a < b\n- c"), "Fixes||- a &lt; b<br>- c|--++");
+    QCOMPARE(show("", "Fixes", "<b>Fast</b>\ner"), "Fixes||<b>Fast</b>\ner|--++");
     QCOMPARE(show("2.0", "", ""), "No details available|2.0||++--");
     QCOMPARE(show("2.0", "Fixes", "HTTPS://a.example/n"),
              "Fixes|2.0|<a href=\"HTTPS://a.example/n\">Firmware Release Notes</a>|++++");
