@@ -1,14 +1,17 @@
 #include "core/iplugin.h"
 #include "support/fakehost.h"
+#include "support/virtualcameraprocess.h"
 #include "support/wizardpages.h"
 #include "viewer/camerapool/camerapool.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPluginLoader>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QTreeView>
 #include <QtTest>
 
@@ -29,11 +32,14 @@ private slots:
     void stopsAtAFailureInTheMiddle();
     void stopsAfterTheCurrentCameraOnCancel();
     void updatesAgainInTheSameRun();
+    void updatesCamerasOnTheWire_data();
+    void updatesCamerasOnTheWire();
     void tellsEachFault_data();
     void tellsEachFault();
 
 private:
     void openPool(const QString &descriptionFile);
+    void openPool(const Viewer::CameraPool::CCameraPoolOptions &options);
     [[nodiscard]] QHash<QString, QString> getVersions() const;
 
     static void click(QDialog *page, const char *button);
@@ -84,6 +90,11 @@ void CWizardTest::openPool(const QString &descriptionFile)
     Viewer::CameraPool::CCameraPoolOptions options;
     options.descriptionFile = descriptionFile;
     options.speedFactor = 100.0;
+    openPool(options);
+}
+
+void CWizardTest::openPool(const Viewer::CameraPool::CCameraPoolOptions &options)
+{
     m_pool = std::make_unique<Viewer::CameraPool::CCameraPool>(options);
     const auto services = m_pool->getServices();
     for (const auto &service : services)
@@ -286,6 +297,69 @@ void CWizardTest::updatesAgainInTheSameRun()
     QTRY_COMPARE(column(summary, 5), QStringList({"2"}));
     click(summary, "Back");
     QVERIFY(waitForPage("Step 2"));
+}
+
+void CWizardTest::updatesCamerasOnTheWire_data()
+{
+    QTest::addColumn<bool>("secondDies");
+    QTest::newRow("all well") << false;
+    QTest::newRow("the second one dies") << true;
+}
+
+void CWizardTest::updatesCamerasOnTheWire()
+{
+    QFETCH(bool, secondDies);
+    if (!Viewer::CameraPool::CCameraPool::canSearchNetwork())
+        QSKIP("The viewer was built without the library for cameras on real wires.");
+
+    using TestSupport::CVirtualCameraProcess;
+    Viewer::CameraPool::CCameraPoolOptions options;
+    options.simulates = false;
+    std::vector<std::unique_ptr<CVirtualCameraProcess>> cameras;
+    for (int number = 1; number <= 3; ++number) {
+        QStringList arguments{"--serial", QString("5000000%1").arg(number), "--flash",
+                              m_folder.filePath(QString::number(number))};
+        if (secondDies && number == 2)
+            arguments << "--die-after"
+                      << "40960";
+        options.cameraAddresses.append(CVirtualCameraProcess::getOwnAddress(number));
+        cameras.push_back(std::make_unique<CVirtualCameraProcess>(
+            options.cameraAddresses.constLast(), arguments));
+    }
+    openPool(options);
+    startWizard("GV-1400M");
+    chooseFile("gv-1400m_2.0.0.guf");
+    startUpdate();
+
+    QElapsedTimer sinceTurn;
+    qint64 longestGap = 0;
+    QTimer turns;
+    connect(&turns, &QTimer::timeout, this,
+            [&] { longestGap = qMax(longestGap, sinceTurn.restart()); });
+    sinceTurn.start();
+    turns.start(1);
+    QDialog *const result = waitForPage("Step 5");
+    qInfo("longest gap of the GUI thread: %lld ms", longestGap);
+    QVERIFY(result);
+
+    if (secondDies) {
+        QTRY_COMPARE(column(result, 7), QStringList({"0", "1", "2"}));
+        const QString error = getText(result, "errorTextLabel");
+        QVERIFY2(error.contains("Camera 50000002 (GV-1400M, 127."), qPrintable(error));
+        QVERIFY2(error.contains("failed at byte 36864: "), qPrintable(error));
+        QVERIFY(cameras[2]->getEvents().isEmpty());
+        return;
+    }
+    QTRY_COMPARE(column(result, 7), QStringList({"0", "0", "0"}));
+    QTRY_COMPARE(getVersions().values(), QList<QString>({"2.0.0", "2.0.0", "2.0.0"}));
+    QFile payload(SAMPLE_PAYLOAD);
+    QVERIFY(payload.open(QIODevice::ReadOnly));
+    const QByteArray image = payload.readAll();
+    for (int number = 1; number <= 3; ++number) {
+        QFile flash(m_folder.filePath(QString::number(number)));
+        QVERIFY(flash.open(QIODevice::ReadOnly));
+        QVERIFY(flash.readAll() == image);
+    }
 }
 
 void CWizardTest::tellsEachFault_data()
