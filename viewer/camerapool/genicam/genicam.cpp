@@ -40,10 +40,10 @@ std::unique_ptr<ICameraDevice> CGenICam::createDevice(const QString &cameraId)
     return std::make_unique<CGenICamDevice>(*camera);
 }
 
-QVector<CFoundCamera> CGenICam::find() const
+QVector<CFoundCamera> CGenICam::find(bool searches) const
 {
     QVector<CFoundCamera> found = discoverUnicast(m_addresses);
-    if (!m_searchesNetwork || m_isCanceled)
+    if (!searches || m_isCanceled)
         return found;
 
     QSet<QString> addresses;
@@ -61,16 +61,20 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
 {
     if (m_isCanceled)
         return {};
-    const QVector<CFoundCamera> found = find();
+    const bool searches = m_searchesNetwork;
+    const QVector<CFoundCamera> found = find(searches);
 
     QHash<QString, int> counts;
     for (const CFoundCamera &camera : found)
         ++counts[camera.getId()];
 
-    CTransportLayerSnapshot ethernet{
-        QString::fromLatin1(Plugin::CameraPool::TLTypeGigE), QStringLiteral("GigE Vision"), {}};
-    CTransportLayerSnapshot usb{
-        QString::fromLatin1(Plugin::CameraPool::TLTypeUSB), QStringLiteral("USB3 Vision"), {}};
+    // Named unlike the simulation's layers, which may stand beside them.
+    CTransportLayerSnapshot ethernet{QString::fromLatin1(Plugin::CameraPool::TLTypeGigE),
+                                     QStringLiteral("GigE Vision (network)"),
+                                     {}};
+    CTransportLayerSnapshot usb{QString::fromLatin1(Plugin::CameraPool::TLTypeUSB),
+                                QStringLiteral("USB3 Vision (USB)"),
+                                {}};
     QHash<QString, CFoundCamera> byId;
     for (const CFoundCamera &camera : found) {
         CCameraSnapshot snapshot;
@@ -91,7 +95,12 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
         const std::lock_guard lock(m_mutex);
         m_found = byId;
     }
-    return {ethernet, usb};
+    QVector<CTransportLayerSnapshot> layers;
+    if (searches || !m_addresses.isEmpty())
+        layers.append(ethernet);
+    if (searches)
+        layers.append(usb);
+    return layers;
 }
 
 void CGenICam::cancel()

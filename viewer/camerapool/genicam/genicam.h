@@ -35,7 +35,7 @@ public:
     void cancel() override;
 
 private:
-    [[nodiscard]] QVector<CFoundCamera> find() const;
+    [[nodiscard]] QVector<CFoundCamera> find(bool searches) const;
 
     const QVector<QHostAddress> m_addresses;
     std::atomic<bool> m_searchesNetwork;
