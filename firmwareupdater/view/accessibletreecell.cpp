@@ -2,7 +2,6 @@
 
 #include "abstractlabeldelegate.h"
 #include "accessibletreeview.h"
-#include "customtreeview.h"
 #include "treerow.h"
 #include "treeviewcameraselectiondelegate.h"
 
@@ -24,7 +23,7 @@ static bool isPartlyTicked(const CFirmwareUpdateEntity &group)
 }
 
 CAccessibleTreeCell::CAccessibleTreeCell(CCustomTreeView *view, const QModelIndex &index)
-    : m_view(view)
+    : CAccessibleTreeItem(view)
     , m_index(index)
     , m_announced(getNews())
 {
@@ -71,46 +70,7 @@ CAccessibleTreeCell::CNews CAccessibleTreeCell::getNews() const
 
 bool CAccessibleTreeCell::isValid() const
 {
-    return m_view && m_index.isValid() && m_index.model() == m_view->model();
-}
-
-QObject *CAccessibleTreeCell::object() const
-{
-    return nullptr;
-}
-
-QWindow *CAccessibleTreeCell::window() const
-{
-    return parent() ? parent()->window() : nullptr;
-}
-
-QAccessibleInterface *CAccessibleTreeCell::childAt(int x, int y) const
-{
-    Q_UNUSED(x)
-    Q_UNUSED(y)
-    return nullptr;
-}
-
-QAccessibleInterface *CAccessibleTreeCell::parent() const
-{
-    return QAccessible::queryAccessibleInterface(m_view);
-}
-
-QAccessibleInterface *CAccessibleTreeCell::child(int index) const
-{
-    Q_UNUSED(index)
-    return nullptr;
-}
-
-int CAccessibleTreeCell::childCount() const
-{
-    return 0;
-}
-
-int CAccessibleTreeCell::indexOfChild(const QAccessibleInterface *child) const
-{
-    Q_UNUSED(child)
-    return -1;
+    return getView() && m_index.isValid() && m_index.model() == getView()->model();
 }
 
 QString CAccessibleTreeCell::text(QAccessible::Text kind) const
@@ -127,19 +87,13 @@ QString CAccessibleTreeCell::text(QAccessible::Text kind) const
     }
 }
 
-void CAccessibleTreeCell::setText(QAccessible::Text kind, const QString &text)
-{
-    Q_UNUSED(kind);
-    Q_UNUSED(text);
-}
-
 QRect CAccessibleTreeCell::rect() const
 {
     if (!isValid())
         return {};
-    const QRect cell = m_view->visualRect(m_index);
+    const QRect cell = getView()->visualRect(m_index);
     return cell.isEmpty() ? cell
-                          : QRect(m_view->viewport()->mapToGlobal(cell.topLeft()), cell.size());
+                          : QRect(getView()->viewport()->mapToGlobal(cell.topLeft()), cell.size());
 }
 
 QAccessible::Role CAccessibleTreeCell::role() const
@@ -154,11 +108,11 @@ QAccessible::State CAccessibleTreeCell::state() const
         state.invalid = true;
         return state;
     }
-    state.invisible = !m_view->isVisible() || m_view->isColumnHidden(m_index.column());
-    state.offscreen = !m_view->viewport()->rect().intersects(m_view->visualRect(m_index));
+    state.invisible = !getView()->isVisible() || getView()->isColumnHidden(m_index.column());
+    state.offscreen = !getView()->viewport()->rect().intersects(getView()->visualRect(m_index));
     state.focusable = true;
-    state.focused = m_view->hasFocus() && m_view->currentIndex() == m_index;
-    state.expanded = m_view->isExpanded(m_index) && m_view->model()->hasChildren(m_index);
+    state.focused = getView()->hasFocus() && getView()->currentIndex() == m_index;
+    state.expanded = getView()->isExpanded(m_index) && getView()->model()->hasChildren(m_index);
 
     const CTreeRow row(m_index);
     if (!row.isValid())
@@ -193,7 +147,7 @@ bool CAccessibleTreeCell::isSelected() const
 
 QList<QAccessibleInterface *> CAccessibleTreeCell::columnHeaderCells() const
 {
-    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(m_view);
+    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(getView());
     QAccessibleInterface *const title = tree ? tree->getTitle(m_index.column()) : nullptr;
     return title ? QList<QAccessibleInterface *>{title} : QList<QAccessibleInterface *>();
 }
@@ -205,13 +159,13 @@ QList<QAccessibleInterface *> CAccessibleTreeCell::rowHeaderCells() const
 
 int CAccessibleTreeCell::columnIndex() const
 {
-    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(m_view);
+    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(getView());
     return tree ? tree->getTableColumn(m_index.column()) : -1;
 }
 
 int CAccessibleTreeCell::rowIndex() const
 {
-    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(m_view);
+    const CAccessibleTreeView *const tree = CAccessibleTreeView::find(getView());
     return tree ? tree->getTableRow(m_index) : -1;
 }
 
@@ -244,10 +198,10 @@ void CAccessibleTreeCell::doAction(const QString &actionName)
     if (!actionNames().contains(actionName) || !isValid())
         return;
     if (actionName == toggleAction()) {
-        m_view->toggleRow(m_index);
+        getView()->toggleRow(m_index);
     } else {
-        m_view->setFocus();
-        m_view->setCurrentIndex(m_index);
+        getView()->setFocus();
+        getView()->setCurrentIndex(m_index);
     }
 }
 
@@ -261,13 +215,13 @@ bool CAccessibleTreeCell::hasCheckBox() const
 {
     const CTreeRow row(m_index);
     return row.isValid() && !row.isTransportLayer()
-        && qobject_cast<CTreeViewCameraSelectionDelegate *>(m_view->itemDelegate(m_index));
+        && qobject_cast<CTreeViewCameraSelectionDelegate *>(getView()->itemDelegate(m_index));
 }
 
 QString CAccessibleTreeCell::getText(const QModelIndex &index) const
 {
     const auto *const delegate
-        = qobject_cast<const CAbstractLabelDelegate *>(m_view->itemDelegate(index));
+        = qobject_cast<const CAbstractLabelDelegate *>(getView()->itemDelegate(index));
     return delegate ? delegate->getText(index) : index.data().toString();
 }
 
@@ -279,7 +233,7 @@ QString CAccessibleTreeCell::getDescription() const
     const QAbstractItemModel *const model = m_index.model();
     for (int column = 0; column < model->columnCount(); ++column) {
         const QString text = getText(m_index.sibling(m_index.row(), column));
-        if (column != m_index.column() && !m_view->isColumnHidden(column) && !text.isEmpty()) {
+        if (column != m_index.column() && !getView()->isColumnHidden(column) && !text.isEmpty()) {
             const QString title = model->headerData(column, Qt::Horizontal).toString();
             parts.append(QStringLiteral("%1: %2").arg(title, text));
         }

@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QAccessibleInterface>
+#include "accessibletreeitem.h"
+
 #include <QPersistentModelIndex>
-#include <QPointer>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
-class CCustomTreeView;
-
 /// A cell of a camera tree as screen readers see it: the text that its delegate paints, the rest of
 /// the row as description, and the state of the row's check box.
-class CAccessibleTreeCell final : public QAccessibleInterface,
+class CAccessibleTreeCell final : public CAccessibleTreeItem,
                                   public QAccessibleTableCellInterface,
                                   public QAccessibleActionInterface
 {
@@ -23,15 +21,7 @@ public:
     void announceNews();
 
     bool isValid() const override;
-    QObject *object() const override;
-    QWindow *window() const override;
-    QAccessibleInterface *childAt(int x, int y) const override;
-    QAccessibleInterface *parent() const override;
-    QAccessibleInterface *child(int index) const override;
-    int childCount() const override;
-    int indexOfChild(const QAccessibleInterface *child) const override;
     QString text(QAccessible::Text kind) const override;
-    void setText(QAccessible::Text kind, const QString &text) override;
     QRect rect() const override;
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
@@ -64,7 +54,6 @@ private:
     [[nodiscard]] QString getText(const QModelIndex &index) const;
     [[nodiscard]] QString getDescription() const;
 
-    const QPointer<CCustomTreeView> m_view;
     const QPersistentModelIndex m_index;
     CNews m_announced;
 };
