@@ -7,17 +7,15 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
-static void play(const QByteArray &input)
+/// Plays the seed, also cut off everywhere, and with single bytes changed, doubled and taken out.
+static void play(const QByteArray &seed)
 {
-    LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.constData()),
-                           static_cast<std::size_t>(input.size()));
-}
-
-/// The seed, also cut off everywhere, and with single bytes changed, doubled and taken out.
-static void playChanged(const QByteArray &seed)
-{
+    const auto playOne = [](const QByteArray &input) {
+        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t *>(input.constData()),
+                               static_cast<std::size_t>(input.size()));
+    };
     for (int size = seed.size(); size > 0; size -= 7)
-        play(seed.left(size));
+        playOne(seed.left(size));
 
     std::mt19937 random(static_cast<unsigned>(seed.size()));
     const auto pick = [&random](const QByteArray &bytes) {
@@ -28,8 +26,8 @@ static void playChanged(const QByteArray &seed)
     for (int change = 0; change < CHANGES && !seed.isEmpty(); ++change) {
         const QByteArray byte(1, interesting.at(pick(interesting)));
         const int replacedLength = change % 3 == 0 ? 0 : 1;
-        play(QByteArray(seed).replace(pick(seed), replacedLength,
-                                      change % 3 == 1 ? QByteArray() : byte));
+        playOne(QByteArray(seed).replace(pick(seed), replacedLength,
+                                         change % 3 == 1 ? QByteArray() : byte));
     }
 }
 
@@ -41,7 +39,7 @@ int main()
         QFile file(seed.filePath());
         if (!file.open(QIODevice::ReadOnly))
             return 1;
-        playChanged(file.readAll());
+        play(file.readAll());
     }
     return seeds.isEmpty() ? 1 : 0;
 }

@@ -46,6 +46,9 @@ int statusOf(const QByteArray &answer)
 constexpr CPeer Owner{0x7f000001, 4000};
 constexpr CPeer Stranger{0x7f000001, 4001};
 
+const QByteArray OPEN
+    = makeRequest(ECommand::WriteRegister, 99, words({MemoryMap::FILE_OPERATION_EXECUTE, 1}));
+
 } // namespace
 
 class CVirtualCameraTest : public QObject
@@ -53,23 +56,18 @@ class CVirtualCameraTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() { make(); }
     void answersByteByByte_data();
     void answersByteByByte();
-    void dropsWhatIsNoRequest_data();
     void dropsWhatIsNoRequest();
     void givesControlToOneAtATime();
     void takesControlFromASilentApplication();
     void executesARepeatedRequestOnce();
     void announcesWhatTakesLong();
-    void installsFirmwareByReset_data();
     void installsFirmwareByReset();
     void checksFileOperations();
-    void losesWhatItIsToldToLose();
-    void diesInTheMiddleOfAnUpload();
 
 private:
-    void make() { m_camera = std::make_unique<CVirtualCamera>(m_settings, m_recorder); }
     QByteArray ask(const QByteArray &datagram, const CPeer &sender = Owner);
     QByteArray ask(ECommand command, const QByteArray &payload, const CPeer &sender = Owner);
     int write(quint32 address, quint32 value, const CPeer &sender = Owner);
@@ -77,21 +75,29 @@ private:
     bool operate(EFileOperation operation);
     bool upload(const QByteArray &image);
 
-    CCameraSettings m_settings;
+    /// A new camera that nobody controls, with a buffer for 512 bytes.
+    void make(CCameraSettings settings = {});
+    /// The same, but Owner has control.
+    void makeControlled(const CCameraSettings &settings = {});
+
     CRecorder m_recorder;
     std::unique_ptr<CVirtualCamera> m_camera;
     Time m_now{0};
     quint16 m_id = 0;
 };
 
-void CVirtualCameraTest::init()
+void CVirtualCameraTest::make(CCameraSettings settings)
 {
-    m_settings = {};
-    m_settings.bufferLength = 512;
+    settings.bufferLength = 512;
     m_recorder = {};
     m_now = Time(0);
-    m_id = 0;
-    make();
+    m_camera = std::make_unique<CVirtualCamera>(settings, m_recorder);
+}
+
+void CVirtualCameraTest::makeControlled(const CCameraSettings &settings)
+{
+    make(settings);
+    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2), 0);
 }
 
 QByteArray CVirtualCameraTest::ask(const QByteArray &datagram, const CPeer &sender)
@@ -173,32 +179,26 @@ void CVirtualCameraTest::answersByteByByte_data()
 void CVirtualCameraTest::answersByteByByte()
 {
     QFETCH(QByteArray, request);
-    QFETCH(QByteArray, answer);
-    QCOMPARE(ask(request).toHex(), answer.toHex());
-}
-
-void CVirtualCameraTest::dropsWhatIsNoRequest_data()
-{
-    QTest::addColumn<QByteArray>("datagram");
-    QTest::addColumn<quint32>("sender");
-    const QByteArray discovery = QByteArray::fromHex("4201000200000001");
-    QTest::newRow("nothing") << QByteArray() << Owner.address;
-    QTest::newRow("half a header") << discovery.left(7) << Owner.address;
-    QTest::newRow("another protocol") << "\x43" + discovery.mid(1) << Owner.address;
-    QTest::newRow("from another machine") << discovery << 0xc0a80001U;
-    QTest::newRow("very long") << QByteArray(65507, '\x42') << 0x0a000001U;
+    QTEST(ask(request), "answer");
 }
 
 void CVirtualCameraTest::dropsWhatIsNoRequest()
 {
-    QFETCH(QByteArray, datagram);
-    QFETCH(quint32, sender);
-    QVERIFY(ask(datagram, {sender, 4000}).isEmpty());
-    QCOMPARE(m_camera->getStatistics().dropped, 1);
-    // It goes on working.
-    const QByteArray answer = ask(ECommand::Discovery, {});
-    QCOMPARE(answer.size(), 256);
-    QCOMPARE(answer.mid(8 + 0x68, 9), QByteArray("GV-1400M\0", 9));
+    const QByteArray discovery = makeRequest(ECommand::Discovery, 1, {});
+    const auto drop = [this](const QByteArray &datagram, quint32 sender = Owner.address) {
+        make();
+        QVERIFY(ask(datagram, {sender, 4000}).isEmpty());
+        QCOMPARE(m_camera->getStatistics().dropped, 1);
+        // It goes on working.
+        const QByteArray answer = ask(ECommand::Discovery, {});
+        QCOMPARE(answer.size(), 256);
+        QCOMPARE(answer.mid(8 + 0x68, 9), QByteArray("GV-1400M\0", 9));
+    };
+    drop({});
+    drop(discovery.left(7));
+    drop("\x43" + discovery.mid(1));
+    drop(discovery, 0xc0a80001); // from another machine
+    drop(QByteArray(65507, '\x42'), 0x0a000001);
 }
 
 void CVirtualCameraTest::givesControlToOneAtATime()
@@ -219,8 +219,7 @@ void CVirtualCameraTest::givesControlToOneAtATime()
 
 void CVirtualCameraTest::takesControlFromASilentApplication()
 {
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
-    QVERIFY(operate(EFileOperation::Open) || upload("x"));
+    makeControlled();
     m_now += 2999ms;
     read(MemoryMap::CONTROL_PRIVILEGE); // any request is a sign of life
     m_now += 2999ms;
@@ -235,33 +234,34 @@ void CVirtualCameraTest::takesControlFromASilentApplication()
 
 void CVirtualCameraTest::executesARepeatedRequestOnce()
 {
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
+    CCameraSettings settings;
+    settings.losesAcknowledge = 1;
+    makeControlled(settings);
     write(MemoryMap::FILE_OPEN_MODE, 1);
-    const QByteArray open
-        = makeRequest(ECommand::WriteRegister, 99, words({MemoryMap::FILE_OPERATION_EXECUTE, 1}));
-    const QByteArray first = ask(open);
-    QCOMPARE(ask(open), first);
+    const QByteArray first = ask(OPEN);
+    QCOMPARE(statusOf(first), 0);
+    QCOMPARE(ask(OPEN), first);
     QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
     QCOMPARE(m_camera->getStatistics().repeated, 1);
     // The same bytes of somebody else are another request.
-    QCOMPARE(statusOf(ask(open, Stranger)), 0x8006);
+    QCOMPARE(statusOf(ask(OPEN, Stranger)), 0x8006);
+
+    const QByteArray block = makeRequest(ECommand::WriteMemory, 99,
+                                         words({MemoryMap::FILE_ACCESS_BUFFER, 0x01020304}));
+    QVERIFY(ask(block).isEmpty()); // its answer is lost
+    QCOMPARE(ask(block).toHex(), QByteArray("000000870004006300000004"));
+    QCOMPARE(m_camera->getStatistics().memoryWrites, 1);
 }
 
 void CVirtualCameraTest::announcesWhatTakesLong()
 {
-    m_settings.openDuration = 4000ms;
-    make();
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
+    CCameraSettings settings;
+    settings.openDuration = 4000ms;
+    makeControlled(settings);
     write(MemoryMap::FILE_OPEN_MODE, 1);
-    const QByteArray open
-        = makeRequest(ECommand::WriteRegister, 99, words({MemoryMap::FILE_OPERATION_EXECUTE, 1}));
-    QCOMPARE(ask(open).toHex(),
-             QByteArray("00000089000400630000"
-                        "0fa0"));
+    QCOMPARE(ask(OPEN).toHex(), QByteArray("000000890004006300000fa0"));
     m_now += 1000ms;
-    QCOMPARE(ask(open).toHex(),
-             QByteArray("00000089000400630000"
-                        "0bb8"));
+    QCOMPARE(ask(OPEN).toHex(), QByteArray("000000890004006300000bb8"));
     QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
     m_now += 3000ms;
     const QVector<CDatagram> answers = m_camera->tick(m_now);
@@ -272,46 +272,32 @@ void CVirtualCameraTest::announcesWhatTakesLong()
     QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
 }
 
-void CVirtualCameraTest::installsFirmwareByReset_data()
-{
-    QTest::addColumn<QByteArray>("image");
-    QTest::addColumn<bool>("oldVersion");
-    QTest::addColumn<int>("activation");
-    QTest::addColumn<QByteArray>("version");
-    const QByteArray image = "model: VX\nversion: 2.0.0\n\n" + QByteArray(1000, 'x');
-    QTest::newRow("new firmware") << image << false << 0 << QByteArray("2.0.0");
-    QTest::newRow("returns with the old one") << image << true << 0 << QByteArray("1.2.0");
-    QTest::newRow("no image") << QByteArray(600, 'x') << false << 0x8fff << QByteArray("1.2.0");
-}
-
 void CVirtualCameraTest::installsFirmwareByReset()
 {
-    QFETCH(QByteArray, image);
-    QFETCH(bool, oldVersion);
-    QFETCH(int, activation);
-    QFETCH(QByteArray, version);
+    const CCameraSettings settings;
+    const auto install = [&](const QByteArray &image, bool accepted, const QByteArray &version) {
+        makeControlled();
+        QVERIFY(upload(image));
+        QCOMPARE(m_recorder.flash, image);
+        QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), accepted ? 0 : 0x8fff);
+        QCOMPARE(read(MemoryMap::FIRMWARE_ACTIVATE), accepted ? 1U : 0U);
+        m_now += settings.activationDuration;
+        QCOMPARE(read(MemoryMap::FIRMWARE_ACTIVATE), 0U);
 
-    m_settings.returnsWithOldVersion = oldVersion;
-    make();
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
-    QVERIFY(upload(image));
-    QCOMPARE(m_recorder.flash, image);
-    QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), activation);
-    QCOMPARE(read(MemoryMap::FIRMWARE_ACTIVATE), activation == 0 ? 1U : 0U);
-    m_now += m_settings.activationDuration;
-    QCOMPARE(read(MemoryMap::FIRMWARE_ACTIVATE), 0U);
-
-    QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
-    QVERIFY(ask(ECommand::Discovery, {}).isEmpty());
-    m_now += m_settings.resetDuration;
-    QCOMPARE(ask(ECommand::Discovery, {}).mid(8 + 0x88, 6), version + '\0');
-    QCOMPARE(m_recorder.events.last(), "back " + version);
-    QCOMPARE(write(MemoryMap::REVERSE_X, 1), 0x8006); // control ends with the reset
+        QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
+        QVERIFY(ask(ECommand::Discovery, {}).isEmpty());
+        m_now += settings.resetDuration;
+        QCOMPARE(ask(ECommand::Discovery, {}).mid(8 + 0x88, 6), version + '\0');
+        QCOMPARE(m_recorder.events.last(), "back " + version);
+        QCOMPARE(write(MemoryMap::REVERSE_X, 1), 0x8006); // control ends with the reset
+    };
+    install("model: VX\nversion: 2.0.0\n\n" + QByteArray(1000, 'x'), true, "2.0.0");
+    install(QByteArray(600, 'x'), false, "1.2.0");
 }
 
 void CVirtualCameraTest::checksFileOperations()
 {
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
+    makeControlled();
     QVERIFY(!operate(EFileOperation::Write));
     QVERIFY(!operate(EFileOperation::Close));
     write(MemoryMap::FILE_OPEN_MODE, 1);
@@ -320,44 +306,7 @@ void CVirtualCameraTest::checksFileOperations()
     write(MemoryMap::FILE_ACCESS_OFFSET, 1); // behind the end of an empty file
     QVERIFY(!operate(EFileOperation::Write));
     QCOMPARE(write(MemoryMap::FILE_ACCESS_LENGTH, 513), 0x8002);
-    QCOMPARE(write(MemoryMap::FILE_OPERATION_SELECTOR, 7), 0);
-    write(MemoryMap::FILE_OPERATION_EXECUTE, 1);
-    QCOMPARE(read(MemoryMap::FILE_OPERATION_STATUS), 1U);
-
-    m_settings.refusedCommand = "FileOperationExecute";
-    make();
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
-    QCOMPARE(write(MemoryMap::FILE_OPERATION_EXECUTE, 1), 0x8fff);
-}
-
-void CVirtualCameraTest::losesWhatItIsToldToLose()
-{
-    m_settings.losesEvery = 2;
-    make();
-    QVERIFY(!ask(ECommand::Discovery, {}).isEmpty());
-    QVERIFY(ask(ECommand::Discovery, {}).isEmpty());
-    QVERIFY(!ask(ECommand::Discovery, {}).isEmpty());
-
-    m_settings = {};
-    m_settings.losesAcknowledge = 1;
-    make();
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
-    const QByteArray request = makeRequest(ECommand::WriteMemory, 99,
-                                           words({MemoryMap::FILE_ACCESS_BUFFER, 0x01020304}));
-    QVERIFY(ask(request).isEmpty());
-    QCOMPARE(ask(request).toHex(), QByteArray("000000870004006300000004"));
-    QCOMPARE(m_camera->getStatistics().memoryWrites, 1);
-}
-
-void CVirtualCameraTest::diesInTheMiddleOfAnUpload()
-{
-    m_settings.diesAfterBytes = 1024;
-    make();
-    write(MemoryMap::CONTROL_PRIVILEGE, 2);
-    QVERIFY(!upload(QByteArray(4000, 'x')));
-    QCOMPARE(m_camera->getUploadedBytes(), 1024);
-    QVERIFY(ask(ECommand::Discovery, {}).isEmpty());
-    QVERIFY(!m_camera->getNextDeadline());
+    QVERIFY(!operate(static_cast<EFileOperation>(7)));
 }
 
 QTEST_GUILESS_MAIN(CVirtualCameraTest)

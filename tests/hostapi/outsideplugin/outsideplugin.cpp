@@ -1,5 +1,3 @@
-#include "outsideplugin.h"
-
 #include "appcore/imenuservice.h"
 #include "appcore/iwindowservice.h"
 #include "camerapool/icameraenumerationservice.h"
@@ -7,33 +5,36 @@
 #include "camerapool/icamerastreamcontrolservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
 #include "cameraselector/ideviceselectorservice.h"
+#include "core/alocalizedplugin.h"
 #include "core/baseexception.h"
 #include "core/loglevel.h"
 
-COutsidePlugin::COutsidePlugin()
-    : ALocalizedPlugin(QStringLiteral("OutsidePlugin"))
+/// Uses every interface that the contract has.
+class COutsidePlugin : public Core::Plugin::ALocalizedPlugin
 {
-}
+    Q_OBJECT
+    Q_INTERFACES(Core::Plugin::IPlugin)
 
-bool COutsidePlugin::initialize(QPointer<Core::Plugin::IPluginInitializer> initializer)
-{
-    m_initializer = initializer;
-    return true;
-}
+public:
+    COutsidePlugin()
+        : ALocalizedPlugin(QStringLiteral("OutsidePlugin"))
+    {
+    }
 
-bool COutsidePlugin::postInitialize()
-{
-    if (!m_initializer->getService<Plugin::CameraPool::ICameraEnumerationService>())
-        throw Core::Exception::BaseException(QStringLiteral("There is no enumeration service."));
-    return m_initializer->getService<Plugin::AppCore::IMenuService>()
-        && m_initializer->getService<Plugin::AppCore::IWindowService>()
-        && m_initializer->getService<Plugin::CameraPool::ICameraStatusService>()
-        && m_initializer->getService<Plugin::CameraPool::ICameraStreamControlService>()
-        && m_initializer->getService<Plugin::CameraPool::IDeviceFirmwareUpdateService>()
-        && m_initializer->getService<Plugin::CameraSelector::IDeviceSelectorService>();
-}
+    bool initialize(QPointer<Core::Plugin::IPluginInitializer> initializer) override
+    {
+        if (!initializer->getService<Plugin::CameraPool::ICameraEnumerationService>())
+            throw Core::Exception::BaseException(QStringLiteral("There is no enumeration."));
+        return initializer->getService<Plugin::AppCore::IMenuService>()
+            && initializer->getService<Plugin::AppCore::IWindowService>()
+            && initializer->getService<Plugin::CameraPool::ICameraStatusService>()
+            && initializer->getService<Plugin::CameraPool::ICameraStreamControlService>()
+            && initializer->getService<Plugin::CameraPool::IDeviceFirmwareUpdateService>()
+            && initializer->getService<Plugin::CameraSelector::IDeviceSelectorService>();
+    }
 
-bool COutsidePlugin::unInitialize(QPointer<Core::Plugin::IPluginInitializer> initializer)
-{
-    return initializer == m_initializer;
-}
+    bool postInitialize() override { return true; }
+    bool unInitialize(QPointer<Core::Plugin::IPluginInitializer>) override { return true; }
+};
+
+#include "outsideplugin.moc"

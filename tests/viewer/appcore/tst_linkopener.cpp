@@ -22,7 +22,6 @@ private:
 
     QTemporaryDir m_folder;
     QDialog m_wizard;
-    QPointer<CTextDialog> m_shown; ///< what the last click opened
 };
 
 QString CLinkOpenerTest::makeFile(const QString &name, const QByteArray &text) const
@@ -36,7 +35,6 @@ QString CLinkOpenerTest::makeFile(const QString &name, const QByteArray &text) c
 
 void CLinkOpenerTest::clickLink(const QString &address)
 {
-    delete m_shown;
     m_wizard.setModal(true);
     m_wizard.show();
     QLabel label(QString("<a href=\"%1\">a link wide enough to hit</a>").arg(address), &m_wizard);
@@ -45,21 +43,21 @@ void CLinkOpenerTest::clickLink(const QString &address)
     QTest::mouseClick(&label, Qt::LeftButton, {}, label.rect().center());
 }
 
-#define WAIT_FOR_DIALOG() QTRY_VERIFY(m_shown = m_wizard.findChild<CTextDialog *>())
-
 void CLinkOpenerTest::logIsShownWithoutAProgram()
 {
+    const auto verify = [this](const QString &program, const QString &link, const QString &text) {
+        const CLinkOpener opener(program);
+        clickLink(link);
+        QTRY_VERIFY(m_wizard.findChild<CTextDialog *>());
+        const std::unique_ptr<CTextDialog> shown(m_wizard.findChild<CTextDialog *>());
+        QCOMPARE(shown->getText(), text);
+    };
     const QString log = makeFile("update.log", "first line\nsecond line \xc3\xa4\n");
-    for (const char *command : {"exit 3", "kill -KILL $$"}) {
-        const CLinkOpener opener(makeFile("open-link", QByteArray("#!/bin/sh\n") + command));
-        clickLink(log);
-        WAIT_FOR_DIALOG();
-        QCOMPARE(m_shown->getText(), QString("first line\nsecond line ä\n"));
-    }
-    const CLinkOpener opener("/nowhere");
-    clickLink("https://support.example/en/?a=1&amp;b=%C3%A4");
-    WAIT_FOR_DIALOG();
-    QCOMPARE(m_shown->getText(), QString("https://support.example/en/?a=1&b=%C3%A4"));
+    for (const char *command : {"exit 3", "kill -KILL $$"})
+        verify(makeFile("open-link", QByteArray("#!/bin/sh\n") + command), log,
+               "first line\nsecond line ä\n");
+    verify("/nowhere", "https://support.example/en/?a=1&amp;b=%C3%A4",
+           "https://support.example/en/?a=1&b=%C3%A4");
 }
 
 void CLinkOpenerTest::desktopProgramGetsTheLink()

@@ -13,8 +13,6 @@
 using namespace Viewer::CameraPool;
 using Layers = QVector<CTransportLayerSnapshot>;
 
-Q_DECLARE_METATYPE(Viewer::CameraPool::CTransportLayerSnapshot)
-
 /// Finds what the test puts there, as often as the test lets it.
 class CHeldEnumerator : public ICameraEnumerator
 {
@@ -57,7 +55,6 @@ class CCameraEnumerationServiceTest : public QObject
 
 private slots:
     void init();
-    void announcesOnlyChanges_data();
     void announcesOnlyChanges();
     void keepsUnchangedObjects();
     void refreshDuringEnumerationLooksAgain();
@@ -108,33 +105,28 @@ void CCameraEnumerationServiceTest::settle(int begun)
     QTRY_VERIFY(m_service->findCamera("last"));
 }
 
-void CCameraEnumerationServiceTest::announcesOnlyChanges_data()
-{
-    QTest::addColumn<Layers>("layers");
-    QTest::addColumn<bool>("announced");
-    const auto a = makeCamera("a");
-    const auto b = makeCamera("b");
-    const auto row = [](const char *name, const QVector<CCameraSnapshot> &first,
-                        const QVector<CCameraSnapshot> &second, bool announced = true) {
-        QTest::newRow(name) << Layers{{"l1", "Layer", first}, {"l2", "Layer", second}} << announced;
-    };
-    row("the same", {a, b}, {}, false);
-    row("new firmware", {a, makeCamera("b", "2.0")}, {});
-    row("new status", {a, makeCamera("b", "1.0", 3)}, {});
-    row("other order", {b, a}, {});
-    row("other layer", {a}, {b});
-    QTest::newRow("layer gone") << Layers{{"l1", "Layer", {a, b}}} << true;
-}
-
 void CCameraEnumerationServiceTest::announcesOnlyChanges()
 {
-    QFETCH(Layers, layers);
-    QFETCH(bool, announced);
-    announce({{"l1", "Layer", {makeCamera("a"), makeCamera("b")}}, {"l2", "Layer", {}}});
-    m_enumerator.set(layers);
-    m_service->onCamerasChanged();
-    settle(2);
-    QCOMPARE(m_announced, announced ? 2 : 1);
+    const auto a = makeCamera("a");
+    const auto b = makeCamera("b");
+    const auto makeLayers
+        = [](const QVector<CCameraSnapshot> &first, const QVector<CCameraSnapshot> &second) {
+              return Layers{{"l1", "Layer", first}, {"l2", "Layer", second}};
+          };
+    const auto verify = [&](const Layers &layers, bool announced) {
+        init();
+        announce(makeLayers({a, b}, {}));
+        m_enumerator.set(layers);
+        m_service->onCamerasChanged();
+        settle(2);
+        QCOMPARE(m_announced, announced ? 2 : 1);
+    };
+    verify(makeLayers({a, b}, {}), false);
+    verify(makeLayers({a, makeCamera("b", "2.0")}, {}), true);
+    verify(makeLayers({a, makeCamera("b", "1.0", 3)}, {}), true);
+    verify(makeLayers({b, a}, {}), true);
+    verify(makeLayers({a}, {b}), true);
+    verify({{"l1", "Layer", {a, b}}}, true);
 }
 
 void CCameraEnumerationServiceTest::keepsUnchangedObjects()

@@ -1,3 +1,4 @@
+#include "viewer/camerapool/cameraenumerationservice.h"
 #include "viewer/camerapool/camerainfo.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/firmwareupdateinfo.h"
@@ -6,7 +7,6 @@
 #include "jobrecorder.h"
 #include "updatefixture.h"
 
-#include "camerapool/icameraenumerationservice.h"
 #include "camerapool/icamerastatusservice.h"
 #include "camerapool/icamerastreamcontrolservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
@@ -20,6 +20,7 @@
 using namespace Viewer::CameraPool;
 using namespace Test;
 using namespace Plugin::CameraPool;
+using Simulation::CSimulation;
 
 static const QString FirstId = "gige-40012345";
 static const QString SecondId = "gige-40012346";
@@ -29,18 +30,23 @@ class CCameraPoolTest : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void announcesPluggedAndUnpluggedCameras();
-    void refusesToStart();
-    void stopAllIsCompleteAtOnce();
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        createPool();
+    }
+    void startsAndStopsCameras();
     void updateIsAnnouncedOnceAtItsEnd();
     void unpluggingEndsAnUpdate();
     void jobOutlivesThePool();
     void findsWhatFitsNewestFirst();
 
 private:
-    void createPool(double speedFactor);
-    [[nodiscard]] CameraInfoPtr find(const QString &cameraId) const;
+    void createPool(double speedFactor = 500.0);
+    [[nodiscard]] CameraInfoPtr find(const QString &cameraId) const
+    {
+        return getService<CCameraEnumerationService>()->findCamera(cameraId);
+    }
     [[nodiscard]] DeviceFirmwareUpdatePtr createJob(const QString &cameraId, int imageSize) const;
 
     template <typename TService>
@@ -58,12 +64,6 @@ private:
     std::unique_ptr<QSignalSpy> m_announced;
 };
 
-void CCameraPoolTest::init()
-{
-    m_folder.reset(new QTemporaryDir);
-    createPool(500.0);
-}
-
 void CCameraPoolTest::createPool(double speedFactor)
 {
     m_announced.reset();
@@ -78,18 +78,6 @@ void CCameraPoolTest::createPool(double speedFactor)
     QTRY_COMPARE(m_announced->count(), 1);
 }
 
-CameraInfoPtr CCameraPoolTest::find(const QString &cameraId) const
-{
-    for (const auto &layer :
-         getService<ICameraEnumerationService>()->getTransportLayerInfoVector()) {
-        for (const CameraInfoPtr &camera : layer->getCameraInfoList()) {
-            if (camera->getId() == cameraId)
-                return camera;
-        }
-    }
-    return {};
-}
-
 DeviceFirmwareUpdatePtr CCameraPoolTest::createJob(const QString &cameraId, int imageSize) const
 {
     const QString path = m_folder->filePath("update.guf");
@@ -99,48 +87,39 @@ DeviceFirmwareUpdatePtr CCameraPoolTest::createJob(const QString &cameraId, int 
         find(cameraId), service->getFirmwareUpdateInfos(path, {}).constFirst());
 }
 
-void CCameraPoolTest::announcesPluggedAndUnpluggedCameras()
+void CCameraPoolTest::startsAndStopsCameras()
 {
-    QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
-    QVERIFY(m_pool->startAcquisition(FirstId));
-    m_pool->getSimulation().unplug(FirstId);
-    QTRY_COMPARE(m_announced->count(), 2);
-    QVERIFY(!find(FirstId));
-    QCOMPARE(failed.count(), 1);
-    QCOMPARE(m_pool->getActivity(FirstId), ECameraActivity::Idle);
-    m_pool->getSimulation().plugIn(FirstId);
-    QTRY_COMPARE(m_announced->count(), 3);
-    QVERIFY(find(FirstId));
-}
-
-void CCameraPoolTest::refusesToStart()
-{
+    CSimulation &simulation = m_pool->getSimulation();
     const auto verifyRefused = [this](const char *cause) {
         QString error;
         QVERIFY(!m_pool->startAcquisition(FirstId, &error));
         QVERIFY(!m_pool->startRecording(FirstId, m_folder->path(), &error));
         QVERIFY2(error.contains(cause), qPrintable(error));
     };
-    m_pool->setStartsLocked(true);
-    verifyRefused("firmware updater is open");
-    m_pool->setStartsLocked(false);
-    m_pool->getSimulation().setBusy(FirstId, true);
+    simulation.setBusy(FirstId, true);
     verifyRefused("used by another application");
-    m_pool->getSimulation().unplug(FirstId);
-    verifyRefused("does not answer");
-}
+    simulation.setBusy(FirstId, false);
 
-void CCameraPoolTest::stopAllIsCompleteAtOnce()
-{
+    QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
+    QVERIFY(m_pool->startAcquisition(FirstId));
+    simulation.unplug(FirstId);
+    QTRY_COMPARE(m_announced->count(), 2);
+    QVERIFY(!find(FirstId));
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(m_pool->getActivity(FirstId), ECameraActivity::Idle);
+    verifyRefused("does not answer");
+    simulation.plugIn(FirstId);
+    QTRY_COMPARE(m_announced->count(), 3);
+
     const auto status = getService<ICameraStatusService>();
-    const QString busyId = "cxp-50300021";
+    const QStringList ids{FirstId, SecondId, "cxp-50300021"};
     QVERIFY(m_pool->startAcquisition(FirstId));
     QVERIFY(m_pool->startRecording(SecondId, m_folder->path()));
-    m_pool->getSimulation().setBusy(busyId, true);
-    for (const QString &id : {FirstId, SecondId, busyId})
+    simulation.setBusy(ids.last(), true);
+    for (const QString &id : ids)
         QVERIFY(status->isCameraBusy(find(id)));
     getService<ICameraStreamControlService>()->stopAllCameras();
-    for (const QString &id : {FirstId, SecondId, busyId})
+    for (const QString &id : ids)
         QVERIFY(!status->isCameraBusy(find(id)));
 }
 
@@ -169,7 +148,7 @@ void CCameraPoolTest::updateIsAnnouncedOnceAtItsEnd()
     QCOMPARE(running.count(), 2);
     QCOMPARE(before->getFirmwareVersion(), QString("1.2.0"));
 
-    createPool(500.0); // the next start
+    createPool(); // the next start
     QCOMPARE(find(FirstId)->getFirmwareVersion(), QString("2.0.0"));
     QCOMPARE(find(SecondId)->getFirmwareVersion(), QString("1.2.0"));
 }

@@ -38,17 +38,15 @@ class CPluginManagerTest : public QObject
 private slots:
     void init();
     void leadsPluginsThroughTheirLife();
-    void namesEachFailure_data();
     void namesEachFailure();
     void reportsDamagedAndDoubleLibraries();
-    void requiredFailureEndsTheStart();
-    void leavesOutThoseThatDependOnAFailure();
+    void endsOrLeavesOutWhatDependsOnAFailure();
     void ordersByDependencies();
     void refusesFaultyMetaData();
 
 private:
     bool start(const QStringList &plugins);
-    static QStringList calls();
+    static QStringList calls() { return qApp->property("calls").toStringList(); }
 
     QDir m_root{PLUGIN_ROOT};
     CPluginInitializer m_initializer;
@@ -60,11 +58,6 @@ void CPluginManagerTest::init()
     m_manager = std::make_unique<CPluginManager>(&m_initializer);
     m_manager->addBuiltIn(CPluginSpec::createBuiltIn("Host", "2.1.0", "2.0.0", "The test"));
     qApp->setProperty("calls", QStringList());
-}
-
-QStringList CPluginManagerTest::calls()
-{
-    return qApp->property("calls").toStringList();
 }
 
 bool CPluginManagerTest::start(const QStringList &plugins)
@@ -92,29 +85,25 @@ void CPluginManagerTest::leadsPluginsThroughTheirLife()
     QCOMPARE(m_initializer.getServices().size(), 0);
 }
 
-void CPluginManagerTest::namesEachFailure_data()
-{
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("wrong_interface") << "IPlugin/5.0";
-    QTest::newRow("missing") << "\"nowhere\" 1.0.0, which is not there";
-    QTest::newRow("too_new") << "\"Host\" 3.0.0";
-    QTest::newRow("too_old") << "compatible down to 2.0.0";
-    QTest::newRow("refuses") << "could not be initialized";
-    QTest::newRow("throws") << "out of order";
-    QTest::newRow("refuses_late") << "could not be connected";
-}
-
 void CPluginManagerTest::namesEachFailure()
 {
-    const QString plugin = QTest::currentDataTag();
-    QFETCH(const QString, reason);
-    QVERIFY2(start({plugin, "good"}), "a plug-in that is not required must not end the start");
-    QCOMPARE(m_manager->getFailures().size(), 1);
-    const QString failure = m_manager->getFailures().constFirst();
-    QVERIFY2(failure.contains(plugin + ".so") && failure.contains(reason), qPrintable(failure));
-    QVERIFY(calls().contains("good.postInitialize"));
-    QCOMPARE(calls().count(plugin + ".destroy"), calls().count(plugin + ".construct"));
-    QCOMPARE(m_initializer.getServices().size(), 1);
+    const auto verify = [this](const QString &plugin, const QString &reason) {
+        init();
+        QVERIFY2(start({plugin, "good"}), "a plug-in that is not required must not end the start");
+        QCOMPARE(m_manager->getFailures().size(), 1);
+        const QString failure = m_manager->getFailures().constFirst();
+        QVERIFY2(failure.contains(plugin + ".so") && failure.contains(reason), qPrintable(failure));
+        QVERIFY(calls().contains("good.postInitialize"));
+        QCOMPARE(calls().count(plugin + ".destroy"), calls().count(plugin + ".construct"));
+        QCOMPARE(m_initializer.getServices().size(), 1);
+    };
+    verify("wrong_interface", "IPlugin/5.0");
+    verify("missing", "\"nowhere\" 1.0.0, which is not there");
+    verify("too_new", "\"Host\" 3.0.0");
+    verify("too_old", "compatible down to 2.0.0");
+    verify("refuses", "could not be initialized");
+    verify("throws", "out of order");
+    verify("refuses_late", "could not be connected");
 }
 
 void CPluginManagerTest::reportsDamagedAndDoubleLibraries()
@@ -135,16 +124,13 @@ void CPluginManagerTest::reportsDamagedAndDoubleLibraries()
     QCOMPARE(calls().count("required_good.postInitialize"), 1);
 }
 
-void CPluginManagerTest::requiredFailureEndsTheStart()
+void CPluginManagerTest::endsOrLeavesOutWhatDependsOnAFailure()
 {
     QVERIFY(!start({"good", "required_refuses"}));
     m_manager->shutDown();
     QVERIFY(calls().contains("good.destroy"));
     QVERIFY(calls().contains("required_refuses.destroy"));
-}
-
-void CPluginManagerTest::leavesOutThoseThatDependOnAFailure()
-{
+    init();
     QVERIFY(start({"needs_refuses", "refuses", "needs_refuses_late", "refuses_late"}));
     QCOMPARE(m_manager->getFailures().size(), 4);
     QVERIFY(!calls().contains("needs_refuses.initialize"));

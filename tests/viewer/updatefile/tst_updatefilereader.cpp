@@ -70,15 +70,13 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
     const QByteArray payload = getPayload();
     const auto size = static_cast<quint32>(payload.size());
     const QByteArray manifest = CUpdateFileBuilder::makeManifest("firmware.img", payload);
-    const auto pack = [](const QByteArray &manifest, const QByteArray &payload) {
-        return CUpdateFileBuilder()
-            .add("update.json", manifest)
-            .add("folder/", "")
-            .add("firmware.img", payload)
-            .getBytes();
-    };
     const auto packOne = [](const QString &name, const QByteArray &content) {
         return CUpdateFileBuilder().add(name, content).getBytes();
+    };
+    const auto pack = [&](const QByteArray &json, const QByteArray &content) {
+        CUpdateFileBuilder builder;
+        builder.add("update.json", json).add("folder/", "").add("firmware.img", content);
+        return builder.getBytes();
     };
     const auto packAlso = [&payload](const QByteArray &name) {
         return CUpdateFileBuilder::makeValid(payload).add(name, "x").getBytes();
@@ -118,8 +116,6 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
         "the archive has two entries named @");
     row(CUpdateFileBuilder::makeValid(payload, EPacking::Encrypted).getBytes(),
         "the entry @ is encrypted; pack it without a password");
-    row(CUpdateFileBuilder().add("update.json", manifest, EPacking::Encrypted).getBytes(),
-        R"(the entry "update.json" is encrypted; pack it without a password)");
     QByteArray otherMethod = valid;
     constexpr char BZIP2 = 12;
     otherMethod[otherMethod.lastIndexOf("PK\x01\x02") + 10] = BZIP2;
@@ -222,8 +218,7 @@ void CUpdateFileReaderTest::withholdsEndOfPayloadWithOtherDigest()
     expected.sha256[5] = static_cast<char>(~expected.sha256.at(5));
     const auto device = CUpdateArchive(m_path).openPayload(expected);
     QCOMPARE(device->read(3199), payload.left(3199));
-    char last = 0;
-    QCOMPARE(device->read(&last, 1), qint64(-1));
+    QCOMPARE(device->read(1), QByteArray());
     QVERIFY(device->errorString().endsWith("does not match its SHA-256 in update.json"));
     QVERIFY(device->atEnd());
 }
@@ -240,10 +235,9 @@ void CUpdateFileReaderTest::readsAgainOnlyWhatChanged()
         Test::writeFile(m_path, bytes);
         QFile file(m_path);
         const QDateTime time(QDate(2026, 1, 1), QTime(12, 0, 0, millisecond));
-        if (!file.open(QIODevice::ReadWrite)
-            || !file.setFileTime(time, QFileDevice::FileModificationTime))
-            qFatal("The time of the file cannot be set");
-        return readCause(m_path, &cache);
+        const bool isSet = file.open(QIODevice::ReadWrite)
+            && file.setFileTime(time, QFileDevice::FileModificationTime);
+        return isSet ? readCause(m_path, &cache) : "the time of the file cannot be set";
     };
     QCOMPARE(writeAndRead(valid, 0), QString("no fault"));
     QCOMPARE(writeAndRead(garbage, 0), QString("no fault"));
