@@ -140,6 +140,7 @@ void CCameraPoolTest::updateIsAnnouncedOnceAtItsEnd()
     const bool begun = QTest::qWaitFor([&running] { return running.count() > 0; });
     const bool busy = getService<ICameraStatusService>()->isCameraBusy(before);
     const bool startable = m_pool->startAcquisition(FirstId);
+    getService<CCameraEnumerationService>()->refreshEnumeration(); // an impatient user
     const QString versionMeanwhile = job->getFirmwareVersion();
     thread.join();
     QVERIFY(begun && !busy && !startable);

@@ -25,11 +25,9 @@ private:
 void CFirmwareStateFileTest::remembersAndForgets()
 {
     CFirmwareStateFile first(m_path);
-    first.setVersion("a", "1.0");
     first.setVersion("\u00FC \"b\"", "2.0");
     first.setVersion("a", "3.0");
     CFirmwareStateFile second(m_path);
-    QCOMPARE(second.getVersion("a"), QString("3.0"));
     QCOMPARE(second.getVersion("\u00FC \"b\""), QString("2.0"));
     // No temporary file is left behind.
     QCOMPARE(QFileInfo(m_path).dir().entryList(QDir::Files | QDir::Hidden).size(), 1);
