@@ -246,7 +246,7 @@ void CDeviceFirmwareUpdateTest::refusesBeforeTheFirstWrite()
     verify("\"1.0.9\" is below 1.1", "DeviceFirmwareVersion", "1.0.9");
     verify("\"?\" is below 1.1", "DeviceFirmwareVersion", "?");
     for (const int size : {999, 1000}) { // too short; wrong digest
-        CUpdateFileBuilder().add("firmware-2.0.0.img", QByteArray(size, 'x')).write(m_path);
+        writeFile(m_path, makeArchive({{"firmware-2.0.0.img", QByteArray(size, 'x')}}));
         verify("firmware-2.0.0.img", "", "");
     }
     QVERIFY(QFile::remove(m_path));

@@ -24,19 +24,20 @@ inline void writeUpdateFile(const QString &path, const QStringList &versions, in
   { "kind": "FeatureAssert", "estimatedMs": 32, "feature": "DeviceFirmwareVersion",
     "value": "%1" } ] })";
 
-    CUpdateFileBuilder builder;
+    QVector<CEntry> files;
     QStringList entries;
     for (const QString &version : versions) {
         QByteArray image = "model: VX-1400M\nversion: " + version.toLatin1() + "\n\n";
         image.append(imageSize - image.size(), 'x');
-        builder.add(QString("firmware-%1.img").arg(version), image);
+        files.append({QString("firmware-%1.img").arg(version), image});
         const QByteArray digest = QCryptographicHash::hash(image, QCryptographicHash::Sha256);
         entries.append(
             QString(Entry).arg(version, QString::number(image.size()), digest.toHex().constData()));
     }
     const QString manifest
         = QString(R"({ "formatVersion": 1, "updates": [%1] })").arg(entries.join(','));
-    builder.add("update.json", manifest.toUtf8()).write(path);
+    files.append({"update.json", manifest.toUtf8()});
+    writeFile(path, makeArchive(files));
 }
 
 } // namespace Test

@@ -24,8 +24,7 @@ private:
 };
 
 static const QByteArray PAYLOAD = QByteArray(5000, 'p');
-static const QByteArray MANIFEST
-    = Test::CUpdateFileBuilder::makeManifest(QStringLiteral("images/a.img"), PAYLOAD);
+static const QByteArray MANIFEST = Test::makeManifest(QStringLiteral("images/a.img"), PAYLOAD);
 
 /// A manifest that leaves out what can be filled in.
 static QByteArray getSource()

@@ -11,9 +11,7 @@
 #include <thread>
 
 using namespace Viewer::CameraPool::UpdateFile;
-using Test::CUpdateFileBuilder;
-using Test::patch;
-using EPacking = CUpdateFileBuilder::EPacking;
+using namespace Test;
 
 /// Looks at the reader, at the archive that it reads from and at the cache before it.
 class CUpdateFileReaderTest : public QObject
@@ -67,20 +65,18 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
     };
     const QByteArray payload = getPayload();
     const auto size = static_cast<quint32>(payload.size());
-    const QByteArray manifest = CUpdateFileBuilder::makeManifest("firmware.img", payload);
+    const QByteArray manifest = makeManifest("firmware.img", payload);
     const auto packOne = [](const QString &name, const QByteArray &content) {
-        return CUpdateFileBuilder().add(name, content).getBytes();
+        return makeArchive({{name, content}});
     };
-    const auto pack = [&](const QByteArray &json, const QByteArray &content) {
-        CUpdateFileBuilder builder;
-        builder.add("update.json", json).add("folder/", "").add("firmware.img", content);
-        return builder.getBytes();
+    const auto pack = [](const QByteArray &json, const QByteArray &content) {
+        return makeArchive({{"update.json", json}, {"folder/", ""}, {"firmware.img", content}});
     };
     const auto packAlso = [&payload](const QByteArray &name) {
-        return CUpdateFileBuilder::makeValid(payload).add(name, "x").getBytes();
+        return makeValid(payload, EPacking::Deflated, {{name, "x"}});
     };
     const QByteArray valid = pack(manifest, payload);
-    const QByteArray stored = CUpdateFileBuilder::makeValid(payload, EPacking::Stored).getBytes();
+    const QByteArray stored = makeValid(payload, EPacking::Stored);
     QByteArray changed = payload;
     changed[1600] = static_cast<char>(~changed.at(1600));
 
@@ -107,7 +103,7 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
     row(packAlso("readme.txt"), "has a file \"readme.txt\" that no step uploads");
     row(packAlso("firmware.img/"), "two entries named \"firmware.img\"");
     row(patch(packAlso("firmware.imG"), "firmware.imG", "firmware.img"), "two entries named");
-    row(CUpdateFileBuilder::makeValid(payload, EPacking::Encrypted).getBytes(), "is encrypted");
+    row(makeValid(payload, EPacking::Encrypted), "is encrypted");
     QByteArray otherMethod = valid;
     constexpr char BZIP2 = 12;
     otherMethod[otherMethod.lastIndexOf("PK\x01\x02") + 10] = BZIP2;
@@ -126,17 +122,17 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
     name("evil\nimg", "has a control character");
     row(packAlso(QByteArray(201, 'n')), "nnn...\" is longer than 200 characters");
     row(patch(packAlso("evil!.img"), "evil!", "evil\xff"), "entry 3 of the archive has no name");
-    CUpdateFileBuilder crowd;
+    QVector<CEntry> crowd;
     for (int index = 0; index < 257; ++index)
-        crowd.add(QString::number(index), "x");
-    row(crowd.getBytes(), "the archive has 257 entries; 256 are allowed");
+        crowd.append({QString::number(index), "x"});
+    row(makeArchive(crowd), "the archive has 257 entries; 256 are allowed");
 }
 
 void CUpdateFileReaderTest::tellsFaultyArchives()
 {
     QFETCH(QByteArray, archive);
     QFETCH(QString, cause);
-    Test::writeFile(m_path, archive);
+    writeFile(m_path, archive);
     const QString found = readCause(m_path);
     QVERIFY2(found.contains(cause) && !found.startsWith("bad sentence"), qPrintable(found));
 }
@@ -149,17 +145,16 @@ void CUpdateFileReaderTest::refusesWhatIsNoFile()
     QCOMPARE(mkfifo(QFile::encodeName(path).constData(), 0600), 0);
     QCOMPARE(readCause(path), QString("this is not a regular file"));
     QVERIFY(QFile::remove(path));
-    Test::writeFile(path, "");
+    writeFile(path, "");
     QVERIFY(QFile::resize(path, 256 * 1024 * 1024 + 1));
     QCOMPARE(readCause(path), QString("the file has 268435457 bytes; 268435456 are allowed"));
 }
 
 void CUpdateFileReaderTest::refusesTruncatedAndDamagedFiles()
 {
-    const QByteArray archive
-        = CUpdateFileBuilder::makeValid(getPayload(), EPacking::Stored).getBytes();
+    const QByteArray archive = makeValid(getPayload(), EPacking::Stored);
     for (int size = 0; size < archive.size(); size += size < 200 ? 1 : 13) {
-        Test::writeFile(m_path, archive.left(size));
+        writeFile(m_path, archive.left(size));
         QVERIFY2(readCause(m_path) != "no fault", qPrintable(QString::number(size)));
     }
 
@@ -167,7 +162,7 @@ void CUpdateFileReaderTest::refusesTruncatedAndDamagedFiles()
     for (int position = 0; position < archive.size(); position += 3) {
         QByteArray damaged = archive;
         damaged[position] = static_cast<char>(~damaged.at(position));
-        Test::writeFile(m_path, damaged);
+        writeFile(m_path, damaged);
         const QString cause = readCause(m_path);
         QVERIFY2(!cause.startsWith("bad sentence"), qPrintable(cause));
         // Elsewhere a byte may lie in a field that nobody reads, like a time.
@@ -181,12 +176,12 @@ void CUpdateFileReaderTest::streamsTheFileThatWasOpened()
 {
     const QByteArray payload = getPayload();
     for (const int blockSize : {1, 1000, 3200, 100000}) {
-        CUpdateFileBuilder::makeValid(payload).write(m_path);
+        writeFile(m_path, makeValid(payload));
         auto archive = std::make_unique<CUpdateArchive>(m_path);
         const CUpdateManifest manifest = CUpdateFileReader::read(*archive);
         const CPayload described = manifest.updates.at(0).steps.at(3).payload;
         QVERIFY(QFile::remove(m_path));
-        CUpdateFileBuilder::makeValid("other").write(m_path);
+        writeFile(m_path, makeValid("other"));
         QByteArray received[2];
         std::thread worker([&] {
             const auto first = archive->openPayload(described);
@@ -205,7 +200,7 @@ void CUpdateFileReaderTest::streamsTheFileThatWasOpened()
 void CUpdateFileReaderTest::withholdsEndOfPayloadWithOtherDigest()
 {
     const QByteArray payload = getPayload();
-    CUpdateFileBuilder::makeValid(payload).write(m_path);
+    writeFile(m_path, makeValid(payload));
     CPayload expected = CUpdateFileReader::read(m_path).updates.at(0).steps.at(3).payload;
     expected.sha256[5] = static_cast<char>(~expected.sha256.at(5));
     const auto device = CUpdateArchive(m_path).openPayload(expected);
@@ -219,12 +214,12 @@ void CUpdateFileReaderTest::withholdsEndOfPayloadWithOtherDigest()
 /// is told from a remembered one only by being read.
 void CUpdateFileReaderTest::readsAgainOnlyWhatChanged()
 {
-    const QByteArray valid = CUpdateFileBuilder::makeValid("firmware").getBytes();
+    const QByteArray valid = makeValid("firmware");
     const QByteArray garbage(valid.size(), 'x');
     const QString noZip = "this is not an update file, as it is not a ZIP archive";
     CUpdateFileCache cache;
     const auto writeAndRead = [this, &cache](const QByteArray &bytes, int millisecond) {
-        Test::writeFile(m_path, bytes);
+        writeFile(m_path, bytes);
         QFile file(m_path);
         const QDateTime time(QDate(2026, 1, 1), QTime(12, 0, 0, millisecond));
         const bool isSet = file.open(QIODevice::ReadWrite)
@@ -236,7 +231,7 @@ void CUpdateFileReaderTest::readsAgainOnlyWhatChanged()
     QVERIFY(cache.read(QDir::current().relativeFilePath(m_path)) == cache.read(m_path));
     QCOMPARE(writeAndRead(garbage, 500), noZip);
     QCOMPARE(writeAndRead(valid, 500), noZip);
-    QCOMPARE(writeAndRead(CUpdateFileBuilder::makeValid("x").getBytes(), 500), QString("no fault"));
+    QCOMPARE(writeAndRead(makeValid("x"), 500), QString("no fault"));
     QCOMPARE(writeAndRead(garbage, 1), noZip);
 }
 

@@ -15,20 +15,13 @@ static void require(bool condition, const char *what)
         qFatal("The test's archive cannot be made: %s", what);
 }
 
-CUpdateFileBuilder &CUpdateFileBuilder::add(const QString &name, const QByteArray &content,
-                                            EPacking packing)
-{
-    m_entries.append({name, content, packing});
-    return *this;
-}
-
-QByteArray CUpdateFileBuilder::getBytes() const
+QByteArray makeArchive(const QVector<CEntry> &entries)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("archive.zip"));
     zip_t *archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE, nullptr);
     require(archive, "open");
-    for (const CEntry &entry : m_entries) {
+    for (const CEntry &entry : entries) {
         zip_source_t *source = zip_source_buffer(
             archive, entry.content.constData(), static_cast<zip_uint64_t>(entry.content.size()), 0);
         const zip_int64_t added
@@ -49,12 +42,7 @@ QByteArray CUpdateFileBuilder::getBytes() const
     return file.readAll();
 }
 
-void CUpdateFileBuilder::write(const QString &path) const
-{
-    writeFile(path, getBytes());
-}
-
-QByteArray CUpdateFileBuilder::makeManifest(const QString &payloadName, const QByteArray &payload)
+QByteArray makeManifest(const QString &payloadName, const QByteArray &payload)
 {
     QFile file(QStringLiteral(MANIFEST_PATH));
     require(file.open(QIODevice::ReadOnly), "manifest");
@@ -64,12 +52,12 @@ QByteArray CUpdateFileBuilder::makeManifest(const QString &payloadName, const QB
         .replace("@sha256@", QCryptographicHash::hash(payload, QCryptographicHash::Sha256).toHex());
 }
 
-CUpdateFileBuilder CUpdateFileBuilder::makeValid(const QByteArray &payload, EPacking packing)
+QByteArray makeValid(const QByteArray &payload, EPacking packing, const QVector<CEntry> &others)
 {
     const QString name = QStringLiteral("firmware.img");
-    return CUpdateFileBuilder()
-        .add(QStringLiteral("update.json"), makeManifest(name, payload))
-        .add(name, payload, packing);
+    return makeArchive(QVector<CEntry>{{QStringLiteral("update.json"), makeManifest(name, payload)},
+                                       {name, payload, packing}}
+                       + others);
 }
 
 QByteArray patch(QByteArray archive, const QByteArray &before, const QByteArray &after)

@@ -6,39 +6,26 @@
 
 namespace Test {
 
-/// Makes archives for tests, also such as no packing program would make. Failures of the archive
-/// library end the test program with a message.
-class CUpdateFileBuilder
+enum class EPacking { Stored, Deflated, Encrypted };
+
+/// A file of an archive.
+struct CEntry
 {
-public:
-    enum class EPacking { Stored, Deflated, Encrypted };
-
-    /// Adds a file.
-    CUpdateFileBuilder &add(const QString &name, const QByteArray &content,
-                            EPacking packing = EPacking::Deflated);
-
-    [[nodiscard]] QByteArray getBytes() const;
-
-    /// Writes the archive, over what is there.
-    void write(const QString &path) const;
-
-    /// A manifest of one update with every kind of step, whose upload names @p payloadName.
-    static QByteArray makeManifest(const QString &payloadName, const QByteArray &payload);
-
-    /// A faultless update file: the manifest and the payload "firmware.img".
-    static CUpdateFileBuilder makeValid(const QByteArray &payload,
-                                        EPacking packing = EPacking::Deflated);
-
-private:
-    struct CEntry
-    {
-        QString name;
-        QByteArray content;
-        EPacking packing;
-    };
-
-    QVector<CEntry> m_entries;
+    QString name;
+    QByteArray content;
+    EPacking packing = EPacking::Deflated;
 };
+
+/// Makes archives for tests, also such as no packing program would make. Failures of the archive
+/// library end the test program with a message, as all failures here.
+QByteArray makeArchive(const QVector<CEntry> &entries);
+
+/// A manifest of one update with every kind of step, whose upload names @p payloadName.
+QByteArray makeManifest(const QString &payloadName, const QByteArray &payload);
+
+/// A faultless update file, the manifest and the payload "firmware.img", and then @p others.
+QByteArray makeValid(const QByteArray &payload, EPacking packing = EPacking::Deflated,
+                     const QVector<CEntry> &others = {});
 
 /// Replaces bytes of a finished archive wherever they stand, which must be somewhere. Both have the
 /// same length, so that the archive's own offsets stay right.
