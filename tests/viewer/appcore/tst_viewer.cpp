@@ -124,14 +124,16 @@ void CViewerTest::wizardLocksStartsAndClosing()
 {
     auto page = std::make_unique<QDialog>(m_window);
     QDialog nextPage(m_window);
-    page->open();
+    page->setModal(true);
+    nextPage.setModal(true);
+    page->show();
     QVERIFY(!startsCamera());
     QVERIFY(!m_window->close());
     QVERIFY(m_window->statusBar()->currentMessage().contains("dialog"));
     // Between two pages nothing is shown.
     page.reset();
     QVERIFY(!startsCamera());
-    nextPage.open();
+    nextPage.show();
     QCoreApplication::processEvents();
     QVERIFY(!startsCamera());
     nextPage.hide();
