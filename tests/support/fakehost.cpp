@@ -14,26 +14,19 @@ public:
     CFakeCommand(QAction *action, const Core::CId &id, const QList<Core::CId> &contexts)
         : m_action(action)
         , m_id(id)
-        , m_contexts(contexts)
     {
+        for (const Core::CId &context : contexts)
+            m_contexts.append(context.toString());
     }
 
     Core::CId getId() const override { return m_id; }
-
     QAction *getAction() const override { return m_action; }
-
-    QStringList getContexts() const
-    {
-        QStringList texts;
-        for (const Core::CId &context : m_contexts)
-            texts.append(context.toString());
-        return texts;
-    }
+    QStringList getContexts() const { return m_contexts; }
 
 private:
     const QPointer<QAction> m_action;
     const Core::CId m_id;
-    const QList<Core::CId> m_contexts;
+    QStringList m_contexts;
 };
 
 class CFakeContainer : public Plugin::AppCore::IActionContainer
@@ -109,24 +102,6 @@ CMenuEntry CFakeMenuService::getEntry(const char *menu) const
         }
     }
     return found;
-}
-
-CFakeHost::CFakeHost()
-    : menus(new CFakeMenuService)
-    , windows(new CFakeWindowService)
-    , enumeration(new CFakeEnumerationService)
-    , status(new CFakeStatusService)
-    , streams(new CFakeStreamControlService)
-    , updates(new CFakeUpdateService)
-    , selector(new CFakeSelectorService)
-{
-    initializer.addService(menus);
-    initializer.addService(windows);
-    initializer.addService(enumeration);
-    initializer.addService(status);
-    initializer.addService(streams);
-    initializer.addService(updates);
-    initializer.addService(selector);
 }
 
 } // namespace TestSupport

@@ -151,16 +151,23 @@ public:
 class CFakeHost
 {
 public:
-    CFakeHost();
-
     CFakeInitializer initializer;
-    const QSharedPointer<CFakeMenuService> menus;
-    const QSharedPointer<CFakeWindowService> windows;
-    const QSharedPointer<CFakeEnumerationService> enumeration;
-    const QSharedPointer<CFakeStatusService> status;
-    const QSharedPointer<CFakeStreamControlService> streams;
-    const QSharedPointer<CFakeUpdateService> updates;
-    const QSharedPointer<CFakeSelectorService> selector;
+    const QSharedPointer<CFakeMenuService> menus = publish<CFakeMenuService>();
+    const QSharedPointer<CFakeWindowService> windows = publish<CFakeWindowService>();
+    const QSharedPointer<CFakeEnumerationService> enumeration = publish<CFakeEnumerationService>();
+    const QSharedPointer<CFakeStatusService> status = publish<CFakeStatusService>();
+    const QSharedPointer<CFakeStreamControlService> streams = publish<CFakeStreamControlService>();
+    const QSharedPointer<CFakeUpdateService> updates = publish<CFakeUpdateService>();
+    const QSharedPointer<CFakeSelectorService> selector = publish<CFakeSelectorService>();
+
+private:
+    template <typename TService>
+    QSharedPointer<TService> publish()
+    {
+        const auto service = QSharedPointer<TService>::create();
+        initializer.addService(service);
+        return service;
+    }
 };
 
 } // namespace TestSupport

@@ -6,11 +6,9 @@
 
 namespace TestSupport {
 
-CScriptedUpdate::CScriptedUpdate(const QString &version, EDirection direction,
-                                 const QString &currentVersion)
+CScriptedUpdate::CScriptedUpdate(const QString &version, EDirection direction)
     : m_info(new CFakeUpdateInfo(version))
     , m_direction(direction)
-    , m_currentVersion(currentVersion)
 {
 }
 
@@ -44,16 +42,6 @@ CScriptedUpdate &CScriptedUpdate::endStep(EStep step, unsigned int estimateMs)
     return add([this, step, estimateMs] { emit firmwareUpdateProgressStepDone(step, estimateMs); });
 }
 
-CScriptedUpdate &CScriptedUpdate::done()
-{
-    return add([this] { emit firmwareUpdateDone(); });
-}
-
-CScriptedUpdate &CScriptedUpdate::error(const QString &message)
-{
-    return add([this, message] { emit firmwareUpdateError(message); });
-}
-
 CScriptedUpdate &CScriptedUpdate::throwException(const QString &message)
 {
     return add([message] { throw Core::Exception::BaseException(message); });
@@ -66,37 +54,6 @@ CScriptedUpdate &CScriptedUpdate::hold()
         m_release.acquire();
         m_held = false;
     });
-}
-
-bool CScriptedUpdate::isHeld() const
-{
-    return m_held;
-}
-
-void CScriptedUpdate::release()
-{
-    m_release.release();
-}
-
-int CScriptedUpdate::getExecutionCount() const
-{
-    return m_executionCount;
-}
-
-QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
-CScriptedUpdate::getFirmwareUpdateInfo() const
-{
-    return m_info;
-}
-
-CScriptedUpdate::EDirection CScriptedUpdate::getFirmwareUpdateDirection() const
-{
-    return m_direction;
-}
-
-QString CScriptedUpdate::getFirmwareVersion() const
-{
-    return m_currentVersion;
 }
 
 void CScriptedUpdate::executeFirmwareUpdate()

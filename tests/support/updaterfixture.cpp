@@ -28,14 +28,11 @@ QStringList CUpdaterFixture::getLog() const
 
     QFile file(service->getCurrentTemporaryLogFilePath());
     if (!file.open(QIODevice::ReadOnly))
-        return {QStringLiteral("no log file")};
-    QStringList lines;
-    const QStringList written
-        = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString &line : written) {
+        return {"no log file"};
+    QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    for (QString &line : lines) {
         const QRegularExpressionMatch match = format.match(line);
-        lines.append(match.hasMatch() ? match.captured(1)
-                                      : QStringLiteral("malformed line: ") + line);
+        line = match.hasMatch() ? match.captured(1) : "malformed line: " + line;
     }
     return lines;
 }
@@ -49,6 +46,12 @@ CUpdaterFixture::Entity *CUpdaterFixture::makeTickedCamera(const CCameraDescript
     node->setSelected(true);
     node->setDeviceFirmwareUpdate(Plugin::CameraPool::DeviceFirmwareUpdatePtr(job));
     return node;
+}
+
+void CUpdaterFixture::tick(Model &model, const QModelIndex &row, bool on)
+{
+    model.setData(row, on, Qt::EditRole);
+    model.updateAllNodesBySelection(row);
 }
 
 } // namespace TestSupport

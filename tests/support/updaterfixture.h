@@ -2,6 +2,7 @@
 
 #include "fakehost.h"
 #include "scriptedupdate.h"
+#include "widgets.h"
 
 #include "model/firmwareupdatetreemodel.h"
 #include "service/firmwareupdaterservice.h"
@@ -28,6 +29,9 @@ public:
     /// A ticked camera for a flat list, with @p job, which may be null.
     [[nodiscard]] static Entity *makeTickedCamera(const CCameraDescription &description,
                                                   CScriptedUpdate *job = nullptr);
+
+    /// Does what a click on the row's box does.
+    static void tick(Model &model, const QModelIndex &row, bool on = true);
 
     QTemporaryDir temporaryFolder;
     CFakeHost host;

@@ -20,52 +20,30 @@ class CFirmwareUpdateEntityTest : public QObject
     Q_OBJECT
 
 private slots:
-    void startsUnselectedAndWaiting();
-    void announcesEachChangeOnce_data();
-    void announcesEachChangeOnce();
-    void showsValuesByKindOfNode_data();
+    void announcesAndCopiesEachValue_data();
+    void announcesAndCopiesEachValue();
     void showsValuesByKindOfNode();
-    void addsAChildOnce();
-    void knowsItsRow();
-    void findsRowsAfterTheListWasReplaced();
+    void listsChildrenOnceAndInOrder();
     void survivesDeadChildren();
     void takesListedChildrenElsewhereAlong();
-    void copiesValuesButNeitherChildrenNorJob();
     void comparesParentsOnly();
 };
 
-void CFirmwareUpdateEntityTest::startsUnselectedAndWaiting()
-{
-    const CFirmwareUpdateEntity entity;
-    QCOMPARE(entity.getEntityType(), EntityType::TransportLayer);
-    QCOMPARE(entity.getUpdateStatus(), Status::Waiting);
-    QCOMPARE(entity.getUpdateResult(), Result::Skipped);
-    QCOMPARE(static_cast<int>(entity.getUpdateDetails()), 3);
-    QVERIFY(entity.isEnabled());
-    QVERIFY(!entity.isSelected());
-    QCOMPARE(entity.getSelectedFirmware(), QString());
-    QVERIFY(!entity.getCameraInfo());
-    QVERIFY(!entity.getDeviceFirmwareUpdate());
-    QCOMPARE(entity.getChildCount(), 0);
-    QCOMPARE(entity.getRow(), 0);
-}
-
-void CFirmwareUpdateEntityTest::announcesEachChangeOnce_data()
+void CFirmwareUpdateEntityTest::announcesAndCopiesEachValue_data()
 {
     QTest::addColumn<QByteArray>("property");
     QTest::addColumn<QVariant>("value");
 
-    const auto camera = TestSupport::makeCamera({QStringLiteral("c")});
+    const auto camera = TestSupport::makeCamera({"c"});
     const Plugin::CameraPool::DeviceFirmwareUpdatePtr job(new TestSupport::CScriptedUpdate);
     const auto row = [](const char *property, const QVariant &value) {
         QTest::newRow(property) << QByteArray(property) << value;
     };
     row("entityType", QVariant::fromValue(EntityType::CameraDevice));
-    row("ptrTransportLayerInfo",
-        QVariant::fromValue(TestSupport::makeLayer(QStringLiteral("l"), {})));
+    row("ptrTransportLayerInfo", QVariant::fromValue(TestSupport::makeLayer("l", {})));
     row("ptrCameraInfo", QVariant::fromValue(camera));
     row("selected", true);
-    row("selectedFirmware", QStringLiteral("2.0"));
+    row("selectedFirmware", QString("2.0"));
     row("updateDetails", QVariant::fromValue(EFirmwareUpdateDirection::Downgrade));
     row("updateStatus", QVariant::fromValue(Status::Complete));
     row("updateResult", QVariant::fromValue(Result::Failed));
@@ -74,12 +52,13 @@ void CFirmwareUpdateEntityTest::announcesEachChangeOnce_data()
     row("children", QVariant::fromValue(QVector<EntityPtr>{EntityPtr()}));
 }
 
-void CFirmwareUpdateEntityTest::announcesEachChangeOnce()
+void CFirmwareUpdateEntityTest::announcesAndCopiesEachValue()
 {
     QFETCH(QByteArray, property);
     QFETCH(QVariant, value);
 
-    CFirmwareUpdateEntity entity;
+    CFirmwareUpdateEntity parent;
+    CFirmwareUpdateEntity entity(&parent);
     const QMetaObject *const metaObject = entity.metaObject();
     const QMetaProperty metaProperty
         = metaObject->property(metaObject->indexOfProperty(property.constData()));
@@ -95,95 +74,67 @@ void CFirmwareUpdateEntityTest::announcesEachChangeOnce()
 
     QVERIFY(metaProperty.write(&entity, value));
     QCOMPARE(spy.count(), 1);
-}
 
-void CFirmwareUpdateEntityTest::showsValuesByKindOfNode_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QVariant>("name");
-    QTest::addColumn<QVariant>("id");
-    QTest::addColumn<QVariant>("firmware");
-
-    QTest::newRow("transport layer") << 0 << QVariant(QStringLiteral("Layer layer1"))
-                                     << QVariant(QStringLiteral("layer1")) << QVariant();
-    QTest::newRow("model group") << 1 << QVariant(QStringLiteral("VX-1"))
-                                 << QVariant(QStringLiteral("c1")) << QVariant();
-    QTest::newRow("camera") << 2 << QVariant(QStringLiteral("Camera c1"))
-                            << QVariant(QStringLiteral("c1")) << QVariant(QStringLiteral("1.0.0"));
-    QTest::newRow("unknown kind") << 3 << QVariant() << QVariant() << QVariant();
+    // A copy has all values but children and job.
+    const CFirmwareUpdateEntity copy(entity);
+    const bool isCopied = property != "children" && property != "ptrDeviceFirmwareUpdate";
+    QCOMPARE(metaProperty.read(&copy) == value, isCopied);
+    QVERIFY(!copy.parent());
 }
 
 void CFirmwareUpdateEntityTest::showsValuesByKindOfNode()
 {
-    QFETCH(int, type);
-    QFETCH(QVariant, name);
-    QFETCH(QVariant, id);
-    QFETCH(QVariant, firmware);
-
-    CFirmwareUpdateEntity entity;
-    entity.setCameraInfo(TestSupport::makeCamera({QStringLiteral("c1")}));
-    entity.setTransportLayerInfo(TestSupport::makeLayer(QStringLiteral("layer1"), {}));
-    entity.setEntityType(static_cast<EntityType>(type));
-    entity.setSelected(true);
-    entity.setSelectedFirmware(QStringLiteral("2.0"));
-
-    QCOMPARE(entity.getData(0), name);
-    QCOMPARE(entity.getData(1), id);
-    QCOMPARE(entity.getData(2), QVariant(true));
-    QCOMPARE(entity.getData(3), firmware);
-    QCOMPARE(entity.getData(4), QVariant(QStringLiteral("2.0")));
-    QCOMPARE(entity.getData(5), QVariant(3));
-    QCOMPARE(entity.getData(6).userType(), qMetaTypeId<Status>());
-    QCOMPARE(entity.getData(6).toInt(), 0);
-    QCOMPARE(entity.getData(7).userType(), qMetaTypeId<Result>());
-    QCOMPARE(entity.getData(7).toInt(), 2);
-    QVERIFY(!entity.getData(-1).isValid());
-    QVERIFY(!entity.getData(8).isValid());
+    const auto show = [](int type) {
+        CFirmwareUpdateEntity entity;
+        entity.setCameraInfo(TestSupport::makeCamera({"c1"}));
+        entity.setTransportLayerInfo(TestSupport::makeLayer("layer1", {}));
+        entity.setEntityType(static_cast<EntityType>(type));
+        entity.setSelectedFirmware("2.0");
+        QVariantList data;
+        for (int column = -1; column < 9; ++column)
+            data.append(entity.getData(column));
+        return data;
+    };
+    const auto row = [](const QVariant &name, const QVariant &id, const QVariant &firmware) {
+        return QVariantList{{},
+                            name,
+                            id,
+                            false,
+                            firmware,
+                            "2.0",
+                            3,
+                            QVariant::fromValue(Status::Waiting),
+                            QVariant::fromValue(Result::Skipped),
+                            {}};
+    };
+    QCOMPARE(show(0), row("Layer layer1", "layer1", {}));
+    QCOMPARE(show(1), row("VX-1", "c1", {}));
+    QCOMPARE(show(2), row("Camera c1", "c1", "1.0.0"));
+    QCOMPARE(show(3), row({}, {}, {}));
 }
 
-void CFirmwareUpdateEntityTest::addsAChildOnce()
+void CFirmwareUpdateEntityTest::listsChildrenOnceAndInOrder()
 {
     CFirmwareUpdateEntity parent;
-    auto *const child = new CFirmwareUpdateEntity;
+    auto *const first = new CFirmwareUpdateEntity;
+    auto *const second = new CFirmwareUpdateEntity(EntityPtr(&parent));
     QSignalSpy spy(&parent, &CFirmwareUpdateEntity::childrenChanged);
-    parent.addChildEntity(child);
-    parent.addChildEntity(child);
-    QCOMPARE(parent.getChildCount(), 1);
-    QCOMPARE(child->parent(), &parent);
-    QCOMPARE(spy.count(), 0);
-    QCOMPARE(parent.getChildEntity(0).data(), child);
-    QVERIFY(!parent.getChildEntity(1));
-    QVERIFY(!parent.getChildEntity(-1));
-}
-
-void CFirmwareUpdateEntityTest::knowsItsRow()
-{
-    CFirmwareUpdateEntity parent;
-    auto *const first = new CFirmwareUpdateEntity;
-    auto *const second = new CFirmwareUpdateEntity;
-    auto *const unlisted = new CFirmwareUpdateEntity(EntityPtr(&parent));
     parent.addChildEntity(first);
+    QCOMPARE(second->getRow(), -1);
     parent.addChildEntity(second);
-    QCOMPARE(first->getRow(), 0);
+    parent.addChildEntity(first);
+    QCOMPARE(first->parent(), &parent);
+    QCOMPARE(parent.getChildren(), QVector<EntityPtr>({first, second}));
     QCOMPARE(second->getRow(), 1);
-    QCOMPARE(unlisted->getRow(), -1);
-}
-
-void CFirmwareUpdateEntityTest::findsRowsAfterTheListWasReplaced()
-{
-    CFirmwareUpdateEntity parent;
-    auto *const first = new CFirmwareUpdateEntity;
-    auto *const second = new CFirmwareUpdateEntity;
-    parent.addChildEntity(first);
-    parent.addChildEntity(second);
+    QVERIFY(!parent.getChildEntity(2));
+    QVERIFY(!parent.getChildEntity(-1));
+    QCOMPARE(spy.count(), 0);
 
     parent.setChildren({second, first, second});
     QCOMPARE(second->getRow(), 0);
     QCOMPARE(first->getRow(), 1);
-
     parent.setChildren({first});
     QCOMPARE(second->getRow(), -1);
-    QCOMPARE(second->parent(), &parent);
     parent.addChildEntity(second);
     QCOMPARE(second->getRow(), 1);
 }
@@ -219,50 +170,16 @@ void CFirmwareUpdateEntityTest::takesListedChildrenElsewhereAlong()
     QVERIFY(!moved);
 }
 
-void CFirmwareUpdateEntityTest::copiesValuesButNeitherChildrenNorJob()
-{
-    CFirmwareUpdateEntity parent;
-    CFirmwareUpdateEntity original(&parent);
-    original.setCameraInfo(TestSupport::makeCamera({QStringLiteral("c1")}));
-    original.setTransportLayerInfo(TestSupport::makeLayer(QStringLiteral("l"), {}));
-    original.setEntityType(EntityType::CameraDevice);
-    original.setSelected(true);
-    original.setSelectedFirmware(QStringLiteral("2.0"));
-    original.setUpdateDetails(EFirmwareUpdateDirection::Reinstall);
-    original.setUpdateStatus(Status::Updating);
-    original.setUpdateResult(Result::Failed);
-    original.setEnabled(false);
-    original.setDeviceFirmwareUpdate(
-        Plugin::CameraPool::DeviceFirmwareUpdatePtr(new TestSupport::CScriptedUpdate));
-    original.addChildEntity(new CFirmwareUpdateEntity);
-
-    const CFirmwareUpdateEntity copy(original);
-    QVERIFY(!copy.parent());
-    QCOMPARE(copy.getCameraInfo(), original.getCameraInfo());
-    QCOMPARE(copy.getTransportLayerInfo(), original.getTransportLayerInfo());
-    QCOMPARE(copy.getEntityType(), EntityType::CameraDevice);
-    QVERIFY(copy.isSelected());
-    QCOMPARE(copy.getSelectedFirmware(), QStringLiteral("2.0"));
-    QCOMPARE(copy.getUpdateDetails(), EFirmwareUpdateDirection::Reinstall);
-    QCOMPARE(copy.getUpdateStatus(), Status::Updating);
-    QCOMPARE(copy.getUpdateResult(), Result::Failed);
-    QVERIFY(!copy.isEnabled());
-    QCOMPARE(copy.getChildCount(), 0);
-    QVERIFY(!copy.getDeviceFirmwareUpdate());
-}
-
 void CFirmwareUpdateEntityTest::comparesParentsOnly()
 {
     CFirmwareUpdateEntity parent;
-    CFirmwareUpdateEntity other;
-    CFirmwareUpdateEntity first(&parent);
+    const CFirmwareUpdateEntity first(&parent);
     CFirmwareUpdateEntity second(&parent);
-    second.setSelectedFirmware(QStringLiteral("2.0"));
-    CFirmwareUpdateEntity stranger(&other);
+    second.setSelectedFirmware("2.0");
     QVERIFY(first == second);
     QVERIFY(first != second);
-    QVERIFY(!(first == stranger));
-    QVERIFY(!(first != stranger));
+    QVERIFY(!(first == parent));
+    QVERIFY(!(first != parent));
 }
 
 QTEST_GUILESS_MAIN(CFirmwareUpdateEntityTest)

@@ -1,34 +1,21 @@
-#include "model/firmwareupdatetreemodel.h"
-#include "support/fakeinfos.h"
+#include "support/updaterfixture.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QtTest>
 
-using Plugin::FirmwareUpdater::Internal::Entity::CFirmwareUpdateEntity;
-using Plugin::FirmwareUpdater::Internal::Model::CFirmwareUpdateTreeModel;
+using TestSupport::CUpdaterFixture;
 using TestSupport::makeLayer;
-using EntityType = CFirmwareUpdateEntity::EFirmwareUpdateEntityType;
+using Entity = CUpdaterFixture::Entity;
 
-namespace {
-
-CFirmwareUpdateEntity *makeCameraNode(const TestSupport::CCameraDescription &description)
-{
-    auto *const node = new CFirmwareUpdateEntity;
-    node->setEntityType(EntityType::CameraDevice);
-    node->setCameraInfo(TestSupport::makeCamera(description));
-    return node;
-}
-
-QStringList columnTexts(const QAbstractItemModel &model, const QModelIndex &parent, int column = 0)
+static QStringList columnTexts(const QAbstractItemModel &model, const QModelIndex &parent,
+                               int column = 0)
 {
     QStringList texts;
     for (int row = 0; row < model.rowCount(parent); ++row)
         texts.append(model.index(row, column, parent).data().toString());
     return texts;
 }
-
-} // namespace
 
 class CFirmwareUpdateTreeModelTest : public QObject
 {
@@ -38,39 +25,41 @@ private slots:
     void init();
     void namesItsSections();
     void buildsLayersGroupsAndCameras();
-    void leavesOutLayersWithoutCameras();
     void allowsEditingOfCheckBoxesOnly();
-    void findsCamerasById_data();
     void findsCamerasById();
     void findsCamerasWhoseNodesChanged();
     void takesOverAFlatList();
     void announcesRowsParentsFirst();
-    void writesEditableColumns_data();
     void writesEditableColumns();
     void isAProperItemModel();
 
 private:
-    const TestSupport::CCameraDescription m_a{QStringLiteral("a"), QStringLiteral("M")};
-    const TestSupport::CCameraDescription m_b{QStringLiteral("b"), QStringLiteral("M")};
-    const TestSupport::CCameraDescription m_c{QStringLiteral("c"), QStringLiteral("M")};
-    const TestSupport::CCameraDescription m_n{QStringLiteral("n"), QStringLiteral("N")};
-    std::unique_ptr<CFirmwareUpdateTreeModel> m_model;
+    /// The camera with the id @p id on the layer @p layer.
+    QModelIndex findCamera(const char *layer, const char *id) const
+    {
+        return m_model->getModelIndexForCameraId(layer, id, 0);
+    }
+
+    const TestSupport::CCameraDescription m_a{"a", "M"};
+    const TestSupport::CCameraDescription m_b{"b", "M"};
+    const TestSupport::CCameraDescription m_c{"c", "M"};
+    const TestSupport::CCameraDescription m_n{"n", "N"};
+    std::unique_ptr<CUpdaterFixture::Model> m_model;
 };
 
 void CFirmwareUpdateTreeModelTest::init()
 {
-    m_model = std::make_unique<CFirmwareUpdateTreeModel>(nullptr);
+    m_model = std::make_unique<CUpdaterFixture::Model>(nullptr);
 }
 
 void CFirmwareUpdateTreeModelTest::namesItsSections()
 {
-    const QStringList titles
-        = {"Cameras", "Id",      "SelectionStatus", "Current Firmware", "Firmware Selected",
-           "Details", "Details", "Details",         "Enabled"};
-    for (int section = 0; section < titles.size(); ++section)
-        QCOMPARE(m_model->headerData(section, Qt::Horizontal, Qt::DisplayRole), titles.at(section));
-    QVERIFY(!m_model->headerData(-1, Qt::Horizontal, Qt::DisplayRole).isValid());
-    QVERIFY(!m_model->headerData(9, Qt::Horizontal, Qt::DisplayRole).isValid());
+    QStringList titles;
+    for (int section = -1; section < 10; ++section)
+        titles.append(m_model->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString());
+    QCOMPARE(titles.join('|'),
+             "|Cameras|Id|SelectionStatus|Current Firmware|Firmware Selected|Details|Details|"
+             "Details|Enabled|");
     QVERIFY(!m_model->headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
     QVERIFY(!m_model->headerData(0, Qt::Horizontal, Qt::EditRole).isValid());
 }
@@ -78,34 +67,29 @@ void CFirmwareUpdateTreeModelTest::namesItsSections()
 void CFirmwareUpdateTreeModelTest::buildsLayersGroupsAndCameras()
 {
     QSignalSpy resetSpy(m_model.get(), &QAbstractItemModel::modelReset);
-    m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("l"), {m_a, m_n, m_b, m_c})});
+    m_model->setTransportLayerInfoVector(
+        {makeLayer("empty", {}), makeLayer("l", {m_a, m_n, m_b, m_c})});
     QCOMPARE(resetSpy.count(), 1);
+    QCOMPARE(columnTexts(*m_model, {}), QStringList({"Layer l"}));
 
     const QModelIndex layer = m_model->index(0, 0);
-    QCOMPARE(layer.data().toString(), QStringLiteral("Layer l"));
     QVERIFY(!layer.parent().isValid());
     QCOMPARE(columnTexts(*m_model, layer), QStringList({"M", "N"}));
 
     // The last found camera comes first and stands for the group.
     const QModelIndex group = m_model->index(0, 0, layer);
     QCOMPARE(columnTexts(*m_model, group, 1), QStringList({"c", "b", "a"}));
-    QCOMPARE(m_model->index(0, 1, layer).data().toString(), QStringLiteral("c"));
+    QCOMPARE(m_model->index(0, 1, layer).data().toString(), "c");
     QCOMPARE(m_model->index(2, 0, group).parent(), group);
     QCOMPARE(m_model->rowCount(m_model->index(0, 1, layer)), 0);
-}
 
-void CFirmwareUpdateTreeModelTest::leavesOutLayersWithoutCameras()
-{
-    m_model->setTransportLayerInfoVector(
-        {makeLayer(QStringLiteral("empty"), {}), makeLayer(QStringLiteral("l"), {m_a})});
-    QCOMPARE(columnTexts(*m_model, {}), QStringList({"Layer l"}));
-    m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("empty"), {})});
+    m_model->setTransportLayerInfoVector({makeLayer("empty", {})});
     QCOMPARE(m_model->rowCount(), 0);
 }
 
 void CFirmwareUpdateTreeModelTest::allowsEditingOfCheckBoxesOnly()
 {
-    m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("l"), {m_a})});
+    m_model->setTransportLayerInfoVector({makeLayer("l", {m_a})});
     const QModelIndex layer = m_model->index(0, 0);
     const QModelIndex group = m_model->index(0, 0, layer);
     const Qt::ItemFlags base = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
@@ -116,79 +100,53 @@ void CFirmwareUpdateTreeModelTest::allowsEditingOfCheckBoxesOnly()
     QCOMPARE(m_model->flags(m_model->index(0, 2, group)), base);
 }
 
-void CFirmwareUpdateTreeModelTest::findsCamerasById_data()
-{
-    QTest::addColumn<QString>("layerId");
-    QTest::addColumn<QString>("cameraId");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("layerRow");
-
-    QTest::newRow("on its layer") << "l1"
-                                  << "a" << 2 << 0;
-    QTest::newRow("same id on another layer") << "l2"
-                                              << "a" << 0 << 1;
-    QTest::newRow("on the wrong layer") << "l1"
-                                        << "b" << 0 << -1;
-    QTest::newRow("other letter case") << "l1"
-                                       << "A" << 0 << -1;
-    QTest::newRow("unknown id") << "l1"
-                                << "x" << 0 << -1;
-    QTest::newRow("negative column") << "l1"
-                                     << "a" << -1 << -1;
-    QTest::newRow("column too large") << "l1"
-                                      << "a" << 8 << -1;
-}
-
 void CFirmwareUpdateTreeModelTest::findsCamerasById()
 {
-    QFETCH(QString, layerId);
-    QFETCH(QString, cameraId);
-    QFETCH(int, column);
-    QFETCH(int, layerRow);
-
     m_model->setTransportLayerInfoVector(
-        {makeLayer(QStringLiteral("l1"), {m_a, m_n}), makeLayer(QStringLiteral("l2"), {m_a, m_b})});
-    const QModelIndex found = m_model->getModelIndexForCameraId(layerId, cameraId, column);
-    QCOMPARE(found.isValid(), layerRow >= 0);
-    if (layerRow >= 0) {
-        QCOMPARE(found.column(), column);
-        QCOMPARE(found.sibling(found.row(), 1).data().toString(), cameraId);
-        QCOMPARE(found.parent().parent().row(), layerRow);
-    }
+        {makeLayer("l1", {m_a, m_n}), makeLayer("l2", {m_a, m_b})});
+    const auto find = [this](const char *layerId, const char *cameraId, int column) {
+        const QModelIndex found = m_model->getModelIndexForCameraId(layerId, cameraId, column);
+        return QString("row %1, id %2, column %3")
+            .arg(found.parent().parent().row())
+            .arg(found.siblingAtColumn(1).data().toString())
+            .arg(found.column());
+    };
+    const QString nothing = "row -1, id , column -1";
+    QCOMPARE(find("l1", "a", 2), "row 0, id a, column 2");
+    QCOMPARE(find("l2", "a", 0), "row 1, id a, column 0");
+    QCOMPARE(find("l1", "b", 0), nothing);
+    QCOMPARE(find("l1", "A", 0), nothing);
+    QCOMPARE(find("l1", "a", -1), nothing);
+    QCOMPARE(find("l1", "a", 8), nothing);
 }
 
 void CFirmwareUpdateTreeModelTest::findsCamerasWhoseNodesChanged()
 {
-    m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("l"), {m_a, m_b})});
-    const QModelIndex index
-        = m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("a"), 0);
-    auto *const node = static_cast<CFirmwareUpdateEntity *>(index.internalPointer());
-    node->setCameraInfo(TestSupport::makeCamera({QStringLiteral("renamed")}));
-    QVERIFY(
-        !m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("a"), 0).isValid());
-    QCOMPARE(m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("renamed"), 0),
-             index);
+    m_model->setTransportLayerInfoVector({makeLayer("l", {m_a, m_b})});
+    const QModelIndex index = findCamera("l", "a");
+    static_cast<Entity *>(index.internalPointer())
+        ->setCameraInfo(TestSupport::makeCamera({"renamed"}));
+    QVERIFY(!findCamera("l", "a").isValid());
+    QCOMPARE(findCamera("l", "renamed"), index);
 
-    delete static_cast<CFirmwareUpdateEntity *>(
-        m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("b"), 0)
-            .internalPointer());
-    QVERIFY(
-        !m_model->getModelIndexForCameraId(QStringLiteral("l"), QStringLiteral("b"), 0).isValid());
+    delete static_cast<Entity *>(findCamera("l", "b").internalPointer());
+    QVERIFY(!findCamera("l", "b").isValid());
 }
 
 void CFirmwareUpdateTreeModelTest::takesOverAFlatList()
 {
-    const QPointer<CFirmwareUpdateEntity> ticked(makeCameraNode(m_b));
-    ticked->setSelected(true);
-    ticked->setUpdateResult(CFirmwareUpdateEntity::EFirmwareUpdateResult::Failed);
-    m_model->setCameraDeviceList({ticked, makeCameraNode(m_a)});
+    const QPointer<Entity> ticked(CUpdaterFixture::makeTickedCamera(m_b));
+    ticked->setUpdateResult(Entity::EFirmwareUpdateResult::Failed);
+    auto *const other = CUpdaterFixture::makeTickedCamera(m_a);
+    other->setSelected(false);
+    m_model->setCameraDeviceList({ticked, other});
 
     QCOMPARE(columnTexts(*m_model, {}, 1), QStringList({"b", "a"}));
     // There are no layers to look into.
     QCOMPARE(m_model->getModelIndexForCameraId("elsewhere", "a", 7), m_model->index(1, 7));
     QVERIFY(!m_model->data(m_model->index(1, 1), Qt::ToolTipRole).isValid());
     QCOMPARE(m_model->index(0, 7).data().toInt(), 1);
-    QCOMPARE(m_model->getSelectedCameraList(), QList<QPointer<CFirmwareUpdateEntity>>({ticked}));
+    QCOMPARE(m_model->getSelectedCameraList(), QList<QPointer<Entity>>({ticked}));
 
     m_model->setCameraDeviceList({});
     QVERIFY(!ticked);
@@ -198,8 +156,7 @@ void CFirmwareUpdateTreeModelTest::takesOverAFlatList()
 
 void CFirmwareUpdateTreeModelTest::announcesRowsParentsFirst()
 {
-    m_model->setTransportLayerInfoVector(
-        {makeLayer(QStringLiteral("l1"), {m_a, m_b}), makeLayer(QStringLiteral("l2"), {m_n})});
+    m_model->setTransportLayerInfoVector({makeLayer("l1", {m_a, m_b}), makeLayer("l2", {m_n})});
     QStringList announced;
     connect(m_model.get(), &QAbstractItemModel::dataChanged, this,
             [&announced](const QModelIndex &topLeft, const QModelIndex &bottomRight,
@@ -218,73 +175,49 @@ void CFirmwareUpdateTreeModelTest::announcesRowsParentsFirst()
     QCOMPARE(announced, QStringList({"Layer l2", "N", "Camera n"}));
 }
 
-void CFirmwareUpdateTreeModelTest::writesEditableColumns_data()
-{
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("accepted");
-
-    const int edit = Qt::EditRole;
-    QTest::newRow("tick in the name's column") << 0 << edit << QVariant(true) << true;
-    QTest::newRow("id") << 1 << edit << QVariant(QStringLiteral("x")) << false;
-    QTest::newRow("tick") << 2 << edit << QVariant(true) << true;
-    QTest::newRow("current firmware") << 3 << edit << QVariant(QStringLiteral("x")) << false;
-    QTest::newRow("selected firmware") << 4 << edit << QVariant(QStringLiteral("2")) << true;
-    QTest::newRow("details") << 5 << edit << QVariant(1) << false;
-    QTest::newRow("status") << 6 << edit << QVariant(2) << true;
-    QTest::newRow("result") << 7 << edit << QVariant(0) << true;
-    QTest::newRow("display role") << 0 << int(Qt::DisplayRole) << QVariant(true) << false;
-    QTest::newRow("check state role")
-        << 0 << int(Qt::CheckStateRole) << QVariant(Qt::Checked) << false;
-}
-
 void CFirmwareUpdateTreeModelTest::writesEditableColumns()
 {
-    QFETCH(int, column);
-    QFETCH(int, role);
-    QFETCH(QVariant, value);
-    QFETCH(bool, accepted);
-
-    m_model->setCameraDeviceList({makeCameraNode(m_a)});
-    const QModelIndex index = m_model->index(0, column);
-    const QVariant before = index.data();
+    m_model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera(m_a)});
     QSignalSpy spy(m_model.get(), &QAbstractItemModel::dataChanged);
-
-    QCOMPARE(m_model->setData(index, value, role), accepted);
-    QCOMPARE(spy.count(), accepted ? 1 : 0);
-    if (!accepted) {
-        QCOMPARE(index.data(), before);
-        QVERIFY(!m_model->hasSelectedCameras());
-        return;
-    }
-    QCOMPARE(spy.first().at(0).toModelIndex(), index);
-    QCOMPARE(spy.first().at(2).value<QVector<int>>(), QVector<int>({column}));
+    // Whether a value is taken, and what the cell shows then.
+    const auto write = [&](int column, const QVariant &value, int role = Qt::EditRole) {
+        spy.clear();
+        const QModelIndex index = m_model->index(0, column);
+        const bool isTaken = m_model->setData(index, value, role);
+        // An equal value is announced as well.
+        m_model->setData(index, value, role);
+        bool isTold = spy.count() == (isTaken ? 2 : 0);
+        for (const QVariantList &told : qAsConst(spy))
+            isTold &= told.at(0) == index && told.at(1) == index
+                && told.at(2).value<QVector<int>>() == QVector<int>{column};
+        return QString(isTold ? "" : "told wrongly ") + (isTaken ? "takes " : "keeps ")
+            + index.data().toString();
+    };
     // The name's column takes the tick but goes on showing the name.
-    const QModelIndex written = column == 0 ? index.sibling(0, 2) : index;
-    if (value.type() == QVariant::Int)
-        QCOMPARE(written.data().toInt(), value.toInt());
-    else
-        QCOMPARE(written.data().toString(), value.toString());
-
-    // An equal value is announced as well.
-    QVERIFY(m_model->setData(index, value, role));
-    QCOMPARE(spy.count(), 2);
-    QVERIFY(!m_model->setData({}, value, role));
+    QCOMPARE(write(0, false), "takes Camera a");
+    QCOMPARE(m_model->index(0, 2).data(), false);
+    QCOMPARE(write(1, "x"), "keeps a");
+    QCOMPARE(write(2, true), "takes true");
+    QCOMPARE(write(3, "x"), "keeps 1.0.0");
+    QCOMPARE(write(4, "2"), "takes 2");
+    QCOMPARE(write(5, 1), "keeps 3");
+    QCOMPARE(write(6, 2), "takes Complete");
+    QCOMPARE(write(7, 0), "takes OK");
+    QCOMPARE(write(2, false, Qt::DisplayRole), "keeps true");
+    QCOMPARE(write(0, Qt::Unchecked, Qt::CheckStateRole), "keeps Camera a");
+    QVERIFY(m_model->hasSelectedCameras());
+    QVERIFY(!m_model->setData({}, true, Qt::EditRole));
 }
 
 void CFirmwareUpdateTreeModelTest::isAProperItemModel()
 {
     const QAbstractItemModelTester tester(m_model.get(),
                                           QAbstractItemModelTester::FailureReportingMode::QtTest);
-    m_model->setTransportLayerInfoVector(
-        {makeLayer(QStringLiteral("l1"), {m_a, m_b}), makeLayer(QStringLiteral("l2"), {m_n})});
-    const QModelIndex camera
-        = m_model->getModelIndexForCameraId(QStringLiteral("l1"), QStringLiteral("a"), 0);
-    m_model->setData(camera, true, Qt::EditRole);
-    m_model->updateAllNodesBySelection(camera);
-    m_model->setTransportLayerInfoVector({makeLayer(QStringLiteral("l3"), {m_c})});
-    m_model->setCameraDeviceList({makeCameraNode(m_a), makeCameraNode(m_b)});
+    m_model->setTransportLayerInfoVector({makeLayer("l1", {m_a, m_b}), makeLayer("l2", {m_n})});
+    CUpdaterFixture::tick(*m_model, findCamera("l1", "a"));
+    m_model->setTransportLayerInfoVector({makeLayer("l3", {m_c})});
+    m_model->setCameraDeviceList(
+        {CUpdaterFixture::makeTickedCamera(m_a), CUpdaterFixture::makeTickedCamera(m_b)});
     m_model->setCameraDeviceList({});
 }
 

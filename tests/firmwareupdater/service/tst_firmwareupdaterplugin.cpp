@@ -1,12 +1,11 @@
 #include "appcore/icommand.h"
 #include "core/iplugin.h"
 #include "support/fakehost.h"
+#include "support/widgets.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QJsonArray>
 #include <QPluginLoader>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -28,12 +27,20 @@ private slots:
     void followsTheEnumeration();
     void followsTheSelection();
     void preselectsTheCameraRememberedFromTheSelector();
-    void loadsTheCatalogueOfTheLanguage_data();
     void loadsTheCatalogueOfTheLanguage();
     void runsWithoutTheHostsServices();
 
 private:
+    [[nodiscard]] QAction *getToolsEntry() const;
+    [[nodiscard]] QAction *getContextEntry() const;
     [[nodiscard]] QDialog *getVisibleDialog() const;
+    /// Whether the context menu has its entry once @p item is selected in the host's selector.
+    template <typename T>
+    [[nodiscard]] bool offers(const T &item) const
+    {
+        emit m_host->selector->selectionChanged(item);
+        return getContextEntry()->isVisible();
+    }
 
     QPluginLoader m_loader{QStringLiteral(PLUGIN_FILE)};
     std::unique_ptr<TestSupport::CFakeHost> m_host;
@@ -65,6 +72,16 @@ void CFirmwareUpdaterPluginTest::cleanup()
     m_host.reset();
 }
 
+QAction *CFirmwareUpdaterPluginTest::getToolsEntry() const
+{
+    return m_host->menus->getEntry("NuvexViewer.Menu.Tools").action;
+}
+
+QAction *CFirmwareUpdaterPluginTest::getContextEntry() const
+{
+    return m_host->menus->getEntry("NuvexViewer.CameraSelectorContextMenu").action;
+}
+
 QDialog *CFirmwareUpdaterPluginTest::getVisibleDialog() const
 {
     const auto dialogs = m_host->windows->getMainWindow()->findChildren<QDialog *>();
@@ -77,23 +94,17 @@ QDialog *CFirmwareUpdaterPluginTest::getVisibleDialog() const
 
 void CFirmwareUpdaterPluginTest::describesItself()
 {
-    const QJsonObject all = m_loader.metaData();
-    QCOMPARE(all.value("IID").toString(), QString(NUVEX_VIEWER_PLUGIN_IID));
-    QCOMPARE(all.value("className").toString(), "CFirmwareUpdaterPlugin");
-    const QJsonObject own = all.value("MetaData").toObject();
+    const QJsonObject own = m_loader.metaData().value("MetaData").toObject();
     QCOMPARE(own.value("Name").toString(), "FirmwareUpdater");
     QCOMPARE(own.value("Version").toString(), PLUGIN_VERSION);
     QCOMPARE(own.value("CompatVersion").toString(), PLUGIN_VERSION);
     QCOMPARE(own.value("Required").toBool(), true);
-    QStringList dependencies;
-    const QJsonArray wanted = own.value("Dependencies").toArray();
-    for (const QJsonValue &dependency : wanted) {
-        dependencies.append(dependency.toObject().value("Name").toString() + " "
-                            + dependency.toObject().value("Version").toString());
-    }
-    QCOMPARE(dependencies,
-             QStringList({"AppCore 1.2.0", "CameraSelector 6.2.0", "CameraPool 1.2.0",
-                          "NuvexViewer 6.2.0"}));
+    const auto dependency = [](const char *name, const char *version) {
+        return QJsonObject{{"Name", name}, {"Version", version}};
+    };
+    QCOMPARE(own.value("Dependencies").toArray(),
+             QJsonArray({dependency("AppCore", "1.2.0"), dependency("CameraSelector", "6.2.0"),
+                         dependency("CameraPool", "1.2.0"), dependency("NuvexViewer", "6.2.0")}));
 }
 
 void CFirmwareUpdaterPluginTest::publishesOneService()
@@ -109,66 +120,51 @@ void CFirmwareUpdaterPluginTest::publishesOneService()
 void CFirmwareUpdaterPluginTest::placesItsMenuEntries()
 {
     QVERIFY(m_plugin->postInitialize());
-    QCOMPARE(m_host->menus->entries.size(), 2);
-    const CMenuEntry tools = m_host->menus->getEntry("NuvexViewer.Menu.Tools");
-    QCOMPARE(tools.group, "NuvexViewer.Group.Tools.Tools");
-    QCOMPARE(tools.command, "FirmwareUpdater.Menu.Start");
-    QCOMPARE(tools.contexts, QStringList({"AppCore.Global.Context"}));
-    QCOMPARE(tools.action->text(), "Firmware Updater");
-    QVERIFY(!tools.action->icon().isNull());
-    QVERIFY(tools.action->isVisible());
-    QVERIFY(!tools.action->isEnabled());
-
-    const CMenuEntry context = m_host->menus->getEntry("NuvexViewer.CameraSelectorContextMenu");
-    QCOMPARE(context.group, "NuvexViewer.Group.CameraSelectorContextMenu.Misc");
-    QCOMPARE(context.command, "FirmwareUpdater.Context.Start");
-    QCOMPARE(context.contexts, QStringList({"AppCore.Global.Context"}));
-    QVERIFY(!context.action->isVisible());
+    QStringList entries;
+    for (const CMenuEntry &entry : qAsConst(m_host->menus->entries))
+        entries.append(entry.menu + ' ' + entry.group + ' ' + entry.command + ' '
+                       + entry.contexts.join(' '));
+    entries.sort();
+    QCOMPARE(entries,
+             QStringList({"NuvexViewer.CameraSelectorContextMenu "
+                          "NuvexViewer.Group.CameraSelectorContextMenu.Misc "
+                          "FirmwareUpdater.Context.Start AppCore.Global.Context",
+                          "NuvexViewer.Menu.Tools NuvexViewer.Group.Tools.Tools "
+                          "FirmwareUpdater.Menu.Start AppCore.Global.Context"}));
+    QCOMPARE(getToolsEntry()->text(), "Firmware Updater");
+    QVERIFY(!getToolsEntry()->icon().isNull());
+    QVERIFY(getToolsEntry()->isVisible());
+    QVERIFY(!getToolsEntry()->isEnabled());
+    QVERIFY(!getContextEntry()->isVisible());
 }
 
 void CFirmwareUpdaterPluginTest::followsTheEnumeration()
 {
     QVERIFY(m_plugin->postInitialize());
-    QAction *const tools = m_host->menus->getEntry("NuvexViewer.Menu.Tools").action;
-    QAction *const context
-        = m_host->menus->getEntry("NuvexViewer.CameraSelectorContextMenu").action;
-
+    // What the menus offer after @p layers have been found.
+    const auto announce = [this](const QVector<Plugin::CameraPool::TransportLayerInfoPtr> &layers) {
+        m_host->enumeration->announce(layers);
+        return QString(getToolsEntry()->isEnabled() ? "tools " : "")
+            + (getContextEntry()->isVisible() ? "context" : "");
+    };
     const auto layer = makeLayer("l", {{"a"}});
-    m_host->enumeration->announce({makeLayer("empty", {}), layer});
-    QVERIFY(tools->isEnabled());
-    QVERIFY(!context->isVisible());
-
-    emit m_host->selector->selectionChanged(layer->getCameraInfoList().first());
-    QVERIFY(context->isVisible());
-    m_host->enumeration->announce({makeLayer("empty", {})});
-    QVERIFY(!tools->isEnabled());
-    QVERIFY(!context->isVisible());
-
+    QCOMPARE(announce({makeLayer("empty", {}), layer}), "tools ");
+    QVERIFY(offers(layer->getCameraInfoList().first()));
+    QCOMPARE(announce({makeLayer("empty", {})}), "");
     // Cameras that come back do not bring the context entry back by themselves.
-    m_host->enumeration->announce({layer});
-    QVERIFY(tools->isEnabled());
-    QVERIFY(!context->isVisible());
+    QCOMPARE(announce({layer}), "tools ");
 }
 
 void CFirmwareUpdaterPluginTest::followsTheSelection()
 {
     QVERIFY(m_plugin->postInitialize());
-    QAction *const context
-        = m_host->menus->getEntry("NuvexViewer.CameraSelectorContextMenu").action;
-    emit m_host->selector->selectionChanged(TestSupport::makeCamera({"a"}));
-    QVERIFY(context->isVisible());
-
-    TestSupport::CCameraDescription locked{"b"};
-    locked.statusCode = -3;
-    emit m_host->selector->selectionChanged(TestSupport::makeCamera(locked));
-    QVERIFY(!context->isVisible());
-
-    emit m_host->selector->selectionChanged(TestSupport::makeCamera({"a"}));
-    emit m_host->selector->selectionChanged(makeLayer("l", {}));
-    QVERIFY(!context->isVisible());
-    emit m_host->selector->selectionChanged(TestSupport::makeCamera({"a"}));
-    emit m_host->selector->selectionChanged({});
-    QVERIFY(!context->isVisible());
+    const auto camera = TestSupport::makeCamera({"a"});
+    QVERIFY(offers(camera));
+    QVERIFY(!offers(TestSupport::makeCamera({"b", "VX-1", "layer1", "1.0.0", -3})));
+    QVERIFY(offers(camera));
+    QVERIFY(!offers(makeLayer("l", {})));
+    QVERIFY(offers(camera));
+    QVERIFY(!offers(Plugin::CameraPool::CameraInfoPtr()));
 }
 
 void CFirmwareUpdaterPluginTest::preselectsTheCameraRememberedFromTheSelector()
@@ -176,46 +172,34 @@ void CFirmwareUpdaterPluginTest::preselectsTheCameraRememberedFromTheSelector()
     QVERIFY(m_plugin->postInitialize());
     const auto layer = makeLayer("l", {{"a"}, {"b"}});
     m_host->enumeration->announce({layer});
-    emit m_host->selector->selectionChanged(layer->getCameraInfoList().first());
+    QVERIFY(offers(layer->getCameraInfoList().first()));
     // A selected layer does not make the camera forgotten.
-    emit m_host->selector->selectionChanged(layer);
+    QVERIFY(!offers(layer));
 
     QVERIFY(!getVisibleDialog());
-    m_host->menus->getEntry("NuvexViewer.Menu.Tools").action->trigger();
+    getToolsEntry()->trigger();
     QTRY_VERIFY(getVisibleDialog());
     QVERIFY(getVisibleDialog()->inherits(
         "Plugin::FirmwareUpdater::Internal::View::CCameraSelectionDialog"));
     // Next is available because the remembered camera is ticked.
-    bool nextEnabled = false;
-    const auto buttons = getVisibleDialog()->findChildren<QPushButton *>();
-    for (const QPushButton *const button : buttons)
-        nextEnabled |= button->text() == "Next" && button->isEnabled();
-    QVERIFY(nextEnabled);
+    QVERIFY(TestSupport::getButton(*getVisibleDialog(), "Next")->isEnabled());
 
     getVisibleDialog()->close();
     QTRY_VERIFY(!getVisibleDialog());
 }
 
-void CFirmwareUpdaterPluginTest::loadsTheCatalogueOfTheLanguage_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("en") << "en";
-    QTest::newRow("ko_KR") << "ko";
-    QTest::newRow("ja-JP") << "ja";
-    QTest::newRow("zh") << "zh";
-    QTest::newRow("fr") << "en";
-    QTest::newRow("") << "en";
-}
-
 void CFirmwareUpdaterPluginTest::loadsTheCatalogueOfTheLanguage()
 {
-    QFETCH(QString, folder);
-    m_plugin->setLanguage(QTest::currentDataTag());
-    // Each catalogue has its own folder on the support site.
-    QCOMPARE(QCoreApplication::translate(
-                 "Plugin::FirmwareUpdater::Internal::Service::CFirmwareUpdaterService",
-                 "https://support.korvane.example/en/"),
-             "https://support.korvane.example/" + folder + "/");
+    const QVector<std::pair<QString, QString>> folders{
+        {"en", "en"}, {"ko_KR", "ko"}, {"ja-JP", "ja"}, {"zh", "zh"}, {"fr", "en"}, {"", "en"}};
+    for (const auto &[language, folder] : folders) {
+        m_plugin->setLanguage(language);
+        // Each catalogue has its own folder on the support site.
+        QCOMPARE(QCoreApplication::translate(
+                     "Plugin::FirmwareUpdater::Internal::Service::CFirmwareUpdaterService",
+                     "https://support.korvane.example/en/"),
+                 "https://support.korvane.example/" + folder + "/");
+    }
 }
 
 void CFirmwareUpdaterPluginTest::runsWithoutTheHostsServices()

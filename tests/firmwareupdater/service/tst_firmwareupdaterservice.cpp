@@ -1,6 +1,5 @@
 #include "support/updaterfixture.h"
 #include "view/cameraselectiondialog.h"
-#include "view/firmwareupdatedialog.h"
 #include "view/resultsummarydialog.h"
 #include "view/updateselectiondialog.h"
 #include "view/updatesummarydialog.h"
@@ -8,18 +7,17 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTimer>
 #include <QtTest>
 
 #include <functional>
 
 using namespace Plugin::FirmwareUpdater::Internal;
-using TestSupport::CScriptedUpdate;
 using TestSupport::CUpdaterFixture;
+using TestSupport::getButton;
+using TestSupport::getText;
 
 class CFirmwareUpdaterServiceTest : public QObject
 {
@@ -37,7 +35,6 @@ private slots:
     void checksThePathAtEachEntry();
     void endsWithoutUpdatesWhenTheFileIsLost();
     void takesAFileFromTheFileDialog();
-    void walksThroughItsSteps();
     void rebuildsTheTreeOnlyWhileOpen();
     void asksTheHostToEnumerate();
 
@@ -55,37 +52,26 @@ private:
     }
 
     static void click(QDialog *dialog, const char *text);
-    static QPushButton *findButton(const QDialog *dialog, const char *text);
     void start();
     void tick(const QString &id);
     QString makeFile(const QString &name);
     void typePath(const QString &path);
+    void goToStepTwo();
     void goToStepThree();
-    void goToStepFour();
-    [[nodiscard]] QString updateText(const char *label) const;
-    [[nodiscard]] QString successText() const;
 
     /// Calls @p answer with the modal widget that the code under test is about to open.
     void whenModal(const std::function<void(QWidget *)> &answer);
 
     std::unique_ptr<CUpdaterFixture> m_fixture;
-    QHash<QString, CScriptedUpdate *> m_jobs;
 };
 
 void CFirmwareUpdaterServiceTest::init()
 {
-    m_jobs.clear();
     m_fixture = std::make_unique<CUpdaterFixture>();
     auto &host = m_fixture->host;
     host.enumeration->layers = {TestSupport::makeLayer("l", {{"a"}, {"b"}, {"n", "N"}})};
     host.updates->entries
         = {TestSupport::UpdateInfoPtr(new TestSupport::CFakeUpdateInfo("2.0.0", "Fixes"))};
-    host.updates->createJob = [this](const QString &id, const TestSupport::UpdateInfoPtr &) {
-        auto *const job = new CScriptedUpdate;
-        job->begin(10).hold().done();
-        m_jobs.insert(id, job);
-        return Plugin::CameraPool::DeviceFirmwareUpdatePtr(job);
-    };
     QVERIFY(m_fixture->service->postInitialize());
     host.windows->getMainWindow()->show();
 }
@@ -95,20 +81,10 @@ void CFirmwareUpdaterServiceTest::cleanup()
     m_fixture.reset();
 }
 
-QPushButton *CFirmwareUpdaterServiceTest::findButton(const QDialog *dialog, const char *text)
-{
-    const auto buttons = dialog->findChildren<QPushButton *>();
-    for (QPushButton *const button : buttons) {
-        if (button->text().remove('&') == text)
-            return button;
-    }
-    return nullptr;
-}
-
 void CFirmwareUpdaterServiceTest::click(QDialog *dialog, const char *text)
 {
     QVERIFY(dialog->isVisible());
-    QPushButton *const button = findButton(dialog, text);
+    QPushButton *const button = getButton(*dialog, text);
     QVERIFY2(button && button->isEnabled(), text);
     QTest::mouseClick(button, Qt::LeftButton);
 }
@@ -122,9 +98,7 @@ void CFirmwareUpdaterServiceTest::start()
 void CFirmwareUpdaterServiceTest::tick(const QString &id)
 {
     const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
-    const QModelIndex index = model->getModelIndexForCameraId("l", id, 0);
-    QVERIFY(model->setData(index, true, Qt::EditRole));
-    model->updateAllNodesBySelection(index);
+    CUpdaterFixture::tick(*model, model->getModelIndexForCameraId("l", id, 0));
 }
 
 QString CFirmwareUpdaterServiceTest::makeFile(const QString &name)
@@ -142,35 +116,18 @@ void CFirmwareUpdaterServiceTest::typePath(const QString &path)
     QCOMPARE(edit->text(), path);
 }
 
-void CFirmwareUpdaterServiceTest::goToStepThree()
+void CFirmwareUpdaterServiceTest::goToStepTwo()
 {
     start();
     tick("a");
-    tick("b");
     click(dialog<View::CCameraSelectionDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
-    typePath(makeFile("update.guf"));
+}
+
+void CFirmwareUpdaterServiceTest::goToStepThree()
+{
     click(dialog<View::CUpdateSelectionDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CUpdateSummaryDialog>());
-}
-
-void CFirmwareUpdaterServiceTest::goToStepFour()
-{
-    goToStepThree();
-    click(dialog<View::CUpdateSummaryDialog>(), "Next");
-    QTRY_VERIFY(isShown<View::CFirmwareUpdateDialog>());
-}
-
-QString CFirmwareUpdaterServiceTest::updateText(const char *label) const
-{
-    return dialog<View::CUpdateSelectionDialog>()->findChild<QLabel *>(label)->text();
-}
-
-QString CFirmwareUpdaterServiceTest::successText() const
-{
-    return dialog<View::CResultSummaryDialog>()
-        ->findChild<QLabel *>("successfulUpdatesLabel")
-        ->text();
 }
 
 void CFirmwareUpdaterServiceTest::whenModal(const std::function<void(QWidget *)> &answer)
@@ -188,17 +145,15 @@ void CFirmwareUpdaterServiceTest::whenModal(const std::function<void(QWidget *)>
 void CFirmwareUpdaterServiceTest::asksAboutBusyCameras_data()
 {
     QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("started");
-    QTest::newRow("yes") << int(QMessageBox::Yes) << true;
-    QTest::newRow("no") << int(QMessageBox::No) << false;
-    QTest::newRow("closed") << int(QMessageBox::NoButton) << false;
+    QTest::newRow("yes") << int(QMessageBox::Yes);
+    QTest::newRow("no") << int(QMessageBox::No);
+    QTest::newRow("closed") << int(QMessageBox::NoButton);
 }
 
 void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
 {
     QFETCH(int, answer);
-    QFETCH(bool, started);
-
+    const bool started = answer == QMessageBox::Yes;
     m_fixture->host.status->busyIds = {"b"};
     bool asked = false;
     whenModal([&asked, answer](QWidget *widget) {
@@ -232,16 +187,17 @@ void CFirmwareUpdaterServiceTest::checksTheTypedPath_data()
     QTest::addColumn<bool>("error");
     QTest::addColumn<QString>("description");
 
-    QTest::newRow("usable file") << "file" << true << true << true << false << "Fixes";
-    QTest::newRow("no entry fits")
-        << "file" << true << false << false << true << "No details available";
-    QTest::newRow("no camera ticked")
-        << "file" << false << true << false << true << "No details available";
-    QTest::newRow("unreadable") << "torn" << true << true << false << true
-                                << "No details available";
-    QTest::newRow("folder") << "folder" << true << true << false << false << "No file selected";
-    QTest::newRow("missing") << "missing" << true << true << false << false << "No file selected";
-    QTest::newRow("empty") << "" << true << true << false << false << "No file selected";
+    const auto row = [](const char *name, const char *path, bool ticked, bool fits, bool next,
+                        bool error, const char *description) {
+        QTest::newRow(name) << path << ticked << fits << next << error << description;
+    };
+    row("usable file", "update.guf", true, true, true, false, "Fixes");
+    row("no entry fits", "update.guf", true, false, false, true, "No details available");
+    row("no camera ticked", "update.guf", false, true, false, true, "No details available");
+    row("unreadable", "torn.guf", true, true, false, true, "No details available");
+    row("folder", ".", true, true, false, false, "No file selected");
+    row("missing", "gone.guf", true, true, false, false, "No file selected");
+    row("empty", "", true, true, false, false, "No file selected");
 }
 
 void CFirmwareUpdaterServiceTest::checksTheTypedPath()
@@ -258,20 +214,19 @@ void CFirmwareUpdaterServiceTest::checksTheTypedPath()
         tick("a");
     if (!fits)
         m_fixture->host.updates->incompatibleIds = {"a"};
-    if (path == "torn")
+    if (path == "torn.guf")
         m_fixture->host.updates->readError = "The file is torn";
-    const QString file = makeFile("update.guf");
+    (void)makeFile("update.guf");
+    (void)makeFile("torn.guf");
     auto *const step2 = dialog<View::CUpdateSelectionDialog>();
-    emit step2->pathChanged(path == "file" || path == "torn" ? file
-                                : path == "folder"           ? m_fixture->temporaryFolder.path()
-                                : path == "missing"          ? file + ".gone"
-                                                             : QString());
-    QCOMPARE(findButton(step2, "Next")->isEnabled(), next);
-    QCOMPARE(!step2->findChild<QLabel *>("errorTextLabel")->isHidden(), error);
-    QCOMPARE(updateText("updateDescriptionTextLabel"), description);
+    emit step2->pathChanged(path.isEmpty() ? path : m_fixture->temporaryFolder.filePath(path));
+    QCOMPARE(getButton(*step2, "Next")->isEnabled(), next);
+    for (const char *const label : {"errorTextLabel", "errorIconLabel"})
+        QCOMPARE(!TestSupport::find(*step2, label)->isHidden(), error);
+    QCOMPARE(getText(*step2, "updateDescriptionTextLabel"), description);
     QCOMPARE(m_fixture->getLog().contains(
                  "CRITICAL Failed to check for compatible update: The file is torn"),
-             path == "torn");
+             path == "torn.guf");
 }
 
 void CFirmwareUpdaterServiceTest::keepsTheTypedFormButStoresTheAbsolutePath()
@@ -297,32 +252,30 @@ void CFirmwareUpdaterServiceTest::checksTheFirstTickedCameraOnly()
     m_fixture->host.updates->incompatibleIds = {"a"};
     emit dialog<View::CUpdateSelectionDialog>()->pathChanged(makeFile("update.guf"));
     QCOMPARE(m_fixture->host.updates->checkedIds, QStringList({"a"}));
-    QVERIFY(!findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
+    QVERIFY(!getButton(*dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
 }
 
 void CFirmwareUpdaterServiceTest::checksThePathAtEachEntry()
 {
+    goToStepTwo();
+    typePath(makeFile("update.guf"));
     goToStepThree();
     // The file turns bad while the user looks at the summary.
     m_fixture->host.updates->readError = "The file is torn";
     click(dialog<View::CUpdateSummaryDialog>(), "Back");
     QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
-    QVERIFY(!findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
+    QVERIFY(!getButton(*dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
     // An entry empties the list of an earlier pass.
     QCOMPARE(dialog<View::CUpdateSummaryDialog>()->getModel()->rowCount(), 0);
 }
 
 void CFirmwareUpdaterServiceTest::endsWithoutUpdatesWhenTheFileIsLost()
 {
-    start();
-    tick("a");
-    click(dialog<View::CCameraSelectionDialog>(), "Next");
-    QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
+    goToStepTwo();
     typePath(makeFile("update.guf"));
     // The file turns bad behind the last check: the summary stays empty.
     m_fixture->host.updates->readError = "The file is torn";
-    click(dialog<View::CUpdateSelectionDialog>(), "Next");
-    QTRY_VERIFY(isShown<View::CUpdateSummaryDialog>());
+    goToStepThree();
     QCOMPARE(m_fixture->getLog().last(),
              "CRITICAL Failed to open firmware update file: The file is torn");
     QCOMPARE(dialog<View::CUpdateSummaryDialog>()->getModel()->rowCount(), 0);
@@ -330,16 +283,19 @@ void CFirmwareUpdaterServiceTest::endsWithoutUpdatesWhenTheFileIsLost()
     // Step 4 has nothing to do and ends while it is being entered.
     click(dialog<View::CUpdateSummaryDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
-    QCOMPARE(successText(), "Successful updates: 0");
-    QVERIFY(m_jobs.isEmpty());
+    QCOMPARE(getText(*dialog<View::CResultSummaryDialog>(), "successfulUpdatesLabel"),
+             "Successful updates: 0");
+
+    click(dialog<View::CResultSummaryDialog>(), "Close");
+    QTRY_VERIFY(!isShown<View::CResultSummaryDialog>());
+    QTRY_COMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), "");
+    // The machine can be started again.
+    start();
 }
 
 void CFirmwareUpdaterServiceTest::takesAFileFromTheFileDialog()
 {
-    start();
-    tick("a");
-    click(dialog<View::CCameraSelectionDialog>(), "Next");
-    QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
+    goToStepTwo();
     const QString path = makeFile("update.guf");
     // The platform's own dialog cannot be driven by a test.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -357,32 +313,11 @@ void CFirmwareUpdaterServiceTest::takesAFileFromTheFileDialog()
     QVERIFY(asked);
     QCOMPARE(dialog<View::CUpdateSelectionDialog>()->findChild<QLineEdit *>()->text(), path);
     QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
-    QVERIFY(findButton(dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
+    QVERIFY(getButton(*dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
 
     whenModal([](QWidget *widget) { widget->close(); });
     click(dialog<View::CUpdateSelectionDialog>(), "Browse");
     QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
-}
-
-void CFirmwareUpdaterServiceTest::walksThroughItsSteps()
-{
-    goToStepFour();
-    QTRY_VERIFY(m_jobs.value("a")->isHeld());
-    m_jobs.value("a")->release();
-    m_jobs.value("b")->release();
-    QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
-    QVERIFY(!isShown<View::CFirmwareUpdateDialog>());
-    QCOMPARE(successText(), "Successful updates: 2");
-    const QString log = m_fixture->service->getCurrentTemporaryLogFilePath();
-    QVERIFY(QFile::exists(log));
-
-    click(dialog<View::CResultSummaryDialog>(), "Close");
-    QTRY_VERIFY(!isShown<View::CResultSummaryDialog>());
-    QTRY_COMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), "");
-    QCOMPARE(dialog<View::CResultSummaryDialog>()->getModel()->rowCount(), 0);
-
-    // The machine can be started again.
-    start();
 }
 
 void CFirmwareUpdaterServiceTest::rebuildsTheTreeOnlyWhileOpen()
@@ -408,8 +343,8 @@ void CFirmwareUpdaterServiceTest::rebuildsTheTreeOnlyWhileOpen()
 void CFirmwareUpdaterServiceTest::asksTheHostToEnumerate()
 {
     start();
-    auto *const refresh
-        = dialog<View::CCameraSelectionDialog>()->findChild<QPushButton *>("refreshButton");
+    const auto *const page = dialog<View::CCameraSelectionDialog>();
+    auto *const refresh = TestSupport::find<QPushButton>(*page, "refreshButton");
     QTest::mouseClick(refresh, Qt::LeftButton);
     QCOMPARE(m_fixture->host.enumeration->refreshCount, 1);
     m_fixture->host.initializer.removeService(m_fixture->host.enumeration);

@@ -11,7 +11,6 @@ class CFirmwareUpdateStepBaseTest : public QObject
 
 private slots:
     void handsPlaceAndSizeToTheNextPage();
-    void comesBackMaximized_data();
     void comesBackMaximized();
     void staysSilentWithoutDialog();
 };
@@ -39,27 +38,20 @@ void CFirmwareUpdateStepBaseTest::handsPlaceAndSizeToTheNextPage()
     QCOMPARE(second.windowState(), Qt::WindowStates(Qt::WindowNoState));
 }
 
-void CFirmwareUpdateStepBaseTest::comesBackMaximized_data()
-{
-    QTest::addColumn<Qt::WindowStates>("state");
-    QTest::newRow("maximized") << Qt::WindowStates(Qt::WindowMaximized);
-    QTest::newRow("full screen") << Qt::WindowStates(Qt::WindowFullScreen);
-}
-
 void CFirmwareUpdateStepBaseTest::comesBackMaximized()
 {
-    QFETCH(Qt::WindowStates, state);
+    for (const Qt::WindowState state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+        TestSupport::CUpdaterFixture fixture;
+        fixture.service->setDialogSize(QSize(400, 300));
+        fixture.service->setDialogWindowState(state);
+        QDialog dialog;
+        CFirmwareUpdateStepBase step(&fixture.host.initializer, &dialog, nullptr);
 
-    TestSupport::CUpdaterFixture fixture;
-    fixture.service->setDialogSize(QSize(400, 300));
-    fixture.service->setDialogWindowState(state);
-    QDialog dialog;
-    CFirmwareUpdateStepBase step(&fixture.host.initializer, &dialog, nullptr);
-
-    step.onEntry(nullptr);
-    QCOMPARE(dialog.windowState(), Qt::WindowStates(Qt::WindowMaximized));
-    step.onExit(nullptr);
-    QCOMPARE(fixture.service->getDialogWindowState(), Qt::WindowStates(Qt::WindowMaximized));
+        step.onEntry(nullptr);
+        QCOMPARE(dialog.windowState(), Qt::WindowStates(Qt::WindowMaximized));
+        step.onExit(nullptr);
+        QCOMPARE(fixture.service->getDialogWindowState(), Qt::WindowStates(Qt::WindowMaximized));
+    }
 }
 
 void CFirmwareUpdateStepBaseTest::staysSilentWithoutDialog()
@@ -67,8 +59,6 @@ void CFirmwareUpdateStepBaseTest::staysSilentWithoutDialog()
     TestSupport::CUpdaterFixture fixture;
     auto dialog = std::make_unique<QDialog>();
     CFirmwareUpdateStepBase step(&fixture.host.initializer, dialog.get(), nullptr);
-    QCOMPARE(step.getDialog().data(), dialog.get());
-
     step.onEntry(nullptr);
     dialog.reset();
     QVERIFY(!step.getDialog());

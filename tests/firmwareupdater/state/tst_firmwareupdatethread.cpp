@@ -1,11 +1,9 @@
 #include "state/firmwareupdatethread.h"
 #include "support/scriptedupdate.h"
 
-#include <QSignalSpy>
 #include <QtTest>
 
-using Plugin::CameraPool::EFirmwareUpdateStep;
-using Plugin::CameraPool::IDeviceFirmwareUpdate;
+using Plugin::CameraPool::DeviceFirmwareUpdatePtr;
 using Plugin::FirmwareUpdater::Internal::State::CFirmwareUpdateThread;
 using TestSupport::CScriptedUpdate;
 
@@ -14,86 +12,79 @@ class CFirmwareUpdateThreadTest : public QObject
     Q_OBJECT
 
 private slots:
+    void init();
     void runsTheJobOnItsOwnThread();
     void turnsAnExceptionIntoAnError();
     void refusesAnotherJobWhileRunning();
     void finishesWithoutAJob();
+
+private:
+    std::unique_ptr<CFirmwareUpdateThread> m_thread;
+    CScriptedUpdate *m_job = nullptr;
+    DeviceFirmwareUpdatePtr m_sharedJob;
+    QStringList m_events; ///< what the thread has said, in order
 };
+
+void CFirmwareUpdateThreadTest::init()
+{
+    m_job = new CScriptedUpdate;
+    m_sharedJob.reset(m_job);
+    m_events.clear();
+    m_thread = std::make_unique<CFirmwareUpdateThread>(nullptr);
+    connect(m_thread.get(), &CFirmwareUpdateThread::firmwareUpdateDone, this,
+            [this] { m_events.append("done"); });
+    connect(m_thread.get(), &CFirmwareUpdateThread::firmwareUpdateError, this,
+            [this](const QString &message) { m_events.append(message); });
+    connect(m_thread.get(), &QThread::finished, this, [this] { m_events.append("finished"); });
+}
 
 void CFirmwareUpdateThreadTest::runsTheJobOnItsOwnThread()
 {
-    CFirmwareUpdateThread thread(nullptr);
-    auto *const job = new CScriptedUpdate;
-    const QSharedPointer<IDeviceFirmwareUpdate> shared(job);
-    job->hold().done();
-    QSignalSpy doneSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateDone);
-    int finished = 0;
-    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
+    m_job->hold().done();
+    m_thread->setFirmwareUpdate(m_sharedJob);
+    QCOMPARE(m_job->thread(), m_thread.get());
+    m_thread->start(QThread::InheritPriority);
+    QTRY_VERIFY(m_job->isHeld());
+    QCOMPARE(m_events, QStringList());
+    m_job->release();
+    QTRY_COMPARE(m_events, QStringList({"done", "finished"}));
 
-    thread.setFirmwareUpdate(shared);
-    QCOMPARE(job->thread(), &thread);
-    thread.start(QThread::InheritPriority);
-    QTRY_VERIFY(job->isHeld());
-    QCOMPARE(doneSpy.count(), 0);
-    job->release();
-    QTRY_COMPARE(finished, 1);
-    QCOMPARE(doneSpy.count(), 1);
-
-    QCOMPARE(job->thread(), QCoreApplication::instance()->thread());
+    QCOMPARE(m_job->thread(), QCoreApplication::instance()->thread());
     // No connection is left behind.
-    emit job->firmwareUpdateDone();
-    QCOMPARE(doneSpy.count(), 1);
+    emit m_job->firmwareUpdateDone();
+    QCOMPARE(m_events.count("done"), 1);
 }
 
 void CFirmwareUpdateThreadTest::turnsAnExceptionIntoAnError()
 {
-    CFirmwareUpdateThread thread(nullptr);
-    auto *const job = new CScriptedUpdate;
-    const QSharedPointer<IDeviceFirmwareUpdate> shared(job);
-    job->begin(1).throwException("The host gave up");
-    QSignalSpy errorSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateError);
-    int finished = 0;
-    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
-
-    thread.setFirmwareUpdate(shared);
-    thread.start();
-    QTRY_COMPARE(finished, 1);
-    QCOMPARE(errorSpy.count(), 1);
-    QCOMPARE(errorSpy.first().first().toString(), "The host gave up");
-    QCOMPARE(job->thread(), QCoreApplication::instance()->thread());
+    m_job->begin(1).throwException("The host gave up");
+    m_thread->setFirmwareUpdate(m_sharedJob);
+    m_thread->start();
+    QTRY_COMPARE(m_events, QStringList({"The host gave up", "finished"}));
+    QCOMPARE(m_job->thread(), QCoreApplication::instance()->thread());
 }
 
 void CFirmwareUpdateThreadTest::refusesAnotherJobWhileRunning()
 {
-    CFirmwareUpdateThread thread(nullptr);
-    auto *const running = new CScriptedUpdate;
-    const QSharedPointer<IDeviceFirmwareUpdate> sharedRunning(running);
-    running->hold().done();
-    const QSharedPointer<IDeviceFirmwareUpdate> refused(new CScriptedUpdate);
-    int finished = 0;
-    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
+    m_job->hold().done();
+    auto *const refused = new CScriptedUpdate;
+    const DeviceFirmwareUpdatePtr sharedRefused(refused);
 
-    thread.setFirmwareUpdate(sharedRunning);
-    thread.start();
-    QTRY_VERIFY(running->isHeld());
-    thread.setFirmwareUpdate(refused);
+    m_thread->setFirmwareUpdate(m_sharedJob);
+    m_thread->start();
+    QTRY_VERIFY(m_job->isHeld());
+    m_thread->setFirmwareUpdate(sharedRefused);
     QCOMPARE(refused->thread(), QThread::currentThread());
-    running->release();
-    QTRY_COMPARE(finished, 1);
-    QCOMPARE(running->getExecutionCount(), 1);
-    QCOMPARE(static_cast<CScriptedUpdate *>(refused.data())->getExecutionCount(), 0);
+    m_job->release();
+    QTRY_COMPARE(m_events, QStringList({"done", "finished"}));
+    QCOMPARE(m_job->getExecutionCount(), 1);
+    QCOMPARE(refused->getExecutionCount(), 0);
 }
 
 void CFirmwareUpdateThreadTest::finishesWithoutAJob()
 {
-    CFirmwareUpdateThread thread(nullptr);
-    int finished = 0;
-    connect(&thread, &QThread::finished, this, [&finished] { ++finished; });
-    QSignalSpy doneSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateDone);
-    QSignalSpy errorSpy(&thread, &CFirmwareUpdateThread::firmwareUpdateError);
-    thread.start();
-    QTRY_COMPARE(finished, 1);
-    QCOMPARE(doneSpy.count() + errorSpy.count(), 0);
+    m_thread->start();
+    QTRY_COMPARE(m_events, QStringList({"finished"}));
 }
 
 QTEST_GUILESS_MAIN(CFirmwareUpdateThreadTest)

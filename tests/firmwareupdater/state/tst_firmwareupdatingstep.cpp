@@ -2,15 +2,13 @@
 #include "support/updaterfixture.h"
 #include "view/firmwareupdatedialog.h"
 
-#include <QLabel>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QtTest>
 
 using namespace Plugin::FirmwareUpdater::Internal;
-using Plugin::CameraPool::EFirmwareUpdateStep;
+using EStep = Plugin::CameraPool::EFirmwareUpdateStep;
 using TestSupport::CScriptedUpdate;
 using TestSupport::CUpdaterFixture;
 
@@ -18,10 +16,13 @@ namespace {
 
 const QString refusal = "The series of updates was stopped before this camera";
 
-/// What a job with one step writes into the log.
-QStringList jobLines()
+/// What the log says about camera @p number of @p count, whose job has one step and succeeds.
+QStringList getLines(int number, int count)
 {
-    return {"INFO Update infos:",
+    const QString place = QString("(%1/%2)").arg(number).arg(count);
+    return {"INFO Starting firmware update " + place + " for camera Camera "
+                + QChar('a' + number - 1),
+            "INFO Update infos:",
             "INFO Filename: update.guf",
             "INFO Version: 2.0.0",
             "INFO Description: Fixes",
@@ -32,20 +33,8 @@ QStringList jobLines()
             "INFO Update step will take approximately 80 msec",
             "INFO FileUpload progress: 50%",
             "INFO Finished update step: FileUpload",
-            "INFO Update remaining time approximately 80 msec"};
-}
-
-QString startingLine(int number, int count, char id)
-{
-    return QString("INFO Starting firmware update (%1/%2) for camera Camera %3")
-        .arg(number)
-        .arg(count)
-        .arg(QLatin1Char(id));
-}
-
-QString finishedLine(int number, int count)
-{
-    return QString("INFO Finished firmware update (%1/%2)").arg(number).arg(count);
+            "INFO Update remaining time approximately 80 msec",
+            "INFO Finished firmware update " + place};
 }
 
 } // namespace
@@ -61,7 +50,6 @@ private slots:
     void stopsAtTheFirstFailure_data();
     void stopsAtTheFirstFailure();
     void stopsAtAMissingJob();
-    void endsAtOnceWithoutCameras();
     void stopsAfterTheCurrentCameraOnCancel();
     void succeedsWhenCanceledDuringTheLastCamera();
     void drivesTheProgressBarByEstimates();
@@ -75,15 +63,29 @@ private slots:
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    enum class EOutcome { Success, Failure, Hold };
+    enum class EOutcome { Success, Failure, Hold, Missing };
 
-    /// Fills the model with cameras 'a', 'b', ... whose jobs end as given.
-    void makeCameras(const QVector<EOutcome> &outcomes);
-    void enter();
-    void waitForEnd();
+    /// Fills the model with cameras 'a', 'b', ... that have @p jobs, and enters the step.
+    void enter(const QVector<CScriptedUpdate *> &jobs);
+    /// The same with jobs that end as given.
+    void enter(const QVector<EOutcome> &outcomes);
+    void waitForHold(int job);
+    /// Lets job number @p held go on, and waits for the end of the series.
+    void finish(int held = 0);
+    /// The last lines of the log.
+    [[nodiscard]] QStringList getLogEnd(int count) const
+    {
+        return m_fixture->getLog().mid(m_fixture->getLog().size() - count);
+    }
     [[nodiscard]] QVector<int> column(int column) const;
-    [[nodiscard]] int barValue() const;
-    [[nodiscard]] QString counter() const;
+    [[nodiscard]] QProgressBar *getBar() const
+    {
+        return TestSupport::find<QProgressBar>(*m_dialog, "progressBar");
+    }
+    [[nodiscard]] QString getCounter() const
+    {
+        return TestSupport::getText(*m_dialog, "progressIndicatorLabel");
+    }
 
     std::unique_ptr<CUpdaterFixture> m_fixture;
     std::unique_ptr<View::CFirmwareUpdateDialog> m_dialog;
@@ -108,43 +110,51 @@ void CFirmwareUpdatingStepTest::init()
 void CFirmwareUpdatingStepTest::cleanup()
 {
     m_endSpy.reset();
-    if (m_step)
-        m_step->onExit(nullptr);
+    m_step->onExit(nullptr);
     m_step.reset();
     m_dialog.reset();
-    m_jobs.clear();
     m_fixture.reset();
 }
 
-void CFirmwareUpdatingStepTest::makeCameras(const QVector<EOutcome> &outcomes)
+void CFirmwareUpdatingStepTest::enter(const QVector<CScriptedUpdate *> &jobs)
 {
-    m_jobs.clear();
+    m_jobs = jobs;
     QList<CUpdaterFixture::Entity *> cameras;
-    for (int i = 0; i < outcomes.size(); ++i) {
-        auto *const job = new CScriptedUpdate;
-        job->begin(80)
-            .beginStep(EFirmwareUpdateStep::FileUpload, 80, "the image")
-            .progress(EFirmwareUpdateStep::FileUpload, 50);
-        if (outcomes.at(i) == EOutcome::Hold)
-            job->hold();
-        if (outcomes.at(i) == EOutcome::Failure)
-            job->error("Camera is on fire");
-        else
-            job->endStep(EFirmwareUpdateStep::FileUpload, 80).done();
-        m_jobs.append(job);
-        cameras.append(
-            CUpdaterFixture::makeTickedCamera({QString(QLatin1Char(char('a' + i)))}, job));
-    }
+    for (int i = 0; i < jobs.size(); ++i)
+        cameras.append(CUpdaterFixture::makeTickedCamera({QChar('a' + i)}, jobs.at(i)));
     m_fixture->model->setCameraDeviceList(cameras);
-}
-
-void CFirmwareUpdatingStepTest::enter()
-{
     m_step->onEntry(nullptr);
 }
 
-void CFirmwareUpdatingStepTest::waitForEnd()
+void CFirmwareUpdatingStepTest::enter(const QVector<EOutcome> &outcomes)
 {
+    QVector<CScriptedUpdate *> jobs;
+    for (const EOutcome outcome : outcomes) {
+        auto *const job = outcome == EOutcome::Missing ? nullptr : new CScriptedUpdate;
+        jobs.append(job);
+        if (!job)
+            continue;
+        job->begin(80)
+            .beginStep(EStep::FileUpload, 80, "the image")
+            .progress(EStep::FileUpload, 50);
+        if (outcome == EOutcome::Hold)
+            job->hold();
+        if (outcome == EOutcome::Failure)
+            job->error("Camera is on fire");
+        else
+            job->endStep(EStep::FileUpload, 80).done();
+    }
+    enter(jobs);
+}
+
+void CFirmwareUpdatingStepTest::waitForHold(int job)
+{
+    QTRY_VERIFY(m_jobs.at(job)->isHeld());
+}
+
+void CFirmwareUpdatingStepTest::finish(int held)
+{
+    m_jobs.at(held)->release();
     QTRY_COMPARE(m_endSpy->count(), 1);
 }
 
@@ -156,38 +166,24 @@ QVector<int> CFirmwareUpdatingStepTest::column(int column) const
     return values;
 }
 
-int CFirmwareUpdatingStepTest::barValue() const
-{
-    return m_dialog->findChild<QProgressBar *>("progressBar")->value();
-}
-
-QString CFirmwareUpdatingStepTest::counter() const
-{
-    return m_dialog->findChild<QLabel *>("progressIndicatorLabel")->text();
-}
-
 void CFirmwareUpdatingStepTest::updatesOneCameraAfterAnother()
 {
-    makeCameras({EOutcome::Success, EOutcome::Hold, EOutcome::Success});
-    enter();
+    enter({EOutcome::Success, EOutcome::Hold, EOutcome::Success});
     QVERIFY(m_dialog->isVisible());
-    QTRY_VERIFY(m_jobs.at(1)->isHeld());
+    waitForHold(1);
     QTRY_VERIFY(m_fixture->getLog().last().contains("progress"));
-    QCOMPARE(counter(), "2/3");
+    QCOMPARE(getCounter(), "2/3");
     QCOMPARE(column(6), QVector<int>({2, 1, 0}));
     QCOMPARE(column(7), QVector<int>({0, 2, 2}));
     QCOMPARE(m_jobs.at(2)->getExecutionCount(), 0);
-    m_jobs.at(1)->release();
-    waitForEnd();
+    finish(1);
 
-    const QStringList expected = QStringList{startingLine(1, 3, 'a')} + jobLines()
-        + QStringList{finishedLine(1, 3), startingLine(2, 3, 'b')} + jobLines()
-        + QStringList{finishedLine(2, 3), startingLine(3, 3, 'c')} + jobLines()
-        + QStringList{finishedLine(3, 3), "INFO Finished all firmware updates"};
-    QCOMPARE(m_fixture->getLog(), expected);
+    QCOMPARE(m_fixture->getLog(),
+             getLines(1, 3) + getLines(2, 3) + getLines(3, 3)
+                 + QStringList{"INFO Finished all firmware updates"});
     QCOMPARE(column(6), QVector<int>({2, 2, 2}));
     QCOMPARE(column(7), QVector<int>({0, 0, 0}));
-    QCOMPARE(counter(), "3/3");
+    QCOMPARE(getCounter(), "3/3");
     QCOMPARE(m_fixture->service->getUpdateFailureMessage(), "");
 }
 
@@ -196,12 +192,14 @@ void CFirmwareUpdatingStepTest::stopsAtTheFirstFailure_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<int>("failing"); // number of the failing camera, from 1
     QTest::addColumn<bool>("warned");
-    QTest::newRow("first of three") << 3 << 1 << true;
+    const auto row = [](const char *name, int count, int failing, bool warned) {
+        QTest::newRow(name) << count << failing << warned;
+    };
+    row("first of three", 3, 1, true);
     // An odd rule of old: nothing is said when exactly one camera is left out.
-    QTest::newRow("middle of three") << 3 << 2 << false;
-    QTest::newRow("last of three") << 3 << 3 << true;
-    QTest::newRow("first of two") << 2 << 1 << false;
-    QTest::newRow("the only one") << 1 << 1 << true;
+    row("middle of three", 3, 2, false);
+    row("last of three", 3, 3, true);
+    row("the only one", 1, 1, true);
 }
 
 void CFirmwareUpdatingStepTest::stopsAtTheFirstFailure()
@@ -212,19 +210,17 @@ void CFirmwareUpdatingStepTest::stopsAtTheFirstFailure()
 
     QVector<EOutcome> outcomes(count, EOutcome::Success);
     outcomes[failing - 1] = EOutcome::Failure;
-    makeCameras(outcomes);
-    enter();
-    waitForEnd();
+    enter(outcomes);
+    QTRY_COMPARE(m_endSpy->count(), 1);
 
-    const QStringList log = m_fixture->getLog();
     QStringList expectedEnd
         = {"INFO FileUpload progress: 50%", "CRITICAL Camera is on fire",
            QString("CRITICAL Firmware update (%1/%2) failed.").arg(failing).arg(count)};
     if (warned)
         expectedEnd.append("WARNING Further firmware updates will be skipped");
     expectedEnd.append("INFO Finished all firmware updates");
-    QCOMPARE(log.mid(log.size() - expectedEnd.size()), expectedEnd);
-    QCOMPARE(log.filter("Starting firmware update").size(), failing);
+    QCOMPARE(getLogEnd(expectedEnd.size()), expectedEnd);
+    QCOMPARE(m_fixture->getLog().filter("Starting firmware update").size(), failing);
 
     for (int i = 0; i < count; ++i) {
         const bool ran = i < failing;
@@ -237,38 +233,23 @@ void CFirmwareUpdatingStepTest::stopsAtTheFirstFailure()
 
 void CFirmwareUpdatingStepTest::stopsAtAMissingJob()
 {
-    constexpr int missing = 1;
-    makeCameras({EOutcome::Success, EOutcome::Success, EOutcome::Success});
-    const QModelIndex index = m_fixture->model->index(missing, 0);
-    static_cast<CUpdaterFixture::Entity *>(index.internalPointer())->setDeviceFirmwareUpdate({});
-    enter();
-    waitForEnd();
+    enter({EOutcome::Success, EOutcome::Missing, EOutcome::Success});
+    QTRY_COMPARE(m_endSpy->count(), 1);
 
     const QString message = "Internal error: Firmware update is missing and could not be applied.";
     const QStringList log = m_fixture->getLog();
     QVERIFY(log.contains("CRITICAL " + message));
-    QVERIFY(log.contains(QString("CRITICAL Firmware update (%1/3) failed.").arg(missing + 1)));
+    QVERIFY(log.contains("CRITICAL Firmware update (2/3) failed."));
     QVERIFY(!log.contains("INFO Finished all firmware updates"));
-    QCOMPARE(column(7).at(missing), 1);
-    QCOMPARE(column(7).at(2), 2);
+    QCOMPARE(column(7), QVector<int>({0, 1, 2}));
     QCOMPARE(m_fixture->service->getUpdateFailureMessage(), message);
-}
-
-void CFirmwareUpdatingStepTest::endsAtOnceWithoutCameras()
-{
-    enter();
-    QCOMPARE(m_endSpy->count(), 1);
-    QCOMPARE(m_fixture->getLog(), QStringList({"INFO Finished all firmware updates"}));
-    QCOMPARE(counter(), "1/0");
 }
 
 void CFirmwareUpdatingStepTest::stopsAfterTheCurrentCameraOnCancel()
 {
-    makeCameras({EOutcome::Hold, EOutcome::Success, EOutcome::Success});
-    enter();
-    QTRY_VERIFY(m_jobs.at(0)->isHeld());
-    auto *const cancel = m_dialog->findChild<QPushButton *>();
-    QVERIFY(cancel);
+    enter({EOutcome::Hold, EOutcome::Success, EOutcome::Success});
+    waitForHold(0);
+    QPushButton *const cancel = TestSupport::getButton(*m_dialog, "Cancel");
     connect(m_dialog.get(), &View::CFirmwareUpdateDialog::closeClicked, m_step.get(),
             &State::CFirmwareUpdatingStep::onUpdatesCanceled);
     QTest::mouseClick(cancel, Qt::LeftButton);
@@ -276,32 +257,28 @@ void CFirmwareUpdatingStepTest::stopsAfterTheCurrentCameraOnCancel()
     QVERIFY(m_dialog->isVisible());
     m_step->onUpdatesCanceled();
     QCOMPARE(m_endSpy->count(), 0);
-    m_jobs.at(0)->release();
-    waitForEnd();
+    finish();
 
     // The finished job is handed to the thread once more; its refusal ends the series.
     QCOMPARE(m_jobs.at(0)->getExecutionCount(), 2);
     QCOMPARE(m_jobs.at(1)->getExecutionCount(), 0);
     QCOMPARE(column(7), QVector<int>({0, 1, 2}));
-    const QStringList log = m_fixture->getLog();
-    QCOMPARE(log.filter("User canceled firmware update"),
+    QCOMPARE(m_fixture->getLog().filter("User canceled firmware update"),
              QStringList({"WARNING User canceled firmware update"}));
     const QStringList expectedEnd
-        = {finishedLine(1, 3), "INFO Firmware updates have been canceled by the user",
-           "CRITICAL " + refusal, "CRITICAL Firmware update (2/3) failed.",
-           "INFO Finished all firmware updates"};
-    QCOMPARE(log.mid(log.size() - expectedEnd.size()), expectedEnd);
+        = {"INFO Finished firmware update (1/3)",
+           "INFO Firmware updates have been canceled by the user", "CRITICAL " + refusal,
+           "CRITICAL Firmware update (2/3) failed.", "INFO Finished all firmware updates"};
+    QCOMPARE(getLogEnd(expectedEnd.size()), expectedEnd);
     QCOMPARE(m_fixture->service->getUpdateFailureMessage(), refusal);
 }
 
 void CFirmwareUpdatingStepTest::succeedsWhenCanceledDuringTheLastCamera()
 {
-    makeCameras({EOutcome::Hold});
-    enter();
-    QTRY_VERIFY(m_jobs.at(0)->isHeld());
+    enter({EOutcome::Hold});
+    waitForHold(0);
     m_step->onUpdatesCanceled();
-    m_jobs.at(0)->release();
-    waitForEnd();
+    finish();
     QCOMPARE(column(7), QVector<int>({0}));
     QCOMPARE(m_jobs.at(0)->getExecutionCount(), 1);
     QCOMPARE(m_fixture->service->getUpdateFailureMessage(), "");
@@ -312,83 +289,72 @@ void CFirmwareUpdatingStepTest::drivesTheProgressBarByEstimates()
     auto *const job = new CScriptedUpdate;
     job->hold()
         .begin(1000)
-        .beginStep(EFirmwareUpdateStep::AcquireUpdateData, 400)
-        .endStep(EFirmwareUpdateStep::AcquireUpdateData, 400)
-        .beginStep(EFirmwareUpdateStep::FileUpload, 600)
-        .progress(EFirmwareUpdateStep::FileUpload, 25)
+        .beginStep(EStep::AcquireUpdateData, 400)
+        .endStep(EStep::AcquireUpdateData, 400)
+        .beginStep(EStep::FileUpload, 600)
+        .progress(EStep::FileUpload, 25)
         .hold()
         .done();
-    m_fixture->model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"}, job)});
-    enter();
-    const auto *const bar = m_dialog->findChild<QProgressBar *>("progressBar");
+    enter(QVector<CScriptedUpdate *>{job});
     // Busy while the first camera prepares.
-    QTRY_VERIFY(job->isHeld());
-    QCOMPARE(bar->maximum(), 0);
-    QCOMPARE(bar->minimum(), 0);
+    waitForHold(0);
+    QCOMPARE(getBar()->maximum(), 0);
+    QCOMPARE(getBar()->minimum(), 0);
 
     job->release();
-    QTRY_COMPARE(bar->value(), 550);
-    QCOMPARE(bar->maximum(), 1000);
+    QTRY_COMPARE(getBar()->value(), 550);
+    QCOMPARE(getBar()->maximum(), 1000);
 
-    job->release();
-    waitForEnd();
+    finish();
     // Between cameras the bar shows cameras.
-    QCOMPARE(bar->maximum(), 1);
-    QCOMPARE(bar->value(), 1);
+    QCOMPARE(getBar()->maximum(), 1);
+    QCOMPARE(getBar()->value(), 1);
 }
 
 void CFirmwareUpdatingStepTest::animatesTheReset()
 {
     auto *const job = new CScriptedUpdate;
     job->begin(4000)
-        .beginStep(EFirmwareUpdateStep::FileUpload, 1000)
-        .endStep(EFirmwareUpdateStep::FileUpload, 1000)
-        .beginStep(EFirmwareUpdateStep::DeviceReset, 3000)
+        .beginStep(EStep::FileUpload, 1000)
+        .endStep(EStep::FileUpload, 1000)
+        .beginStep(EStep::DeviceReset, 3000)
         .hold()
-        .endStep(EFirmwareUpdateStep::DeviceReset, 3000)
+        .endStep(EStep::DeviceReset, 3000)
         .done();
-    m_fixture->model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"}, job)});
-    enter();
+    enter(QVector<CScriptedUpdate *>{job});
 
     const QRegularExpression format("^INFO DeviceReset progress: (\\d+)%$");
-    QTRY_VERIFY(!m_fixture->getLog().filter(format).isEmpty());
-    const int percent = format.match(m_fixture->getLog().filter(format).last()).captured(1).toInt();
+    const auto getTicks = [&] { return m_fixture->getLog().filter(format); };
+    QTRY_VERIFY(!getTicks().isEmpty());
+    const int percent = format.match(getTicks().last()).captured(1).toInt();
     QVERIFY(percent >= 8);
-    QCOMPARE(barValue(), 1000 + percent * 30);
+    QCOMPARE(getBar()->value(), 1000 + percent * 30);
 
-    job->release();
-    waitForEnd();
-    const int ticks = m_fixture->getLog().filter(format).size();
+    finish();
+    const int count = getTicks().size();
     // The timer stands still after the reset: whatever it had posted has been delivered.
     QCoreApplication::processEvents();
-    QCOMPARE(m_fixture->getLog().filter(format).size(), ticks);
+    QCOMPARE(getTicks().size(), count);
 }
 
 void CFirmwareUpdatingStepTest::tellsEachTickOncePerReset()
 {
-    QVector<CScriptedUpdate *> jobs;
-    QList<CUpdaterFixture::Entity *> cameras;
-    for (const char *const id : {"a", "b"}) {
-        auto *const job = new CScriptedUpdate;
+    const QVector<CScriptedUpdate *> jobs{new CScriptedUpdate, new CScriptedUpdate};
+    for (CScriptedUpdate *const job : jobs)
         job->begin(1000)
-            .beginStep(EFirmwareUpdateStep::DeviceReset, 1000)
+            .beginStep(EStep::DeviceReset, 1000)
             .hold()
-            .endStep(EFirmwareUpdateStep::DeviceReset, 1000)
+            .endStep(EStep::DeviceReset, 1000)
             .done();
-        jobs.append(job);
-        cameras.append(CUpdaterFixture::makeTickedCamera({id}, job));
-    }
-    m_fixture->model->setCameraDeviceList(cameras);
-    enter();
+    enter(jobs);
 
     const auto ticks = [this] { return m_fixture->getLog().filter("DeviceReset progress"); };
     QTRY_COMPARE(ticks().size(), 1);
     jobs.at(0)->release();
-    QTRY_VERIFY(jobs.at(1)->isHeld());
+    waitForHold(1);
     const int first = ticks().size();
     QTRY_VERIFY(ticks().size() > first);
-    jobs.at(1)->release();
-    waitForEnd();
+    finish(1);
 
     const QStringList second = ticks().mid(first);
     QCOMPARE(second.size() % 2, 0);
@@ -398,9 +364,8 @@ void CFirmwareUpdatingStepTest::tellsEachTickOncePerReset()
 
 void CFirmwareUpdatingStepTest::waitsForTheCameraOnExit()
 {
-    makeCameras({EOutcome::Hold});
-    enter();
-    QTRY_VERIFY(m_jobs.at(0)->isHeld());
+    enter({EOutcome::Hold});
+    waitForHold(0);
     // Events are processed while the exit waits, this one among them.
     QMetaObject::invokeMethod(
         m_step.get(), [this] { m_jobs.at(0)->release(); }, Qt::QueuedConnection);
@@ -411,26 +376,22 @@ void CFirmwareUpdatingStepTest::waitsForTheCameraOnExit()
 
 void CFirmwareUpdatingStepTest::survivesALostDialog()
 {
-    makeCameras({EOutcome::Hold, EOutcome::Success});
-    enter();
-    QTRY_VERIFY(m_jobs.at(0)->isHeld());
+    enter({EOutcome::Hold, EOutcome::Success});
+    waitForHold(0);
     m_dialog.reset();
-    m_jobs.at(0)->release();
-    waitForEnd();
+    finish();
+    QCOMPARE(m_jobs.at(1)->getExecutionCount(), 0);
     const QStringList log = m_fixture->getLog();
     QVERIFY(log.contains("CRITICAL Internal error. Stopping firmware update of cameras"));
-    QCOMPARE(m_jobs.at(1)->getExecutionCount(), 0);
     QCOMPARE(log.last(), "INFO Finished all firmware updates");
 }
 
 void CFirmwareUpdatingStepTest::survivesAnEmptiedList()
 {
-    makeCameras({EOutcome::Hold, EOutcome::Success});
-    enter();
-    QTRY_VERIFY(m_jobs.at(0)->isHeld());
+    enter({EOutcome::Hold, EOutcome::Success});
+    waitForHold(0);
     m_fixture->model->setCameraDeviceList({});
-    m_jobs.at(0)->release();
-    waitForEnd();
+    finish();
     QVERIFY(m_fixture->getLog().contains(
         "CRITICAL Internal error: Firmware update is missing and could not be applied."));
 }
@@ -447,7 +408,7 @@ void CFirmwareUpdatingStepTest::isFirstSeenWhereTheWizardWas()
     m_fixture->service->setDialogPos(QPoint(30, 20));
     m_fixture->service->setDialogSize(QSize(600, 560));
     m_dialog->installEventFilter(this);
-    enter();
+    m_step->onEntry(nullptr);
     QCOMPARE(m_shownAt, {QRect(30, 20, 600, 560)});
 }
 

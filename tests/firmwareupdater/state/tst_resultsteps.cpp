@@ -1,96 +1,87 @@
-#include "state/firmwareupdatedonestep.h"
 #include "state/resultsummarystep.h"
 #include "support/updaterfixture.h"
 #include "view/resultsummarydialog.h"
 
-#include <QFile>
-#include <QLabel>
-#include <QStateMachine>
 #include <QtTest>
 
 using namespace Plugin::FirmwareUpdater::Internal;
 using TestSupport::CUpdaterFixture;
-using Result = CUpdaterFixture::Entity::EFirmwareUpdateResult;
 
 class CResultStepsTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void showsHowItEnded_data();
+    void init();
+    void cleanup();
     void showsHowItEnded();
     void emptiesTheListOnExit();
+
+private:
+    std::unique_ptr<CUpdaterFixture> m_fixture;
+    std::unique_ptr<View::CResultSummaryDialog> m_dialog;
+    std::unique_ptr<State::CResultSummaryStep> m_step;
 };
 
-void CResultStepsTest::showsHowItEnded_data()
+void CResultStepsTest::init()
 {
-    QTest::addColumn<QVector<int>>("results");
-    QTest::addColumn<QString>("errorText"); // empty: hidden
+    m_fixture = std::make_unique<CUpdaterFixture>();
+    m_dialog = std::make_unique<View::CResultSummaryDialog>(nullptr);
+    m_dialog->setModel(m_fixture->model);
+    m_step = std::make_unique<State::CResultSummaryStep>(&m_fixture->host.initializer,
+                                                         m_dialog.get(), nullptr);
+    m_step->setCameraUpdateModel(m_fixture->model);
+}
 
-    QTest::newRow("all succeeded") << QVector<int>{0, 0} << "";
-    QTest::newRow("one skipped, none failed") << QVector<int>{0, 2} << "";
-    QTest::newRow("the last one failed")
-        << QVector<int>{0, 1}
-        << "An error has occurred during the update.<br>Error message: Camera is on fire.";
-    QTest::newRow("one failed, others skipped")
-        << QVector<int>{0, 1, 2}
-        << "An error has occurred during the update. The subsequent updates have been "
-           "skipped.<br>Error message: Camera is on fire.";
+void CResultStepsTest::cleanup()
+{
+    m_step.reset();
+    m_dialog.reset();
+    m_fixture.reset();
 }
 
 void CResultStepsTest::showsHowItEnded()
 {
-    QFETCH(QVector<int>, results);
-    QFETCH(QString, errorText);
-
-    CUpdaterFixture fixture;
-    fixture.service->openTemporaryLogFile();
-    fixture.service->setUpdateFailureMessage("Camera is on fire");
-    QList<CUpdaterFixture::Entity *> cameras;
-    for (int i = 0; i < results.size(); ++i) {
-        cameras.append(CUpdaterFixture::makeTickedCamera({QString::number(i)}));
-        cameras.last()->setUpdateResult(static_cast<Result>(results.at(i)));
-    }
-    fixture.model->setCameraDeviceList(cameras);
-    View::CResultSummaryDialog dialog(nullptr);
-    dialog.setModel(fixture.model);
-    State::CResultSummaryStep step(&fixture.host.initializer, &dialog, nullptr);
-    step.setCameraUpdateModel(fixture.model);
-
-    step.onEntry(nullptr);
-    const auto *const error = dialog.findChild<QLabel *>("errorTextLabel");
-    QCOMPARE(error->isVisible(), !errorText.isEmpty());
-    if (!errorText.isEmpty())
-        QCOMPARE(error->text(), errorText);
+    m_fixture->service->openTemporaryLogFile();
+    m_fixture->service->setUpdateFailureMessage("Camera is on fire");
+    const auto show = [this](const QVector<int> &results) {
+        QList<CUpdaterFixture::Entity *> cameras;
+        for (const int result : results) {
+            cameras.append(CUpdaterFixture::makeTickedCamera({QString::number(cameras.size())}));
+            cameras.last()->setUpdateResult(CUpdaterFixture::Entity::EFirmwareUpdateResult(result));
+        }
+        m_fixture->model->setCameraDeviceList(cameras);
+        m_step->onEntry(nullptr);
+        const auto *const error = TestSupport::find<QLabel>(*m_dialog, "errorTextLabel");
+        return error->isVisible() ? error->text() : "";
+    };
+    QCOMPARE(show({0, 0}), "");
+    QCOMPARE(show({0, 2}), "");
+    QCOMPARE(show({0, 1}),
+             "An error has occurred during the update.<br>Error message: Camera is on fire.");
+    QCOMPARE(show({0, 1, 2}),
+             "An error has occurred during the update. The subsequent updates have been "
+             "skipped.<br>Error message: Camera is on fire.");
 
     const QString logLink
-        = "<a href=\"" + fixture.service->getCurrentTemporaryLogFilePath() + "\">log file</a>";
-    QVERIFY(dialog.findChild<QLabel *>("infoTextLabel_2")->text().contains(logLink));
-    const QString support = dialog.findChild<QLabel *>("infoTextLabel_3")->text();
+        = "<a href=\"" + m_fixture->service->getCurrentTemporaryLogFilePath() + "\">log file</a>";
+    QVERIFY(TestSupport::getText(*m_dialog, "infoTextLabel_2").contains(logLink));
+    const QString support = TestSupport::getText(*m_dialog, "infoTextLabel_3");
     QVERIFY(support.contains(logLink));
-    QVERIFY(
-        support.contains("<a href=\"https://support.korvane.example/en/\">Korvane Support</a>"));
+    QVERIFY(support.contains("\"https://support.korvane.example/en/\">Korvane Support</a>"));
 }
 
 void CResultStepsTest::emptiesTheListOnExit()
 {
-    CUpdaterFixture fixture;
-    auto dialog = std::make_unique<View::CResultSummaryDialog>(nullptr);
-    dialog->setModel(fixture.model);
-    State::CResultSummaryStep step(&fixture.host.initializer, dialog.get(), nullptr);
-    step.setCameraUpdateModel(fixture.model);
-    fixture.model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"})});
-    step.onEntry(nullptr);
-    step.onExit(nullptr);
-    QCOMPARE(fixture.model->rowCount(), 0);
-    QVERIFY(!dialog->isVisible());
-
-    dialog.reset();
-    fixture.model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"})});
-    step.onEntry(nullptr);
-    QCOMPARE(fixture.model->rowCount(), 1);
-    step.onExit(nullptr);
-    QCOMPARE(fixture.model->rowCount(), 0);
+    for (const bool hasDialog : {true, false}) {
+        m_fixture->model->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"a"})});
+        m_step->onEntry(nullptr);
+        QCOMPARE(m_fixture->model->rowCount(), 1);
+        m_step->onExit(nullptr);
+        QCOMPARE(m_fixture->model->rowCount(), 0);
+        QVERIFY(!hasDialog || !m_dialog->isVisible());
+        m_dialog.reset();
+    }
 }
 
 QTEST_MAIN(CResultStepsTest)

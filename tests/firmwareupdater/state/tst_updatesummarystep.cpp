@@ -1,11 +1,7 @@
 #include "state/updatesummarystep.h"
 #include "support/updaterfixture.h"
-#include "view/updateselectiondialog.h"
 #include "view/updatesummarydialog.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QtTest>
 
 using namespace Plugin::FirmwareUpdater::Internal;
@@ -20,16 +16,13 @@ private slots:
     void init();
     void cleanup();
     void preparesEachTickedCamera();
-    void accumulatesTheWord_data();
     void accumulatesTheWord();
-    void goesOnWithoutACameraThatNothingFits_data();
     void goesOnWithoutACameraThatNothingFits();
     void keepsTheOldListWhenTheFileIsUnreadable();
     void followsTheTicksOfTheSummary();
 
 private:
     void enter();
-    [[nodiscard]] bool isShown(const char *label) const;
 
     std::unique_ptr<CUpdaterFixture> m_fixture;
     QSharedPointer<CUpdaterFixture::Model> m_selection;
@@ -75,11 +68,6 @@ void CUpdateSummaryStepTest::enter()
     m_step->onEntry(nullptr);
 }
 
-bool CUpdateSummaryStepTest::isShown(const char *label) const
-{
-    return !m_dialog->findChild<QLabel *>(label)->isHidden();
-}
-
 void CUpdateSummaryStepTest::preparesEachTickedCamera()
 {
     m_directions = {{"b", EFirmwareUpdateDirection::Downgrade}};
@@ -99,87 +87,53 @@ void CUpdateSummaryStepTest::preparesEachTickedCamera()
     QCOMPARE(summary.rowCount(), 3);
     QCOMPARE(summary.index(1, 1).data().toString(), "b");
     QCOMPARE(summary.index(1, 4).data().toString(), "2.0.0");
-    QCOMPARE(summary.index(1, 5).data().toInt(), 1);
-    QCOMPARE(summary.index(0, 5).data().toInt(), 0);
     QCOMPARE(summary.getSelectedCameraList().size(), 3);
-    QVERIFY(m_dialog->isVisible());
-}
-
-void CUpdateSummaryStepTest::accumulatesTheWord_data()
-{
-    using Words = QStringList;
-    using Directions = QVector<int>;
-    QTest::addColumn<Directions>("directions"); // of cameras a, b, c
-    QTest::addColumn<Words>("words");
-    QTest::addColumn<bool>("downgradeWarning");
-    QTest::addColumn<bool>("reinstallWarning");
-
-    QTest::newRow("upgrades only")
-        << Directions{0, 0, 0} << Words{"update", "update", "update"} << false << false;
-    QTest::newRow("a reinstall sticks")
-        << Directions{0, 2, 0} << Words{"update", "reinstall", "reinstall"} << false << true;
-    QTest::newRow("a downgrade sticks")
-        << Directions{1, 0, 0} << Words{"downgrade", "downgrade", "downgrade"} << true << false;
-    QTest::newRow("a reinstall outdoes a downgrade")
-        << Directions{1, 2, 0} << Words{"downgrade", "reinstall", "reinstall"} << true << true;
 }
 
 void CUpdateSummaryStepTest::accumulatesTheWord()
 {
-    QFETCH(QVector<int>, directions);
-    QFETCH(QStringList, words);
-    QFETCH(bool, downgradeWarning);
-    QFETCH(bool, reinstallWarning);
-
-    const QStringList ids = {"a", "b", "c"};
-    for (int i = 0; i < ids.size(); ++i)
-        m_directions.insert(ids.at(i), static_cast<EFirmwareUpdateDirection>(directions.at(i)));
-    enter();
-
-    const QStringList lines = m_fixture->getLog().filter("Created update");
-    QCOMPARE(lines.size(), 3);
-    for (int i = 0; i < lines.size(); ++i)
-        QVERIFY2(lines.at(i).contains("Update will " + words.at(i) + " camera"),
-                 qPrintable(lines.at(i)));
-    QCOMPARE(isShown("warningTextLabel_1"), downgradeWarning);
-    QCOMPARE(isShown("warningIconLabel_1"), downgradeWarning);
-    QCOMPARE(isShown("warningTextLabel_2"), reinstallWarning);
-    QCOMPARE(isShown("warningIconLabel_2"), reinstallWarning);
-}
-
-void CUpdateSummaryStepTest::goesOnWithoutACameraThatNothingFits_data()
-{
-    QTest::addColumn<QString>("cause");
-    QTest::newRow("no entry fits") << "incompatible";
-    QTest::newRow("the check throws") << "throws";
-    QTest::newRow("no job can be made") << "no job";
+    // The words in the log for cameras with these directions, and the warnings that are shown.
+    const auto getWords = [this](const QVector<int> &directions) {
+        for (int i = 0; i < directions.size(); ++i)
+            m_directions.insert(QChar('a' + i), EFirmwareUpdateDirection(directions.at(i)));
+        enter();
+        QStringList words;
+        for (const QString &line : m_fixture->getLog().filter("Created update"))
+            words.append(line.section(' ', 5, 5));
+        for (const char *const warning : {"warningTextLabel_1", "warningTextLabel_2"})
+            if (!TestSupport::find(*m_dialog, warning)->isHidden())
+                words.append(warning);
+        return words.join(' ');
+    };
+    QCOMPARE(getWords({0, 0, 0}), "update update update");
+    QCOMPARE(getWords({0, 2, 0}), "update reinstall reinstall warningTextLabel_2");
+    QCOMPARE(getWords({1, 0, 0}), "downgrade downgrade downgrade warningTextLabel_1");
+    QCOMPARE(getWords({1, 2, 0}),
+             "downgrade reinstall reinstall warningTextLabel_1 warningTextLabel_2");
 }
 
 void CUpdateSummaryStepTest::goesOnWithoutACameraThatNothingFits()
 {
-    QFETCH(QString, cause);
-
     auto &updates = *m_fixture->host.updates;
-    if (cause == "incompatible")
-        updates.incompatibleIds = {"b"};
-    else if (cause == "throws")
-        updates.failingIds = {"b"};
-    else {
-        updates.createJob
-            = [make = updates.createJob](const QString &id, const TestSupport::UpdateInfoPtr &entry)
-            -> Plugin::CameraPool::DeviceFirmwareUpdatePtr {
-            return id == "b" ? nullptr : make(id, entry);
-        };
-    }
+    updates.incompatibleIds = {"a"};
+    updates.failingIds = {"b"};
+    updates.createJob = [make = updates.createJob](const QString &id, const auto &entry) {
+        return id == "c" ? nullptr : make(id, entry);
+    };
+    m_selection->setCameraDeviceList(
+        {CUpdaterFixture::makeTickedCamera({"a"}), CUpdaterFixture::makeTickedCamera({"b"}),
+         CUpdaterFixture::makeTickedCamera({"c"}), CUpdaterFixture::makeTickedCamera({"d"})});
     enter();
 
-    QVERIFY(m_fixture->getLog().contains(
-        "CRITICAL No compatible firmware update found for VX-1 SN-b: R1"));
+    const QString line = "CRITICAL No compatible firmware update found for VX-1 SN-%1: R1";
+    QCOMPARE(m_fixture->getLog().filter("CRITICAL"),
+             QStringList({line.arg('a'), line.arg('b'), line.arg('c')}));
     const CUpdaterFixture::Model &summary = *m_fixture->model;
-    QCOMPARE(summary.rowCount(), 3);
-    QCOMPARE(summary.index(1, 5).data().toInt(), 3);
-    QCOMPARE(summary.index(1, 4).data().toString(), "");
-    QCOMPARE(summary.index(2, 4).data().toString(), "2.0.0");
+    QCOMPARE(summary.rowCount(), 4);
+    for (int row = 0; row < 4; ++row) {
+        QCOMPARE(summary.index(row, 5).data().toInt(), row < 3 ? 3 : 0);
+        QCOMPARE(summary.index(row, 4).data().toString(), row < 3 ? "" : "2.0.0");
+    }
 }
 
 void CUpdateSummaryStepTest::keepsTheOldListWhenTheFileIsUnreadable()
@@ -198,12 +152,7 @@ void CUpdateSummaryStepTest::followsTheTicksOfTheSummary()
 {
     enter();
     enter();
-    QPushButton *next = nullptr;
-    const auto buttons = m_dialog->findChildren<QPushButton *>();
-    for (QPushButton *const button : buttons) {
-        if (button->text() == "Next")
-            next = button;
-    }
+    const QPushButton *const next = TestSupport::getButton(*m_dialog, "Next");
     QVERIFY(next && next->isEnabled());
     CUpdaterFixture::Model &summary = *m_fixture->model;
     for (int row = 0; row < summary.rowCount(); ++row)

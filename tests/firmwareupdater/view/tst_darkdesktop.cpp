@@ -1,9 +1,4 @@
-#include "view/cameraselectiondialog.h"
-#include "view/firmwareupdatedialog.h"
-#include "view/resultsummarydialog.h"
 #include "view/treerow.h"
-#include "view/updateselectiondialog.h"
-#include "view/updatesummarydialog.h"
 #include "viewfixture.h"
 
 #include <QHeaderView>
@@ -136,48 +131,17 @@ void CDarkDesktopTest::pagesStayReadable()
     QApplication::setStyle(QStyleFactory::create("fusion"));
     QApplication::setPalette(dark);
 
+    CPages pages;
+    pages.fill(3, "http");
     // A ticked camera, one that is not ticked, and one that cannot be.
-    const auto tree = ModelPtr::create(nullptr);
-    tree->setTransportLayerInfoVector(
-        {TestSupport::makeLayer("l", {{"a1", "A"}, {"a2", "A"}, {"b1", "B"}})});
-    const QModelIndex ticked = findRow(*tree, "Camera a1");
-    tree->setData(ticked, true, Qt::EditRole);
-    tree->updateAllNodesBySelection(ticked);
-    CCameraSelectionDialog selection;
-    selection.setModel(tree);
-    selection.updateNextButton(false);
-    measurePage(selection);
-
-    CUpdateSelectionDialog file;
-    file.setKorvaneSupportUrl("https://a.example");
-    file.updateFileSelection("/tmp/update.guf");
-    const auto info = QSharedPointer<TestSupport::CFakeUpdateInfo>::create("2.0", "Fixes", "http");
-    file.updateFirmwareUpdateInfo({info}, false);
-    file.updateCompatibility(false, false);
-    measurePage(file);
-
-    const ModelPtr list = makeList(3);
-    for (int row = 0; row < 3; ++row)
-        for (const int column : {4, 6, 7})
-            list->setData(list->index(row, column), row, Qt::EditRole);
-    CUpdateSummaryDialog summary;
-    summary.setModel(list);
-    summary.updateDowngradeInfo(true);
-    summary.updateSidegradeInfo(true);
-    measurePage(summary);
-
-    CFirmwareUpdateDialog update;
-    update.setModel(list);
-    update.updateOverallProgress(1, 3);
-    update.enableButtons(false);
-    measurePage(update);
-
-    CResultSummaryDialog result;
-    result.setModel(list);
-    result.setInfoTextData("https://a.example", "/tmp/update.log");
-    result.setErrorTextData("The camera does not answer", false);
-    result.updateView();
-    measurePage(result);
+    const ModelPtr tree = makeTree();
+    TestSupport::CUpdaterFixture::tick(*tree, findRow(*tree, "Camera a1"));
+    pages.selection.setModel(tree);
+    pages.selection.updateNextButton(false);
+    pages.file.updateFileSelection("/tmp/update.guf");
+    pages.update.enableButtons(false);
+    for (QDialog *const page : pages.all)
+        measurePage(*page);
 
     QCOMPARE(m_unreadable.join('\n'), QString());
     QVERIFY(m_measured > 80);

@@ -5,7 +5,6 @@
 #include "view/treeviewlabeldelegate.h"
 #include "view/treeviewresultdelegate.h"
 #include "view/treeviewstatusdelegate.h"
-#include "view/updatesummarydialog.h"
 #include "viewfixture.h"
 
 #include <QHeaderView>
@@ -74,9 +73,7 @@ void CTreePaintingTest::init()
 {
     QFETCH_GLOBAL(int, ratio);
     m_ratio = ratio;
-    m_tree = ModelPtr::create(nullptr);
-    m_tree->setTransportLayerInfoVector(
-        {TestSupport::makeLayer("l", {{"a1", "A"}, {"a2", "A"}, {"b1", "B"}})});
+    m_tree = makeTree();
     m_list = makeList(3);
     for (int row = 0; row < 3; ++row)
         m_list->setData(m_list->index(row, 4), "10.20.30", Qt::EditRole);
@@ -189,20 +186,16 @@ void CTreePaintingTest::backgroundsBeginWhereTheKindOfRowSays()
 
 void CTreePaintingTest::boxesShowTheTick()
 {
-    const auto tick = [this](const QModelIndex &cell) {
-        m_tree->setData(cell, true, Qt::EditRole);
-        m_tree->updateAllNodesBySelection(cell);
-    };
     const QImage group = show(cell("A"));
     const QImage other = show(cell("Camera b1"));
-    tick(cell("Camera a1"));
+    TestSupport::CUpdaterFixture::tick(*m_tree, cell("Camera a1"));
     // A group with one ticked camera looks like one whose cameras are all ticked, and what cannot
     // be ticked looks unticked.
     const QImage ticked = show(cell("A"));
     const QImage unavailable = show(cell("Camera b1"));
     QVERIFY(ticked != group);
     QVERIFY(unavailable != other);
-    tick(cell("Camera a2"));
+    TestSupport::CUpdaterFixture::tick(*m_tree, cell("Camera a2"));
     QCOMPARE(show(cell("A")), ticked);
     getEntity(cell("Camera b1"))->setSelected(true);
     QCOMPARE(show(cell("Camera b1")), unavailable);

@@ -1,14 +1,20 @@
 #pragma once
 
 #include "support/updaterfixture.h"
+#include "view/cameraselectiondialog.h"
+#include "view/firmwareupdatedialog.h"
+#include "view/resultsummarydialog.h"
+#include "view/updateselectiondialog.h"
+#include "view/updatesummarydialog.h"
 
-#include <QLabel>
-#include <QPushButton>
 #include <QTreeView>
 
 /// What the tests of the wizard's views share: models to show, and ways to find things.
 namespace ViewFixture {
 
+using TestSupport::find;
+using TestSupport::getButton;
+using TestSupport::getText;
 using Entity = TestSupport::CUpdaterFixture::Entity;
 using ModelPtr = QSharedPointer<TestSupport::CUpdaterFixture::Model>;
 
@@ -23,33 +29,56 @@ inline ModelPtr makeList(int count)
     return model;
 }
 
+/// A tree of one layer with the cameras a1 and a2 of the model A and b1 of the model B.
+inline ModelPtr makeTree()
+{
+    auto model = ModelPtr::create(nullptr);
+    model->setTransportLayerInfoVector(
+        {TestSupport::makeLayer("l", {{"a1", "A"}, {"a2", "A"}, {"b1", "B"}})});
+    return model;
+}
+
+/// The pages of the five steps.
+struct CPages
+{
+    Plugin::FirmwareUpdater::Internal::View::CCameraSelectionDialog selection;
+    Plugin::FirmwareUpdater::Internal::View::CUpdateSelectionDialog file;
+    Plugin::FirmwareUpdater::Internal::View::CUpdateSummaryDialog summary;
+    Plugin::FirmwareUpdater::Internal::View::CFirmwareUpdateDialog update;
+    Plugin::FirmwareUpdater::Internal::View::CResultSummaryDialog result;
+    const std::vector<Plugin::FirmwareUpdater::Internal::View::CUpdateDialogBase *> all{
+        &selection, &file, &summary, &update, &result};
+
+    /// Puts as much on each page as it may have to show: lists of @p count cameras with all kinds
+    /// of states, and texts that begin with or consist of @p text.
+    void fill(int count, const QString &text)
+    {
+        const ModelPtr list = makeList(count);
+        for (int row = 0; row < 3; ++row)
+            for (const int column : {4, 6, 7})
+                list->setData(list->index(row, column), row, Qt::EditRole);
+        for (auto *const page : all)
+            page->setModel(list);
+        file.setKorvaneSupportUrl("https://a.example");
+        file.updateFirmwareUpdateInfo({TestSupport::UpdateInfoPtr(new TestSupport::CFakeUpdateInfo(
+                                          "2.0", text.left(300), text))},
+                                      false);
+        file.updateCompatibility(false, false);
+        summary.updateDowngradeInfo(true);
+        summary.updateSidegradeInfo(true);
+        update.updateOverallProgress(1, count);
+        result.updateView();
+        result.setInfoTextData("https://a.example", "/tmp/a.log");
+        result.setErrorTextData(text.left(150) + QString(150, 'W'), false);
+    }
+};
+
 /// The row with the name "Layer l", "A" (a model group), "Camera a1", ...
 inline QModelIndex findRow(const QAbstractItemModel &model, const char *name)
 {
     return model
         .match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive)
         .value(0);
-}
-
-template <typename T = QWidget>
-T *find(const QWidget &dialog, const char *name)
-{
-    return dialog.findChild<T *>(QLatin1String(name));
-}
-
-inline QString getText(const QWidget &dialog, const char *label)
-{
-    return find<QLabel>(dialog, label)->text();
-}
-
-/// The dialog's button with the text @p text.
-inline QPushButton *getButton(const QWidget &dialog, const char *text)
-{
-    const auto buttons = dialog.findChildren<QPushButton *>();
-    for (QPushButton *const button : buttons)
-        if (button->text().remove('&') == text)
-            return button;
-    return nullptr;
 }
 
 inline QTreeView *getTree(const QWidget &dialog)
