@@ -4,8 +4,6 @@
 #include "icameraobserver.h"
 #include "memorymap.h"
 
-#include <QtEndian>
-
 #include <cstring>
 #include <utility>
 
@@ -71,15 +69,19 @@ void CCameraMemory::setUpFeatures()
     setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
 }
 
-char *CCameraMemory::getRegister(quint32 address)
+void CCameraMemory::setRegister(quint32 address, const QByteArray &bytes)
 {
-    return address < MemoryMap::FEATURES ? m_bootstrap.data() + address
-                                         : m_features.data() + (address - MemoryMap::FEATURES);
+    if (address < MemoryMap::FEATURES)
+        m_bootstrap.replace(static_cast<int>(address), bytes.size(), bytes);
+    else
+        m_features.replace(static_cast<int>(address - MemoryMap::FEATURES), bytes.size(), bytes);
 }
 
 void CCameraMemory::setWord(quint32 address, quint32 value)
 {
-    qToBigEndian(value, getRegister(address));
+    QByteArray word;
+    Gvcp::appendWord(word, value);
+    setRegister(address, word);
 }
 
 quint32 CCameraMemory::getWord(quint32 address) const
@@ -92,8 +94,7 @@ quint32 CCameraMemory::getWord(quint32 address) const
 void CCameraMemory::setText(quint32 address, const QByteArray &text, int size)
 {
     // One byte stays for the end of the text.
-    const QByteArray field = text.left(size - 1).leftJustified(size, '\0');
-    std::memcpy(getRegister(address), field.constData(), static_cast<std::size_t>(size));
+    setRegister(address, text.left(size - 1).leftJustified(size, '\0'));
 }
 
 const QByteArray *CCameraMemory::findArea(quint32 address, int size, int &offset) const
@@ -123,8 +124,11 @@ EStatus CCameraMemory::read(quint32 address, int size, Time now, QByteArray &byt
 
     // A command reads as not yet done for as long as it takes.
     const qint64 command = static_cast<qint64>(MemoryMap::FIRMWARE_ACTIVATE) - address;
-    if (now < m_activationEnd && command >= 0 && command < size)
-        qToBigEndian<quint32>(1, bytes.data() + command);
+    if (now < m_activationEnd && command >= 0 && command < size) {
+        QByteArray running;
+        Gvcp::appendWord(running, 1);
+        bytes.replace(static_cast<int>(command), running.size(), running);
+    }
     return EStatus::Success;
 }
 

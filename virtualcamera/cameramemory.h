@@ -64,7 +64,7 @@ private:
     [[nodiscard]] quint32 getWord(quint32 address) const;
     void setText(quint32 address, const QByteArray &text, int size);
     [[nodiscard]] const QByteArray *findArea(quint32 address, int size, int &offset) const;
-    [[nodiscard]] char *getRegister(quint32 address);
+    void setRegister(quint32 address, const QByteArray &bytes);
     [[nodiscard]] static bool isWritable(quint32 address);
 
     CWriteResult writeWord(quint32 address, quint32 value, Time now);

@@ -29,6 +29,7 @@ struct CCameraSettings
 
     // Faults.
     std::optional<qint64> diesAfterBytes; ///< falls silent for ever when so much has been uploaded
+    std::optional<qint64> losesControlAfterBytes; ///< somebody else takes it
     bool neverReturns = false; ///< from a reset
     bool returnsWithOldVersion = false;
     QByteArray refusedCommand; ///< name of a command feature

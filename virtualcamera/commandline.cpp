@@ -72,9 +72,20 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         settings.bufferLength = static_cast<int>(length);
         return isGood;
     };
+    const auto takeRefusedCommand = [this](const QString &text) {
+        settings.refusedCommand = text.toUtf8();
+        return text == QLatin1String("DeviceReset") || text == QLatin1String("FirmwareActivate")
+            || text == QLatin1String("FileOperationExecute");
+    };
     const auto takeFlashFile = [this](const QString &text) {
         flashFile = text;
         return !text.isEmpty();
+    };
+
+    const auto takeBytes = [](std::optional<qint64> &target) {
+        return [&target](const QString &text) {
+            return readNumber(text, 0, largest, target.emplace());
+        };
     };
 
     const std::vector<COption> options = {
@@ -94,21 +105,19 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         {"open-ms", "MS", "Announce the opening of the file as pending for so long.",
          takeNumber(settings.openDuration, 0, 65535)},
         {"die-after", "BYTES", "Fall silent for ever after so many uploaded bytes.",
-         [this](const QString &text) {
-             qint64 bytes = 0;
-             const bool isGood = readNumber(text, 0, largest, bytes);
-             settings.diesAfterBytes = bytes;
-             return isGood;
-         }},
+         takeBytes(settings.diesAfterBytes)},
+        {"lose-control", "BYTES", "Somebody else takes control after so many uploaded bytes.",
+         takeBytes(settings.losesControlAfterBytes)},
         {"never-return", nullptr, "Stay away after a reset.", takeSwitch(settings.neverReturns)},
         {"old-version", nullptr, "Return from a reset with the old firmware.",
          takeSwitch(settings.returnsWithOldVersion)},
         {"refuse", "COMMAND", "Refuse DeviceReset, FirmwareActivate or FileOperationExecute.",
-         takeText(settings.refusedCommand, 64)},
+         takeRefusedCommand},
         {"lose-every", "N", "Lose each N-th request.", takeNumber(settings.losesEvery, 2, largest)},
         {"lose-ack", "N", "Lose the answer to the N-th write of memory.",
          takeNumber(settings.losesAcknowledge, 1, largest)},
-        {"max-seconds", "S", "End by itself after so long.", takeNumber(maximumSeconds, 1, 86400)},
+        {"max-seconds", "S", "End by itself after so long, otherwise after 600.",
+         takeNumber(maximumSeconds, 1, 86400)},
     };
 
     QCommandLineParser parser;

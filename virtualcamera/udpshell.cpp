@@ -33,8 +33,20 @@ CUdpShell::CUdpShell(const CCameraSettings &settings, const QString &flashFile, 
 
 CUdpShell::~CUdpShell() = default;
 
+static QString cannotWrite(const QSaveFile &file)
+{
+    return QStringLiteral("The file %1 cannot be written: %2.")
+        .arg(file.fileName(), file.errorString());
+}
+
 bool CUdpShell::start(QString &error)
 {
+    QSaveFile flash(m_flashFile);
+    if (!m_flashFile.isEmpty() && !flash.open(QIODevice::WriteOnly)) {
+        error = cannotWrite(flash);
+        return false;
+    }
+    flash.cancelWriting();
     const QHostAddress address(m_address);
     if (!m_socket.bind(address, Gvcp::PORT, QAbstractSocket::DontShareAddress)) {
         error = QStringLiteral("The address %1 with port %2 cannot be used: %3.")
@@ -97,8 +109,7 @@ void CUdpShell::onFileClosed(const QByteArray &content)
         return;
     QSaveFile file(m_flashFile);
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        std::fprintf(stderr, "virtualcamera: %s cannot be written: %s.\n", qPrintable(m_flashFile),
-                     qPrintable(file.errorString()));
+        std::fprintf(stderr, "virtualcamera: %s\n", qPrintable(cannotWrite(file)));
 }
 
 void CUdpShell::printStatistics() const

@@ -25,7 +25,8 @@ public:
     ~CUdpShell() override;
 
     /// Binds the camera's address and, where the system lets it, the one that discoveries are
-    /// broadcast to. False with a sentence in @p error when the address is not to be had.
+    /// broadcast to. False with a sentence in @p error when the address is not to be had, or the
+    /// file for what is uploaded cannot be written.
     bool start(QString &error);
 
     /// Prints what the camera has been asked so far.

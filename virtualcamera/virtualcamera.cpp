@@ -80,26 +80,33 @@ QVector<CDatagram> CVirtualCamera::answer(const QByteArray &datagram, const Gvcp
         ++m_statistics.discoveries;
         return makeAnswers(EStatus::Success, m_memory.getDiscoveryData());
     }
-    if (m_last && m_last->sender == sender && m_last->datagram == datagram)
-        return repeatAnswer(request.id, now);
+    for (const CLastRequest &last : qAsConst(m_last)) {
+        if (last.sender != sender || last.datagram != datagram)
+            continue;
+        return m_pending && m_pending->answer.receiver == sender ? announcePending(request.id, now)
+                                                                 : repeatAnswer(last);
+    }
     if (m_pending)
         return makeAnswers(EStatus::Busy);
 
     const CReply reply = execute(request, sender, now);
     const QVector<CDatagram> answers = makeAnswers(reply.status, reply.payload);
-    m_last = CLastRequest{sender, datagram, answers.isEmpty() ? QByteArray() : answers[0].bytes};
+    remember({sender, datagram, answers.isEmpty() ? QByteArray() : answers[0].bytes});
 
     if (m_settings.diesAfterBytes && m_memory.getUploadedBytes() >= *m_settings.diesAfterBytes) {
         m_isGone = true;
         m_observer.onEvent("die " + QByteArray::number(m_memory.getUploadedBytes()));
         return {};
     }
+    if (m_settings.losesControlAfterBytes && !m_hasLostControl
+        && m_memory.getUploadedBytes() >= *m_settings.losesControlAfterBytes)
+        handControlToSomebodyElse(now);
     if (m_memory.isResetRequested())
         startReset(now);
     if (reply.duration.count() > 0 && !answers.isEmpty()) {
         m_pending = CPendingAnswer{now + reply.duration, answers[0]};
         m_observer.onEvent("pending " + QByteArray::number(qint64(reply.duration.count())));
-        return repeatAnswer(request.id, now);
+        return announcePending(request.id, now);
     }
     const bool isWrite = request.command == static_cast<quint16>(ECommand::WriteMemory);
     if (isWrite && m_statistics.memoryWrites == m_settings.losesAcknowledge) {
@@ -110,21 +117,35 @@ QVector<CDatagram> CVirtualCamera::answer(const QByteArray &datagram, const Gvcp
     return answers;
 }
 
-QVector<CDatagram> CVirtualCamera::repeatAnswer(quint16 id, Time now)
+void CVirtualCamera::remember(const CLastRequest &request)
 {
-    if (m_pending) {
-        const qint64 remaining = std::clamp<qint64>((m_pending->due - now).count(), 0, 0xffff);
-        QByteArray payload;
-        Gvcp::appendHalfWord(payload, 0);
-        Gvcp::appendHalfWord(payload, static_cast<quint16>(remaining));
-        return {{m_last->sender,
-                 Gvcp::makeAnswer(EStatus::Success, static_cast<quint16>(ECommand::Pending), id,
-                                  payload)}};
-    }
+    constexpr int mostSenders = 8;
+    m_last.erase(
+        std::remove_if(m_last.begin(), m_last.end(),
+                       [&](const CLastRequest &last) { return last.sender == request.sender; }),
+        m_last.end());
+    if (m_last.size() == mostSenders)
+        m_last.removeFirst();
+    m_last.append(request);
+}
+
+QVector<CDatagram> CVirtualCamera::announcePending(quint16 id, Time now) const
+{
+    const qint64 remaining = std::clamp<qint64>((m_pending->due - now).count(), 0, 0xffff);
+    QByteArray payload;
+    Gvcp::appendHalfWord(payload, 0);
+    Gvcp::appendHalfWord(payload, static_cast<quint16>(remaining));
+    return {
+        {m_pending->answer.receiver,
+         Gvcp::makeAnswer(EStatus::Success, static_cast<quint16>(ECommand::Pending), id, payload)}};
+}
+
+QVector<CDatagram> CVirtualCamera::repeatAnswer(const CLastRequest &last)
+{
     ++m_statistics.repeated;
-    if (m_last->answer.isEmpty())
+    if (last.answer.isEmpty())
         return {};
-    return {{m_last->sender, m_last->answer}};
+    return {{last.sender, last.answer}};
 }
 
 CVirtualCamera::CReply CVirtualCamera::execute(const Gvcp::CRequest &request, const CPeer &sender,
@@ -272,6 +293,15 @@ void CVirtualCamera::loseControl(const char *cause)
     m_memory.abandonFile();
 }
 
+void CVirtualCamera::handControlToSomebodyElse(Time now)
+{
+    // Somebody who never says anything, and so loses it again in time.
+    constexpr CPeer somebody{0x7f000001, 9};
+    m_hasLostControl = true;
+    loseControl("taken");
+    static_cast<void>(setPrivilege(ControlBit, somebody, now));
+}
+
 void CVirtualCamera::startReset(Time now)
 {
     if (m_controller)
@@ -293,7 +323,7 @@ QVector<CDatagram> CVirtualCamera::tick(Time now)
     }
     if (m_returns && now >= *m_returns) {
         m_returns.reset();
-        m_last.reset();
+        m_last.clear();
         m_memory.restart();
     }
     if (m_controller && !m_pending && now >= m_lastHeard + m_memory.getHeartbeatTimeout())

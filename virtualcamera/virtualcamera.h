@@ -56,7 +56,7 @@ private:
         CDatagram answer;
     };
 
-    /// The last request of the last sender, to know it again.
+    /// The last request of a sender, to know it again.
     struct CLastRequest
     {
         CPeer sender;
@@ -68,7 +68,9 @@ private:
     [[nodiscard]] QVector<CDatagram> answer(const QByteArray &datagram,
                                             const Gvcp::CRequest &request, const CPeer &sender,
                                             Time now);
-    [[nodiscard]] QVector<CDatagram> repeatAnswer(quint16 id, Time now);
+    [[nodiscard]] QVector<CDatagram> repeatAnswer(const CLastRequest &last);
+    [[nodiscard]] QVector<CDatagram> announcePending(quint16 id, Time now) const;
+    void remember(const CLastRequest &request);
     [[nodiscard]] CReply execute(const Gvcp::CRequest &request, const CPeer &sender, Time now);
     [[nodiscard]] CReply readRegisters(const QByteArray &payload, const CPeer &sender, Time now);
     [[nodiscard]] CReply writeRegisters(const QByteArray &payload, const CPeer &sender, Time now);
@@ -79,6 +81,7 @@ private:
                                       Time now);
     [[nodiscard]] Gvcp::EStatus setPrivilege(quint32 value, const CPeer &sender, Time now);
     void loseControl(const char *cause);
+    void handControlToSomebodyElse(Time now);
     void startReset(Time now);
 
     const CCameraSettings m_settings;
@@ -90,8 +93,9 @@ private:
     std::optional<CPeer> m_controller;
     bool m_isExclusive = false;
     Time m_lastHeard{0}; ///< from the controller
+    bool m_hasLostControl = false; ///< by the fault, which happens once
     std::optional<CPendingAnswer> m_pending;
-    std::optional<CLastRequest> m_last;
+    QVector<CLastRequest> m_last; ///< one of each sender, the latest sender's last
 
     std::optional<Time> m_returns; ///< end of the reset
     bool m_isGone = false; ///< for ever

@@ -224,8 +224,10 @@ void CVirtualCameraTest::executesARepeatedRequestOnce()
     QCOMPARE(ask(OPEN), first);
     QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
     QCOMPARE(m_camera->getStatistics().repeated, 1);
-    // The same bytes of somebody else are another request.
+    // The same bytes of somebody else are another request, and do not displace the first one.
     QCOMPARE(statusOf(ask(OPEN, Stranger)), 0x8006);
+    QCOMPARE(ask(OPEN), first);
+    QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
 
     const QByteArray block = makeRequest(ECommand::WriteMemory, 99,
                                          words({MemoryMap::FILE_ACCESS_BUFFER, 0x01020304}));
