@@ -4,12 +4,30 @@
 
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QNetworkInterface>
 
 namespace Viewer::AppCore {
 
 static QString absolutePath(const QString &path)
 {
     return path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+}
+
+// Not several devices at once, and not nobody.
+static bool isAddressOfOne(const QHostAddress &address)
+{
+    if (address.protocol() != QAbstractSocket::IPv4Protocol || address.toIPv4Address() >> 24 == 0
+        || address.isBroadcast() || address.isMulticast())
+        return false;
+    const QList<QNetworkInterface> interfaces = QNetworkInterface::allInterfaces();
+    for (const QNetworkInterface &networkInterface : interfaces) {
+        const QList<QNetworkAddressEntry> entries = networkInterface.addressEntries();
+        for (const QNetworkAddressEntry &entry : entries) {
+            if (entry.broadcast() == address)
+                return false;
+        }
+    }
+    return true;
 }
 
 CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
@@ -97,7 +115,7 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     const QStringList addresses = parser.values(addressOption);
     for (const QString &text : addresses) {
         const QHostAddress address(text);
-        if (address.protocol() != QAbstractSocket::IPv4Protocol) {
+        if (!isAddressOfOne(address)) {
             m_message = tr("\"%1\" is no camera address; it has the form 192.168.0.10.").arg(text);
             return EResult::Error;
         }
