@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
 namespace Viewer::CameraPool::GenICam {
 
@@ -8,6 +9,17 @@ enum class ETransport {
     Ethernet,
     Usb,
 };
+
+/// @p text as one line of characters that can be seen: a camera may call itself anything, also
+/// something that turns around or breaks the lines in which its name stands.
+[[nodiscard]] inline QString toPrintable(const QString &text)
+{
+    QVector<uint> printable;
+    const QVector<uint> characters = text.toUcs4();
+    for (const uint character : characters)
+        printable.append(QChar::isPrint(character) ? character : uint(' '));
+    return QString::fromUcs4(printable.constData(), printable.size()).simplified();
+}
 
 /// Who a camera is and where it is to be reached, as its answer to a search says.
 struct CFoundCamera
@@ -19,6 +31,7 @@ struct CFoundCamera
     QString version; ///< empty: the camera has to be opened to tell
     QString serialNumber;
     QString userName; ///< given by the user; may be empty
+    bool isAmbiguous = false; ///< another camera says that it is the same one
 
     /// The same for one camera wherever it is found, another one for each camera.
     [[nodiscard]] QString getId() const

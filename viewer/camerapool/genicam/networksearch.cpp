@@ -10,7 +10,7 @@ namespace Viewer::CameraPool::GenICam {
 
 static QString toText(const char *text)
 {
-    return QString::fromUtf8(text).simplified();
+    return toPrintable(QString::fromUtf8(text));
 }
 
 static CFoundCamera readCamera(ArvInterface *interface, unsigned int index, ETransport transport)

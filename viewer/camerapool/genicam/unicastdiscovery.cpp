@@ -19,9 +19,8 @@ static QString readText(const QByteArray &payload, int offset, int size)
 {
     // Terminated only when it is shorter than its field.
     const QByteArray field = payload.mid(offset, size);
-    return QString::fromUtf8(field.constData(),
-                             static_cast<int>(qstrnlen(field.constData(), uint(field.size()))))
-        .simplified();
+    return toPrintable(QString::fromUtf8(
+        field.constData(), static_cast<int>(qstrnlen(field.constData(), uint(field.size())))));
 }
 
 static CFoundCamera readAnswer(const QByteArray &payload, const QString &address)
@@ -53,7 +52,8 @@ QVector<CFoundCamera> discoverUnicast(const QVector<QHostAddress> &addresses,
             socket.writeDatagram(DiscoveryRequest, QHostAddress(address), ControlPort);
 
         const QDeadlineTimer deadline(limit / Rounds);
-        while (!missing.isEmpty()
+        // Whoever floods this socket does not prolong the wait.
+        while (!missing.isEmpty() && !deadline.hasExpired()
                && (socket.hasPendingDatagrams()
                    || socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))) {
             const QNetworkDatagram datagram = socket.receiveDatagram();
