@@ -2,6 +2,7 @@
 
 #include "cameraactivities.h"
 #include "cameraenumerationservice.h"
+#include "camerainfo.h"
 #include "camerastatusservice.h"
 #include "camerastreamcontrolservice.h"
 #include "combinedcameras.h"
@@ -128,6 +129,13 @@ void CCameraPool::start()
 QList<QSharedPointer<IService>> CCameraPool::getServices() const
 {
     return d->services;
+}
+
+QString CCameraPool::getStatusReason(const QString &cameraId) const
+{
+    const Plugin::CameraPool::CameraInfoPtr camera = d->enumeration->findCamera(cameraId);
+    return camera ? static_cast<const CCameraInfo &>(*camera).getSnapshot().statusReason
+                  : QString();
 }
 
 ECameraActivity CCameraPool::getActivity(const QString &cameraId) const

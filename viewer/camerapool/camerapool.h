@@ -52,6 +52,10 @@ public:
     /// on this pool, so whoever holds them has to let go of them before it is destroyed.
     [[nodiscard]] QList<QSharedPointer<Core::Service::IService>> getServices() const;
 
+    /// Why the camera @p cameraId cannot be updated, in the user's language; empty: its status code
+    /// says all.
+    [[nodiscard]] QString getStatusReason(const QString &cameraId) const;
+
     [[nodiscard]] ECameraActivity getActivity(const QString &cameraId) const;
 
     /// Start and stop acquisition of one camera. False, with a sentence in @p error, when the

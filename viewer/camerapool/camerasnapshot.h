@@ -15,13 +15,15 @@ struct CCameraSnapshot
     QString deviceVersion;
     QString firmwareVersion;
     qint32 statusCode = 0; ///< 0 exactly when the camera can be updated
+    QString statusReason; ///< of another status, for the user; may be empty
 
     friend bool operator==(const CCameraSnapshot &left, const CCameraSnapshot &right)
     {
         return left.id == right.id && left.displayName == right.displayName
             && left.modelName == right.modelName && left.serialNumber == right.serialNumber
             && left.deviceVersion == right.deviceVersion
-            && left.firmwareVersion == right.firmwareVersion && left.statusCode == right.statusCode;
+            && left.firmwareVersion == right.firmwareVersion && left.statusCode == right.statusCode
+            && left.statusReason == right.statusReason;
     }
     friend bool operator!=(const CCameraSnapshot &left, const CCameraSnapshot &right)
     {

@@ -17,6 +17,11 @@ CCameraSelectorModel::CCameraSelectorModel(QObject *parent)
 
 CCameraSelectorModel::~CCameraSelectorModel() = default;
 
+void CCameraSelectorModel::setStatusReasons(const StatusReasonFunction &getReason)
+{
+    m_getStatusReason = getReason;
+}
+
 void CCameraSelectorModel::setTransportLayers(const QVector<TransportLayerInfoPtr> &layers)
 {
     beginResetModel();
@@ -121,6 +126,8 @@ QVariant CCameraSelectorModel::getCameraData(const CameraInfoPtr &camera, int co
 {
     if (role == Qt::DecorationRole && column == NameColumn)
         return m_cameraIcon;
+    if (role == Qt::ToolTipRole && column == StateColumn)
+        return getStateText(*camera);
     if (role == Qt::ToolTipRole) {
         return tr("%1\nModel: %2\nSerial number: %3\nDevice version: %4\nFirmware: %5")
             .arg(camera->getDisplayName(), camera->getModelName(), camera->getSerialNumber(),
@@ -159,7 +166,12 @@ QString CCameraSelectorModel::getStateText(const Plugin::CameraPool::ICameraInfo
         break;
     }
     const qint32 statusCode = camera.getCameraStatusCode();
-    return statusCode == 0 ? tr("Ready") : tr("Not updatable (%1)").arg(statusCode);
+    if (statusCode == 0)
+        return tr("Ready");
+    const QString reason = m_getStatusReason ? m_getStatusReason(camera.getId()) : QString();
+    const QString code = QString::number(statusCode);
+    return tr("Not updatable (%1)")
+        .arg(reason.isEmpty() ? code : QStringLiteral("%1: %2").arg(code, reason));
 }
 
 CameraInfoPtr CCameraSelectorModel::getCamera(const QModelIndex &index) const

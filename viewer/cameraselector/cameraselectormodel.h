@@ -8,6 +8,8 @@
 #include <QIcon>
 #include <QVector>
 
+#include <functional>
+
 namespace Viewer::CameraSelector {
 
 /// The enumerated transport layers with their cameras, and what each camera is doing.
@@ -27,6 +29,12 @@ public:
 
     explicit CCameraSelectorModel(QObject *parent = nullptr);
     ~CCameraSelectorModel() override;
+
+    /// Why a camera cannot be updated, by its id; empty: nobody knows more than the status code.
+    using StatusReasonFunction = std::function<QString(const QString &cameraId)>;
+
+    /// Before the first content.
+    void setStatusReasons(const StatusReasonFunction &getReason);
 
     /// Replaces the whole content; the activities stay.
     void setTransportLayers(const QVector<Plugin::CameraPool::TransportLayerInfoPtr> &layers);
@@ -64,6 +72,7 @@ private:
     QVector<Plugin::CameraPool::TransportLayerInfoPtr> m_layers;
     QHash<QString, QPair<int, int>> m_places; ///< by id: row of the layer, row of the camera or -1
     QHash<QString, CameraPool::ECameraActivity> m_activities;
+    StatusReasonFunction m_getStatusReason;
     int m_cameraCount = 0;
 };
 

@@ -759,6 +759,18 @@
         <source>it did not restart; switch it off and on and look for its firmware version</source>
         <translation>再起動しませんでした。電源を入れ直して、ファームウェアバージョンを確認してください</translation>
     </message>
+    <message>
+        <source>same serial number as another camera</source>
+        <translation>シリアル番号が別のカメラと同じ</translation>
+    </message>
+    <message>
+        <source>another camera has the same vendor, model and serial number; connect only one of them and look for cameras again</source>
+        <translation>ベンダー、モデル、シリアル番号が同じカメラがもう 1 台あります。どちらか 1 台だけを接続して、もう一度カメラを検索してください</translation>
+    </message>
+    <message>
+        <source>another camera, %1, answers at its address; look for cameras again</source>
+        <translation>そのアドレスでは別のカメラ %1 が応答しています。もう一度カメラを検索してください</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

@@ -759,6 +759,18 @@
         <source>it did not restart; switch it off and on and look for its firmware version</source>
         <translation>다시 시작되지 않았습니다. 카메라를 껐다가 다시 켠 후 펌웨어 버전을 확인하십시오</translation>
     </message>
+    <message>
+        <source>same serial number as another camera</source>
+        <translation>다른 카메라와 일련번호가 같음</translation>
+    </message>
+    <message>
+        <source>another camera has the same vendor, model and serial number; connect only one of them and look for cameras again</source>
+        <translation>제조사, 모델 및 일련번호가 같은 카메라가 또 있습니다. 그중 하나만 연결하고 카메라를 다시 검색하십시오</translation>
+    </message>
+    <message>
+        <source>another camera, %1, answers at its address; look for cameras again</source>
+        <translation>해당 주소에서 다른 카메라 %1이(가) 응답합니다. 카메라를 다시 검색하십시오</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

@@ -759,6 +759,18 @@
         <source>it did not restart; switch it off and on and look for its firmware version</source>
         <translation>未重新启动；请关闭电源后重新打开，并检查其固件版本</translation>
     </message>
+    <message>
+        <source>same serial number as another camera</source>
+        <translation>与另一台相机的序列号相同</translation>
+    </message>
+    <message>
+        <source>another camera has the same vendor, model and serial number; connect only one of them and look for cameras again</source>
+        <translation>另一台相机具有相同的厂商、型号和序列号；请只连接其中一台，然后重新搜索相机</translation>
+    </message>
+    <message>
+        <source>another camera, %1, answers at its address; look for cameras again</source>
+        <translation>在其地址上应答的是另一台相机 %1；请重新搜索相机</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

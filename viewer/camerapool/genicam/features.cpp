@@ -23,11 +23,15 @@ EReason CFeatureError::getReason() const
     return m_reason;
 }
 
+CErrorText getNoAnswerText()
+{
+    return CErrorText::tr("it did not answer; check its cable, its power supply and the network");
+}
+
 static CErrorText describe(const CErrorGuard &error)
 {
     if (error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED))
-        return CErrorText::tr("it did not answer; check its cable, its power supply and the "
-                              "network");
+        return getNoAnswerText();
     // An application that has control is refused nothing for want of rights.
     if (error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR_ACCESS_DENIED)
         || error.is(ARV_DEVICE_ERROR_NOT_CONTROLLER))

@@ -32,6 +32,9 @@ private:
     EReason m_reason;
 };
 
+/// What to say about a camera that does not answer.
+[[nodiscard]] CErrorText getNoAnswerText();
+
 /// Throws the CFeatureError for @p error: "<attempt>: <why, and what to do about it>". Does
 /// nothing when there is no error.
 void throwIf(const CErrorGuard &error, const CErrorText &attempt);

@@ -33,12 +33,11 @@ CFileUpload::CFileUpload(const CFeatures &features, const QString &fileName,
     , m_fileName(fileName)
     , m_deadline(deadline)
 {
-    attempt(CErrorText::tr("opening its file \"%1\" failed").arg(m_fileName), [this] { open(); });
 }
 
 CFileUpload::~CFileUpload()
 {
-    if (!m_isOpen)
+    if (!m_mayBeOpen)
         return;
     try {
         m_features.write(OperationSelector, QStringLiteral("Close"));
@@ -46,6 +45,16 @@ CFileUpload::~CFileUpload()
     } catch (const CFeatureError &) {
         // The failure that led here says more.
     }
+}
+
+void CFileUpload::open()
+{
+    attempt(CErrorText::tr("opening its file \"%1\" failed").arg(m_fileName), [this] {
+        prepare();
+        // A camera that has opened the file may still fail to say so.
+        m_mayBeOpen = true;
+        operate(QByteArrayLiteral("Open"));
+    });
 }
 
 int CFileUpload::getBlockSize() const
@@ -63,7 +72,7 @@ void CFileUpload::writeBlock(const QByteArray &block)
 void CFileUpload::close()
 {
     // Whether it works or not, it is not tried again.
-    m_isOpen = false;
+    m_mayBeOpen = false;
     attempt(CErrorText::tr("closing its file \"%1\" failed").arg(m_fileName),
             [this] { operate(QByteArrayLiteral("Close")); });
 }
@@ -74,12 +83,15 @@ void CFileUpload::attempt(const CErrorText &failure, Action action)
     try {
         action();
     } catch (const CFeatureError &error) {
+        // Asking a dead camera to close its file would only take as long again.
+        if (error.getReason() == CFeatureError::EReason::NoAnswer)
+            m_mayBeOpen = false;
         throw CFeatureError(CErrorText::tr("%1: %2").arg(failure, error.getText()),
                             error.getReason());
     }
 }
 
-void CFileUpload::open()
+void CFileUpload::prepare()
 {
     m_buffer = m_features.findRegister(AccessBuffer);
     // Whole words only: the last block is filled up to one.
@@ -89,8 +101,6 @@ void CFileUpload::open()
     m_hasOffset = m_features.has(AccessOffset);
     m_features.write(Selector, m_fileName);
     m_features.write(OpenMode, QStringLiteral("Write"));
-    operate(QByteArrayLiteral("Open"));
-    m_isOpen = true;
 }
 
 void CFileUpload::write(const QByteArray &block)

@@ -9,16 +9,19 @@
 namespace Viewer::CameraPool::GenICam {
 
 /// Writes one file of a camera through the standard features for file access, block by block, and
-/// sends no command that the standard does not need. The file is closed on every way out.
+/// sends no command that the standard does not need. The file is closed on every way out; a camera
+/// that does not answer closes it when control over it ends.
 class CFileUpload
 {
 public:
-    /// Opens the camera's file @p fileName to write. Throws CFeatureError, as all operations do.
     CFileUpload(const CFeatures &features, const QString &fileName, const QDeadlineTimer &deadline);
     ~CFileUpload();
     Q_DISABLE_COPY(CFileUpload)
 
-    /// Bytes that one block holds at most.
+    /// Opens the camera's file to write. Throws CFeatureError, as all operations do.
+    void open();
+
+    /// Bytes that one block holds at most. The file is open.
     [[nodiscard]] int getBlockSize() const;
 
     /// Writes @p block behind those before.
@@ -28,7 +31,7 @@ public:
     void close();
 
 private:
-    void open();
+    void prepare();
     void write(const QByteArray &block);
     void operate(const QByteArray &operation);
     void execute();
@@ -45,7 +48,7 @@ private:
     bool m_hasOffset = false;
     qint64 m_offset = 0;
     qint64 m_length = -1; ///< as the camera knows it; negative: it does not yet
-    bool m_isOpen = false;
+    bool m_mayBeOpen = false;
     bool m_isWriteSelected = false;
 };
 

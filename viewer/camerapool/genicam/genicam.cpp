@@ -4,6 +4,8 @@
 #include "networksearch.h"
 #include "unicastdiscovery.h"
 
+#include "viewer/camerapool/errortext.h"
+
 #include "camerapool/transportlayertypes.h"
 
 #include <QSet>
@@ -62,10 +64,10 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
     if (m_isCanceled)
         return {};
     const bool searches = m_searchesNetwork;
-    const QVector<CFoundCamera> found = find(searches);
+    QVector<CFoundCamera> found = find(searches);
 
     QHash<QString, int> counts;
-    for (const CFoundCamera &camera : found)
+    for (const CFoundCamera &camera : qAsConst(found))
         ++counts[camera.getId()];
 
     // Named unlike the simulation's layers, which may stand beside them.
@@ -76,7 +78,7 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
                                 QStringLiteral("USB3 Vision (USB)"),
                                 {}};
     QHash<QString, CFoundCamera> byId;
-    for (const CFoundCamera &camera : found) {
+    for (CFoundCamera &camera : found) {
         CCameraSnapshot snapshot;
         snapshot.id = camera.getId();
         snapshot.displayName = camera.getDisplayName();
@@ -85,8 +87,13 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
         snapshot.deviceVersion = camera.version;
         snapshot.firmwareVersion = camera.version;
         if (counts.value(snapshot.id) > 1) {
+            camera.isAmbiguous = true;
             snapshot.statusCode = AmbiguousIdentityStatus;
-            snapshot.id += QLatin1Char('@') + camera.address;
+            snapshot.statusReason
+                = CErrorText::tr("same serial number as another camera").getLocalized();
+            // On USB there is no address, but still a place in the list.
+            snapshot.id += QLatin1Char('@')
+                + (camera.address.isEmpty() ? QString::number(usb.cameras.size()) : camera.address);
         }
         byId.insert(snapshot.id, camera);
         (camera.transport == ETransport::Ethernet ? ethernet : usb).cameras.append(snapshot);

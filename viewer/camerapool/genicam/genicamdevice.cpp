@@ -20,6 +20,9 @@ using std::chrono::milliseconds;
 /// Cameras that write their flash memory while they start take long.
 static constexpr milliseconds ShortestResetLimit = 60s;
 
+/// How long a camera may take to say who it is before it is opened.
+static constexpr milliseconds IdentityLimit = 1s;
+
 /// How often a camera is looked at that is busy with something.
 static constexpr milliseconds PollInterval = 50ms;
 
@@ -46,9 +49,26 @@ void CGenICamDevice::open(milliseconds timeLimit)
 {
     if (m_device)
         fail(CErrorText::tr("it is already open"));
-    // The library's own limits are shorter than any that is asked for here.
-    Q_UNUSED(timeLimit)
+    if (m_camera.isAmbiguous)
+        fail(CErrorText::tr("another camera has the same vendor, model and serial number; connect "
+                            "only one of them and look for cameras again"));
+    // What is dead is found out before the library, which takes longer, is set to work. From then
+    // on only its own limits count: 2.5 s for each answer that does not come.
+    checkIdentity(std::min(timeLimit, IdentityLimit));
     m_device = translate([this] { return makeDevice(); });
+}
+
+void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
+{
+    if (m_camera.transport != ETransport::Ethernet)
+        return;
+    const QVector<CFoundCamera> found
+        = discoverUnicast({QHostAddress(m_camera.address)}, timeLimit);
+    if (found.isEmpty())
+        fail(getNoAnswerText());
+    if (found.first().getId() != m_camera.getId())
+        fail(CErrorText::tr("another camera, %1, answers at its address; look for cameras again")
+                 .arg(found.first().getFullName()));
 }
 
 // The address on this machine from which @p camera is reached.
@@ -149,6 +169,7 @@ void CGenICamDevice::uploadFile(const QString &fileName, QIODevice &source, qint
     translate([&] {
         const CFeatures features = getFeatures();
         CFileUpload upload(features, fileName, deadline);
+        upload.open();
         for (qint64 done = 0; done < size;) {
             if (deadline.hasExpired())
                 fail(CErrorText::tr("the upload of its file \"%1\" took too long; it was broken "

@@ -34,6 +34,8 @@ public:
     [[nodiscard]] qint64 getUploadRate() const override;
 
 private:
+    /// Addresses can be given to others between a search and an update.
+    void checkIdentity(std::chrono::milliseconds timeLimit) const;
     [[nodiscard]] CObjectPointer<ArvDevice> makeDevice() const;
     void waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const;
 
