@@ -1,5 +1,6 @@
 #include "jobrecorder.h"
 #include "support/virtualcameraprocess.h"
+#include "viewer/camerapool/cameraerror.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/genicam/genicam.h"
 #include "viewer/camerapool/icameradevice.h"
@@ -7,12 +8,18 @@
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
 
+#include <QNetworkDatagram>
 #include <QSignalSpy>
 #include <QtTest>
+#include <QUdpSocket>
+
+#include <future>
 
 using namespace Plugin::CameraPool;
 using TestSupport::CVirtualCameraProcess;
+using Viewer::CameraPool::CCameraError;
 using Viewer::CameraPool::CCameraPool;
+using Viewer::CameraPool::ICameraDevice;
 using Viewer::CameraPool::GenICam::CGenICam;
 
 /// Update jobs against virtual cameras in processes of their own, over the loopback interface.
@@ -28,6 +35,9 @@ private slots:
     void tellsEachFault();
     void leavesACameraInUseAlone();
     void refusesTwoCamerasOfOneIdentity();
+    void refusesAnotherCameraAtTheAddress();
+    void closesTheFileOfAFailedUpload();
+    void takesSoundAnswersOnly();
 
 private:
     template <typename Service>
@@ -39,12 +49,19 @@ private:
     /// Opens a pool that knows the cameras started so far; they are its only ones.
     QVector<CameraInfoPtr> openPool();
 
+    /// The open device of the first camera, of nobody that the pool knows.
+    std::unique_ptr<ICameraDevice> openDevice();
+
+    /// The error of opening the camera @p id as it was when m_others saw it.
+    QString tryToOpen(const QString &id);
+
     /// Updates @p camera with the sample while events are processed here; the error, or nothing.
     QString update(const CameraInfoPtr &camera);
 
     QVector<QHostAddress> m_addresses;
     std::vector<std::unique_ptr<CVirtualCameraProcess>> m_cameras;
     std::unique_ptr<CCameraPool> m_pool;
+    std::unique_ptr<CGenICam> m_others;
     QTemporaryDir m_folder;
 };
 
@@ -88,6 +105,25 @@ QVector<CameraInfoPtr> CRealCamerasTest::openPool()
     return layers.isEmpty() ? QVector<CameraInfoPtr>() : layers.first()->getCameraInfoList();
 }
 
+std::unique_ptr<ICameraDevice> CRealCamerasTest::openDevice()
+{
+    m_others = std::make_unique<CGenICam>(m_addresses, false);
+    const auto layers = m_others->enumerate();
+    auto device = m_others->createDevice(layers.value(0).cameras.value(0).id);
+    device->open(std::chrono::seconds(10));
+    return device;
+}
+
+QString CRealCamerasTest::tryToOpen(const QString &id)
+{
+    try {
+        m_others->createDevice(id)->open(std::chrono::seconds(10));
+    } catch (const CCameraError &error) {
+        return error.getMessage();
+    }
+    return {};
+}
+
 QString CRealCamerasTest::update(const CameraInfoPtr &camera)
 {
     const auto updates = getService<IDeviceFirmwareUpdateService>();
@@ -124,7 +160,8 @@ void CRealCamerasTest::updatesACamera_data()
     QTest::newRow("largest buffer, requests lost")
         << QStringList{"--buffer", "65536", "--lose-every", "150"};
     QTest::newRow("an acknowledge lost") << QStringList{"--lose-ack", "30"};
-    QTest::newRow("file opened slowly") << QStringList{"--open-ms", "1500"};
+    // Longer than the library waits for an answer that is not announced.
+    QTest::newRow("file opened slowly") << QStringList{"--open-ms", "4000"};
 }
 
 void CRealCamerasTest::updatesACamera()
@@ -157,6 +194,11 @@ void CRealCamerasTest::tellsEachFault_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("error");
+    QTest::newRow("dies while it is opened")
+        << QStringList{"--die-after", "0"} << "it could not be opened: .*it did not answer; check";
+    QTest::newRow("somebody else takes control")
+        << QStringList{"--lose-control", "20480"}
+        << "writing its file \"FirmwareImage\" failed at byte [0-9]+: .*control over it was lost";
     QTest::newRow("dies during the upload")
         << QStringList{"--die-after", "20480"}
         << "writing its file \"FirmwareImage\" failed at byte 16384: .*it did not answer; check";
@@ -190,12 +232,7 @@ void CRealCamerasTest::tellsEachFault()
 void CRealCamerasTest::leavesACameraInUseAlone()
 {
     CVirtualCameraProcess &camera = startCamera({});
-    CGenICam others(m_addresses, false);
-    const auto layers = others.enumerate();
-    const auto device = others.createDevice(layers.value(0).cameras.value(0).id);
-    QVERIFY(device);
-    device->open(std::chrono::seconds(10));
-
+    const auto device = openDevice();
     const QVector<CameraInfoPtr> found = openPool();
     QVERIFY(update(found.value(0)).contains("it is in use by another application; close that one"));
     QVERIFY(!camera.getEvents().contains("open FirmwareImage"));
@@ -213,7 +250,65 @@ void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
     QVERIFY(found[0]->getCameraStatusCode() != 0);
     QVERIFY(found[1]->getCameraStatusCode() != 0);
     QCOMPARE(found[2]->getCameraStatusCode(), 0);
+    QCOMPARE(m_pool->getStatusReason(found[0]->getId()), "same serial number as another camera");
     QCOMPARE(update(found[0]), "no update fits");
+    m_others = std::make_unique<CGenICam>(m_addresses, false);
+    QCOMPARE(m_others->enumerate().value(0).cameras.size(), 3);
+    QVERIFY(tryToOpen(found[1]->getId()).contains("another camera has the same vendor, model and"));
+}
+
+void CRealCamerasTest::refusesAnotherCameraAtTheAddress()
+{
+    startCamera({"--serial", "1"});
+    m_others = std::make_unique<CGenICam>(m_addresses, false);
+    const QString id = m_others->enumerate().value(0).cameras.value(0).id;
+    m_cameras.clear();
+    QVERIFY(tryToOpen(id).contains("it did not answer; check its cable"));
+    m_cameras.push_back(
+        std::make_unique<CVirtualCameraProcess>(m_addresses[0], QStringList{"--serial", "2"}));
+    QVERIFY(tryToOpen(id).contains("another camera, 2 (GV-1400M, 127."));
+}
+
+void CRealCamerasTest::closesTheFileOfAFailedUpload()
+{
+    CVirtualCameraProcess &camera = startCamera({"--buffer", "512"});
+    const auto device = openDevice();
+    QBuffer source;
+    source.setData(QByteArray(700, 'x'));
+    source.open(QIODevice::ReadOnly);
+    const auto limit = std::chrono::seconds(20);
+    QVERIFY_EXCEPTION_THROWN(device->uploadFile("FirmwareImage", source, 900, {}, limit),
+                             CCameraError);
+    QCOMPARE(camera.getEvents().last(), "close 700");
+}
+
+void CRealCamerasTest::takesSoundAnswersOnly()
+{
+    m_addresses.append(CVirtualCameraProcess::getOwnAddress(1));
+    QByteArray sound = QByteArray::fromHex("0000000300f80001") + QByteArray(0xF8, '\0');
+    sound.replace(8 + 0x48, 32, QByteArray(32, 'v'));
+    sound.replace(8 + 0x68, 8, "\x1bX\n\xe2\x80\xae\xffY"); // an override of the direction
+    sound.replace(8 + 0xD8, 16, QByteArray(16, '7'));
+    QByteArray wrongNumber = sound, refusal = sound;
+    wrongNumber[7] = 2;
+    refusal[0] = '\x80';
+    std::promise<void> ready;
+    std::thread camera([&] {
+        QUdpSocket socket;
+        socket.bind(m_addresses[0], 3956);
+        ready.set_value();
+        socket.waitForReadyRead();
+        const QNetworkDatagram request = socket.receiveDatagram();
+        for (const QByteArray &answer : {QByteArray(), QByteArray(60000, '\xff'), sound.left(255),
+                                         sound + '\0', wrongNumber, refusal, sound})
+            socket.writeDatagram(answer, request.senderAddress(), request.senderPort());
+    });
+    ready.get_future().wait();
+    const auto layers = CGenICam(m_addresses, false).enumerate();
+    camera.join();
+    QCOMPARE(layers.value(0).cameras.size(), 1);
+    const QString id = layers[0].cameras[0].id;
+    QCOMPARE(id, "GEV:" + QString(32, 'v') + ":X \ufffdY:" + QString(16, '7'));
 }
 
 QTEST_GUILESS_MAIN(CRealCamerasTest)
