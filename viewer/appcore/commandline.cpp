@@ -115,7 +115,8 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     const QStringList addresses = parser.values(addressOption);
     for (const QString &text : addresses) {
         const QHostAddress address(text);
-        if (!isAddressOfOne(address)) {
+        // In full: "1.2.3" would be taken for 1.2.0.3.
+        if (address.toString() != text || !isAddressOfOne(address)) {
             m_message = tr("\"%1\" is no camera address; it has the form 192.168.0.10.").arg(text);
             return EResult::Error;
         }
