@@ -22,6 +22,9 @@ CFirmwareUpdatingStep::CFirmwareUpdatingStep(
     , m_thread(this)
 {
     m_resetTimer.setTimerType(Qt::PreciseTimer);
+    // Measured once a tick, before all connections made later: they tell the same progress.
+    connect(&m_resetTimer, &QTimer::timeout, this,
+            [this] { m_resetElapsedMs = m_resetElapsed.elapsed(); });
 
     connect(&m_thread, &CFirmwareUpdateThread::firmwareUpdateDone, this,
             &CFirmwareUpdatingStep::onFirmwareUpdateDone);
@@ -237,7 +240,7 @@ void CFirmwareUpdatingStep::onFirmwareUpdateProgressStepBegin(EFirmwareUpdateSte
 
 void CFirmwareUpdatingStep::onDeviceResetTick()
 {
-    const auto elapsedMs = static_cast<double>(m_resetElapsed.elapsed());
+    const auto elapsedMs = static_cast<double>(m_resetElapsedMs);
     const double percent = m_stepEstimateMs > 0 ? elapsedMs / m_stepEstimateMs * 100.0 : 0.0;
     onFirmwareUpdateProgressStepProgressChanged(EFirmwareUpdateStep::DeviceReset,
                                                 static_cast<int>(percent));

@@ -101,6 +101,7 @@ private:
     // A camera in reset reports nothing: its progress is animated from the estimate.
     QTimer m_resetTimer;
     QElapsedTimer m_resetElapsed;
+    qint64 m_resetElapsedMs = 0; ///< at the current tick
 };
 
 } // namespace Plugin::FirmwareUpdater::Internal::State
