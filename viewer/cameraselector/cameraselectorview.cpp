@@ -64,10 +64,13 @@ void CCameraSelectorView::onEnumerationChanged()
     m_model->setTransportLayers(m_enumeration->getTransportLayerInfoVector());
     expandAll();
     for (int column = 0; column <= CCameraSelectorModel::StateColumn; ++column) {
-        const int width = qMax(sizeHintForColumn(column), header()->sectionSizeHint(column));
-        // The last column takes what is left, but never less than it has been given.
+        const int titleWidth = header()->sectionSizeHint(column);
+        // The last column takes what is left, but never less than it has been given. A long reason
+        // is elided there rather than scrolled to; the tool tip has all of it.
         const bool isLast = column == CCameraSelectorModel::StateColumn;
-        setColumnWidth(column, isLast ? width : width + ColumnSpace);
+        setColumnWidth(column,
+                       isLast ? titleWidth
+                              : qMax(sizeHintForColumn(column), titleWidth) + ColumnSpace);
     }
     const QModelIndex index = selected ? m_model->findId(selected->getId()) : QModelIndex();
     if (index.isValid())
