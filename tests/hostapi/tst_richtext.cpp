@@ -1,0 +1,184 @@
+#include "core/richtext.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextDocument>
+
+using Core::Text::isWebLink;
+using Core::Text::toSafeRichText;
+
+namespace {
+
+/// Notes what Qt asks for while it reads and lays out a text, and gives nothing.
+class CWatchedDocument : public QTextDocument
+{
+public:
+    explicit CWatchedDocument(const QString &html)
+    {
+        setHtml(html);
+        setTextWidth(400);
+        static_cast<void>(documentLayout()->documentSize());
+    }
+
+    QStringList takeRequests() { return std::exchange(m_requests, {}); }
+
+protected:
+    QVariant loadResource(int type, const QUrl &name) override
+    {
+        Q_UNUSED(type)
+        m_requests.append(name.toString());
+        return {};
+    }
+
+private:
+    QStringList m_requests;
+};
+
+} // namespace
+
+/// What rich text from outside may show, judged by what Qt makes of it.
+class CRichTextTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void harmlessTextIsUntouched_data();
+    void harmlessTextIsUntouched();
+    void nothingIsReadForText_data();
+    void nothingIsReadForText();
+    void foreignLinksAreText_data();
+    void foreignLinksAreText();
+    void deepTextIsLaidOut_data();
+    void deepTextIsLaidOut();
+    void webLinks_data();
+    void webLinks();
+};
+
+void CRichTextTest::harmlessTextIsUntouched_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty") << "";
+    QTest::newRow("plain") << "Fixes & more, 100 % \u4fee\u6b63";
+    QTest::newRow("emphasis")
+        << "<b>Faster</b> and <I>smaller</I ><br/>by <font color=red>far</font>";
+    QTest::newRow("list") << "<ul type=\"disc\"><li>one<li>two &lt;b&gt;</ul>";
+    QTest::newRow("table") << "<table border='1' width=100%><tr><td colspan=2>x</td></tr></table>";
+    QTest::newRow("style") << "<span style=\"color:#00ff00; font-weight:600\">ok</span>";
+    QTest::newRow("links") << "<a href=\"https://a.example/?b=1&amp;c=2\">a</a> "
+                              "<a href='mailto:a@b.example'>b</a> <a href=HTTP://c.example>c</a>";
+}
+
+void CRichTextTest::harmlessTextIsUntouched()
+{
+    QFETCH(QString, text);
+    QCOMPARE(toSafeRichText(text), text);
+}
+
+void CRichTextTest::nothingIsReadForText_data()
+{
+    QTest::addColumn<QString>("markup");
+    QTest::newRow("image") << "<img src=\"/dev/zero\">";
+    QTest::newRow("upper case") << "<IMG SRC=/dev/zero>";
+    QTest::newRow("blank in front") << "< img src=/dev/zero>";
+    QTest::newRow("quoted name") << "<\"img\" src=/dev/zero>";
+    QTest::newRow("name in entities") << "<i&#109;g src=/dev/zero>";
+    QTest::newRow("no end") << "<img src=/dev/zero ";
+    QTest::newRow("end of line") << "<img\nsrc\n=\n'file:///dev/zero'\n/>";
+    QTest::newRow("odd blank") << "<b\u00a0><img\u2003src=/dev/zero>";
+    QTest::newRow("image in an attribute") << "<b title=\"<img src=/dev/zero>\">";
+    QTest::newRow("image in a comment") << "<!-- > <img src=/dev/zero> -->";
+    QTest::newRow("image behind a declaration") << "<!x <img src=/dev/zero>";
+    QTest::newRow("image by a style") << "<style>b { background-image: url(/dev/zero) }</style>";
+    QTest::newRow("style with a bracket") << "<style>a</x<img src=/dev/zero></style>";
+    QTest::newRow("unclosed style") << "<style>p { background: url(/dev/zero) }";
+    QTest::newRow("style sheet") << "<link rel=stylesheet type=text/css href=/dev/zero>";
+    QTest::newRow("style attribute") << "<p style=\"background-image:url(/dev/zero)\">x</p>";
+    QTest::newRow("escaped style") << "<p style=\"background-image:\\75rl(/dev/zero)\">x</p>";
+    QTest::newRow("style in entities") << "<p style=\"background-image:&#117;rl(/dev/zero)\">x</p>";
+    QTest::newRow("page background") << "<body background=/dev/zero>";
+    QTest::newRow("cell background") << "<table><tr><td background=\"/dev/zero\">x</table>";
+    QTest::newRow("list images") << "<ul style='list-style-image:url(/dev/zero)'><li>x</ul>";
+    QTest::newRow("object") << "<object data=/dev/zero></object><embed src=/dev/zero>";
+    QTest::newRow("frame") << "<iframe src=/dev/zero>";
+}
+
+void CRichTextTest::nothingIsReadForText()
+{
+    QFETCH(QString, markup);
+    CWatchedDocument document(toSafeRichText("<b>Before</b> " + markup));
+
+    QCOMPARE(document.takeRequests(), QStringList());
+    QVERIFY(!document.toPlainText().contains(QChar::ObjectReplacementCharacter));
+    QVERIFY2(document.toPlainText().startsWith("Before"), qUtf8Printable(document.toPlainText()));
+}
+
+void CRichTextTest::foreignLinksAreText_data()
+{
+    QTest::addColumn<QString>("link");
+    QTest::newRow("file") << "<a href=\"file:///etc/passwd\">Notes</a>";
+    QTest::newRow("path") << "<a href=/etc/passwd>Notes</a>";
+    QTest::newRow("script") << "<a href='javascript:alert(1)'>Notes</a>";
+    QTest::newRow("scheme in entities") << "<a href=\"&#102;ile:///etc/passwd\">Notes</a>";
+    QTest::newRow("blank in front") << "<a href=\" file:///etc/passwd\">Notes</a>";
+    QTest::newRow("second address") << "<a href=\"https://a.example\" href=\"file:///x\">Notes</a>";
+}
+
+void CRichTextTest::foreignLinksAreText()
+{
+    QFETCH(QString, link);
+    const QTextDocument *document = new CWatchedDocument(toSafeRichText(link));
+    const QScopedPointer<const QTextDocument> guard(document);
+    QCOMPARE(document->toPlainText(), "Notes");
+    for (auto it = document->firstBlock().begin(); !it.atEnd(); ++it) {
+        const QString target = it.fragment().charFormat().anchorHref();
+        QVERIFY2(target.isEmpty() || isWebLink(target), qUtf8Printable(target));
+    }
+}
+
+void CRichTextTest::deepTextIsLaidOut_data()
+{
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("tables") << "<table><tr><td>";
+    QTest::newRow("tables, odd ends") << "<table><tr><td></ul></b></table ><table>";
+    QTest::newRow("tables without cells") << "<table><tr><td></table><table>";
+    QTest::newRow("rows without tables") << "<tr><td><table><tr>x<table><td>";
+    QTest::newRow("lists") << "<ul><li>";
+    QTest::newRow("emphasis") << "<b></i>";
+    QTest::newRow("cells") << "<td colspan=999999999 rowspan=99999999>";
+    QTest::newRow("sizes") << "<table width=99999999 cellpadding=999999999><tr><td height=9999999>";
+    QTest::newRow("letters") << "<p style='font-size:99999999px; margin:9e9px'>x";
+}
+
+// The test's own time limit is what fails here.
+void CRichTextTest::deepTextIsLaidOut()
+{
+    QFETCH(QString, unit);
+    CWatchedDocument document(toSafeRichText("x" + unit.repeated(30000 / unit.size())));
+    QVERIFY(document.size().width() < 100000);
+    QVERIFY(document.toPlainText().startsWith('x'));
+}
+
+void CRichTextTest::webLinks_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("https") << "https://a.example/b?c=d#e" << true;
+    QTest::newRow("upper case") << "HTTP://A.EXAMPLE" << true;
+    QTest::newRow("mail") << "mailto:a@b.example" << true;
+    QTest::newRow("prose") << "See https://a.example" << false;
+    QTest::newRow("blanks inside") << "https://a.example and more" << false;
+    QTest::newRow("file") << "file:///tmp/http" << false;
+    QTest::newRow("path") << "/tmp/https://a" << false;
+    QTest::newRow("no host") << "https://" << false;
+    QTest::newRow("control character") << "https://a.example/\x1b[2J" << false;
+}
+
+void CRichTextTest::webLinks()
+{
+    QFETCH(QString, target);
+    QTEST(isWebLink(target), "expected");
+}
+
+QTEST_MAIN(CRichTextTest)
+#include "tst_richtext.moc"
