@@ -102,7 +102,8 @@ public:
     {
         if (isFlat(element))
             return true;
-        if (!leaveTableParts(element))
+        const auto parents = getTableParts().constFind(element);
+        if (parents == getTableParts().constEnd() ? !isInText() : !leaveTo(*parents))
             return false;
         if (m_open.size() >= MAXIMUM_DEPTH
             || (element == TABLE && m_open.count(TABLE) >= MAXIMUM_TABLE_DEPTH))
@@ -130,9 +131,10 @@ private:
         return FLAT.contains(element);
     }
 
-    bool leaveTableParts(const QString &element)
+    /// The parts of a table, each with what it stands in.
+    static const QHash<QString, Names> &getTableParts()
     {
-        static const QHash<QString, Names> PARENTS{
+        static const QHash<QString, Names> PARTS{
             {QStringLiteral("tbody"), toSet("table")},
             {QStringLiteral("tfoot"), toSet("table")},
             {QStringLiteral("thead"), toSet("table")},
@@ -140,27 +142,38 @@ private:
             {QStringLiteral("td"), toSet("tr")},
             {QStringLiteral("th"), toSet("tr")},
         };
-        const auto parents = PARENTS.constFind(element);
+        return PARTS;
+    }
+
+    /// Whether the place is outside of all tables or within a cell.
+    [[nodiscard]] bool isInText() const
+    {
+        for (auto open = m_open.crbegin(); open != m_open.crend(); ++open) {
+            if (*open == QLatin1String("td") || *open == QLatin1String("th"))
+                return true;
+            if (*open == TABLE || getTableParts().contains(*open))
+                return false;
+        }
+        return true;
+    }
+
+    /// Leaves everything within the innermost of @p parents that belongs to the same table.
+    bool leaveTo(const Names &parents)
+    {
         for (int place = m_open.size() - 1; place >= 0; --place) {
-            const QString &open = m_open.at(place);
-            if (parents != PARENTS.constEnd() && parents->contains(open)) {
+            if (parents.contains(m_open.at(place))) {
                 keep(place + 1);
                 return true;
             }
-            // Only cells have contents.
-            if (parents == PARENTS.constEnd() && (open == CELL || open == HEADER_CELL))
-                return true;
-            if (open == TABLE || (parents == PARENTS.constEnd() && PARENTS.contains(open)))
+            if (m_open.at(place) == TABLE)
                 return false;
         }
-        return parents == PARENTS.constEnd();
+        return false;
     }
 
     void keep(int count) { m_open.erase(m_open.begin() + count, m_open.end()); }
 
     const QString TABLE = QStringLiteral("table");
-    const QString CELL = QStringLiteral("td");
-    const QString HEADER_CELL = QStringLiteral("th");
     QStringList m_open; ///< the outermost first
 };
 
