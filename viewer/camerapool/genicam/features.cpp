@@ -28,6 +28,12 @@ CErrorText getNoAnswerText()
     return CErrorText::tr("it did not answer; check its cable, its power supply and the network");
 }
 
+CErrorText getInUseText()
+{
+    return CErrorText::tr("it is in use by another application; close that one and start the "
+                          "update again");
+}
+
 static CErrorText describe(const CErrorGuard &error)
 {
     if (error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED))

@@ -35,6 +35,9 @@ private:
 /// What to say about a camera that does not answer.
 [[nodiscard]] CErrorText getNoAnswerText();
 
+/// What to say of a camera that another application has taken control over.
+[[nodiscard]] CErrorText getInUseText();
+
 /// Throws the CFeatureError for @p error: "<attempt>: <why, and what to do about it>". Does
 /// nothing when there is no error.
 void throwIf(const CErrorGuard &error, const CErrorText &attempt);

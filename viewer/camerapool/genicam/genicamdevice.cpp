@@ -1,6 +1,7 @@
 #include "genicamdevice.h"
 
 #include "fileupload.h"
+#include "memoryreader.h"
 #include "unicastdiscovery.h"
 
 #include "viewer/camerapool/cameraerror.h"
@@ -22,6 +23,9 @@ static constexpr milliseconds ShortestResetLimit = 60s;
 
 /// How long a camera may take to say who it is before it is opened.
 static constexpr milliseconds IdentityLimit = 1s;
+
+/// How long reading a camera's feature description may take. The largest has some 30,000 blocks.
+static constexpr milliseconds DescriptionLimit = 15s;
 
 /// How often a camera is looked at that is busy with something.
 static constexpr milliseconds PollInterval = 50ms;
@@ -89,6 +93,7 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
     if (m_camera.transport == ETransport::Ethernet) {
         // By address and without the library's list of devices, which a search locks for a second.
         const QHostAddress address(m_camera.address);
+        checkFeatureDescription(address, QDeadlineTimer(DescriptionLimit));
         const CObjectPointer<GInetAddress> interfaceAddress = findInterface(address);
         const CObjectPointer<GInetAddress> cameraAddress(
             g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
@@ -108,9 +113,7 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
         throw CFeatureError(CErrorText::tr("it could not be opened"),
                             CFeatureError::EReason::NoAnswer);
     if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
-        throw CFeatureError(CErrorText::tr("it is in use by another application; close that one "
-                                           "and start the update again"),
-                            CFeatureError::EReason::Refused);
+        throw CFeatureError(getInUseText(), CFeatureError::EReason::Refused);
     return device;
 }
 
