@@ -1,7 +1,8 @@
 #include "viewer/appcore/commandline.h"
-#include "viewer/appcore/language.h"
+#include "viewer/appcore/languagefont.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/demo/wizarddemo.h"
+#include "viewer/text/language.h"
 
 #include "core/baseexception.h"
 
@@ -15,6 +16,7 @@
 #include <memory>
 
 using namespace Viewer;
+using Text::CLanguage;
 
 static constexpr int UsageError = 2;
 
@@ -42,7 +44,7 @@ static bool answersWithoutDisplay(int argc, char **argv, int &exitCode)
     if (!asked)
         return false;
     const QCoreApplication application(argc, argv);
-    const AppCore::CLanguage language(AppCore::CLanguage::choose({}));
+    const CLanguage language(CLanguage::choose({}));
     AppCore::CCommandLine commandLine;
     const auto result = commandLine.parse(QCoreApplication::arguments());
     if (result == AppCore::CCommandLine::EResult::Message) {
@@ -108,9 +110,9 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
-    QString languageCode = AppCore::CLanguage::choose({});
+    QString languageCode = CLanguage::choose({});
     // What is wrong with the command line is told before its own choice of a language is known.
-    auto language = std::make_unique<AppCore::CLanguage>(languageCode);
+    auto language = std::make_unique<CLanguage>(languageCode);
     AppCore::CCommandLine commandLine;
     if (commandLine.parse(QCoreApplication::arguments()) != AppCore::CCommandLine::EResult::Start) {
         printError(commandLine.getMessage());
@@ -120,10 +122,10 @@ int main(int argc, char **argv)
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     options.pool.stateFile = QDir(dataFolder).filePath(QStringLiteral("cameras.json"));
 
-    languageCode = AppCore::CLanguage::choose(options.language);
+    languageCode = CLanguage::choose(options.language);
     language.reset();
-    language = std::make_unique<AppCore::CLanguage>(languageCode);
-    AppCore::CLanguage::chooseFont(languageCode);
+    language = std::make_unique<CLanguage>(languageCode);
+    AppCore::chooseLanguageFont(languageCode);
     try {
         return runViewer(options, languageCode);
     } catch (const Core::Exception::BaseException &exception) {

@@ -5,11 +5,12 @@
 #include "view/resultsummarydialog.h"
 #include "view/updateselectiondialog.h"
 #include "view/updatesummarydialog.h"
-#include "viewer/appcore/language.h"
+#include "viewer/appcore/languagefont.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/simulation/simulation.h"
+#include "viewer/text/language.h"
 
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
@@ -23,7 +24,7 @@
 
 using namespace ViewFixture;
 namespace View = Plugin::FirmwareUpdater::Internal::View;
-using Viewer::AppCore::CLanguage;
+using Viewer::Text::CLanguage;
 
 /// The catalogues, and what the windows look like with them.
 class CTranslationsTest : public QObject
@@ -62,7 +63,7 @@ void CTranslationsTest::speak(const QString &language)
     QCoreApplication::installTranslator(&m_pluginCatalogue);
     // What Qt asks for where no desktop says which font to use.
     QApplication::setFont(QFont("Sans Serif", 9));
-    CLanguage::chooseFont(language);
+    Viewer::AppCore::chooseLanguageFont(language);
     for (const char16_t letter : {u'펌', u'ア', u'固'})
         QVERIFY2(QFontMetrics(QApplication::font()).inFontUcs4(letter),
                  "Letters are missing: install fonts with Korean, Japanese and Chinese ones, such "

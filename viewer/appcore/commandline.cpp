@@ -1,12 +1,14 @@
 #include "commandline.h"
 
-#include "language.h"
+#include "viewer/text/language.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QNetworkInterface>
 
 namespace Viewer::AppCore {
+
+using Text::CLanguage;
 
 static QString absolutePath(const QString &path)
 {

@@ -1,8 +1,9 @@
 #include "mainwindow.h"
 
 #include "actioncontainer.h"
-#include "language.h"
 #include "menuservice.h"
+
+#include "viewer/text/language.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
@@ -14,6 +15,9 @@
 #include <QToolBar>
 
 namespace Viewer::AppCore {
+
+using Text::CLanguage;
+using Text::CLanguageEntry;
 
 static const QLatin1String GeometryKey("mainWindow/geometry");
 static const QLatin1String StateKey("mainWindow/state");

@@ -16,6 +16,7 @@
 
 namespace Viewer::CameraPool {
 
+using Text::CErrorText;
 using namespace std::chrono_literals;
 using Plugin::CameraPool::EFirmwareUpdateStep;
 using UpdateFile::CFeatureValue;

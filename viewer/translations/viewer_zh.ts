@@ -398,7 +398,7 @@
     </message>
 </context>
 <context>
-    <name>Viewer::CameraPool::CErrorText</name>
+    <name>Viewer::Text::CErrorText</name>
     <message>
         <source>Camera %1: %2</source>
         <translation>相机 %1：%2</translation>

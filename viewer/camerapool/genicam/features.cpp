@@ -2,6 +2,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
 using EReason = CFeatureError::EReason;
 
 CFeatureError::CFeatureError(const CErrorText &text, EReason reason)

@@ -6,6 +6,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
 using namespace std::chrono_literals;
 
 // Names that the standard gives.

@@ -14,6 +14,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 

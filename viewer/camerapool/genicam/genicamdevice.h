@@ -47,7 +47,7 @@ private:
     /// Runs @p action; whatever it throws leaves as a CCameraError.
     template <typename Action>
     std::invoke_result_t<Action> translate(Action action) const;
-    [[noreturn]] void fail(const CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause) const;
 
     const CFoundCamera m_camera;
     CObjectPointer<ArvDevice> m_device;

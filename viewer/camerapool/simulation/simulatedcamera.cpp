@@ -3,12 +3,13 @@
 #include "firmwarestatefile.h"
 #include "simulationnotifier.h"
 
-#include "viewer/camerapool/errortext.h"
+#include "viewer/text/errortext.h"
 
 #include <algorithm>
 
 namespace Viewer::CameraPool::Simulation {
 
+using Text::CErrorText;
 CSimulatedCamera::CSimulatedCamera(const CCameraDescriptionEntry &description, double speedFactor,
                                    const std::shared_ptr<CFirmwareStateFile> &stateFile,
                                    const std::shared_ptr<const CSimulationNotifier> &notifier)

@@ -7,6 +7,7 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Text::CErrorText;
 void CPayloadDevice::CFileCloser::operator()(zip_file *file) const
 {
     zip_fclose(file);

@@ -16,6 +16,7 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Text::CErrorText;
 namespace {
 
 constexpr int BLOCK_SIZE = 64 * 1024;

@@ -6,6 +6,7 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Text::CErrorText;
 CUpdateFileError::CUpdateFileError(const QString &path, const CErrorText &cause)
     : CUpdateFileError(CErrorText::tr("Update file %1: %2")
                            .arg(Json::toSingleLine(QDir::toNativeSeparators(path)), cause),
