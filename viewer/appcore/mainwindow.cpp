@@ -98,7 +98,7 @@ void CMainWindow::createLanguageMenu(QMenu *menu)
 void CMainWindow::onLanguageTriggered(const QString &code)
 {
     CLanguage::remember(code);
-    showMessage(tr("The language changes when the viewer is started the next time."));
+    showMessage(tr("The language changes the next time the viewer starts."));
 }
 
 void CMainWindow::setCloseGuard(const CloseGuard &guard)

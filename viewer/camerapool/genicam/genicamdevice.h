@@ -11,7 +11,7 @@ class QDeadlineTimer;
 
 namespace Viewer::CameraPool::GenICam {
 
-/// A camera on a real wire. The thread that opens it owns it: only that thread uses and closes it,
+/// A real camera. The thread that opens it owns it: only that thread uses and closes it,
 /// and closing one that has died takes seconds.
 class CGenICamDevice : public ICameraDevice
 {

@@ -89,7 +89,9 @@ CSimulatedCamera::Session CSimulatedCamera::connect(CErrorText &cause)
     if (!m_plugged || m_restarting)
         cause = CErrorText::tr("it does not answer; check its cable and its power supply");
     else if (m_busy)
-        cause = CErrorText::tr("another application uses it; close that application");
+        cause = CErrorText::tr(
+            "it is in use by another application; close that application and start the "
+            "update again");
     else if (m_session != 0)
         cause = CErrorText::tr("it is already being updated");
     else

@@ -15,8 +15,8 @@ public:
     CUpdateFileError(const QString &path, const Text::CErrorText &cause);
     ~CUpdateFileError() override;
 
-    /// The cause alone, in English.
-    [[nodiscard]] QString getCause() const;
+    /// The cause alone.
+    [[nodiscard]] Text::CErrorText getCause() const;
 
     /// The message, also in the user's language.
     [[nodiscard]] Text::CErrorText getText() const;
@@ -25,7 +25,7 @@ private:
     CUpdateFileError(const Text::CErrorText &text, const Text::CErrorText &cause);
 
     Text::CErrorText m_text;
-    QString m_cause;
+    Text::CErrorText m_cause;
 };
 
 } // namespace Viewer::CameraPool::UpdateFile
