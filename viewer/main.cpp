@@ -1,7 +1,8 @@
 #include "viewer/appcore/commandline.h"
-#include "viewer/appcore/language.h"
+#include "viewer/appcore/languagefont.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/demo/wizarddemo.h"
+#include "viewer/text/language.h"
 
 #include "core/baseexception.h"
 
@@ -13,8 +14,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 using namespace Viewer;
+using Text::CLanguage;
 
 static constexpr int UsageError = 2;
 
@@ -30,29 +33,31 @@ static void setNames()
     QCoreApplication::setApplicationVersion(QStringLiteral(VIEWER_VERSION));
 }
 
-// Help, version and usage errors need no display, unlike everything else.
-static bool answersWithoutDisplay(int argc, char **argv, int &exitCode)
+// The language is known only when the command line has been read, and what reading it says is to be
+// in that language: it is read once more where it asks for another one than the remembered or the
+// desktop's.
+static AppCore::CCommandLine::EResult readCommandLine(AppCore::CCommandLine &commandLine,
+                                                      std::unique_ptr<CLanguage> &language)
 {
-    const bool asked = std::any_of(argv + 1, argv + argc, [](const char *argument) {
+    const QString usual = CLanguage::choose({});
+    language = std::make_unique<CLanguage>(usual);
+    const auto result = commandLine.parse(QCoreApplication::arguments());
+    const QString asked = CLanguage::choose(commandLine.getOptions().language);
+    if (asked == usual)
+        return result;
+    language.reset();
+    language = std::make_unique<CLanguage>(asked);
+    commandLine = AppCore::CCommandLine();
+    return commandLine.parse(QCoreApplication::arguments());
+}
+
+static bool asksForMessage(int argc, char **argv)
+{
+    return std::any_of(argv + 1, argv + argc, [](const char *argument) {
         const QLatin1String text(argument);
         return text == QLatin1String("-h") || text == QLatin1String("--help")
-            || text == QLatin1String("--help-all") || text == QLatin1String("-v")
-            || text == QLatin1String("--version");
+            || text == QLatin1String("-v") || text == QLatin1String("--version");
     });
-    if (!asked)
-        return false;
-    const QCoreApplication application(argc, argv);
-    const AppCore::CLanguage language(AppCore::CLanguage::choose({}));
-    AppCore::CCommandLine commandLine;
-    const auto result = commandLine.parse(QCoreApplication::arguments());
-    if (result == AppCore::CCommandLine::EResult::Message) {
-        std::fprintf(stdout, "%s\n", qUtf8Printable(commandLine.getMessage()));
-        exitCode = EXIT_SUCCESS;
-        return true;
-    }
-    printError(commandLine.getMessage());
-    exitCode = UsageError;
-    return true;
 }
 
 // Qt would end the process with an abort and a list of its platforms.
@@ -66,6 +71,32 @@ static bool hasDisplay(int argc, char **argv)
     return chosen || !qEnvironmentVariableIsEmpty("DISPLAY")
         || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
         || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+}
+
+// Help, version and usage errors need no display, unlike everything else. Returns the exit code;
+// nothing where the viewer can start.
+static std::optional<int> answerWithoutDisplay(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    std::unique_ptr<CLanguage> language;
+    AppCore::CCommandLine commandLine;
+    switch (readCommandLine(commandLine, language)) {
+    case AppCore::CCommandLine::EResult::Message:
+        std::fprintf(stdout, "%s\n", qUtf8Printable(commandLine.getMessage()));
+        return EXIT_SUCCESS;
+    case AppCore::CCommandLine::EResult::Error:
+        printError(commandLine.getMessage());
+        return UsageError;
+    case AppCore::CCommandLine::EResult::Start:
+        break;
+    }
+    if (hasDisplay(argc, argv))
+        return std::nullopt;
+    printError(QCoreApplication::translate(
+        "Viewer",
+        "There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set. Start it from "
+        "a desktop, or with QT_QPA_PLATFORM=offscreen to see nothing."));
+    return EXIT_FAILURE;
 }
 
 static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language)
@@ -90,14 +121,9 @@ static int runViewer(const AppCore::CCommandLineOptions &options, const QString 
 int main(int argc, char **argv)
 {
     setNames();
-    int exitCode = EXIT_SUCCESS;
-    if (answersWithoutDisplay(argc, argv, exitCode))
-        return exitCode;
-    if (!hasDisplay(argc, argv)) {
-        printError(QStringLiteral("There is no display: neither DISPLAY nor WAYLAND_DISPLAY is "
-                                  "set. Start it from a desktop, or with QT_QPA_PLATFORM=offscreen "
-                                  "to see nothing."));
-        return EXIT_FAILURE;
+    if (asksForMessage(argc, argv) || !hasDisplay(argc, argv)) {
+        if (const std::optional<int> exitCode = answerWithoutDisplay(argc, argv))
+            return *exitCode;
     }
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
@@ -108,11 +134,9 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
-    QString languageCode = AppCore::CLanguage::choose({});
-    // What is wrong with the command line is told before its own choice of a language is known.
-    auto language = std::make_unique<AppCore::CLanguage>(languageCode);
+    std::unique_ptr<CLanguage> language;
     AppCore::CCommandLine commandLine;
-    if (commandLine.parse(QCoreApplication::arguments()) != AppCore::CCommandLine::EResult::Start) {
+    if (readCommandLine(commandLine, language) != AppCore::CCommandLine::EResult::Start) {
         printError(commandLine.getMessage());
         return UsageError;
     }
@@ -120,10 +144,8 @@ int main(int argc, char **argv)
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     options.pool.stateFile = QDir(dataFolder).filePath(QStringLiteral("cameras.json"));
 
-    languageCode = AppCore::CLanguage::choose(options.language);
-    language.reset();
-    language = std::make_unique<AppCore::CLanguage>(languageCode);
-    AppCore::CLanguage::chooseFont(languageCode);
+    const QString languageCode = CLanguage::choose(options.language);
+    AppCore::chooseLanguageFont(languageCode);
     try {
         return runViewer(options, languageCode);
     } catch (const Core::Exception::BaseException &exception) {

@@ -13,8 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 static bool isSound(const CManifestResult &result)
 {
     if (!result.fault.isEmpty())
-        return result.manifest.updates.isEmpty() && !Viewer::Json::hasUnprintable(result.fault)
-            && result.fault.size() < 1000;
+        return result.manifest.updates.isEmpty()
+            && !Viewer::Json::hasUnprintable(result.fault.getEnglish())
+            && result.fault.getEnglish().size() < 1000;
     for (const CUpdateEntry &update : result.manifest.updates) {
         if (update.models.isEmpty() || update.steps.isEmpty() || update.version.isEmpty())
             return false;

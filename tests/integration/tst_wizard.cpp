@@ -310,7 +310,7 @@ void CWizardTest::updatesCamerasOnTheWire()
 {
     QFETCH(bool, secondDies);
     if (!Viewer::CameraPool::CCameraPool::canSearchNetwork())
-        QSKIP("The viewer was built without the library for cameras on real wires.");
+        QSKIP("The viewer was built without the library for real cameras.");
 
     using TestSupport::CVirtualCameraProcess;
     Viewer::CameraPool::CCameraPoolOptions options;

@@ -138,7 +138,7 @@ void CAcquisitionController::startRecording(const QString &folder)
     QSettings().setValue(RecordingFolderKey, folder);
     QString error;
     if (m_pool.startRecording(m_camera->getId(), folder, &error)) {
-        emit message(tr("%1 records into %2.")
+        emit message(tr("Recording %1 to %2.")
                          .arg(m_camera->getDisplayName(), QDir::toNativeSeparators(folder)));
     } else {
         emit message(error);
@@ -169,14 +169,14 @@ void CAcquisitionController::updatePlaceholder()
         if (m_camerasAvailable)
             m_view.setPlaceholder(tr("No camera selected"), tr("Select a camera in the list."));
         else
-            m_view.setPlaceholder(tr("No cameras found"), tr("Plug one in and press Refresh."));
+            m_view.setPlaceholder(tr("No cameras found"), tr("Plug one in and click Refresh."));
         return;
     }
-    QString hint = tr("Press Start to see its image.");
+    QString hint = tr("Click Start to see its image.");
     if (getActivity() == ECameraActivity::Updating)
         hint = tr("Its firmware is being updated.");
     else if (getActivity() == ECameraActivity::InUseElsewhere)
-        hint = tr("Another application is using it.");
+        hint = tr("It is in use by another application.");
     m_view.setPlaceholder(m_camera->getDisplayName(), hint);
 }
 

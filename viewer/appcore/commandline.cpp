@@ -1,12 +1,14 @@
 #include "commandline.h"
 
-#include "language.h"
+#include "viewer/text/language.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QNetworkInterface>
 
 namespace Viewer::AppCore {
+
+using Text::CLanguage;
 
 static QString absolutePath(const QString &path)
 {
@@ -34,23 +36,26 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(tr("Shows cameras and lets plug-ins work with them."));
-    const QCommandLineOption helpOption = parser.addHelpOption();
-    const QCommandLineOption versionOption = parser.addVersionOption();
+    // Qt has these two options as well, but not in every language.
+    const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")},
+                                        tr("Show this help and quit."));
+    const QCommandLineOption versionOption({QStringLiteral("v"), QStringLiteral("version")},
+                                           tr("Show the version and quit."));
     const QCommandLineOption camerasOption(
         QStringLiteral("cameras"), tr("Simulate the cameras described in <file>."), tr("file"));
     const QCommandLineOption resetOption(
         QStringLiteral("reset-cameras"),
         tr("Forget the firmware that earlier updates wrote to the simulated cameras."));
-    const QCommandLineOption speedOption(
-        QStringLiteral("speed"),
-        tr("Let the simulated cameras work <n> times faster than real ones (a demonstration: %1).")
-            .arg(DemoSpeedFactor),
-        tr("n"));
+    const QCommandLineOption speedOption(QStringLiteral("speed"),
+                                         tr("Let the simulated cameras work <n> times as fast as "
+                                            "real ones (default 1; with --demo %1).")
+                                             .arg(DemoSpeedFactor),
+                                         tr("n"));
     const QCommandLineOption noSimulationOption(QStringLiteral("no-simulation"),
                                                 tr("Leave out the simulated cameras."));
     const QCommandLineOption networkOption(
         QStringLiteral("network"),
-        tr("Search the network and USB for cameras this time, by broadcast."));
+        tr("Search the network (by broadcast) and USB for cameras this time."));
     const QCommandLineOption addressOption(
         QStringLiteral("camera-address"),
         tr("Ask for a camera at <address>, without a broadcast; can be given several times."),
@@ -61,16 +66,25 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     const QCommandLineOption languageOption(
         QStringLiteral("language"), tr("Use the language en, ko, ja or zh this time."), tr("code"));
     const QCommandLineOption samplesOption(QStringLiteral("samples"),
-                                           tr("Offer the update files in <dir>."), tr("dir"));
+                                           tr("Use <dir> as the folder of sample update files."),
+                                           tr("dir"));
     const QCommandLineOption demoOption(
         QStringLiteral("demo"),
-        tr("Walk through the firmware update wizard, save pictures into <dir> and end."),
+        tr("Walk through the firmware update wizard, save pictures into <dir> and quit."),
         tr("dir"));
-    parser.addOptions({camerasOption, resetOption, speedOption, noSimulationOption, networkOption,
-                       addressOption, pluginsOption, languageOption, samplesOption, demoOption});
+    parser.addOptions({helpOption, versionOption, camerasOption, resetOption, speedOption,
+                       noSimulationOption, networkOption, addressOption, pluginsOption,
+                       languageOption, samplesOption, demoOption});
 
-    if (!parser.parse(arguments)) {
+    const bool understood = parser.parse(arguments);
+    m_options.language = parser.value(languageOption);
+    if (!understood) {
         m_message = parser.errorText();
+        return EResult::Error;
+    }
+    if (parser.isSet(languageOption) && !CLanguage::isKnown(m_options.language)) {
+        m_message = tr("The language \"%1\" is unknown; it can be en, ko, ja or zh.")
+                        .arg(m_options.language);
         return EResult::Error;
     }
     if (parser.isSet(helpOption)) {
@@ -86,15 +100,9 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
             = tr("Unexpected argument \"%1\".").arg(parser.positionalArguments().constFirst());
         return EResult::Error;
     }
-    m_options.language = parser.value(languageOption);
-    if (parser.isSet(languageOption) && !CLanguage::isKnown(m_options.language)) {
-        m_message = tr("The language \"%1\" is unknown; it can be en, ko, ja or zh.")
-                        .arg(m_options.language);
-        return EResult::Error;
-    }
     m_options.demoDirectory = absolutePath(parser.value(demoOption));
     if (parser.isSet(demoOption) && m_options.demoDirectory.isEmpty()) {
-        m_message = tr("The folder for the demonstration's pictures is empty.");
+        m_message = tr("No folder is given for the demonstration's pictures.");
         return EResult::Error;
     }
     m_options.pool.speedFactor = m_options.demoDirectory.isEmpty() ? 1.0 : DemoSpeedFactor;
@@ -117,7 +125,8 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         const QHostAddress address(text);
         // In full: "1.2.3" would be taken for 1.2.0.3.
         if (address.toString() != text || !isAddressOfOne(address)) {
-            m_message = tr("\"%1\" is no camera address; it has the form 192.168.0.10.").arg(text);
+            m_message
+                = tr("\"%1\" is not a camera address; it has the form 192.168.0.10.").arg(text);
             return EResult::Error;
         }
         m_options.pool.cameraAddresses.append(address);
@@ -125,7 +134,7 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     const bool wantsRealCameras
         = m_options.pool.searchesNetwork || !m_options.pool.cameraAddresses.isEmpty();
     if (wantsRealCameras && !CameraPool::CCameraPool::canSearchNetwork()) {
-        m_message = tr("This viewer was built without the library for cameras on real wires.");
+        m_message = tr("This viewer was built without the library for real cameras.");
         return EResult::Error;
     }
     const QStringList pluginDirectories = parser.values(pluginsOption);

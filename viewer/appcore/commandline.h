@@ -34,6 +34,8 @@ public:
     static constexpr double DemoSpeedFactor = 4.0;
 
     /// Reads @p arguments, of which the first is the program's name. Needs an application object.
+    /// Whatever comes of it, the options' language is what was asked for, to be used for the
+    /// message.
     EResult parse(const QStringList &arguments);
 
     [[nodiscard]] const CCommandLineOptions &getOptions() const;

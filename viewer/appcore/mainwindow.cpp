@@ -1,8 +1,9 @@
 #include "mainwindow.h"
 
 #include "actioncontainer.h"
-#include "language.h"
 #include "menuservice.h"
+
+#include "viewer/text/language.h"
 
 #include <QActionGroup>
 #include <QCloseEvent>
@@ -14,6 +15,9 @@
 #include <QToolBar>
 
 namespace Viewer::AppCore {
+
+using Text::CLanguage;
+using Text::CLanguageEntry;
 
 static const QLatin1String GeometryKey("mainWindow/geometry");
 static const QLatin1String StateKey("mainWindow/state");
@@ -94,7 +98,7 @@ void CMainWindow::createLanguageMenu(QMenu *menu)
 void CMainWindow::onLanguageTriggered(const QString &code)
 {
     CLanguage::remember(code);
-    showMessage(tr("The language changes when the viewer is started the next time."));
+    showMessage(tr("The language changes the next time the viewer starts."));
 }
 
 void CMainWindow::setCloseGuard(const CloseGuard &guard)

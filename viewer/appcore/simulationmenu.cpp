@@ -37,7 +37,7 @@ void CSimulationMenu::fill()
             else
                 m_simulation.unplug(id);
         });
-        QAction *const busyAction = menu->addAction(tr("&Busy elsewhere"));
+        QAction *const busyAction = menu->addAction(tr("In &use elsewhere"));
         busyAction->setCheckable(true);
         busyAction->setChecked(camera.busy);
         busyAction->setEnabled(camera.plugged);

@@ -135,7 +135,7 @@ void CViewer::fillMenus()
                                             tr("Re&fresh"), m_window.get());
     refreshAction->setObjectName(QStringLiteral("refresh"));
     refreshAction->setShortcut(Qt::Key_F5);
-    refreshAction->setToolTip(tr("Look for cameras (F5)"));
+    refreshAction->setToolTip(tr("Search for cameras (F5)"));
     connect(refreshAction, &QAction::triggered, getEnumerationService().data(),
             &ICameraEnumerationService::refreshEnumeration);
     m_window->getToolBar()->addSeparator();

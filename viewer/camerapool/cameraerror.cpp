@@ -2,6 +2,7 @@
 
 namespace Viewer::CameraPool {
 
+using Text::CErrorText;
 CCameraError::CCameraError(const QString &cameraName, const CErrorText &cause)
     : CCameraError(CErrorText::tr("Camera %1: %2").arg(cameraName, cause))
 {

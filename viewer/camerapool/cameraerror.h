@@ -1,6 +1,6 @@
 #pragma once
 
-#include "errortext.h"
+#include "viewer/text/errortext.h"
 
 #include "core/baseexception.h"
 
@@ -12,16 +12,16 @@ class CCameraError : public Core::Exception::BaseException
 {
 public:
     /// "Camera <name>: <cause>"
-    CCameraError(const QString &cameraName, const CErrorText &cause);
+    CCameraError(const QString &cameraName, const Text::CErrorText &cause);
     ~CCameraError() override;
 
     /// The message, also in the user's language.
-    [[nodiscard]] CErrorText getText() const;
+    [[nodiscard]] Text::CErrorText getText() const;
 
 private:
-    explicit CCameraError(const CErrorText &text);
+    explicit CCameraError(const Text::CErrorText &text);
 
-    CErrorText m_text;
+    Text::CErrorText m_text;
 };
 
 } // namespace Viewer::CameraPool

@@ -250,7 +250,7 @@ void CCameraPool::onCameraStateChanged(const QString &cameraId)
         && (activity == ECameraActivity::Acquiring || activity == ECameraActivity::Recording)) {
         stopAcquisition(cameraId);
         emit streamFailed(cameraId,
-                          tr("Camera %1 does not answer any more; its acquisition has ended.")
+                          tr("Camera %1 no longer answers; acquisition has stopped.")
                               .arg(getDisplayName(cameraId)));
     }
     emit activityChanged(cameraId);
@@ -275,7 +275,7 @@ bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity,
     if (!d->simulation.hasCamera(cameraId)) {
         setError(
             error,
-            tr("Camera %1 is on a real wire; only its firmware can be updated here.").arg(name));
+            tr("Camera %1 is a real camera; only its firmware can be updated here.").arg(name));
         return false;
     }
     if (!d->simulation.isPlugged(cameraId)) {
@@ -283,7 +283,7 @@ bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity,
         return false;
     }
     if (getActivity(cameraId) == ECameraActivity::InUseElsewhere) {
-        setError(error, tr("Camera %1 is used by another application.").arg(name));
+        setError(error, tr("Camera %1 is in use by another application.").arg(name));
         return false;
     }
     if (d->activities->begin(cameraId, activity) == ECameraActivity::Updating) {

@@ -75,7 +75,7 @@ public:
     /// True while an update job executes, on whatever thread.
     [[nodiscard]] bool isUpdateRunning() const;
 
-    /// False: the viewer was built without the library for cameras on real wires.
+    /// False: the viewer was built without the library for real cameras.
     [[nodiscard]] static bool canSearchNetwork();
     [[nodiscard]] bool searchesNetwork() const;
 

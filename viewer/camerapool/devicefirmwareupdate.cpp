@@ -13,6 +13,7 @@ namespace Viewer::CameraPool {
 
 using Plugin::CameraPool::EFirmwareUpdateDirection;
 using Plugin::CameraPool::IFirmwareUpdateInfo;
+using Text::CErrorText;
 
 static unsigned int toUnsigned(std::chrono::milliseconds time)
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "errortext.h"
 #include "updaterun.h"
+#include "viewer/text/errortext.h"
 
 #include "camerapool/idevicefirmwareupdate.h"
 
@@ -54,11 +54,12 @@ private:
 
     /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
     /// counts as being updated.
-    [[nodiscard]] CErrorText execute(bool &claimed) noexcept;
+    [[nodiscard]] Text::CErrorText execute(bool &claimed) noexcept;
     /// The same, but throws when memory runs out.
-    [[nodiscard]] CErrorText attempt(CUpdateRun &run, bool &claimed);
-    void announceEnd(const CErrorText &error) noexcept;
-    [[nodiscard]] CErrorText getErrorText(const CErrorText &message, bool written) const;
+    [[nodiscard]] Text::CErrorText attempt(CUpdateRun &run, bool &claimed);
+    void announceEnd(const Text::CErrorText &error) noexcept;
+    [[nodiscard]] Text::CErrorText getErrorText(const Text::CErrorText &message,
+                                                bool written) const;
 
     const CCamera m_camera;
     const QSharedPointer<CFirmwareUpdateInfo> m_info;
@@ -66,8 +67,8 @@ private:
     const std::shared_ptr<CCameraActivities> m_activities;
     const std::shared_ptr<CErrorTranslator> m_errors;
     // Made beforehand: when memory runs out there is none for a message.
-    const CErrorText m_outOfMemoryText;
-    const CErrorText m_outOfMemoryWrittenText;
+    const Text::CErrorText m_outOfMemoryText;
+    const Text::CErrorText m_outOfMemoryWrittenText;
     std::unique_ptr<ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;
     mutable std::mutex m_versionMutex;

@@ -1,9 +1,10 @@
 #include "errortranslator.h"
 
-#include "errortext.h"
+#include "viewer/text/errortext.h"
 
 namespace Viewer::CameraPool {
 
+using Text::CErrorText;
 CErrorTranslator::CErrorTranslator(QObject *parent)
     : QTranslator(parent)
 {

@@ -6,9 +6,11 @@
 
 #include <mutex>
 
-namespace Viewer::CameraPool {
-
+namespace Viewer::Text {
 class CErrorText;
+}
+
+namespace Viewer::CameraPool {
 
 /// Finds the user's language for errors that travel in English.
 ///
@@ -24,7 +26,7 @@ public:
     ~CErrorTranslator() override;
 
     /// Any thread.
-    void remember(const CErrorText &text);
+    void remember(const Text::CErrorText &text);
 
     [[nodiscard]] QString translate(const char *context, const char *sourceText,
                                     const char *disambiguation, int n) const override;

@@ -16,6 +16,7 @@
 
 namespace Viewer::CameraPool {
 
+using Text::CErrorText;
 using namespace std::chrono_literals;
 using Plugin::CameraPool::EFirmwareUpdateStep;
 using UpdateFile::CFeatureValue;
@@ -23,11 +24,6 @@ using UpdateFile::CUpdateStep;
 
 static constexpr std::chrono::milliseconds OpenLimit = 10s;
 static constexpr std::chrono::milliseconds FeatureLimit = 5s;
-
-static QString quote(const QString &text)
-{
-    return QStringLiteral("\"%1\"").arg(text);
-}
 
 CUpdateRun::CUpdateRun(const QString &cameraName, const UpdateFile::CUpdateEntry &entry,
                        const QString &filePath, ICameraDevice &device, IListener &listener)
@@ -107,24 +103,23 @@ void CUpdateRun::checkPreconditions(const CUpdateStep *step)
         fail(CErrorText::tr("it cannot be updated now, since it reports status %1").arg(status));
     const QString model = readFeature(QStringLiteral("DeviceModelName"));
     if (!m_entry.models.contains(model))
-        fail(CErrorText::tr("the update is not for its model %1").arg(quote(model)));
+        fail(CErrorText::tr("the update is not for its model \"%1\"").arg(model));
     const QString deviceVersion = readFeature(QStringLiteral("DeviceVersion"));
     if (!m_entry.deviceVersions.isEmpty() && !m_entry.deviceVersions.contains(deviceVersion))
-        fail(CErrorText::tr("the update is not for its device version %1")
-                 .arg(quote(deviceVersion)));
+        fail(CErrorText::tr("the update is not for its device version \"%1\"").arg(deviceVersion));
     const QString version = readFirmwareVersion();
     if (isBelow(version, m_entry.minimumVersion))
-        fail(CErrorText::tr("its firmware version %1 is below %2, from which on the update can be "
-                            "installed; install an older update first")
-                 .arg(quote(version), m_entry.minimumVersion));
+        fail(CErrorText::tr("the update needs firmware version %1 or later, but the camera has "
+                            "\"%2\"; install an older update first")
+                 .arg(m_entry.minimumVersion, version));
     if (!step)
         return;
     for (const CFeatureValue &precondition : step->preconditions) {
         const QString value = readFeature(precondition.feature);
         if (value != precondition.value)
-            fail(CErrorText::tr("a precondition of the update is not met: its feature %1 is %2 "
-                                "instead of %3")
-                     .arg(quote(precondition.feature), quote(value), quote(precondition.value)));
+            fail(CErrorText::tr("a precondition of the update is not met: its feature \"%1\" is "
+                                "\"%2\" instead of \"%3\"")
+                     .arg(precondition.feature, value, precondition.value));
     }
 }
 
@@ -169,8 +164,8 @@ void CUpdateRun::assertFeature(const CFeatureValue &expected)
         ? readFirmwareVersion()
         : readFeature(expected.feature);
     if (value != expected.value)
-        fail(CErrorText::tr("its feature %1 is %2 instead of %3")
-                 .arg(quote(expected.feature), quote(value), quote(expected.value)));
+        fail(CErrorText::tr("its feature \"%1\" is \"%2\" instead of \"%3\"")
+                 .arg(expected.feature, value, expected.value));
 }
 
 void CUpdateRun::upload(const CUpdateStep &step)
@@ -201,8 +196,8 @@ void CUpdateRun::checkVersion()
 {
     const QString version = readFirmwareVersion();
     if (!isSameVersion(version, m_entry.version))
-        fail(CErrorText::tr("after the update it reports firmware version %1 instead of %2")
-                 .arg(quote(version), m_entry.version));
+        fail(CErrorText::tr("after the update it reports firmware version \"%1\" instead of %2")
+                 .arg(version, m_entry.version));
 }
 
 QString CUpdateRun::readFirmwareVersion()

@@ -8,9 +8,12 @@
 #include <memory>
 #include <optional>
 
+namespace Viewer::Text {
+class CErrorText;
+}
+
 namespace Viewer::CameraPool {
 
-class CErrorText;
 class ICameraDevice;
 
 namespace UpdateFile {
@@ -63,7 +66,7 @@ private:
     void checkVersion();
     [[nodiscard]] QString readFirmwareVersion();
     [[nodiscard]] QString readFeature(const QString &name);
-    [[noreturn]] void fail(const CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause) const;
 
     const QString m_cameraName;
     const UpdateFile::CUpdateEntry &m_entry;

@@ -18,23 +18,6 @@ using CameraPool::UpdateFile::CUpdateManifest;
 
 namespace {
 
-QString getUsage()
-{
-    return QStringLiteral(
-        "Usage: guftool pack DIR FILE\n"
-        "       guftool inspect [--json] FILE\n"
-        "       guftool verify FILE\n"
-        "\n"
-        "pack     makes the update file FILE from DIR/update.json and the payloads\n"
-        "         in DIR that it names; sizes and digests that it leaves out are\n"
-        "         filled in\n"
-        "inspect  checks FILE and shows what it holds, with --json as JSON\n"
-        "verify   checks FILE\n"
-        "\n"
-        "Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong\n"
-        "call of this program.\n");
-}
-
 QCommandLineOption getJsonOption()
 {
     return QCommandLineOption(QStringLiteral("json"));
@@ -67,7 +50,7 @@ int CGufTool::run(const QStringList &arguments)
     try {
         return runCommand(parser);
     } catch (const CUpdateFileError &error) {
-        m_errorOutput << error.getMessage() << Qt::endl;
+        m_errorOutput << error.getText().getLocalized() << Qt::endl;
         return FileFaulty;
     }
 }
@@ -76,18 +59,17 @@ int CGufTool::runCommand(const QCommandLineParser &parser)
 {
     const QStringList arguments = parser.positionalArguments();
     if (arguments.isEmpty())
-        return reportWrongUsage(QStringLiteral("There is no command."));
+        return reportWrongUsage(tr("There is no command."));
     const QString &command = arguments.constFirst();
     const bool isPack = command == QLatin1String("pack");
     const bool isInspect = command == QLatin1String("inspect");
     if (!isPack && !isInspect && command != QLatin1String("verify"))
-        return reportWrongUsage(QStringLiteral("The command \"%1\" is unknown.").arg(command));
+        return reportWrongUsage(tr("The command \"%1\" is unknown.").arg(command));
     if (arguments.size() != (isPack ? 3 : 2))
         return reportWrongUsage(
-            QStringLiteral("The command \"%1\" has too few or too many arguments.").arg(command));
+            tr("The command \"%1\" has too few or too many arguments.").arg(command));
     if (parser.isSet(getJsonOption()) && !isInspect)
-        return reportWrongUsage(
-            QStringLiteral("The command \"%1\" has no option --json.").arg(command));
+        return reportWrongUsage(tr("The command \"%1\" has no option --json.").arg(command));
 
     if (isPack)
         pack(arguments.at(1), arguments.at(2));
@@ -101,7 +83,7 @@ int CGufTool::runCommand(const QCommandLineParser &parser)
 void CGufTool::pack(const QString &folder, const QString &file)
 {
     const CUpdateManifest manifest = CUpdateFilePacker(folder).pack(file);
-    m_output << QStringLiteral("Packed %1: updates: %2, bytes: %3")
+    m_output << tr("Packed %1: updates: %2, bytes: %3")
                     .arg(QDir::toNativeSeparators(file), QString::number(manifest.updates.size()),
                          QString::number(QFileInfo(file).size()))
              << Qt::endl;
@@ -118,9 +100,26 @@ void CGufTool::inspect(const QString &file, bool asJson)
 void CGufTool::verify(const QString &file)
 {
     const CUpdateManifest manifest = CUpdateFileReader::read(file);
-    m_output << QStringLiteral("%1 is faultless, updates: %2")
+    m_output << tr("%1 is faultless, updates: %2")
                     .arg(QDir::toNativeSeparators(file), QString::number(manifest.updates.size()))
              << Qt::endl;
+}
+
+QString CGufTool::getUsage()
+{
+    //: At most 80 columns wide; Korean, Japanese and Chinese letters take two.
+    return tr("Usage: guftool pack DIR FILE\n"
+              "       guftool inspect [--json] FILE\n"
+              "       guftool verify FILE\n"
+              "\n"
+              "pack     makes the update file FILE from DIR/update.json and the payloads\n"
+              "         in DIR that it names; sizes and digests that it leaves out are\n"
+              "         filled in\n"
+              "inspect  checks FILE and shows what it holds, with --json as JSON\n"
+              "verify   checks FILE\n"
+              "\n"
+              "Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong\n"
+              "call of this program.\n");
 }
 
 int CGufTool::reportWrongUsage(const QString &cause)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QStringList>
 
 class QCommandLineParser;
@@ -7,9 +8,12 @@ class QTextStream;
 
 namespace Viewer::GufTool {
 
-/// The command-line program that packs, shows and checks update files.
+/// The command-line program that packs, shows and checks update files. It speaks the language of
+/// the catalogues that the application has installed.
 class CGufTool
 {
+    Q_DECLARE_TR_FUNCTIONS(Viewer::GufTool::CGufTool)
+
 public:
     enum EExitCode : int {
         Success = 0,
@@ -29,6 +33,7 @@ private:
     void pack(const QString &folder, const QString &file);
     void inspect(const QString &file, bool asJson);
     void verify(const QString &file);
+    [[nodiscard]] static QString getUsage();
     int reportWrongUsage(const QString &cause);
 
     QTextStream &m_output;

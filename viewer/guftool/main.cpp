@@ -1,5 +1,7 @@
 #include "guftool.h"
 
+#include "viewer/text/language.h"
+
 #include <QCoreApplication>
 #include <QTextStream>
 
@@ -7,6 +9,8 @@ int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("guftool"));
+    using Viewer::Text::CLanguage;
+    const CLanguage language(CLanguage::getSystem());
 
     QTextStream output(stdout);
     output.setCodec("UTF-8");

@@ -19,73 +19,14 @@ using Plugin::CameraPool::EFirmwareUpdateStep;
 
 namespace {
 
-QString toText(const CFeatureValue &feature)
+QString formatFeature(const CFeatureValue &feature)
 {
     return QStringLiteral("%1 = %2").arg(feature.feature, feature.value);
-}
-
-/// What the step works on.
-QString describeStep(const CUpdateStep &step)
-{
-    switch (step.kind) {
-    case EFirmwareUpdateStep::CheckPreconditions: {
-        QStringList conditions;
-        for (const CFeatureValue &condition : step.preconditions)
-            conditions.append(toText(condition));
-        return conditions.join(QStringLiteral(", "));
-    }
-    case EFirmwareUpdateStep::FeatureWrite:
-    case EFirmwareUpdateStep::FeatureAssert:
-        return toText(step.feature);
-    case EFirmwareUpdateStep::FeatureExecute:
-        return step.feature.feature;
-    case EFirmwareUpdateStep::FileUpload:
-        return QStringLiteral("%1 (%2 bytes) to %3")
-            .arg(step.payload.name, QString::number(step.payload.size), step.targetFile);
-    default:
-        return QString();
-    }
-}
-
-QString formatStep(int number, const CUpdateStep &step)
-{
-    const QString estimate = step.estimatedMs ? QStringLiteral("%1 ms").arg(*step.estimatedMs)
-                                              : QStringLiteral("by size");
-    QString line = QStringLiteral("    %1. %2 %3  %4")
-                       .arg(QString::number(number).rightJustified(2),
-                            getStepKindName(step.kind).leftJustified(18),
-                            estimate.rightJustified(11), describeStep(step));
-    if (!step.description.isEmpty())
-        line += QStringLiteral("  [%1]").arg(step.description);
-    while (line.endsWith(QLatin1Char(' ')))
-        line.chop(1);
-    return line;
 }
 
 QString orElse(const QString &text, const QString &substitute)
 {
     return text.isEmpty() ? substitute : text;
-}
-
-void appendUpdate(QStringList &lines, int number, const CUpdateEntry &update)
-{
-    const QString comma = QStringLiteral(", ");
-    QString notes = update.releaseNotes;
-    notes.replace(QLatin1Char('\n'), QStringLiteral("\n                    "));
-    lines.append(QString());
-    lines.append(QStringLiteral("Update %1").arg(number));
-    lines.append(QStringLiteral("  Version:          ") + update.version);
-    lines.append(QStringLiteral("  Description:      ")
-                 + orElse(update.description, QStringLiteral("none")));
-    lines.append(QStringLiteral("  Models:           ") + update.models.join(comma));
-    lines.append(QStringLiteral("  Device versions:  ")
-                 + orElse(update.deviceVersions.join(comma), QStringLiteral("any")));
-    lines.append(QStringLiteral("  Minimum version:  ")
-                 + orElse(update.minimumVersion, QStringLiteral("none")));
-    lines.append(QStringLiteral("  Release notes:    ") + orElse(notes, QStringLiteral("none")));
-    lines.append(QStringLiteral("  Steps:"));
-    for (int index = 0; index < update.steps.size(); ++index)
-        lines.append(formatStep(index + 1, update.steps.at(index)));
 }
 
 QJsonObject toJsonObject(const CFeatureValue &feature)
@@ -148,14 +89,82 @@ CManifestPrinter::CManifestPrinter(const QString &file, const CUpdateManifest &m
 {
 }
 
+// The columns are part of the texts: only who writes one knows how wide its words are.
 QString CManifestPrinter::toText() const
 {
-    QStringList lines{QStringLiteral("File:     ") + m_file,
-                      QStringLiteral("Format:   %1").arg(CameraPool::UpdateFile::FORMAT_VERSION),
-                      QStringLiteral("Updates:  %1").arg(m_manifest.updates.size())};
+    QString text = tr("File:     %1\n"
+                      "Format:   %2\n"
+                      "Updates:  %3\n")
+                       .arg(m_file, QString::number(CameraPool::UpdateFile::FORMAT_VERSION),
+                            QString::number(m_manifest.updates.size()));
     for (int index = 0; index < m_manifest.updates.size(); ++index)
-        appendUpdate(lines, index + 1, m_manifest.updates.at(index));
-    return lines.join(QLatin1Char('\n')) + QLatin1Char('\n');
+        text += describeUpdate(index + 1, m_manifest.updates.at(index));
+    return text;
+}
+
+QString CManifestPrinter::describeUpdate(int number, const CUpdateEntry &update)
+{
+    const QString comma = QStringLiteral(", ");
+    const QString none = tr("none");
+    QString notes = update.releaseNotes;
+    notes.replace(QLatin1Char('\n'), QStringLiteral("\n                    "));
+    //: The values begin in column 20; Korean, Japanese and Chinese letters take two columns.
+    QString text
+        = tr("\n"
+             "Update %1\n"
+             "  Version:          %2\n"
+             "  Description:      %3\n"
+             "  Models:           %4\n"
+             "  Device versions:  %5\n"
+             "  Minimum version:  %6\n"
+             "  Release notes:    %7\n"
+             "  Steps:\n")
+              .arg(QString::number(number), update.version, orElse(update.description, none),
+                   update.models.join(comma), orElse(update.deviceVersions.join(comma), tr("any")),
+                   orElse(update.minimumVersion, none), orElse(notes, none));
+    for (int index = 0; index < update.steps.size(); ++index)
+        text += formatStep(index + 1, update.steps.at(index)) + QLatin1Char('\n');
+    return text;
+}
+
+QString CManifestPrinter::formatStep(int number, const CUpdateStep &step)
+{
+    const QString estimate = step.estimatedMs
+        ? QStringLiteral("%1 ms").arg(*step.estimatedMs).rightJustified(11)
+        //: Eleven columns wide; Korean, Japanese and Chinese letters take two columns.
+        : tr("    by size");
+    QString line
+        = QStringLiteral("    %1. %2 %3  %4")
+              .arg(QString::number(number).rightJustified(2),
+                   getStepKindName(step.kind).leftJustified(18), estimate, describeStep(step));
+    if (!step.description.isEmpty())
+        line += QStringLiteral("  [%1]").arg(step.description);
+    while (line.endsWith(QLatin1Char(' ')))
+        line.chop(1);
+    return line;
+}
+
+/// What the step works on.
+QString CManifestPrinter::describeStep(const CUpdateStep &step)
+{
+    switch (step.kind) {
+    case EFirmwareUpdateStep::CheckPreconditions: {
+        QStringList conditions;
+        for (const CFeatureValue &condition : step.preconditions)
+            conditions.append(formatFeature(condition));
+        return conditions.join(QStringLiteral(", "));
+    }
+    case EFirmwareUpdateStep::FeatureWrite:
+    case EFirmwareUpdateStep::FeatureAssert:
+        return formatFeature(step.feature);
+    case EFirmwareUpdateStep::FeatureExecute:
+        return step.feature.feature;
+    case EFirmwareUpdateStep::FileUpload:
+        return tr("%1 (%2 bytes) to %3")
+            .arg(step.payload.name, QString::number(step.payload.size), step.targetFile);
+    default:
+        return QString();
+    }
 }
 
 QString CManifestPrinter::toJson() const

@@ -2,6 +2,7 @@
 
 #include "viewer/camerapool/updatefile/updatemanifest.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace Viewer::GufTool {
@@ -9,11 +10,13 @@ namespace Viewer::GufTool {
 /// Shows what an update file holds.
 class CManifestPrinter
 {
+    Q_DECLARE_TR_FUNCTIONS(Viewer::GufTool::CManifestPrinter)
+
 public:
     /// @p file is the update file's path, for display.
     CManifestPrinter(const QString &file, const CameraPool::UpdateFile::CUpdateManifest &manifest);
 
-    /// Lines of text for people.
+    /// Lines of text for people, in their language.
     [[nodiscard]] QString toText() const;
 
     /// A JSON object: "file", "formatVersion" and "updates" with the fields of the manifest; fields
@@ -21,6 +24,12 @@ public:
     [[nodiscard]] QString toJson() const;
 
 private:
+    [[nodiscard]] static QString describeUpdate(int number,
+                                                const CameraPool::UpdateFile::CUpdateEntry &update);
+    [[nodiscard]] static QString formatStep(int number,
+                                            const CameraPool::UpdateFile::CUpdateStep &step);
+    [[nodiscard]] static QString describeStep(const CameraPool::UpdateFile::CUpdateStep &step);
+
     const QString m_file;
     const CameraPool::UpdateFile::CUpdateManifest m_manifest;
 };

@@ -24,6 +24,7 @@ namespace Viewer::GufTool {
 
 using namespace CameraPool::UpdateFile;
 using Plugin::CameraPool::EFirmwareUpdateStep;
+using Text::CErrorText;
 
 namespace {
 
@@ -60,15 +61,15 @@ QStringList collectPayloadNames(const CUpdateManifest &manifest)
 }
 
 /// Returns what went wrong; empty: nothing.
-QString writeArchive(const QString &file, const QByteArray &manifest, const QDir &folder,
-                     const QStringList &payloadNames)
+CErrorText writeArchive(const QString &file, const QByteArray &manifest, const QDir &folder,
+                        const QStringList &payloadNames)
 {
     int zipError = ZIP_ER_OK;
     CZipPointer archive(
         zip_open(QFile::encodeName(file).constData(), ZIP_CREATE | ZIP_EXCL, &zipError),
         zip_discard);
     if (!archive)
-        return QStringLiteral("the archive cannot be created");
+        return CErrorText::tr("the archive cannot be created");
     bool isAdded = addFile(archive.get(), getManifestName(),
                            zip_source_buffer(archive.get(), manifest.constData(),
                                              static_cast<zip_uint64_t>(manifest.size()), 0));
@@ -80,9 +81,9 @@ QString writeArchive(const QString &file, const QByteArray &manifest, const QDir
     }
     if (isAdded && zip_close(archive.get()) == 0) {
         static_cast<void>(archive.release());
-        return QString();
+        return {};
     }
-    return QStringLiteral("the archive cannot be written: %1")
+    return CErrorText::tr("the archive cannot be written: %1")
         .arg(QString::fromUtf8(zip_strerror(archive.get())));
 }
 
@@ -104,7 +105,8 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
     const QStringList payloadNames = collectPayloadNames(result.manifest);
     for (const QString &name : payloadNames) {
         if (!QFileInfo(folder.filePath(name)).isFile())
-            fail(QStringLiteral("the payload %1 is missing in the folder").arg(Json::quote(name)));
+            fail(CErrorText::tr("the payload \"%1\" is missing in the folder")
+                     .arg(Json::shorten(name)));
     }
 
     // Beside the file, as only a rename within one file system replaces it in one go.
@@ -112,9 +114,9 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
     const QTemporaryDir workFolder(
         target.absoluteDir().filePath(QStringLiteral(".guftool-XXXXXX")));
     if (!workFolder.isValid())
-        throw CUpdateFileError(file, QStringLiteral("its folder does not exist or is read-only"));
+        throw CUpdateFileError(file, CErrorText::tr("its folder does not exist or is read-only"));
     const QString draft = workFolder.filePath(QStringLiteral("draft.guf"));
-    const QString writeFault = writeArchive(draft, json, folder, payloadNames);
+    const CErrorText writeFault = writeArchive(draft, json, folder, payloadNames);
     if (!writeFault.isEmpty())
         throw CUpdateFileError(file, writeFault);
 
@@ -123,7 +125,7 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
         if (std::rename(QFile::encodeName(draft).constData(),
                         QFile::encodeName(target.absoluteFilePath()).constData())
             != 0)
-            throw CUpdateFileError(file, QStringLiteral("the file cannot be replaced"));
+            throw CUpdateFileError(file, CErrorText::tr("the file cannot be replaced"));
         return manifest;
     } catch (const CUpdateFileError &error) {
         throw CUpdateFileError(file, error.getCause());
@@ -134,16 +136,15 @@ QByteArray CUpdateFilePacker::readSource() const
 {
     const QFileInfo info(QDir(m_folder).filePath(getManifestName()));
     if (!QFileInfo(m_folder).isDir())
-        fail(QStringLiteral("this is not a folder"));
+        fail(CErrorText::tr("this is not a folder"));
     if (!info.isFile())
-        fail(QStringLiteral("there is no update.json in the folder"));
+        fail(CErrorText::tr("there is no update.json in the folder"));
     if (info.size() > Limits::MANIFEST_SIZE)
-        fail(QStringLiteral("update.json has %1 bytes; %2 are allowed")
-                 .arg(info.size())
-                 .arg(Limits::MANIFEST_SIZE));
+        fail(CErrorText::tr("update.json has %1 bytes; at most %2 are allowed")
+                 .arg(QString::number(info.size()), QString::number(Limits::MANIFEST_SIZE)));
     QFile source(info.filePath());
     if (!source.open(QIODevice::ReadOnly))
-        fail(QStringLiteral("update.json cannot be opened; check its access rights"));
+        fail(CErrorText::tr("update.json cannot be opened; check its access rights"));
     return source.readAll();
 }
 
@@ -151,7 +152,7 @@ QByteArray CUpdateFilePacker::completeManifest(const QByteArray &source) const
 {
     CJsonResult text = parseJsonObject(source, Limits::NESTING);
     if (!text.fault.isEmpty())
-        fail(QStringLiteral("update.json ") + text.fault);
+        fail(CErrorText::tr("update.json %1").arg(text.fault));
 
     // Whatever is not as the format wants it is left alone here and refused when the result is
     // parsed.
@@ -189,13 +190,14 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
 
     const QFileInfo info(QDir(m_folder).filePath(name));
     if (!info.isFile())
-        fail(QStringLiteral("the payload %1 is missing in the folder").arg(Json::quote(name)));
+        fail(
+            CErrorText::tr("the payload \"%1\" is missing in the folder").arg(Json::shorten(name)));
     if (info.size() == 0)
-        fail(QStringLiteral("the payload %1 is empty").arg(Json::quote(name)));
+        fail(CErrorText::tr("the payload \"%1\" is empty").arg(Json::shorten(name)));
     QFile payload(info.filePath());
     QCryptographicHash hash(QCryptographicHash::Sha256);
     if (!payload.open(QIODevice::ReadOnly) || !hash.addData(&payload))
-        fail(QStringLiteral("the payload %1 cannot be read").arg(Json::quote(name)));
+        fail(CErrorText::tr("the payload \"%1\" cannot be read").arg(Json::shorten(name)));
     if (!step.contains(sizeField))
         step.insert(sizeField, info.size());
     if (!step.contains(digestField))
@@ -203,7 +205,7 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
     return step;
 }
 
-void CUpdateFilePacker::fail(const QString &cause) const
+void CUpdateFilePacker::fail(const CErrorText &cause) const
 {
     throw CUpdateFileError(m_folder, cause);
 }

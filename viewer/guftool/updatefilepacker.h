@@ -1,6 +1,7 @@
 #pragma once
 
 #include "viewer/camerapool/updatefile/updatemanifest.h"
+#include "viewer/text/errortext.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -23,7 +24,7 @@ private:
     [[nodiscard]] QByteArray readSource() const;
     [[nodiscard]] QByteArray completeManifest(const QByteArray &source) const;
     [[nodiscard]] QJsonObject completeStep(QJsonObject step) const;
-    [[noreturn]] void fail(const QString &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause) const;
 
     const QString m_folder;
 };

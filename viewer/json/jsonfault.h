@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/text/errortext.h"
+
 #include <QString>
 
 namespace Viewer::Json {
@@ -11,7 +13,7 @@ struct CJsonFault
     int line = 0; ///< from 1
     int column = 0; ///< from 1, in characters
     QString field; ///< its whole path, as in layers[0].id; empty at the top level
-    QString problem; ///< end of a sentence, on one line
+    Text::CErrorText problem; ///< end of a sentence, on one line
 };
 
 } // namespace Viewer::Json

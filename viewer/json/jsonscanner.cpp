@@ -8,6 +8,8 @@
 
 namespace Viewer::Json {
 
+using Text::CErrorText;
+
 /// Characters of a wrong number that a sentence shows.
 static constexpr int FOUND_LENGTH = 40;
 /// Characters of a name that a sentence shows.
@@ -79,12 +81,12 @@ bool CJsonScanner::nextMember(QString &name)
     m_valueOffset = m_offset;
     m_levels.last().nameOffset = m_offset;
     if (!isAt('"'))
-        failExpected(QStringLiteral("the name of a field in double quotes"));
+        failExpected(CErrorText::tr("the name of a field in double quotes"));
     name = readString();
     skipSpace();
     if (!isAt(':'))
         failAt(m_offset,
-               QStringLiteral("expected a colon after \"%1\", found %2")
+               CErrorText::tr("expected a colon after \"%1\", found %2")
                    .arg(toSingleLine(name.left(NAME_LENGTH)), getFound()));
     ++m_offset;
     skipSpace();
@@ -110,7 +112,7 @@ QString CJsonScanner::readText()
 {
     m_valueOffset = m_offset;
     if (!isAt('"'))
-        failExpected(QStringLiteral("a text in double quotes"));
+        failExpected(CErrorText::tr("a text in double quotes"));
     return readString();
 }
 
@@ -123,7 +125,7 @@ double CJsonScanner::readNumber()
     bool readable = GRAMMAR.match(QString::fromLatin1(digits)).hasMatch();
     const double value = readable ? digits.toDouble(&readable) : 0;
     if (!readable)
-        fail(QStringLiteral("expected a number, found %1")
+        fail(CErrorText::tr("expected a number, found %1")
                  .arg(QString::fromLatin1(digits.left(FOUND_LENGTH))));
     return value;
 }
@@ -131,16 +133,19 @@ double CJsonScanner::readNumber()
 qint64 CJsonScanner::readInteger(qint64 minimum, qint64 maximum)
 {
     m_valueOffset = m_offset;
-    const QString wanted = QStringLiteral("a whole number from %1 to %2").arg(minimum).arg(maximum);
+    const auto describeWanted = [minimum, maximum] {
+        return CErrorText::tr("a whole number from %1 to %2")
+            .arg(QString::number(minimum), QString::number(maximum));
+    };
     const QByteArray digits = takeNumber();
     if (digits.isEmpty())
-        failExpected(wanted);
+        failExpected(describeWanted());
     bool readable = false;
     const qint64 value = digits.toLongLong(&readable);
     // The strict form: no plus sign, no leading zeros.
     if (!readable || QByteArray::number(value) != digits || value < minimum || value > maximum)
-        fail(QStringLiteral("expected %1, found %2")
-                 .arg(wanted, QString::fromLatin1(digits.left(FOUND_LENGTH))));
+        fail(CErrorText::tr("expected %1, found %2")
+                 .arg(describeWanted(), QString::fromLatin1(digits.left(FOUND_LENGTH))));
     return value;
 }
 
@@ -151,21 +156,21 @@ bool CJsonScanner::readBoolean()
         return true;
     if (takeWord("false"))
         return false;
-    failExpected(QStringLiteral("true or false"));
+    failExpected(CErrorText::tr("true or false"));
 }
 
 void CJsonScanner::readNull()
 {
     m_valueOffset = m_offset;
     if (!takeWord("null"))
-        failExpected(QStringLiteral("null"));
+        failExpected(CErrorText::tr("null"));
 }
 
 void CJsonScanner::expectEnd()
 {
     skipSpace();
     if (m_offset < m_text.size())
-        failAt(m_offset, QStringLiteral("expected the end of the text, found %1").arg(getFound()));
+        failAt(m_offset, CErrorText::tr("expected the end of the text, found %1").arg(getFound()));
 }
 
 int CJsonScanner::getDepth() const
@@ -194,19 +199,19 @@ int CJsonScanner::getColumn(int position) const
     return QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4().size() + 1;
 }
 
-void CJsonScanner::fail(const QString &problem) const
+void CJsonScanner::fail(const CErrorText &problem) const
 {
     failAt(m_valueOffset, problem);
 }
 
-void CJsonScanner::failAt(int position, const QString &problem) const
+void CJsonScanner::failAt(int position, const CErrorText &problem) const
 {
     throw CJsonFault{getLine(position), getColumn(position), getField(), problem};
 }
 
-void CJsonScanner::failExpected(const QString &expected) const
+void CJsonScanner::failExpected(const CErrorText &expected) const
 {
-    fail(QStringLiteral("expected %1, found %2").arg(expected, getFound()));
+    fail(CErrorText::tr("expected %1, found %2").arg(expected, getFound()));
 }
 
 void CJsonScanner::skipSpace()
@@ -224,8 +229,8 @@ void CJsonScanner::begin(char bracket, bool isArray)
     skipSpace();
     m_valueOffset = m_offset;
     if (!isAt(bracket))
-        failExpected(isArray ? QStringLiteral("a list that begins with \"[\"")
-                             : QStringLiteral("an object that begins with \"{\""));
+        failExpected(isArray ? CErrorText::tr("a list that begins with \"[\"")
+                             : CErrorText::tr("an object that begins with \"{\""));
     ++m_offset;
     CLevel level;
     level.isArray = isArray;
@@ -244,9 +249,8 @@ bool CJsonScanner::nextItem(char closing)
     if (level.count > 0) {
         if (!isAt(','))
             failAt(m_offset,
-                   QStringLiteral("expected a comma or \"%1\", found %2")
-                       .arg(QLatin1Char(closing))
-                       .arg(getFound()));
+                   CErrorText::tr("expected a comma or \"%1\", found %2")
+                       .arg(QString(QLatin1Char(closing)), getFound()));
         ++m_offset;
         skipSpace();
     }
@@ -282,17 +286,17 @@ QString CJsonScanner::readString()
         QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
         text += QTextCodec::codecForMib(106)->toUnicode(plain.constData(), plain.size(), &state);
         if (state.invalidChars > 0 || state.remainingChars > 0)
-            failAt(start, QStringLiteral("the text is not valid UTF-8"));
+            failAt(start, CErrorText::tr("the text is not valid UTF-8"));
         plain.clear();
     };
     while (true) {
         if (m_offset >= m_text.size())
-            failAt(start, QStringLiteral("the text has no closing double quote"));
+            failAt(start, CErrorText::tr("the text has no closing double quote"));
         const char character = m_text.at(m_offset++);
         if (character == '"')
             break;
         if (static_cast<uchar>(character) < 0x20)
-            failAt(m_offset - 1, QStringLiteral("the text contains a control character"));
+            failAt(m_offset - 1, CErrorText::tr("the text contains a control character"));
         if (character != '\\') {
             plain += character;
             continue;
@@ -324,12 +328,12 @@ QString CJsonScanner::readString()
             text += QChar(readHexadecimal());
             break;
         default:
-            failAt(m_offset - 2, QStringLiteral("unknown escape sequence in a text"));
+            failAt(m_offset - 2, CErrorText::tr("unknown escape sequence in a text"));
         }
     }
     flush();
     if (hasLoneSurrogate(text))
-        failAt(start, QStringLiteral("the text contains half a surrogate pair"));
+        failAt(start, CErrorText::tr("the text contains half a surrogate pair"));
     return text;
 }
 
@@ -340,7 +344,7 @@ ushort CJsonScanner::readHexadecimal()
     for (const char digit : digits)
         readable = readable && QByteArray("0123456789abcdefABCDEF").contains(digit);
     if (!readable)
-        failAt(m_offset - 2, QStringLiteral("expected four hexadecimal digits after \"\\u\""));
+        failAt(m_offset - 2, CErrorText::tr("expected four hexadecimal digits after \"\\u\""));
     m_offset += 4;
     return digits.toUShort(nullptr, 16);
 }
@@ -350,10 +354,10 @@ bool CJsonScanner::isAt(char character) const
     return m_offset < m_text.size() && m_text.at(m_offset) == character;
 }
 
-QString CJsonScanner::getFound() const
+CErrorText CJsonScanner::getFound() const
 {
     if (m_offset >= m_text.size())
-        return QStringLiteral("the end of the text");
+        return CErrorText::tr("the end of the text");
     int end = m_offset;
     while (end < m_text.size() && end - m_offset < 20
            && !QByteArray(" \t\r\n,:{}[]\"").contains(m_text.at(end)))
@@ -363,10 +367,10 @@ QString CJsonScanner::getFound() const
     const QByteArray found = m_text.mid(m_offset, end - m_offset);
     for (const char character : found) {
         if (character < 0x20 || character > 0x7e)
-            return QStringLiteral("an unexpected character");
+            return CErrorText::tr("an unexpected character");
     }
-    return found == "\"" ? QStringLiteral("a double quote")
-                         : QStringLiteral("\"%1\"").arg(QString::fromLatin1(found));
+    return found == "\"" ? CErrorText::tr("a double quote")
+                         : CErrorText::tr("\"%1\"").arg(QString::fromLatin1(found));
 }
 
 QString CJsonScanner::getField() const

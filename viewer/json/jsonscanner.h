@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/text/errortext.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QVector>
@@ -61,11 +63,11 @@ public:
     [[nodiscard]] int getColumn(int position) const;
 
     /// Reports @p problem at the current value, or at a @p position seen before.
-    [[noreturn]] void fail(const QString &problem) const;
-    [[noreturn]] void failAt(int position, const QString &problem) const;
+    [[noreturn]] void fail(const Text::CErrorText &problem) const;
+    [[noreturn]] void failAt(int position, const Text::CErrorText &problem) const;
 
     /// Reports at the current value that something else than @p expected stands there.
-    [[noreturn]] void failExpected(const QString &expected) const;
+    [[noreturn]] void failExpected(const Text::CErrorText &expected) const;
 
 private:
     struct CLevel
@@ -84,7 +86,7 @@ private:
     QString readString();
     ushort readHexadecimal();
     [[nodiscard]] bool isAt(char character) const;
-    [[nodiscard]] QString getFound() const;
+    [[nodiscard]] Text::CErrorText getFound() const;
     [[nodiscard]] QString getField() const;
 
     const QByteArray m_text;

@@ -4,7 +4,7 @@ namespace Viewer::Json {
 
 namespace {
 
-constexpr int QUOTED_LENGTH = 80;
+constexpr int SHORT_LENGTH = 80;
 
 bool isPrintable(uint codePoint)
 {
@@ -45,12 +45,12 @@ QString toSingleLine(const QString &text)
     return line;
 }
 
-QString quote(const QString &text)
+QString shorten(const QString &text)
 {
     QString shown = text;
-    if (shown.size() > QUOTED_LENGTH)
-        shown = shown.left(QUOTED_LENGTH) + QStringLiteral("...");
-    return QLatin1Char('"') + toSingleLine(shown) + QLatin1Char('"');
+    if (shown.size() > SHORT_LENGTH)
+        shown = shown.left(SHORT_LENGTH) + QStringLiteral("...");
+    return toSingleLine(shown);
 }
 
 bool hasUnprintable(const QString &text, bool lineBreaksAllowed)

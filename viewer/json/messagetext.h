@@ -7,9 +7,9 @@ namespace Viewer::Json {
 /// @p text on one line: a character that cannot be shown becomes a question mark.
 [[nodiscard]] QString toSingleLine(const QString &text);
 
-/// @p text from a file, for use within a sentence: in double quotes, on one line, and cut off when
-/// it is long.
-[[nodiscard]] QString quote(const QString &text);
+/// @p text from a file, for use within the quotes of a sentence: on one line, and cut off when it
+/// is long.
+[[nodiscard]] QString shorten(const QString &text);
 
 /// True when @p text has a character that cannot be shown on a line: a control or formatting
 /// character, a line or paragraph separator, half a surrogate pair. @p lineBreaksAllowed lets line

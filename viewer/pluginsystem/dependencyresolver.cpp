@@ -64,7 +64,7 @@ QString CDependencyResolver::checkDependency(const CPluginDependency &dependency
 {
     const int place = m_places.value(dependency.name, -1);
     if (place < 0) {
-        return tr("It needs \"%1\" %2, which is not there.")
+        return tr("It needs \"%1\" %2, which is missing.")
             .arg(dependency.name, dependency.version.toString());
     }
     const int start = m_path.indexOf(place);
@@ -74,14 +74,15 @@ QString CDependencyResolver::checkDependency(const CPluginDependency &dependency
             names.append(m_specs.at(m_path.at(i)).getName());
         names.append(dependency.name);
         const QString error
-            = tr("It is in a circle of dependencies: %1.").arg(names.join(QStringLiteral(" > ")));
+            = tr("It is part of a circular dependency: %1.").arg(names.join(QStringLiteral(" > ")));
         for (int i = start; i < m_path.size(); ++i)
             m_specs[m_path.at(i)].setError(error);
         return error;
     }
     if (!m_specs.at(place).provides(dependency.version)) {
-        return tr("It needs \"%1\" %2, but the one that is there has version %3 and is compatible "
-                  "down to %4.")
+        return tr("It needs \"%1\" %2, but version %3 is installed, which is compatible with %4 "
+                  "and "
+                  "later.")
             .arg(dependency.name, dependency.version.toString(),
                  m_specs.at(place).getVersion().toString(),
                  m_specs.at(place).getCompatVersion().toString());

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en_US">
 <context>
+    <name>Viewer</name>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set. Start it from a desktop, or with QT_QPA_PLATFORM=offscreen to see nothing.</source>
+        <translation>ディスプレイがありません。DISPLAY も WAYLAND_DISPLAY も設定されていません。デスクトップから起動するか、画面表示が不要な場合は QT_QPA_PLATFORM=offscreen を指定して起動してください。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -29,19 +36,15 @@
     </message>
     <message>
         <source>Record images into a folder (F8)</source>
-        <translation>画像をフォルダーに録画 (F8)</translation>
+        <translation>フォルダーに録画 (F8)</translation>
     </message>
     <message>
         <source>Stop recording; acquisition goes on (F9)</source>
-        <translation>録画を停止 (画像取得は継続) (F9)</translation>
+        <translation>画像取得を続けたまま録画を停止 (F9)</translation>
     </message>
     <message>
         <source>Record into folder</source>
         <translation>録画先フォルダー</translation>
-    </message>
-    <message>
-        <source>%1 records into %2.</source>
-        <translation>%1 の画像を %2 に録画しています。</translation>
     </message>
     <message>
         <source>No camera selected</source>
@@ -56,20 +59,24 @@
         <translation>カメラが見つかりません</translation>
     </message>
     <message>
-        <source>Plug one in and press Refresh.</source>
-        <translation>カメラを接続して「再検索」を押してください。</translation>
-    </message>
-    <message>
-        <source>Press Start to see its image.</source>
-        <translation>画像を表示するには「開始」を押してください。</translation>
-    </message>
-    <message>
         <source>Its firmware is being updated.</source>
         <translation>ファームウェアを更新しています。</translation>
     </message>
     <message>
-        <source>Another application is using it.</source>
-        <translation>別のアプリケーションが使用しています。</translation>
+        <source>Recording %1 to %2.</source>
+        <translation>%1 の録画を %2 に保存しています。</translation>
+    </message>
+    <message>
+        <source>Plug one in and click Refresh.</source>
+        <translation>カメラを接続して「再検索」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>Click Start to see its image.</source>
+        <translation>画像を表示するには「開始」をクリックしてください。</translation>
+    </message>
+    <message>
+        <source>It is in use by another application.</source>
+        <translation>別のアプリケーションで使用中です。</translation>
     </message>
 </context>
 <context>
@@ -89,10 +96,6 @@
     <message>
         <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
         <translation>以前の更新でシミュレーションカメラに書き込まれたファームウェアを破棄します。</translation>
-    </message>
-    <message>
-        <source>Let the simulated cameras work &lt;n&gt; times faster than real ones (a demonstration: %1).</source>
-        <translation>シミュレーションカメラを実機の &lt;n&gt; 倍の速さで動作させます (デモ: %1)。</translation>
     </message>
     <message>
         <source>n</source>
@@ -115,24 +118,12 @@
         <translation>コード</translation>
     </message>
     <message>
-        <source>Offer the update files in &lt;dir&gt;.</source>
-        <translation>&lt;フォルダー&gt; の更新ファイルを提供します。</translation>
-    </message>
-    <message>
-        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and end.</source>
-        <translation>ファームウェア更新ウィザードを自動で進め、画面を &lt;フォルダー&gt; に保存して終了します。</translation>
-    </message>
-    <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>予期しない引数「%1」です。</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
         <translation>言語「%1」は使用できません。en、ko、ja、zh のいずれかを指定してください。</translation>
-    </message>
-    <message>
-        <source>The folder for the demonstration&apos;s pictures is empty.</source>
-        <translation>デモの画面を保存するフォルダーが指定されていません。</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
@@ -143,10 +134,6 @@
         <translation>シミュレーションカメラを使用しません。</translation>
     </message>
     <message>
-        <source>Search the network and USB for cameras this time, by broadcast.</source>
-        <translation>今回はネットワーク (ブロードキャスト) と USB のカメラを検索します。</translation>
-    </message>
-    <message>
         <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
         <translation>ブロードキャストを使わずに &lt;アドレス&gt; のカメラを探します。複数回指定できます。</translation>
     </message>
@@ -155,12 +142,40 @@
         <translation>アドレス</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no camera address; it has the form 192.168.0.10.</source>
+        <source>Show this help and quit.</source>
+        <translation>このヘルプを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Show the version and quit.</source>
+        <translation>バージョンを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
+        <translation>シミュレーションカメラを実際のカメラの &lt;n&gt; 倍の速さで動作させます (既定値は 1、--demo では %1)。</translation>
+    </message>
+    <message>
+        <source>Search the network (by broadcast) and USB for cameras this time.</source>
+        <translation>今回はネットワーク (ブロードキャスト) と USB のカメラを検索します。</translation>
+    </message>
+    <message>
+        <source>Use &lt;dir&gt; as the folder of sample update files.</source>
+        <translation>&lt;フォルダー&gt; をサンプル更新ファイルのフォルダーとして使用します。</translation>
+    </message>
+    <message>
+        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and quit.</source>
+        <translation>ファームウェア更新ウィザードを自動で進め、画面を &lt;フォルダー&gt; に保存して終了します。</translation>
+    </message>
+    <message>
+        <source>No folder is given for the demonstration&apos;s pictures.</source>
+        <translation>デモの画面を保存するフォルダーが指定されていません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
         <translation>「%1」はカメラのアドレスではありません。192.168.0.10 の形式で指定してください。</translation>
     </message>
     <message>
-        <source>This viewer was built without the library for cameras on real wires.</source>
-        <translation>このビューアーは、実際に接続されたカメラ用のライブラリなしでビルドされています。</translation>
+        <source>This viewer was built without the library for real cameras.</source>
+        <translation>このビューアーは、実際のカメラ用のライブラリなしでビルドされています。</translation>
     </message>
 </context>
 <context>
@@ -236,7 +251,7 @@
         <translation>言語(&amp;L)</translation>
     </message>
     <message>
-        <source>The language changes when the viewer is started the next time.</source>
+        <source>The language changes the next time the viewer starts.</source>
         <translation>言語は次回のビューアー起動時に変更されます。</translation>
     </message>
 </context>
@@ -268,7 +283,7 @@
     </message>
     <message>
         <source>Not available</source>
-        <translation>利用できません</translation>
+        <translation>利用不可</translation>
     </message>
 </context>
 <context>
@@ -278,8 +293,8 @@
         <translation>接続済み(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Busy elsewhere</source>
-        <translation>他で使用中(&amp;B)</translation>
+        <source>In &amp;use elsewhere</source>
+        <translation>別のアプリで使用中(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -294,10 +309,6 @@
     <message>
         <source>Re&amp;fresh</source>
         <translation>再検索(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Look for cameras (F5)</source>
-        <translation>カメラを検索 (F5)</translation>
     </message>
     <message>
         <source>&amp;Open sample folder</source>
@@ -333,7 +344,7 @@
     </message>
     <message>
         <source>Not all plug-ins are available: see Help &gt; Plug-ins.</source>
-        <translation>利用できないプラグインがあります。ヘルプ &gt; プラグイン をご覧ください。</translation>
+        <translation>利用できないプラグインがあります。「ヘルプ」&gt;「プラグイン」をご覧ください。</translation>
     </message>
     <message>
         <source>A firmware update is running. Wait until it has ended before you quit.</source>
@@ -361,16 +372,16 @@
         <source>Search the &amp;network for cameras</source>
         <translation>ネットワークのカメラを検索(&amp;N)</translation>
     </message>
+    <message>
+        <source>Search for cameras (F5)</source>
+        <translation>カメラを検索 (F5)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
     <message>
         <source>The folder &quot;%1&quot; does not exist; choose another one.</source>
         <translation>フォルダー「%1」は存在しません。別のフォルダーを選択してください。</translation>
-    </message>
-    <message>
-        <source>Camera %1 does not answer any more; its acquisition has ended.</source>
-        <translation>カメラ %1 が応答しなくなったため、画像取得が終了しました。</translation>
     </message>
     <message>
         <source>The recording of camera %1 has ended: %2.</source>
@@ -385,391 +396,20 @@
         <translation>カメラ %1 が応答しません。ケーブルを確認してください。</translation>
     </message>
     <message>
-        <source>Camera %1 is used by another application.</source>
-        <translation>カメラ %1 は別のアプリケーションが使用しています。</translation>
-    </message>
-    <message>
         <source>Camera %1 is being updated.</source>
         <translation>カメラ %1 を更新しています。</translation>
     </message>
     <message>
-        <source>Camera %1 is on a real wire; only its firmware can be updated here.</source>
-        <translation>カメラ %1 は実際に接続されたカメラのため、ここではファームウェアの更新のみ可能です。</translation>
+        <source>Camera %1 no longer answers; acquisition has stopped.</source>
+        <translation>カメラ %1 が応答しなくなったため、画像取得が停止しました。</translation>
     </message>
-</context>
-<context>
-    <name>Viewer::CameraPool::CErrorText</name>
     <message>
-        <source>Camera %1: %2</source>
-        <translation>カメラ %1: %2</translation>
+        <source>Camera %1 is a real camera; only its firmware can be updated here.</source>
+        <translation>カメラ %1 は実際のカメラのため、このビューアーではファームウェアの更新のみ可能です。</translation>
     </message>
     <message>
-        <source>out of memory</source>
-        <translation>メモリが不足しています</translation>
-    </message>
-    <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>このカメラの更新前に、一連の更新が中止されました</translation>
-    </message>
-    <message>
-        <source>it is already being updated</source>
-        <translation>すでに更新中です</translation>
-    </message>
-    <message>
-        <source>it is acquiring images; stop that and start the update again</source>
-        <translation>画像を取得しています。画像取得を停止してから、更新をもう一度開始してください</translation>
-    </message>
-    <message>
-        <source>the update failed for an unknown reason</source>
-        <translation>不明な理由により更新に失敗しました</translation>
-    </message>
-    <message>
-        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
-        <translation>%1。すでに書き込みが始まっていたため、カメラを使用する前に更新をやり直してください</translation>
-    </message>
-    <message>
-        <source>it does not answer; check its cable and its power supply</source>
-        <translation>応答しません。ケーブルと電源を確認してください</translation>
-    </message>
-    <message>
-        <source>another application uses it; close that application</source>
-        <translation>別のアプリケーションが使用しています。そのアプリケーションを閉じてください</translation>
-    </message>
-    <message>
-        <source>it is already open</source>
-        <translation>すでに開かれています</translation>
-    </message>
-    <message>
-        <source>it has no feature &quot;%1&quot; that can be read</source>
-        <translation>読み取り可能な機能「%1」がありません</translation>
-    </message>
-    <message>
-        <source>it refuses to write the feature &quot;%1&quot;</source>
-        <translation>機能「%1」の書き込みが拒否されました</translation>
-    </message>
-    <message>
-        <source>it has no feature &quot;%1&quot; that can be written</source>
-        <translation>書き込み可能な機能「%1」がありません</translation>
-    </message>
-    <message>
-        <source>it has no command &quot;%1&quot;</source>
-        <translation>コマンド「%1」がありません</translation>
-    </message>
-    <message>
-        <source>it refuses to write the file &quot;%1&quot;</source>
-        <translation>ファイル「%1」の書き込みが拒否されました</translation>
-    </message>
-    <message>
-        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
-        <translation>ファイル「%1」のデータが %3 バイト中 %2 バイトで終了しました (%4)</translation>
-    </message>
-    <message>
-        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
-        <translation>ファイル「%1」のアップロードが %3 バイト中 %2 バイトで中断しました</translation>
-    </message>
-    <message>
-        <source>it did not come back from its reset within %1 s; switch it off and on</source>
-        <translation>リセット後 %1 秒以内に復帰しませんでした。電源を入れ直してください</translation>
-    </message>
-    <message>
-        <source>it did not answer within %1 s</source>
-        <translation>%1 秒以内に応答しませんでした</translation>
-    </message>
-    <message>
-        <source>it is not open</source>
-        <translation>開かれていません</translation>
-    </message>
-    <message>
-        <source>the connection was lost; check its cable and its power supply</source>
-        <translation>接続が切断されました。ケーブルと電源を確認してください</translation>
-    </message>
-    <message>
-        <source>there is no complete firmware image to activate</source>
-        <translation>有効化できる完全なファームウェアイメージがありません</translation>
-    </message>
-    <message>
-        <source>it does not accept the uploaded file as a firmware image</source>
-        <translation>アップロードされたファイルがファームウェアイメージとして認識されません</translation>
-    </message>
-    <message>
-        <source>the uploaded firmware image is for model %1, not for %2</source>
-        <translation>アップロードされたファームウェアイメージはモデル %2 用ではなく、%1 用です</translation>
-    </message>
-    <message>
-        <source>the update file contains a step of an unknown kind</source>
-        <translation>更新ファイルに不明な種類の手順が含まれています</translation>
-    </message>
-    <message>
-        <source>it cannot be updated now, since it reports status %1</source>
-        <translation>状態 %1 が報告されているため、現在は更新できません</translation>
-    </message>
-    <message>
-        <source>the update is not for its model %1</source>
-        <translation>この更新はモデル %1 用ではありません</translation>
-    </message>
-    <message>
-        <source>the update is not for its device version %1</source>
-        <translation>この更新はデバイスバージョン %1 用ではありません</translation>
-    </message>
-    <message>
-        <source>its firmware version %1 is below %2, from which on the update can be installed; install an older update first</source>
-        <translation>ファームウェアバージョン %1 は、この更新に必要な最小バージョン %2 を下回っています。先に古い更新をインストールしてください</translation>
-    </message>
-    <message>
-        <source>a precondition of the update is not met: its feature %1 is %2 instead of %3</source>
-        <translation>更新の前提条件が満たされていません: 機能 %1 の値が %3 ではなく %2 です</translation>
-    </message>
-    <message>
-        <source>its feature %1 is %2 instead of %3</source>
-        <translation>機能 %1 の値が %3 ではなく %2 です</translation>
-    </message>
-    <message>
-        <source>after the update it reports firmware version %1 instead of %2</source>
-        <translation>更新後に報告されたファームウェアバージョンが %2 ではなく %1 です</translation>
-    </message>
-    <message>
-        <source>the file %1 cannot be read; the archive is damaged</source>
-        <translation>ファイル %1 を読み取れません。アーカイブが破損しています</translation>
-    </message>
-    <message>
-        <source>the file %1 is damaged and cannot be unpacked</source>
-        <translation>ファイル %1 が破損しているため、展開できません</translation>
-    </message>
-    <message>
-        <source>the file %1 unpacks to more bytes than the archive declares</source>
-        <translation>ファイル %1 の展開後のサイズが、アーカイブの記載より大きくなっています</translation>
-    </message>
-    <message>
-        <source>the payload %1 does not match its SHA-256 in update.json</source>
-        <translation>データ %1 が update.json の SHA-256 と一致しません</translation>
-    </message>
-    <message>
-        <source>the archive is cut off at its end; copy the file again</source>
-        <translation>アーカイブの末尾が欠けています。ファイルをもう一度コピーしてください</translation>
-    </message>
-    <message>
-        <source>this is not an update file, as it is not a ZIP archive</source>
-        <translation>ZIP アーカイブではないため、更新ファイルではありません</translation>
-    </message>
-    <message>
-        <source>the archive is one part of several; pack it as one file</source>
-        <translation>分割アーカイブの一部です。1 つのファイルに圧縮してください</translation>
-    </message>
-    <message>
-        <source>there is not enough memory to read the archive</source>
-        <translation>アーカイブを読み取るためのメモリが不足しています</translation>
-    </message>
-    <message>
-        <source>the file cannot be read from the disk</source>
-        <translation>ディスクからファイルを読み取れません</translation>
-    </message>
-    <message>
-        <source>the archive is damaged; copy the file again</source>
-        <translation>アーカイブが破損しています。ファイルをもう一度コピーしてください</translation>
-    </message>
-    <message>
-        <source>update.json lies in a folder of the archive (%1); it has to lie at the top</source>
-        <translation>update.json がアーカイブ内のフォルダーにあります (%1)。最上位に置く必要があります</translation>
-    </message>
-    <message>
-        <source>there is no update.json in the archive</source>
-        <translation>アーカイブに update.json がありません</translation>
-    </message>
-    <message>
-        <source>update.json has %1 bytes; %2 are allowed</source>
-        <translation>update.json のサイズは %1 バイトですが、%2 バイトまでしか使用できません</translation>
-    </message>
-    <message>
-        <source>the file does not exist</source>
-        <translation>ファイルが存在しません</translation>
-    </message>
-    <message>
-        <source>this is a folder, not a file</source>
-        <translation>ファイルではなくフォルダーです</translation>
-    </message>
-    <message>
-        <source>this is not a regular file</source>
-        <translation>通常のファイルではありません</translation>
-    </message>
-    <message>
-        <source>the file cannot be opened; check its access rights</source>
-        <translation>ファイルを開けません。アクセス権を確認してください</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>ファイルが空です</translation>
-    </message>
-    <message>
-        <source>the file has %1 bytes; %2 are allowed</source>
-        <translation>ファイルのサイズは %1 バイトですが、%2 バイトまでしか使用できません</translation>
-    </message>
-    <message>
-        <source>the file cannot be opened; too many files are open</source>
-        <translation>開いているファイルが多すぎるため、ファイルを開けません</translation>
-    </message>
-    <message>
-        <source>the archive has %1 entries; %2 are allowed</source>
-        <translation>アーカイブの項目数は %1 ですが、%2 までしか使用できません</translation>
-    </message>
-    <message>
-        <source>the archive has two entries named %1</source>
-        <translation>アーカイブに %1 という名前の項目が 2 つあります</translation>
-    </message>
-    <message>
-        <source>the archive unpacks to more than %1 bytes</source>
-        <translation>展開後のサイズが %1 バイトを超えています</translation>
-    </message>
-    <message>
-        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
-        <translation>アーカイブの %1 番目の項目に名前がないか、名前が UTF-8 ではありません</translation>
-    </message>
-    <message>
-        <source>the entry %1 of the archive is damaged</source>
-        <translation>アーカイブの項目 %1 が破損しています</translation>
-    </message>
-    <message>
-        <source>the entry %1 is encrypted; pack it without a password</source>
-        <translation>項目 %1 は暗号化されています。パスワードなしで圧縮してください</translation>
-    </message>
-    <message>
-        <source>the entry %1 is compressed by a method other than Deflate</source>
-        <translation>項目 %1 は Deflate 以外の方式で圧縮されています</translation>
-    </message>
-    <message>
-        <source>the payload %1 is missing in the archive</source>
-        <translation>アーカイブにデータ %1 がありません</translation>
-    </message>
-    <message>
-        <source>the payload %1 is too short: it has %2 bytes where update.json says %3</source>
-        <translation>データ %1 が短すぎます。update.json では %3 バイトですが、実際は %2 バイトです</translation>
-    </message>
-    <message>
-        <source>the payload %1 is too long: it has %2 bytes where update.json says %3</source>
-        <translation>データ %1 が長すぎます。update.json では %3 バイトですが、実際は %2 バイトです</translation>
-    </message>
-    <message>
-        <source>Update file %1: %2</source>
-        <translation>更新ファイル %1: %2</translation>
-    </message>
-    <message>
-        <source>it did not answer; check its cable, its power supply and the network</source>
-        <translation>応答しませんでした。ケーブル、電源、ネットワークを確認してください</translation>
-    </message>
-    <message>
-        <source>control over it was lost; close other applications that use it</source>
-        <translation>制御が失われました。カメラを使用している他のアプリケーションを閉じてください</translation>
-    </message>
-    <message>
-        <source>it is busy; try again later</source>
-        <translation>ビジー状態です。しばらくしてからもう一度お試しください</translation>
-    </message>
-    <message>
-        <source>it refused (%1)</source>
-        <translation>拒否されました (%1)</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>its feature %1 could not be read</source>
-        <translation>機能 %1 を読み取れませんでした</translation>
-    </message>
-    <message>
-        <source>its feature %1 could not be set to &quot;%2&quot;</source>
-        <translation>機能 %1 を「%2」に設定できませんでした</translation>
-    </message>
-    <message>
-        <source>it has no feature %1; the update file may be for another model</source>
-        <translation>機能 %1 がありません。更新ファイルが別のモデル用の可能性があります</translation>
-    </message>
-    <message>
-        <source>its feature %1 is no command</source>
-        <translation>機能 %1 はコマンドではありません</translation>
-    </message>
-    <message>
-        <source>its command %1 could not be executed</source>
-        <translation>コマンド %1 を実行できませんでした</translation>
-    </message>
-    <message>
-        <source>the end of its command %1 could not be awaited</source>
-        <translation>コマンド %1 の完了を確認できませんでした</translation>
-    </message>
-    <message>
-        <source>its feature %1 is no register</source>
-        <translation>機能 %1 はレジスターではありません</translation>
-    </message>
-    <message>
-        <source>its memory could not be written</source>
-        <translation>メモリーに書き込めませんでした</translation>
-    </message>
-    <message>
-        <source>opening its file &quot;%1&quot; failed</source>
-        <translation>ファイル「%1」を開けませんでした</translation>
-    </message>
-    <message>
-        <source>writing its file &quot;%1&quot; failed at byte %2</source>
-        <translation>ファイル「%1」の %2 バイト目で書き込みに失敗しました</translation>
-    </message>
-    <message>
-        <source>closing its file &quot;%1&quot; failed</source>
-        <translation>ファイル「%1」を閉じられませんでした</translation>
-    </message>
-    <message>
-        <source>its buffer for files is empty</source>
-        <translation>ファイル用のバッファーが空です</translation>
-    </message>
-    <message>
-        <source>it took %1 of %2 bytes</source>
-        <translation>%2 バイト中 %1 バイトしか受け付けませんでした</translation>
-    </message>
-    <message>
-        <source>it took too long</source>
-        <translation>時間がかかりすぎました</translation>
-    </message>
-    <message>
-        <source>it reports the status &quot;%1&quot;</source>
-        <translation>状態「%1」が報告されました</translation>
-    </message>
-    <message>
-        <source>there is no way to its address; check the network settings of this computer</source>
-        <translation>カメラのアドレスに到達できません。このコンピューターのネットワーク設定を確認してください</translation>
-    </message>
-    <message>
-        <source>it could not be opened</source>
-        <translation>カメラを開けませんでした</translation>
-    </message>
-    <message>
-        <source>it is in use by another application; close that one and start the update again</source>
-        <translation>別のアプリケーションが使用しています。そのアプリケーションを閉じてから、更新をもう一度開始してください</translation>
-    </message>
-    <message>
-        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
-        <translation>コマンド「%1」に時間がかかりすぎました。カメラの電源を入れ直してから、更新をやり直してください</translation>
-    </message>
-    <message>
-        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
-        <translation>ファイル「%1」のアップロードに時間がかかりすぎたため、%3 バイト中 %2 バイトで中断されました</translation>
-    </message>
-    <message>
-        <source>it did not come back from its reset; switch it off and on and look for its firmware version</source>
-        <translation>リセット後に復帰しませんでした。電源を入れ直して、ファームウェアバージョンを確認してください</translation>
-    </message>
-    <message>
-        <source>it did not restart; switch it off and on and look for its firmware version</source>
-        <translation>再起動しませんでした。電源を入れ直して、ファームウェアバージョンを確認してください</translation>
-    </message>
-    <message>
-        <source>same serial number as another camera</source>
-        <translation>シリアル番号が別のカメラと同じ</translation>
-    </message>
-    <message>
-        <source>another camera has the same vendor, model and serial number; connect only one of them and look for cameras again</source>
-        <translation>ベンダー、モデル、シリアル番号が同じカメラがもう 1 台あります。どちらか 1 台だけを接続して、もう一度カメラを検索してください</translation>
-    </message>
-    <message>
-        <source>another camera, %1, answers at its address; look for cameras again</source>
-        <translation>そのアドレスでは別のカメラ %1 が応答しています。もう一度カメラを検索してください</translation>
+        <source>Camera %1 is in use by another application.</source>
+        <translation>カメラ %1 は別のアプリケーションで使用中です。</translation>
     </message>
 </context>
 <context>
@@ -795,7 +435,7 @@ Firmware: %5</source>
     </message>
     <message>
         <source>Acquiring</source>
-        <translation>取得中</translation>
+        <translation>画像取得中</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -807,7 +447,7 @@ Firmware: %5</source>
     </message>
     <message>
         <source>In use elsewhere</source>
-        <translation>他で使用中</translation>
+        <translation>別アプリ使用中</translation>
     </message>
     <message>
         <source>Ready</source>
@@ -846,6 +486,115 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::GufTool::CGufTool</name>
+    <message>
+        <source>There is no command.</source>
+        <translation>コマンドがありません。</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is unknown.</source>
+        <translation>コマンド「%1」は不明です。</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; has too few or too many arguments.</source>
+        <translation>コマンド「%1」の引数が少なすぎるか、多すぎます。</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; has no option --json.</source>
+        <translation>コマンド「%1」に --json オプションはありません。</translation>
+    </message>
+    <message>
+        <source>Packed %1: updates: %2, bytes: %3</source>
+        <translation>%1 を作成しました (更新 %2 件、%3 バイト)</translation>
+    </message>
+    <message>
+        <source>%1 is faultless, updates: %2</source>
+        <translation>%1 に問題はありません (更新 %2 件)</translation>
+    </message>
+    <message>
+        <source>Usage: guftool pack DIR FILE
+       guftool inspect [--json] FILE
+       guftool verify FILE
+
+pack     makes the update file FILE from DIR/update.json and the payloads
+         in DIR that it names; sizes and digests that it leaves out are
+         filled in
+inspect  checks FILE and shows what it holds, with --json as JSON
+verify   checks FILE
+
+Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong
+call of this program.
+</source>
+        <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
+        <translation>使い方: guftool pack &lt;フォルダー&gt; &lt;ファイル&gt;
+        guftool inspect [--json] &lt;ファイル&gt;
+        guftool verify &lt;ファイル&gt;
+
+pack     &lt;フォルダー&gt;/update.json と、そこに指定された &lt;フォルダー&gt; 内の
+         データファイルから更新ファイル &lt;ファイル&gt; を作成します。省略された
+         サイズとダイジェストは自動的に補われます
+inspect  &lt;ファイル&gt; を検査し、内容を表示します (--json: JSON 形式)
+verify   &lt;ファイル&gt; を検査します
+
+終了コード: 正常な場合は 0、ファイルに問題がある場合は 1、プログラムの
+呼び出し方が正しくない場合は 2 です。
+</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::GufTool::CManifestPrinter</name>
+    <message>
+        <source>File:     %1
+Format:   %2
+Updates:  %3
+</source>
+        <translation>ファイル:  %1
+形式:      %2
+更新:      %3
+</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>
+Update %1
+  Version:          %2
+  Description:      %3
+  Models:           %4
+  Device versions:  %5
+  Minimum version:  %6
+  Release notes:    %7
+  Steps:
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>
+更新 %1
+バージョン:         %2
+説明:               %3
+モデル:             %4
+デバイスバージョン: %5
+最小バージョン:     %6
+リリースノート:     %7
+手順:
+</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>    by size</source>
+        <extracomment>Eleven columns wide; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation> サイズ依存</translation>
+    </message>
+    <message>
+        <source>%1 (%2 bytes) to %3</source>
+        <translation>%1 (%2 バイト) → %3</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CDependencyResolver</name>
     <message>
         <source>Its name is that of a part of the viewer.</source>
@@ -856,20 +605,20 @@ Firmware: %5</source>
         <translation>同じ名前のプラグインがすでに見つかっています: %1。</translation>
     </message>
     <message>
-        <source>It needs &quot;%1&quot; %2, which is not there.</source>
-        <translation>「%1」%2 が必要ですが、ありません。</translation>
+        <source>It needs &quot;%1&quot;, which could not be started.</source>
+        <translation>「%1」が必要ですが、開始できませんでした。</translation>
     </message>
     <message>
-        <source>It is in a circle of dependencies: %1.</source>
+        <source>It needs &quot;%1&quot; %2, which is missing.</source>
+        <translation>「%1」バージョン %2 が必要ですが、見つかりません。</translation>
+    </message>
+    <message>
+        <source>It is part of a circular dependency: %1.</source>
         <translation>依存関係が循環しています: %1。</translation>
     </message>
     <message>
-        <source>It needs &quot;%1&quot; %2, but the one that is there has version %3 and is compatible down to %4.</source>
-        <translation>「%1」%2 が必要ですが、現在のバージョンは %3 で、%4 以降とのみ互換性があります。</translation>
-    </message>
-    <message>
-        <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation>「%1」が必要ですが、開始できませんでした。</translation>
+        <source>It needs &quot;%1&quot; %2, but version %3 is installed, which is compatible with %4 and later.</source>
+        <translation>「%1」バージョン %2 が必要ですが、インストールされているバージョン %3 は %4 以降とのみ互換性があります。</translation>
     </message>
 </context>
 <context>
@@ -947,6 +696,765 @@ Firmware: %5</source>
     <message>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
         <translation>メタデータの「%2」の「%1」がバージョン番号ではありません:「%3」。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Text::CErrorText</name>
+    <message>
+        <source>Camera %1: %2</source>
+        <translation>カメラ %1: %2</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>メモリが不足しています</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera</source>
+        <translation>このカメラの更新前に、一連の更新が中止されました</translation>
+    </message>
+    <message>
+        <source>it is already being updated</source>
+        <translation>すでに更新中です</translation>
+    </message>
+    <message>
+        <source>it is acquiring images; stop that and start the update again</source>
+        <translation>画像を取得しています。画像取得を停止してから、更新をもう一度開始してください</translation>
+    </message>
+    <message>
+        <source>the update failed for an unknown reason</source>
+        <translation>不明な理由により更新に失敗しました</translation>
+    </message>
+    <message>
+        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
+        <translation>%1。すでに書き込みが始まっていたため、カメラを使用する前に更新をやり直してください</translation>
+    </message>
+    <message>
+        <source>it does not answer; check its cable and its power supply</source>
+        <translation>応答しません。ケーブルと電源を確認してください</translation>
+    </message>
+    <message>
+        <source>it is already open</source>
+        <translation>すでに開かれています</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be read</source>
+        <translation>読み取り可能な機能「%1」がありません</translation>
+    </message>
+    <message>
+        <source>it refuses to write the feature &quot;%1&quot;</source>
+        <translation>機能「%1」の書き込みが拒否されました</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be written</source>
+        <translation>書き込み可能な機能「%1」がありません</translation>
+    </message>
+    <message>
+        <source>it has no command &quot;%1&quot;</source>
+        <translation>コマンド「%1」がありません</translation>
+    </message>
+    <message>
+        <source>it refuses to write the file &quot;%1&quot;</source>
+        <translation>カメラ内のファイル「%1」の書き込みが拒否されました</translation>
+    </message>
+    <message>
+        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
+        <translation>カメラ内のファイル「%1」のデータが %3 バイト中 %2 バイトで終了しました (%4)</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
+        <translation>カメラ内のファイル「%1」のアップロードが %3 バイト中 %2 バイトで中断しました</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset within %1 s; switch it off and on</source>
+        <translation>リセット後 %1 秒以内に復帰しませんでした。電源を入れ直してください</translation>
+    </message>
+    <message>
+        <source>it did not answer within %1 s</source>
+        <translation>%1 秒以内に応答しませんでした</translation>
+    </message>
+    <message>
+        <source>it is not open</source>
+        <translation>開かれていません</translation>
+    </message>
+    <message>
+        <source>the connection was lost; check its cable and its power supply</source>
+        <translation>接続が切断されました。ケーブルと電源を確認してください</translation>
+    </message>
+    <message>
+        <source>there is no complete firmware image to activate</source>
+        <translation>有効化できる完全なファームウェアイメージがありません</translation>
+    </message>
+    <message>
+        <source>it does not accept the uploaded file as a firmware image</source>
+        <translation>アップロードされたファイルがファームウェアイメージとして認識されません</translation>
+    </message>
+    <message>
+        <source>the uploaded firmware image is for model %1, not for %2</source>
+        <translation>アップロードされたファームウェアイメージはモデル %2 用ではなく、%1 用です</translation>
+    </message>
+    <message>
+        <source>the update file contains a step of an unknown kind</source>
+        <translation>更新ファイルに不明な種類の手順が含まれています</translation>
+    </message>
+    <message>
+        <source>it cannot be updated now, since it reports status %1</source>
+        <translation>状態 %1 が報告されているため、現在は更新できません</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at its end; copy the file again</source>
+        <translation>アーカイブの末尾が欠けています。ファイルをもう一度コピーしてください</translation>
+    </message>
+    <message>
+        <source>this is not an update file, as it is not a ZIP archive</source>
+        <translation>ZIP アーカイブではないため、更新ファイルではありません</translation>
+    </message>
+    <message>
+        <source>the archive is one part of several; pack it as one file</source>
+        <translation>分割アーカイブの一部です。1 つのファイルに圧縮してください</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the archive</source>
+        <translation>アーカイブを読み取るためのメモリが不足しています</translation>
+    </message>
+    <message>
+        <source>the file cannot be read from the disk</source>
+        <translation>ディスクからファイルを読み取れません</translation>
+    </message>
+    <message>
+        <source>the archive is damaged; copy the file again</source>
+        <translation>アーカイブが破損しています。ファイルをもう一度コピーしてください</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the archive</source>
+        <translation>アーカイブに update.json がありません</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>ファイルが存在しません</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>ファイルではなくフォルダーです</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; check its access rights</source>
+        <translation>ファイルを開けません。アクセス権を確認してください</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>ファイルが空です</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; too many files are open</source>
+        <translation>開いているファイルが多すぎるため、ファイルを開けません</translation>
+    </message>
+    <message>
+        <source>the archive unpacks to more than %1 bytes</source>
+        <translation>展開後のサイズが %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
+        <translation>アーカイブの %1 番目の項目に名前がないか、名前が UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>Update file %1: %2</source>
+        <translation>更新ファイル %1: %2</translation>
+    </message>
+    <message>
+        <source>it did not answer; check its cable, its power supply and the network</source>
+        <translation>応答しませんでした。ケーブル、電源、ネットワークを確認してください</translation>
+    </message>
+    <message>
+        <source>control over it was lost; close other applications that use it</source>
+        <translation>カメラの制御権が失われました。カメラを使用している他のアプリケーションを閉じてください</translation>
+    </message>
+    <message>
+        <source>it is busy; try again later</source>
+        <translation>ビジー状態です。しばらくしてからもう一度お試しください</translation>
+    </message>
+    <message>
+        <source>it refused (%1)</source>
+        <translation>カメラが要求を拒否しました (%1)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>its memory could not be written</source>
+        <translation>カメラのメモリに書き込めませんでした</translation>
+    </message>
+    <message>
+        <source>opening its file &quot;%1&quot; failed</source>
+        <translation>カメラ内のファイル「%1」を開けませんでした</translation>
+    </message>
+    <message>
+        <source>writing its file &quot;%1&quot; failed at byte %2</source>
+        <translation>カメラ内のファイル「%1」の %2 バイト目で書き込みに失敗しました</translation>
+    </message>
+    <message>
+        <source>closing its file &quot;%1&quot; failed</source>
+        <translation>カメラ内のファイル「%1」を閉じられませんでした</translation>
+    </message>
+    <message>
+        <source>it took too long</source>
+        <translation>時間がかかりすぎました</translation>
+    </message>
+    <message>
+        <source>it reports the status &quot;%1&quot;</source>
+        <translation>状態「%1」が報告されました</translation>
+    </message>
+    <message>
+        <source>it could not be opened</source>
+        <translation>カメラを開けませんでした</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
+        <translation>コマンド「%1」に時間がかかりすぎました。カメラの電源を入れ直してから、更新をやり直してください</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
+        <translation>カメラ内のファイル「%1」のアップロードに時間がかかりすぎたため、%3 バイト中 %2 バイトで中断されました</translation>
+    </message>
+    <message>
+        <source>same serial number as another camera</source>
+        <translation>シリアル番号が別のカメラと同じ</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; could not be read</source>
+        <translation>機能「%1」を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; could not be set to &quot;%2&quot;</source>
+        <translation>機能「%1」を「%2」に設定できませんでした</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot;; the update file may be for another model</source>
+        <translation>機能「%1」がありません。更新ファイルが別のモデル用である可能性があります</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is not a command</source>
+        <translation>機能「%1」はコマンドではありません</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; could not be executed</source>
+        <translation>コマンド「%1」を実行できませんでした</translation>
+    </message>
+    <message>
+        <source>it could not be found out whether its command &quot;%1&quot; has finished</source>
+        <translation>コマンド「%1」が完了したかどうかを確認できませんでした</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is not a register</source>
+        <translation>機能「%1」はレジスタではありません</translation>
+    </message>
+    <message>
+        <source>its buffer for files has no room (length 0)</source>
+        <translation>ファイル転送用バッファーのサイズが 0 です</translation>
+    </message>
+    <message>
+        <source>it accepted only %1 of %2 bytes</source>
+        <translation>%2 バイト中 %1 バイトしか受け付けませんでした</translation>
+    </message>
+    <message>
+        <source>another camera has the same vendor, model and serial number; connect only one of them and search for cameras again</source>
+        <translation>ベンダー、モデル、シリアル番号が同じカメラがもう 1 台あります。どちらか 1 台だけを接続して、もう一度カメラを検索してください</translation>
+    </message>
+    <message>
+        <source>another camera, %1, answers at its address; search for cameras again</source>
+        <translation>そのアドレスでは別のカメラ %1 が応答しています。もう一度カメラを検索してください</translation>
+    </message>
+    <message>
+        <source>its address cannot be reached; check the network settings of this computer</source>
+        <translation>カメラのアドレスに到達できません。このコンピューターのネットワーク設定を確認してください</translation>
+    </message>
+    <message>
+        <source>it is in use by another application; close that application and start the update again</source>
+        <translation>別のアプリケーションで使用中です。そのアプリケーションを閉じてから、更新をもう一度開始してください</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset; switch it off and on and check its firmware version</source>
+        <translation>リセット後に復帰しませんでした。電源を入れ直して、ファームウェアバージョンを確認してください</translation>
+    </message>
+    <message>
+        <source>it did not restart; switch it off and on and check its firmware version</source>
+        <translation>再起動しませんでした。電源を入れ直して、ファームウェアバージョンを確認してください</translation>
+    </message>
+    <message>
+        <source>the field is given twice</source>
+        <translation>フィールドが 2 回指定されています</translation>
+    </message>
+    <message>
+        <source>unknown field</source>
+        <translation>不明なフィールドです</translation>
+    </message>
+    <message>
+        <source>the field &quot;%1&quot; is missing</source>
+        <translation>フィールド「%1」がありません</translation>
+    </message>
+    <message>
+        <source>format %1 is unknown, only format 1 can be read</source>
+        <translation>形式 %1 は不明です。読み取れるのは形式 1 のみです</translation>
+    </message>
+    <message>
+        <source>more than %1 transport layers</source>
+        <translation>トランスポート層の数が上限の %1 を超えています</translation>
+    </message>
+    <message>
+        <source>more than %1 cameras</source>
+        <translation>カメラの数が上限の %1 台を超えています</translation>
+    </message>
+    <message>
+        <source>the id &quot;%1&quot; is already used in line %2</source>
+        <translation>ID「%1」は %2 行ですでに使用されています</translation>
+    </message>
+    <message>
+        <source>the text must not be empty</source>
+        <translation>文字列を空にすることはできません</translation>
+    </message>
+    <message>
+        <source>the text has %1 characters; at most %2 are allowed</source>
+        <translation>文字列の長さ (%1 文字) が上限の %2 文字を超えています</translation>
+    </message>
+    <message>
+        <source>the text must not contain line breaks or control characters</source>
+        <translation>文字列に改行や制御文字を含めることはできません</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; cannot be read: it is not a regular file</source>
+        <translation>カメラ記述ファイル「%1」を読み取れません: 通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; cannot be read: %2</source>
+        <translation>カメラ記述ファイル「%1」を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; is larger than %2 bytes</source>
+        <translation>カメラ記述ファイル「%1」が %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot;, line %2, column %3: %4</source>
+        <translation>カメラ記述ファイル「%1」、%2 行 %3 列: %4</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot;, line %2, column %3, field &quot;%4&quot;: %5</source>
+        <translation>カメラ記述ファイル「%1」、%2 行 %3 列、フィールド「%4」: %5</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>空です</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>%1 文字を超えています</translation>
+    </message>
+    <message>
+        <source>has a control character</source>
+        <translation>制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>has a backslash; use forward slashes</source>
+        <translation>バックスラッシュが含まれています。スラッシュ (/) を使用してください</translation>
+    </message>
+    <message>
+        <source>has a colon; drive letters are not allowed</source>
+        <translation>コロンが含まれています。ドライブ文字は使用できません</translation>
+    </message>
+    <message>
+        <source>is an absolute path; use one inside the archive</source>
+        <translation>絶対パスです。アーカイブ内のパスを使用してください</translation>
+    </message>
+    <message>
+        <source>has an empty part or one of dots only; use a plain path</source>
+        <translation>空の部分、またはドットのみの部分が含まれています。通常のパスを使用してください</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true または false の値</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>文字列</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>オブジェクト</translation>
+    </message>
+    <message>
+        <source>is %1 where %2 is wanted</source>
+        <translation>%2が必要ですが、%1です</translation>
+    </message>
+    <message>
+        <source>is unknown; known here are %1</source>
+        <translation>不明なフィールドです。ここで使用できるフィールド: %1</translation>
+    </message>
+    <message>
+        <source>has to be a whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数である必要があります</translation>
+    </message>
+    <message>
+        <source>is an empty list</source>
+        <translation>空のリストです</translation>
+    </message>
+    <message>
+        <source>has %1 items; at most %2 are allowed</source>
+        <translation>項目数 (%1) が上限の %2 を超えています</translation>
+    </message>
+    <message>
+        <source>repeats &quot;%1&quot;</source>
+        <translation>「%1」が重複しています</translation>
+    </message>
+    <message>
+        <source>the field &quot;%1&quot; %2</source>
+        <translation>フィールド「%1」: %2</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>ありません</translation>
+    </message>
+    <message>
+        <source>has a line break or a control character</source>
+        <translation>改行または制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>begins or ends with white space</source>
+        <translation>先頭または末尾に空白があります</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>%1 行 %2 列</translation>
+    </message>
+    <message>
+        <source>has to be an object in braces at its top level</source>
+        <translation>最上位は波括弧で囲まれたオブジェクトである必要があります</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>has the name &quot;%1&quot; twice in one object, again at %2</source>
+        <translation>1 つのオブジェクトに名前「%1」が 2 回あります (2 回目: %2)</translation>
+    </message>
+    <message>
+        <source>is nested more than %1 levels deep at %2</source>
+        <translation>%2で %1 階層より深くネストされています</translation>
+    </message>
+    <message>
+        <source>is not JSON at %1: %2</source>
+        <translation>%1が JSON として正しくありません: %2</translation>
+    </message>
+    <message>
+        <source>is &quot;%1&quot;; known kinds are %2</source>
+        <translation>「%1」は不明な種類です。使用できる種類: %2</translation>
+    </message>
+    <message>
+        <source>has to be %1 hexadecimal digits</source>
+        <translation>%1 桁の 16 進数である必要があります</translation>
+    </message>
+    <message>
+        <source>names the manifest itself</source>
+        <translation>マニフェスト自体を指しています</translation>
+    </message>
+    <message>
+        <source>is a second %1; one is allowed</source>
+        <translation>2 つ目の %1 です。使用できるのは 1 つだけです</translation>
+    </message>
+    <message>
+        <source>checks preconditions after a step that changes the camera</source>
+        <translation>カメラを変更する手順の後に前提条件を確認しています</translation>
+    </message>
+    <message>
+        <source>acquires the update data after a FileUpload</source>
+        <translation>FileUpload の後に更新データを取得しています</translation>
+    </message>
+    <message>
+        <source>takes %1 ms by its estimates; at most %2 are allowed</source>
+        <translation>推定時間の合計 (%1 ms) が上限の %2 ms を超えています</translation>
+    </message>
+    <message>
+        <source>is &quot;%1&quot;, which is not a version like 2.0.0 or 2.0.0-rc1</source>
+        <translation>「%1」は 2.0.0 や 2.0.0-rc1 のようなバージョンではありません</translation>
+    </message>
+    <message>
+        <source>the format version is %1, but this program reads version %2 only</source>
+        <translation>形式のバージョンは %1 ですが、このプログラムが読み取れるのはバージョン %2 のみです</translation>
+    </message>
+    <message>
+        <source>update.json has %1 bytes; at most %2 are allowed</source>
+        <translation>update.json のサイズ (%1 バイト) が上限の %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>update.json %1</source>
+        <translation>update.json: %1</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be read; the archive is damaged</source>
+        <translation>ファイル「%1」を読み取れません。アーカイブが破損しています</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; is damaged and cannot be unpacked</source>
+        <translation>ファイル「%1」が破損しているため、展開できません</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; unpacks to more bytes than the archive declares</source>
+        <translation>ファイル「%1」の展開後のサイズが、アーカイブの記載より大きくなっています</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json</source>
+        <translation>データファイル「%1」が update.json の SHA-256 と一致しません</translation>
+    </message>
+    <message>
+        <source>update.json is in a folder of the archive (&quot;%1&quot;); it must be at the top level</source>
+        <translation>update.json がアーカイブ内のフォルダーにあります (「%1」)。最上位に置く必要があります</translation>
+    </message>
+    <message>
+        <source>the file has %1 bytes; at most %2 are allowed</source>
+        <translation>ファイルのサイズ (%1 バイト) が上限の %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the archive has %1 entries; at most %2 are allowed</source>
+        <translation>アーカイブの項目数 (%1) が上限の %2 を超えています</translation>
+    </message>
+    <message>
+        <source>the archive has two entries named &quot;%1&quot;</source>
+        <translation>アーカイブに「%1」という名前の項目が 2 つあります</translation>
+    </message>
+    <message>
+        <source>the entry name &quot;%1&quot; %2</source>
+        <translation>項目名「%1」: %2</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; of the archive is damaged</source>
+        <translation>アーカイブの項目「%1」が破損しています</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; is encrypted; pack it without a password</source>
+        <translation>項目「%1」は暗号化されています。パスワードなしで圧縮してください</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; is compressed by a method other than Deflate</source>
+        <translation>項目「%1」は Deflate 以外の方式で圧縮されています</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is missing in the archive</source>
+        <translation>アーカイブにデータファイル「%1」がありません</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is too short: it has %2 bytes where update.json says %3</source>
+        <translation>データファイル「%1」が短すぎます。update.json では %3 バイトですが、実際は %2 バイトです</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is too long: it has %2 bytes where update.json says %3</source>
+        <translation>データファイル「%1」が長すぎます。update.json では %3 バイトですが、実際は %2 バイトです</translation>
+    </message>
+    <message>
+        <source>the archive has a file &quot;%1&quot; that no step uploads</source>
+        <translation>アーカイブに、どの手順でもアップロードされないファイル「%1」があります</translation>
+    </message>
+    <message>
+        <source>the update is not for its model &quot;%1&quot;</source>
+        <translation>この更新はモデル「%1」用ではありません</translation>
+    </message>
+    <message>
+        <source>the update is not for its device version &quot;%1&quot;</source>
+        <translation>この更新はデバイスバージョン「%1」用ではありません</translation>
+    </message>
+    <message>
+        <source>the update needs firmware version %1 or later, but the camera has &quot;%2&quot;; install an older update first</source>
+        <translation>この更新にはファームウェアバージョン %1 以降が必要ですが、カメラのバージョンは「%2」です。先に古いバージョンの更新ファイルで更新してください</translation>
+    </message>
+    <message>
+        <source>a precondition of the update is not met: its feature &quot;%1&quot; is &quot;%2&quot; instead of &quot;%3&quot;</source>
+        <translation>更新の前提条件が満たされていません: 機能「%1」の値が「%3」ではなく「%2」です</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is &quot;%2&quot; instead of &quot;%3&quot;</source>
+        <translation>機能「%1」の値が「%3」ではなく「%2」です</translation>
+    </message>
+    <message>
+        <source>after the update it reports firmware version &quot;%1&quot; instead of %2</source>
+        <translation>更新後に報告されたファームウェアバージョンが %2 ではなく「%1」です</translation>
+    </message>
+    <message>
+        <source>the archive cannot be created</source>
+        <translation>アーカイブを作成できません</translation>
+    </message>
+    <message>
+        <source>the archive cannot be written: %1</source>
+        <translation>アーカイブに書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is missing in the folder</source>
+        <translation>フォルダーにデータファイル「%1」がありません</translation>
+    </message>
+    <message>
+        <source>its folder does not exist or is read-only</source>
+        <translation>ファイルのフォルダーが存在しないか、読み取り専用です</translation>
+    </message>
+    <message>
+        <source>the file cannot be replaced</source>
+        <translation>ファイルを置き換えられません</translation>
+    </message>
+    <message>
+        <source>this is not a folder</source>
+        <translation>フォルダーではありません</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the folder</source>
+        <translation>フォルダーに update.json がありません</translation>
+    </message>
+    <message>
+        <source>update.json cannot be opened; check its access rights</source>
+        <translation>update.json を開けません。アクセス権を確認してください</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is empty</source>
+        <translation>データファイル「%1」が空です</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; cannot be read</source>
+        <translation>データファイル「%1」を読み取れません</translation>
+    </message>
+    <message>
+        <source>the name of a field in double quotes</source>
+        <translation>二重引用符で囲まれたフィールド名</translation>
+    </message>
+    <message>
+        <source>expected a colon after &quot;%1&quot;, found %2</source>
+        <translation>「%1」の後にコロンが必要ですが、%2があります</translation>
+    </message>
+    <message>
+        <source>a text in double quotes</source>
+        <translation>二重引用符で囲まれた文字列</translation>
+    </message>
+    <message>
+        <source>expected a number, found %1</source>
+        <translation>数値が必要ですが、%1 があります</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>%1 から %2 までの整数</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>%1が必要ですが、%2があります</translation>
+    </message>
+    <message>
+        <source>expected the end of the text, found %1</source>
+        <translation>テキストの終わりが必要ですが、%1があります</translation>
+    </message>
+    <message>
+        <source>a list that begins with &quot;[&quot;</source>
+        <translation>「[」で始まるリスト</translation>
+    </message>
+    <message>
+        <source>an object that begins with &quot;{&quot;</source>
+        <translation>「{」で始まるオブジェクト</translation>
+    </message>
+    <message>
+        <source>expected a comma or &quot;%1&quot;, found %2</source>
+        <translation>コンマまたは「%1」が必要ですが、%2があります</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>文字列が有効な UTF-8 ではありません</translation>
+    </message>
+    <message>
+        <source>the text has no closing double quote</source>
+        <translation>文字列を閉じる二重引用符がありません</translation>
+    </message>
+    <message>
+        <source>the text contains a control character</source>
+        <translation>文字列に制御文字が含まれています</translation>
+    </message>
+    <message>
+        <source>unknown escape sequence in a text</source>
+        <translation>文字列に不明なエスケープシーケンスがあります</translation>
+    </message>
+    <message>
+        <source>the text contains half a surrogate pair</source>
+        <translation>文字列にサロゲートペアの片方だけが含まれています</translation>
+    </message>
+    <message>
+        <source>expected four hexadecimal digits after &quot;\u&quot;</source>
+        <translation>「\u」の後に 4 桁の 16 進数が必要です</translation>
+    </message>
+    <message>
+        <source>the end of the text</source>
+        <translation>テキストの終わり</translation>
+    </message>
+    <message>
+        <source>an unexpected character</source>
+        <translation>予期しない文字</translation>
+    </message>
+    <message>
+        <source>a double quote</source>
+        <translation>二重引用符</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null 値</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; refers to itself</source>
+        <translation>機能「%1」が自分自身を参照しています</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; refers to too many others</source>
+        <translation>機能「%1」が参照する機能が多すぎます</translation>
+    </message>
+    <message>
+        <source>its feature description is larger than %1 bytes</source>
+        <translation>機能記述が %1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>its feature description is nested too deeply</source>
+        <translation>機能記述の入れ子が深すぎます</translation>
+    </message>
+    <message>
+        <source>its feature description defines entities</source>
+        <translation>機能記述でエンティティが定義されています</translation>
+    </message>
+    <message>
+        <source>its feature description is damaged in line %1</source>
+        <translation>機能記述の %1 行目が破損しています</translation>
+    </message>
+    <message>
+        <source>its feature description describes no features</source>
+        <translation>機能記述に機能が記述されていません</translation>
+    </message>
+    <message>
+        <source>its packed feature description is damaged</source>
+        <translation>圧縮された機能記述が破損しています</translation>
+    </message>
+    <message>
+        <source>its feature description does not lie in the camera</source>
+        <translation>機能記述がカメラ内にありません</translation>
+    </message>
+    <message>
+        <source>its feature description is empty</source>
+        <translation>機能記述が空です</translation>
+    </message>
+    <message>
+        <source>its feature description could not be read</source>
+        <translation>機能記述を読み取れませんでした</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR" sourcelanguage="en_US">
 <context>
+    <name>Viewer</name>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set. Start it from a desktop, or with QT_QPA_PLATFORM=offscreen to see nothing.</source>
+        <translation>디스플레이가 없습니다. DISPLAY와 WAYLAND_DISPLAY가 모두 설정되어 있지 않습니다. 데스크톱에서 시작하거나, 화면 표시가 필요 없으면 QT_QPA_PLATFORM=offscreen을 지정하여 시작하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -33,15 +40,11 @@
     </message>
     <message>
         <source>Stop recording; acquisition goes on (F9)</source>
-        <translation>녹화 중지(영상 획득은 계속됨)(F9)</translation>
+        <translation>영상 획득은 유지하고 녹화만 중지(F9)</translation>
     </message>
     <message>
         <source>Record into folder</source>
         <translation>녹화할 폴더</translation>
-    </message>
-    <message>
-        <source>%1 records into %2.</source>
-        <translation>%1의 영상을 %2에 녹화하고 있습니다.</translation>
     </message>
     <message>
         <source>No camera selected</source>
@@ -56,19 +59,23 @@
         <translation>카메라를 찾을 수 없음</translation>
     </message>
     <message>
-        <source>Plug one in and press Refresh.</source>
-        <translation>카메라를 연결한 후 새로 고침을 누르십시오.</translation>
-    </message>
-    <message>
-        <source>Press Start to see its image.</source>
-        <translation>영상을 보려면 시작을 누르십시오.</translation>
-    </message>
-    <message>
         <source>Its firmware is being updated.</source>
         <translation>펌웨어를 업데이트하고 있습니다.</translation>
     </message>
     <message>
-        <source>Another application is using it.</source>
+        <source>Recording %1 to %2.</source>
+        <translation>%1의 영상을 %2에 녹화하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Plug one in and click Refresh.</source>
+        <translation>카메라를 연결한 후 &quot;새로 고침&quot;을 클릭하십시오.</translation>
+    </message>
+    <message>
+        <source>Click Start to see its image.</source>
+        <translation>영상을 보려면 &quot;시작&quot;을 클릭하십시오.</translation>
+    </message>
+    <message>
+        <source>It is in use by another application.</source>
         <translation>다른 응용 프로그램에서 사용 중입니다.</translation>
     </message>
 </context>
@@ -91,10 +98,6 @@
         <translation>이전 업데이트에서 시뮬레이션 카메라에 기록한 펌웨어를 지웁니다.</translation>
     </message>
     <message>
-        <source>Let the simulated cameras work &lt;n&gt; times faster than real ones (a demonstration: %1).</source>
-        <translation>시뮬레이션 카메라를 실제 카메라보다 &lt;n&gt;배 빠르게 작동시킵니다(데모: %1).</translation>
-    </message>
-    <message>
         <source>n</source>
         <translation>n</translation>
     </message>
@@ -115,24 +118,12 @@
         <translation>코드</translation>
     </message>
     <message>
-        <source>Offer the update files in &lt;dir&gt;.</source>
-        <translation>&lt;폴더&gt;의 업데이트 파일을 제공합니다.</translation>
-    </message>
-    <message>
-        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and end.</source>
-        <translation>펌웨어 업데이트 마법사를 자동으로 진행하고, 화면을 &lt;폴더&gt;에 저장한 후 종료합니다.</translation>
-    </message>
-    <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>예기치 않은 인수 &quot;%1&quot;입니다.</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
         <translation>알 수 없는 언어 &quot;%1&quot;입니다. en, ko, ja, zh 중에서 지정하십시오.</translation>
-    </message>
-    <message>
-        <source>The folder for the demonstration&apos;s pictures is empty.</source>
-        <translation>데모 화면을 저장할 폴더가 지정되지 않았습니다.</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
@@ -143,10 +134,6 @@
         <translation>시뮬레이션 카메라를 사용하지 않습니다.</translation>
     </message>
     <message>
-        <source>Search the network and USB for cameras this time, by broadcast.</source>
-        <translation>이번 실행에서 네트워크(브로드캐스트)와 USB의 카메라를 검색합니다.</translation>
-    </message>
-    <message>
         <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
         <translation>브로드캐스트 없이 &lt;주소&gt;의 카메라를 찾습니다. 여러 번 지정할 수 있습니다.</translation>
     </message>
@@ -155,12 +142,40 @@
         <translation>주소</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no camera address; it has the form 192.168.0.10.</source>
+        <source>Show this help and quit.</source>
+        <translation>이 도움말을 표시하고 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Show the version and quit.</source>
+        <translation>버전을 표시하고 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
+        <translation>시뮬레이션 카메라를 실제 카메라의 &lt;n&gt;배 속도로 작동시킵니다(기본값 1, --demo 사용 시 %1).</translation>
+    </message>
+    <message>
+        <source>Search the network (by broadcast) and USB for cameras this time.</source>
+        <translation>이번 실행에서 네트워크(브로드캐스트)와 USB의 카메라를 검색합니다.</translation>
+    </message>
+    <message>
+        <source>Use &lt;dir&gt; as the folder of sample update files.</source>
+        <translation>&lt;폴더&gt;를 샘플 업데이트 파일의 폴더로 사용합니다.</translation>
+    </message>
+    <message>
+        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and quit.</source>
+        <translation>펌웨어 업데이트 마법사를 자동으로 진행하고, 화면을 &lt;폴더&gt;에 저장한 후 종료합니다.</translation>
+    </message>
+    <message>
+        <source>No folder is given for the demonstration&apos;s pictures.</source>
+        <translation>데모 화면을 저장할 폴더가 지정되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
         <translation>&quot;%1&quot;은(는) 카메라 주소가 아닙니다. 192.168.0.10 형식으로 입력하십시오.</translation>
     </message>
     <message>
-        <source>This viewer was built without the library for cameras on real wires.</source>
-        <translation>이 뷰어는 실제 연결된 카메라용 라이브러리 없이 빌드되었습니다.</translation>
+        <source>This viewer was built without the library for real cameras.</source>
+        <translation>이 뷰어는 실제 카메라용 라이브러리 없이 빌드되었습니다.</translation>
     </message>
 </context>
 <context>
@@ -236,7 +251,7 @@
         <translation>언어(&amp;L)</translation>
     </message>
     <message>
-        <source>The language changes when the viewer is started the next time.</source>
+        <source>The language changes the next time the viewer starts.</source>
         <translation>언어는 다음에 뷰어를 시작할 때 변경됩니다.</translation>
     </message>
 </context>
@@ -278,8 +293,8 @@
         <translation>연결됨(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Busy elsewhere</source>
-        <translation>다른 곳에서 사용 중(&amp;B)</translation>
+        <source>In &amp;use elsewhere</source>
+        <translation>다른 곳에서 사용 중(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -294,10 +309,6 @@
     <message>
         <source>Re&amp;fresh</source>
         <translation>새로 고침(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Look for cameras (F5)</source>
-        <translation>카메라 검색(F5)</translation>
     </message>
     <message>
         <source>&amp;Open sample folder</source>
@@ -333,7 +344,7 @@
     </message>
     <message>
         <source>Not all plug-ins are available: see Help &gt; Plug-ins.</source>
-        <translation>일부 플러그인을 사용할 수 없습니다. 도움말 &gt; 플러그인을 참조하십시오.</translation>
+        <translation>일부 플러그인을 사용할 수 없습니다. &quot;도움말&quot; &gt; &quot;플러그인&quot;을 참조하십시오.</translation>
     </message>
     <message>
         <source>A firmware update is running. Wait until it has ended before you quit.</source>
@@ -361,16 +372,16 @@
         <source>Search the &amp;network for cameras</source>
         <translation>네트워크에서 카메라 검색(&amp;N)</translation>
     </message>
+    <message>
+        <source>Search for cameras (F5)</source>
+        <translation>카메라 검색(F5)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
     <message>
         <source>The folder &quot;%1&quot; does not exist; choose another one.</source>
         <translation>폴더 &quot;%1&quot;이(가) 없습니다. 다른 폴더를 선택하십시오.</translation>
-    </message>
-    <message>
-        <source>Camera %1 does not answer any more; its acquisition has ended.</source>
-        <translation>카메라 %1이(가) 더 이상 응답하지 않아 영상 획득이 종료되었습니다.</translation>
     </message>
     <message>
         <source>The recording of camera %1 has ended: %2.</source>
@@ -385,391 +396,20 @@
         <translation>카메라 %1이(가) 응답하지 않습니다. 케이블을 확인하십시오.</translation>
     </message>
     <message>
-        <source>Camera %1 is used by another application.</source>
-        <translation>카메라 %1을(를) 다른 응용 프로그램에서 사용 중입니다.</translation>
-    </message>
-    <message>
         <source>Camera %1 is being updated.</source>
         <translation>카메라 %1을(를) 업데이트하고 있습니다.</translation>
     </message>
     <message>
-        <source>Camera %1 is on a real wire; only its firmware can be updated here.</source>
-        <translation>카메라 %1은(는) 실제로 연결된 카메라이므로 여기서는 펌웨어만 업데이트할 수 있습니다.</translation>
+        <source>Camera %1 no longer answers; acquisition has stopped.</source>
+        <translation>카메라 %1이(가) 더 이상 응답하지 않아 영상 획득이 중지되었습니다.</translation>
     </message>
-</context>
-<context>
-    <name>Viewer::CameraPool::CErrorText</name>
     <message>
-        <source>Camera %1: %2</source>
-        <translation>카메라 %1: %2</translation>
+        <source>Camera %1 is a real camera; only its firmware can be updated here.</source>
+        <translation>카메라 %1은(는) 실제 카메라이므로 이 뷰어에서는 펌웨어만 업데이트할 수 있습니다.</translation>
     </message>
     <message>
-        <source>out of memory</source>
-        <translation>메모리가 부족합니다</translation>
-    </message>
-    <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다</translation>
-    </message>
-    <message>
-        <source>it is already being updated</source>
-        <translation>이미 업데이트 중입니다</translation>
-    </message>
-    <message>
-        <source>it is acquiring images; stop that and start the update again</source>
-        <translation>영상을 획득하고 있습니다. 영상 획득을 중지한 후 업데이트를 다시 시작하십시오</translation>
-    </message>
-    <message>
-        <source>the update failed for an unknown reason</source>
-        <translation>알 수 없는 이유로 업데이트에 실패했습니다</translation>
-    </message>
-    <message>
-        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
-        <translation>%1. 업데이트가 이미 쓰기를 시작했으므로, 카메라를 사용하기 전에 업데이트를 다시 수행하십시오</translation>
-    </message>
-    <message>
-        <source>it does not answer; check its cable and its power supply</source>
-        <translation>응답하지 않습니다. 케이블과 전원을 확인하십시오</translation>
-    </message>
-    <message>
-        <source>another application uses it; close that application</source>
-        <translation>다른 응용 프로그램에서 사용 중입니다. 해당 응용 프로그램을 닫으십시오</translation>
-    </message>
-    <message>
-        <source>it is already open</source>
-        <translation>이미 열려 있습니다</translation>
-    </message>
-    <message>
-        <source>it has no feature &quot;%1&quot; that can be read</source>
-        <translation>읽을 수 있는 기능 &quot;%1&quot;이(가) 없습니다</translation>
-    </message>
-    <message>
-        <source>it refuses to write the feature &quot;%1&quot;</source>
-        <translation>기능 &quot;%1&quot;의 쓰기를 거부했습니다</translation>
-    </message>
-    <message>
-        <source>it has no feature &quot;%1&quot; that can be written</source>
-        <translation>쓸 수 있는 기능 &quot;%1&quot;이(가) 없습니다</translation>
-    </message>
-    <message>
-        <source>it has no command &quot;%1&quot;</source>
-        <translation>명령 &quot;%1&quot;이(가) 없습니다</translation>
-    </message>
-    <message>
-        <source>it refuses to write the file &quot;%1&quot;</source>
-        <translation>파일 &quot;%1&quot;의 쓰기를 거부했습니다</translation>
-    </message>
-    <message>
-        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
-        <translation>파일 &quot;%1&quot;의 데이터가 전체 %3바이트 중 %2바이트에서 끝났습니다(%4)</translation>
-    </message>
-    <message>
-        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
-        <translation>파일 &quot;%1&quot;의 업로드가 전체 %3바이트 중 %2바이트에서 중단되었습니다</translation>
-    </message>
-    <message>
-        <source>it did not come back from its reset within %1 s; switch it off and on</source>
-        <translation>재설정 후 %1초 이내에 다시 연결되지 않았습니다. 카메라를 껐다가 다시 켜십시오</translation>
-    </message>
-    <message>
-        <source>it did not answer within %1 s</source>
-        <translation>%1초 이내에 응답하지 않았습니다</translation>
-    </message>
-    <message>
-        <source>it is not open</source>
-        <translation>열려 있지 않습니다</translation>
-    </message>
-    <message>
-        <source>the connection was lost; check its cable and its power supply</source>
-        <translation>연결이 끊어졌습니다. 케이블과 전원을 확인하십시오</translation>
-    </message>
-    <message>
-        <source>there is no complete firmware image to activate</source>
-        <translation>활성화할 완전한 펌웨어 이미지가 없습니다</translation>
-    </message>
-    <message>
-        <source>it does not accept the uploaded file as a firmware image</source>
-        <translation>업로드된 파일을 펌웨어 이미지로 인식하지 않습니다</translation>
-    </message>
-    <message>
-        <source>the uploaded firmware image is for model %1, not for %2</source>
-        <translation>업로드된 펌웨어 이미지는 모델 %2용이 아니라 %1용입니다</translation>
-    </message>
-    <message>
-        <source>the update file contains a step of an unknown kind</source>
-        <translation>업데이트 파일에 알 수 없는 종류의 단계가 있습니다</translation>
-    </message>
-    <message>
-        <source>it cannot be updated now, since it reports status %1</source>
-        <translation>상태 %1을(를) 보고하므로 지금은 업데이트할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>the update is not for its model %1</source>
-        <translation>이 업데이트는 해당 카메라 모델 %1용이 아닙니다</translation>
-    </message>
-    <message>
-        <source>the update is not for its device version %1</source>
-        <translation>이 업데이트는 해당 장치 버전 %1용이 아닙니다</translation>
-    </message>
-    <message>
-        <source>its firmware version %1 is below %2, from which on the update can be installed; install an older update first</source>
-        <translation>펌웨어 버전 %1이(가) 이 업데이트를 설치할 수 있는 최소 버전 %2보다 낮습니다. 먼저 이전 업데이트를 설치하십시오</translation>
-    </message>
-    <message>
-        <source>a precondition of the update is not met: its feature %1 is %2 instead of %3</source>
-        <translation>업데이트의 사전 조건이 충족되지 않았습니다: 기능 %1의 값이 %3이어야 하지만 %2입니다</translation>
-    </message>
-    <message>
-        <source>its feature %1 is %2 instead of %3</source>
-        <translation>기능 %1의 값이 %3이어야 하지만 %2입니다</translation>
-    </message>
-    <message>
-        <source>after the update it reports firmware version %1 instead of %2</source>
-        <translation>업데이트 후 보고된 펌웨어 버전이 %2이어야 하지만 %1입니다</translation>
-    </message>
-    <message>
-        <source>the file %1 cannot be read; the archive is damaged</source>
-        <translation>파일 %1을(를) 읽을 수 없습니다. 압축 파일이 손상되었습니다</translation>
-    </message>
-    <message>
-        <source>the file %1 is damaged and cannot be unpacked</source>
-        <translation>파일 %1이(가) 손상되어 압축을 풀 수 없습니다</translation>
-    </message>
-    <message>
-        <source>the file %1 unpacks to more bytes than the archive declares</source>
-        <translation>파일 %1의 압축을 푼 크기가 압축 파일에 기록된 크기보다 큽니다</translation>
-    </message>
-    <message>
-        <source>the payload %1 does not match its SHA-256 in update.json</source>
-        <translation>데이터 %1이(가) update.json의 SHA-256과 일치하지 않습니다</translation>
-    </message>
-    <message>
-        <source>the archive is cut off at its end; copy the file again</source>
-        <translation>압축 파일의 끝부분이 잘렸습니다. 파일을 다시 복사하십시오</translation>
-    </message>
-    <message>
-        <source>this is not an update file, as it is not a ZIP archive</source>
-        <translation>ZIP 압축 파일이 아니므로 업데이트 파일이 아닙니다</translation>
-    </message>
-    <message>
-        <source>the archive is one part of several; pack it as one file</source>
-        <translation>분할된 압축 파일의 일부입니다. 하나의 파일로 압축하십시오</translation>
-    </message>
-    <message>
-        <source>there is not enough memory to read the archive</source>
-        <translation>압축 파일을 읽기 위한 메모리가 부족합니다</translation>
-    </message>
-    <message>
-        <source>the file cannot be read from the disk</source>
-        <translation>디스크에서 파일을 읽을 수 없습니다</translation>
-    </message>
-    <message>
-        <source>the archive is damaged; copy the file again</source>
-        <translation>압축 파일이 손상되었습니다. 파일을 다시 복사하십시오</translation>
-    </message>
-    <message>
-        <source>update.json lies in a folder of the archive (%1); it has to lie at the top</source>
-        <translation>update.json이 압축 파일의 폴더 안에 있습니다(%1). 최상위에 있어야 합니다</translation>
-    </message>
-    <message>
-        <source>there is no update.json in the archive</source>
-        <translation>압축 파일에 update.json이 없습니다</translation>
-    </message>
-    <message>
-        <source>update.json has %1 bytes; %2 are allowed</source>
-        <translation>update.json의 크기가 %1바이트입니다. %2바이트까지 허용됩니다</translation>
-    </message>
-    <message>
-        <source>the file does not exist</source>
-        <translation>파일이 없습니다</translation>
-    </message>
-    <message>
-        <source>this is a folder, not a file</source>
-        <translation>파일이 아니라 폴더입니다</translation>
-    </message>
-    <message>
-        <source>this is not a regular file</source>
-        <translation>일반 파일이 아닙니다</translation>
-    </message>
-    <message>
-        <source>the file cannot be opened; check its access rights</source>
-        <translation>파일을 열 수 없습니다. 액세스 권한을 확인하십시오</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>파일이 비어 있습니다</translation>
-    </message>
-    <message>
-        <source>the file has %1 bytes; %2 are allowed</source>
-        <translation>파일 크기가 %1바이트입니다. %2바이트까지 허용됩니다</translation>
-    </message>
-    <message>
-        <source>the file cannot be opened; too many files are open</source>
-        <translation>열려 있는 파일이 너무 많아 파일을 열 수 없습니다</translation>
-    </message>
-    <message>
-        <source>the archive has %1 entries; %2 are allowed</source>
-        <translation>압축 파일에 항목이 %1개 있습니다. %2개까지 허용됩니다</translation>
-    </message>
-    <message>
-        <source>the archive has two entries named %1</source>
-        <translation>압축 파일에 이름이 %1인 항목이 두 개 있습니다</translation>
-    </message>
-    <message>
-        <source>the archive unpacks to more than %1 bytes</source>
-        <translation>압축을 푼 크기가 %1바이트를 초과합니다</translation>
-    </message>
-    <message>
-        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
-        <translation>압축 파일의 %1번째 항목에 이름이 없거나 이름이 UTF-8이 아닙니다</translation>
-    </message>
-    <message>
-        <source>the entry %1 of the archive is damaged</source>
-        <translation>압축 파일의 항목 %1이(가) 손상되었습니다</translation>
-    </message>
-    <message>
-        <source>the entry %1 is encrypted; pack it without a password</source>
-        <translation>항목 %1이(가) 암호화되어 있습니다. 암호 없이 압축하십시오</translation>
-    </message>
-    <message>
-        <source>the entry %1 is compressed by a method other than Deflate</source>
-        <translation>항목 %1이(가) Deflate 이외의 방식으로 압축되었습니다</translation>
-    </message>
-    <message>
-        <source>the payload %1 is missing in the archive</source>
-        <translation>압축 파일에 데이터 %1이(가) 없습니다</translation>
-    </message>
-    <message>
-        <source>the payload %1 is too short: it has %2 bytes where update.json says %3</source>
-        <translation>데이터 %1이(가) 너무 짧습니다. update.json에는 %3바이트이지만 실제로는 %2바이트입니다</translation>
-    </message>
-    <message>
-        <source>the payload %1 is too long: it has %2 bytes where update.json says %3</source>
-        <translation>데이터 %1이(가) 너무 깁니다. update.json에는 %3바이트이지만 실제로는 %2바이트입니다</translation>
-    </message>
-    <message>
-        <source>Update file %1: %2</source>
-        <translation>업데이트 파일 %1: %2</translation>
-    </message>
-    <message>
-        <source>it did not answer; check its cable, its power supply and the network</source>
-        <translation>응답하지 않았습니다. 케이블, 전원 및 네트워크를 확인하십시오</translation>
-    </message>
-    <message>
-        <source>control over it was lost; close other applications that use it</source>
-        <translation>카메라의 제어권을 잃었습니다. 카메라를 사용하는 다른 응용 프로그램을 닫으십시오</translation>
-    </message>
-    <message>
-        <source>it is busy; try again later</source>
-        <translation>사용 중입니다. 나중에 다시 시도하십시오</translation>
-    </message>
-    <message>
-        <source>it refused (%1)</source>
-        <translation>거부되었습니다(%1)</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>its feature %1 could not be read</source>
-        <translation>기능 %1을(를) 읽을 수 없습니다</translation>
-    </message>
-    <message>
-        <source>its feature %1 could not be set to &quot;%2&quot;</source>
-        <translation>기능 %1을(를) &quot;%2&quot;(으)로 설정할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>it has no feature %1; the update file may be for another model</source>
-        <translation>기능 %1이(가) 없습니다. 업데이트 파일이 다른 모델용일 수 있습니다</translation>
-    </message>
-    <message>
-        <source>its feature %1 is no command</source>
-        <translation>기능 %1은(는) 명령이 아닙니다</translation>
-    </message>
-    <message>
-        <source>its command %1 could not be executed</source>
-        <translation>명령 %1을(를) 실행할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>the end of its command %1 could not be awaited</source>
-        <translation>명령 %1의 완료를 확인할 수 없습니다</translation>
-    </message>
-    <message>
-        <source>its feature %1 is no register</source>
-        <translation>기능 %1은(는) 레지스터가 아닙니다</translation>
-    </message>
-    <message>
-        <source>its memory could not be written</source>
-        <translation>메모리에 쓸 수 없습니다</translation>
-    </message>
-    <message>
-        <source>opening its file &quot;%1&quot; failed</source>
-        <translation>파일 &quot;%1&quot;을(를) 열지 못했습니다</translation>
-    </message>
-    <message>
-        <source>writing its file &quot;%1&quot; failed at byte %2</source>
-        <translation>파일 &quot;%1&quot;의 %2바이트 위치에서 쓰지 못했습니다</translation>
-    </message>
-    <message>
-        <source>closing its file &quot;%1&quot; failed</source>
-        <translation>파일 &quot;%1&quot;을(를) 닫지 못했습니다</translation>
-    </message>
-    <message>
-        <source>its buffer for files is empty</source>
-        <translation>파일용 버퍼가 비어 있습니다</translation>
-    </message>
-    <message>
-        <source>it took %1 of %2 bytes</source>
-        <translation>%2바이트 중 %1바이트만 받았습니다</translation>
-    </message>
-    <message>
-        <source>it took too long</source>
-        <translation>시간이 너무 오래 걸렸습니다</translation>
-    </message>
-    <message>
-        <source>it reports the status &quot;%1&quot;</source>
-        <translation>상태 &quot;%1&quot;을(를) 보고합니다</translation>
-    </message>
-    <message>
-        <source>there is no way to its address; check the network settings of this computer</source>
-        <translation>카메라의 주소에 연결할 수 없습니다. 이 컴퓨터의 네트워크 설정을 확인하십시오</translation>
-    </message>
-    <message>
-        <source>it could not be opened</source>
-        <translation>카메라를 열 수 없습니다</translation>
-    </message>
-    <message>
-        <source>it is in use by another application; close that one and start the update again</source>
-        <translation>다른 응용 프로그램에서 사용 중입니다. 해당 응용 프로그램을 닫고 업데이트를 다시 시작하십시오</translation>
-    </message>
-    <message>
-        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
-        <translation>명령 &quot;%1&quot;의 시간이 너무 오래 걸렸습니다. 카메라를 껐다가 다시 켠 후 업데이트를 반복하십시오</translation>
-    </message>
-    <message>
-        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
-        <translation>파일 &quot;%1&quot;의 업로드 시간이 너무 오래 걸려 전체 %3바이트 중 %2바이트에서 중단되었습니다</translation>
-    </message>
-    <message>
-        <source>it did not come back from its reset; switch it off and on and look for its firmware version</source>
-        <translation>재설정 후 다시 연결되지 않았습니다. 카메라를 껐다가 다시 켠 후 펌웨어 버전을 확인하십시오</translation>
-    </message>
-    <message>
-        <source>it did not restart; switch it off and on and look for its firmware version</source>
-        <translation>다시 시작되지 않았습니다. 카메라를 껐다가 다시 켠 후 펌웨어 버전을 확인하십시오</translation>
-    </message>
-    <message>
-        <source>same serial number as another camera</source>
-        <translation>다른 카메라와 일련번호가 같음</translation>
-    </message>
-    <message>
-        <source>another camera has the same vendor, model and serial number; connect only one of them and look for cameras again</source>
-        <translation>제조사, 모델 및 일련번호가 같은 카메라가 또 있습니다. 그중 하나만 연결하고 카메라를 다시 검색하십시오</translation>
-    </message>
-    <message>
-        <source>another camera, %1, answers at its address; look for cameras again</source>
-        <translation>해당 주소에서 다른 카메라 %1이(가) 응답합니다. 카메라를 다시 검색하십시오</translation>
+        <source>Camera %1 is in use by another application.</source>
+        <translation>카메라 %1을(를) 다른 응용 프로그램에서 사용 중입니다.</translation>
     </message>
 </context>
 <context>
@@ -795,7 +435,7 @@ Firmware: %5</source>
     </message>
     <message>
         <source>Acquiring</source>
-        <translation>획득 중</translation>
+        <translation>영상 획득 중</translation>
     </message>
     <message>
         <source>Recording</source>
@@ -846,6 +486,115 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::GufTool::CGufTool</name>
+    <message>
+        <source>There is no command.</source>
+        <translation>명령이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is unknown.</source>
+        <translation>알 수 없는 명령 &quot;%1&quot;입니다.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; has too few or too many arguments.</source>
+        <translation>명령 &quot;%1&quot;의 인수가 너무 적거나 많습니다.</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; has no option --json.</source>
+        <translation>명령 &quot;%1&quot;에는 --json 옵션이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Packed %1: updates: %2, bytes: %3</source>
+        <translation>파일을 만들었습니다: %1(업데이트 %2개, %3바이트)</translation>
+    </message>
+    <message>
+        <source>%1 is faultless, updates: %2</source>
+        <translation>%1에 오류가 없습니다(업데이트 %2개)</translation>
+    </message>
+    <message>
+        <source>Usage: guftool pack DIR FILE
+       guftool inspect [--json] FILE
+       guftool verify FILE
+
+pack     makes the update file FILE from DIR/update.json and the payloads
+         in DIR that it names; sizes and digests that it leaves out are
+         filled in
+inspect  checks FILE and shows what it holds, with --json as JSON
+verify   checks FILE
+
+Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong
+call of this program.
+</source>
+        <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
+        <translation>사용법: guftool pack &lt;폴더&gt; &lt;파일&gt;
+        guftool inspect [--json] &lt;파일&gt;
+        guftool verify &lt;파일&gt;
+
+pack     &lt;폴더&gt;/update.json과 여기에 지정된 &lt;폴더&gt; 안의 데이터 파일로
+         업데이트 파일 &lt;파일&gt;을 만듭니다. 생략된 크기와 다이제스트는
+         자동으로 채웁니다
+inspect  &lt;파일&gt;을 검사하고 내용을 표시합니다(--json: JSON 형식)
+verify   &lt;파일&gt;을 검사합니다
+
+종료 코드: 정상이면 0, 파일에 오류가 있으면 1, 이 프로그램을 잘못
+호출하면 2입니다.
+</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::GufTool::CManifestPrinter</name>
+    <message>
+        <source>File:     %1
+Format:   %2
+Updates:  %3
+</source>
+        <translation>파일:      %1
+형식:      %2
+업데이트:  %3
+</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>
+Update %1
+  Version:          %2
+  Description:      %3
+  Models:           %4
+  Device versions:  %5
+  Minimum version:  %6
+  Release notes:    %7
+  Steps:
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>
+업데이트 %1
+  버전:             %2
+  설명:             %3
+  모델:             %4
+  장치 버전:        %5
+  최소 버전:        %6
+  릴리스 정보:      %7
+  단계:
+</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>모두</translation>
+    </message>
+    <message>
+        <source>    by size</source>
+        <extracomment>Eleven columns wide; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>크기에 따라</translation>
+    </message>
+    <message>
+        <source>%1 (%2 bytes) to %3</source>
+        <translation>%1(%2바이트) → %3</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CDependencyResolver</name>
     <message>
         <source>Its name is that of a part of the viewer.</source>
@@ -853,23 +602,23 @@ Firmware: %5</source>
     </message>
     <message>
         <source>A plug-in of the same name was found before: %1.</source>
-        <translation>같은 이름의 플러그인을 이미 찾았습니다: %1.</translation>
-    </message>
-    <message>
-        <source>It needs &quot;%1&quot; %2, which is not there.</source>
-        <translation>&quot;%1&quot; %2이(가) 필요하지만 없습니다.</translation>
-    </message>
-    <message>
-        <source>It is in a circle of dependencies: %1.</source>
-        <translation>종속성이 순환합니다: %1.</translation>
-    </message>
-    <message>
-        <source>It needs &quot;%1&quot; %2, but the one that is there has version %3 and is compatible down to %4.</source>
-        <translation>&quot;%1&quot; %2이(가) 필요하지만, 현재 버전은 %3이고 %4까지만 호환됩니다.</translation>
+        <translation>같은 이름의 플러그인이 이미 있습니다: %1.</translation>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation>&quot;%1&quot;이(가) 필요하지만 시작할 수 없었습니다.</translation>
+        <translation>&quot;%1&quot;이(가) 필요하지만 시작하지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>It needs &quot;%1&quot; %2, which is missing.</source>
+        <translation>&quot;%1&quot; %2이(가) 필요하지만 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>It is part of a circular dependency: %1.</source>
+        <translation>순환 종속성이 있습니다: %1.</translation>
+    </message>
+    <message>
+        <source>It needs &quot;%1&quot; %2, but version %3 is installed, which is compatible with %4 and later.</source>
+        <translation>&quot;%1&quot; %2이(가) 필요하지만, 설치된 버전은 %3이며 %4 버전부터만 호환됩니다.</translation>
     </message>
 </context>
 <context>
@@ -880,23 +629,23 @@ Firmware: %5</source>
     </message>
     <message>
         <source>It could not set its language</source>
-        <translation>언어를 설정할 수 없습니다</translation>
+        <translation>언어를 설정하지 못했습니다</translation>
     </message>
     <message>
         <source>It could not be initialized</source>
-        <translation>초기화할 수 없습니다</translation>
+        <translation>초기화하지 못했습니다</translation>
     </message>
     <message>
         <source>It could not be connected to the viewer</source>
-        <translation>뷰어에 연결할 수 없습니다</translation>
+        <translation>뷰어에 연결하지 못했습니다</translation>
     </message>
     <message>
         <source>It could not be constructed: %1.</source>
-        <translation>생성할 수 없습니다: %1.</translation>
+        <translation>생성하지 못했습니다: %1.</translation>
     </message>
     <message>
         <source>Its library could not be loaded: %1.</source>
-        <translation>라이브러리를 불러올 수 없습니다: %1.</translation>
+        <translation>라이브러리를 불러오지 못했습니다: %1.</translation>
     </message>
     <message>
         <source>Its library does not contain what its metadata says.</source>
@@ -912,7 +661,7 @@ Firmware: %5</source>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation>&quot;%1&quot;이(가) 필요하지만 시작할 수 없었습니다.</translation>
+        <translation>&quot;%1&quot;이(가) 필요하지만 시작하지 못했습니다.</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; (%2) is not available. %3</source>
@@ -947,6 +696,765 @@ Firmware: %5</source>
     <message>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
         <translation>메타데이터에서 &quot;%2&quot;의 &quot;%1&quot;이(가) 버전 번호가 아닙니다: &quot;%3&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Text::CErrorText</name>
+    <message>
+        <source>Camera %1: %2</source>
+        <translation>카메라 %1: %2</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>메모리가 부족합니다</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera</source>
+        <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다</translation>
+    </message>
+    <message>
+        <source>it is already being updated</source>
+        <translation>이미 업데이트 중입니다</translation>
+    </message>
+    <message>
+        <source>it is acquiring images; stop that and start the update again</source>
+        <translation>영상을 획득하고 있습니다. 영상 획득을 중지한 후 업데이트를 다시 시작하십시오</translation>
+    </message>
+    <message>
+        <source>the update failed for an unknown reason</source>
+        <translation>알 수 없는 이유로 업데이트에 실패했습니다</translation>
+    </message>
+    <message>
+        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
+        <translation>%1. 이미 펌웨어를 쓰기 시작했으므로, 카메라를 사용하기 전에 업데이트를 다시 수행하십시오</translation>
+    </message>
+    <message>
+        <source>it does not answer; check its cable and its power supply</source>
+        <translation>응답하지 않습니다. 케이블과 전원을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>it is already open</source>
+        <translation>이미 열려 있습니다</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be read</source>
+        <translation>읽을 수 있는 기능 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it refuses to write the feature &quot;%1&quot;</source>
+        <translation>기능 &quot;%1&quot;의 쓰기를 거부했습니다</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be written</source>
+        <translation>쓸 수 있는 기능 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it has no command &quot;%1&quot;</source>
+        <translation>명령 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>it refuses to write the file &quot;%1&quot;</source>
+        <translation>카메라 내부 파일 &quot;%1&quot;의 쓰기를 거부했습니다</translation>
+    </message>
+    <message>
+        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
+        <translation>카메라 내부 파일 &quot;%1&quot;의 데이터가 전체 %3바이트 중 %2바이트에서 끝났습니다(%4)</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
+        <translation>카메라 내부 파일 &quot;%1&quot;의 업로드가 전체 %3바이트 중 %2바이트에서 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset within %1 s; switch it off and on</source>
+        <translation>리셋 후 %1초 이내에 다시 연결되지 않았습니다. 카메라를 껐다가 다시 켜십시오</translation>
+    </message>
+    <message>
+        <source>it did not answer within %1 s</source>
+        <translation>%1초 이내에 응답하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>it is not open</source>
+        <translation>열려 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>the connection was lost; check its cable and its power supply</source>
+        <translation>연결이 끊어졌습니다. 케이블과 전원을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>there is no complete firmware image to activate</source>
+        <translation>활성화할 완전한 펌웨어 이미지가 없습니다</translation>
+    </message>
+    <message>
+        <source>it does not accept the uploaded file as a firmware image</source>
+        <translation>업로드된 파일을 펌웨어 이미지로 인식하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>the uploaded firmware image is for model %1, not for %2</source>
+        <translation>업로드된 펌웨어 이미지는 모델 %2용이 아니라 %1용입니다</translation>
+    </message>
+    <message>
+        <source>the update file contains a step of an unknown kind</source>
+        <translation>업데이트 파일에 알 수 없는 종류의 단계가 있습니다</translation>
+    </message>
+    <message>
+        <source>it cannot be updated now, since it reports status %1</source>
+        <translation>카메라 상태가 %1이므로 지금은 업데이트할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at its end; copy the file again</source>
+        <translation>압축 파일의 끝부분이 잘렸습니다. 파일을 다시 복사하십시오</translation>
+    </message>
+    <message>
+        <source>this is not an update file, as it is not a ZIP archive</source>
+        <translation>ZIP 압축 파일이 아니므로 업데이트 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the archive is one part of several; pack it as one file</source>
+        <translation>분할된 압축 파일의 일부입니다. 하나의 파일로 압축하십시오</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the archive</source>
+        <translation>압축 파일을 읽기 위한 메모리가 부족합니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be read from the disk</source>
+        <translation>디스크에서 파일을 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the archive is damaged; copy the file again</source>
+        <translation>압축 파일이 손상되었습니다. 파일을 다시 복사하십시오</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the archive</source>
+        <translation>압축 파일에 update.json이 없습니다</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>파일이 없습니다</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>파일이 아니라 폴더입니다</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; check its access rights</source>
+        <translation>파일을 열 수 없습니다. 액세스 권한을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>파일이 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; too many files are open</source>
+        <translation>열려 있는 파일이 너무 많아 파일을 열 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the archive unpacks to more than %1 bytes</source>
+        <translation>압축을 푼 크기가 %1바이트를 초과합니다</translation>
+    </message>
+    <message>
+        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
+        <translation>압축 파일의 %1번째 항목에 이름이 없거나 이름이 UTF-8이 아닙니다</translation>
+    </message>
+    <message>
+        <source>Update file %1: %2</source>
+        <translation>업데이트 파일 %1: %2</translation>
+    </message>
+    <message>
+        <source>it did not answer; check its cable, its power supply and the network</source>
+        <translation>응답하지 않았습니다. 케이블, 전원 및 네트워크를 확인하십시오</translation>
+    </message>
+    <message>
+        <source>control over it was lost; close other applications that use it</source>
+        <translation>카메라의 제어권을 잃었습니다. 카메라를 사용하는 다른 응용 프로그램을 닫으십시오</translation>
+    </message>
+    <message>
+        <source>it is busy; try again later</source>
+        <translation>다른 작업을 처리하고 있습니다. 나중에 다시 시도하십시오</translation>
+    </message>
+    <message>
+        <source>it refused (%1)</source>
+        <translation>카메라가 요청을 거부했습니다(%1)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>its memory could not be written</source>
+        <translation>카메라 메모리에 쓰지 못했습니다</translation>
+    </message>
+    <message>
+        <source>opening its file &quot;%1&quot; failed</source>
+        <translation>카메라 내부 파일 &quot;%1&quot;을(를) 열지 못했습니다</translation>
+    </message>
+    <message>
+        <source>writing its file &quot;%1&quot; failed at byte %2</source>
+        <translation>카메라 내부 파일 &quot;%1&quot;의 %2바이트 위치에서 쓰지 못했습니다</translation>
+    </message>
+    <message>
+        <source>closing its file &quot;%1&quot; failed</source>
+        <translation>카메라 내부 파일 &quot;%1&quot;을(를) 닫지 못했습니다</translation>
+    </message>
+    <message>
+        <source>it took too long</source>
+        <translation>시간이 너무 오래 걸렸습니다</translation>
+    </message>
+    <message>
+        <source>it reports the status &quot;%1&quot;</source>
+        <translation>카메라 상태가 &quot;%1&quot;입니다</translation>
+    </message>
+    <message>
+        <source>it could not be opened</source>
+        <translation>카메라를 열지 못했습니다</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
+        <translation>명령 &quot;%1&quot;의 실행 시간이 너무 오래 걸렸습니다. 카메라를 껐다가 다시 켠 후 업데이트를 다시 수행하십시오</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
+        <translation>카메라 내부 파일 &quot;%1&quot;의 업로드 시간이 너무 오래 걸려 전체 %3바이트 중 %2바이트에서 중단되었습니다</translation>
+    </message>
+    <message>
+        <source>same serial number as another camera</source>
+        <translation>다른 카메라와 일련번호가 같음</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; could not be read</source>
+        <translation>기능 &quot;%1&quot;을(를) 읽지 못했습니다</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; could not be set to &quot;%2&quot;</source>
+        <translation>기능 &quot;%1&quot;을(를) &quot;%2&quot;(으)로 설정하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot;; the update file may be for another model</source>
+        <translation>기능 &quot;%1&quot;이(가) 없습니다. 업데이트 파일이 다른 모델용일 수 있습니다</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is not a command</source>
+        <translation>기능 &quot;%1&quot;은(는) 명령이 아닙니다</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; could not be executed</source>
+        <translation>명령 &quot;%1&quot;을(를) 실행하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>it could not be found out whether its command &quot;%1&quot; has finished</source>
+        <translation>명령 &quot;%1&quot;의 완료 여부를 확인하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is not a register</source>
+        <translation>기능 &quot;%1&quot;은(는) 레지스터가 아닙니다</translation>
+    </message>
+    <message>
+        <source>its buffer for files has no room (length 0)</source>
+        <translation>파일 전송용 버퍼의 크기가 0입니다</translation>
+    </message>
+    <message>
+        <source>it accepted only %1 of %2 bytes</source>
+        <translation>%2바이트 중 %1바이트만 받았습니다</translation>
+    </message>
+    <message>
+        <source>another camera has the same vendor, model and serial number; connect only one of them and search for cameras again</source>
+        <translation>제조사, 모델 및 일련번호가 같은 카메라가 또 있습니다. 그중 하나만 연결하고 카메라를 다시 검색하십시오</translation>
+    </message>
+    <message>
+        <source>another camera, %1, answers at its address; search for cameras again</source>
+        <translation>해당 주소에서 다른 카메라 %1이(가) 응답합니다. 카메라를 다시 검색하십시오</translation>
+    </message>
+    <message>
+        <source>its address cannot be reached; check the network settings of this computer</source>
+        <translation>카메라의 주소에 연결할 수 없습니다. 이 컴퓨터의 네트워크 설정을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>it is in use by another application; close that application and start the update again</source>
+        <translation>다른 응용 프로그램에서 사용 중입니다. 해당 응용 프로그램을 닫고 업데이트를 다시 시작하십시오</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset; switch it off and on and check its firmware version</source>
+        <translation>리셋 후 다시 연결되지 않았습니다. 카메라를 껐다가 다시 켠 후 펌웨어 버전을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>it did not restart; switch it off and on and check its firmware version</source>
+        <translation>다시 시작되지 않았습니다. 카메라를 껐다가 다시 켠 후 펌웨어 버전을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>the field is given twice</source>
+        <translation>필드가 두 번 지정되었습니다</translation>
+    </message>
+    <message>
+        <source>unknown field</source>
+        <translation>알 수 없는 필드입니다</translation>
+    </message>
+    <message>
+        <source>the field &quot;%1&quot; is missing</source>
+        <translation>필드 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>format %1 is unknown, only format 1 can be read</source>
+        <translation>형식 %1은(는) 알 수 없습니다. 형식 1만 읽을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>more than %1 transport layers</source>
+        <translation>전송 계층이 %1개를 초과합니다</translation>
+    </message>
+    <message>
+        <source>more than %1 cameras</source>
+        <translation>카메라가 %1대를 초과합니다</translation>
+    </message>
+    <message>
+        <source>the id &quot;%1&quot; is already used in line %2</source>
+        <translation>ID &quot;%1&quot;은(는) %2행에서 이미 사용되었습니다</translation>
+    </message>
+    <message>
+        <source>the text must not be empty</source>
+        <translation>문자열이 비어 있으면 안 됩니다</translation>
+    </message>
+    <message>
+        <source>the text has %1 characters; at most %2 are allowed</source>
+        <translation>문자열이 %1자입니다. 최대 %2자까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>the text must not contain line breaks or control characters</source>
+        <translation>문자열에 줄 바꿈이나 제어 문자가 있으면 안 됩니다</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; cannot be read: it is not a regular file</source>
+        <translation>카메라 기술 파일 &quot;%1&quot;을(를) 읽을 수 없습니다: 일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; cannot be read: %2</source>
+        <translation>카메라 기술 파일 &quot;%1&quot;을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; is larger than %2 bytes</source>
+        <translation>카메라 기술 파일 &quot;%1&quot;이(가) %2바이트보다 큽니다</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot;, line %2, column %3: %4</source>
+        <translation>카메라 기술 파일 &quot;%1&quot;, %2행 %3열: %4</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot;, line %2, column %3, field &quot;%4&quot;: %5</source>
+        <translation>카메라 기술 파일 &quot;%1&quot;, %2행 %3열, 필드 &quot;%4&quot;: %5</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>비어 있습니다</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>%1자를 초과합니다</translation>
+    </message>
+    <message>
+        <source>has a control character</source>
+        <translation>제어 문자가 있습니다</translation>
+    </message>
+    <message>
+        <source>has a backslash; use forward slashes</source>
+        <translation>백슬래시가 있습니다. 슬래시(/)를 사용하십시오</translation>
+    </message>
+    <message>
+        <source>has a colon; drive letters are not allowed</source>
+        <translation>콜론이 있습니다. 드라이브 문자는 사용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>is an absolute path; use one inside the archive</source>
+        <translation>절대 경로입니다. 압축 파일 내부의 경로를 사용하십시오</translation>
+    </message>
+    <message>
+        <source>has an empty part or one of dots only; use a plain path</source>
+        <translation>비어 있거나 점으로만 된 부분이 있습니다. 일반 경로를 사용하십시오</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>true 또는 false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>숫자</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>문자열</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>목록</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>개체</translation>
+    </message>
+    <message>
+        <source>is %1 where %2 is wanted</source>
+        <translation>%2이(가) 필요하지만 %1입니다</translation>
+    </message>
+    <message>
+        <source>is unknown; known here are %1</source>
+        <translation>알 수 없는 필드입니다. 여기에서 사용할 수 있는 필드: %1</translation>
+    </message>
+    <message>
+        <source>has to be a whole number from %1 to %2</source>
+        <translation>%1에서 %2 사이의 정수여야 합니다</translation>
+    </message>
+    <message>
+        <source>is an empty list</source>
+        <translation>빈 목록입니다</translation>
+    </message>
+    <message>
+        <source>has %1 items; at most %2 are allowed</source>
+        <translation>항목이 %1개 있습니다. 최대 %2개까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>repeats &quot;%1&quot;</source>
+        <translation>&quot;%1&quot;이(가) 중복되었습니다</translation>
+    </message>
+    <message>
+        <source>the field &quot;%1&quot; %2</source>
+        <translation>필드 &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>없습니다</translation>
+    </message>
+    <message>
+        <source>has a line break or a control character</source>
+        <translation>줄 바꿈 또는 제어 문자가 있습니다</translation>
+    </message>
+    <message>
+        <source>begins or ends with white space</source>
+        <translation>앞이나 뒤에 공백이 있습니다</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>%1행 %2열</translation>
+    </message>
+    <message>
+        <source>has to be an object in braces at its top level</source>
+        <translation>최상위는 중괄호로 묶은 개체여야 합니다</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>has the name &quot;%1&quot; twice in one object, again at %2</source>
+        <translation>한 개체에 이름 &quot;%1&quot;이(가) 두 번 있습니다(두 번째: %2)</translation>
+    </message>
+    <message>
+        <source>is nested more than %1 levels deep at %2</source>
+        <translation>%2에서 %1단계보다 깊게 중첩되어 있습니다</translation>
+    </message>
+    <message>
+        <source>is not JSON at %1: %2</source>
+        <translation>%1에서 JSON 형식이 올바르지 않습니다: %2</translation>
+    </message>
+    <message>
+        <source>is &quot;%1&quot;; known kinds are %2</source>
+        <translation>&quot;%1&quot;은(는) 알 수 없는 종류입니다. 사용할 수 있는 종류: %2</translation>
+    </message>
+    <message>
+        <source>has to be %1 hexadecimal digits</source>
+        <translation>16진수 %1자리여야 합니다</translation>
+    </message>
+    <message>
+        <source>names the manifest itself</source>
+        <translation>매니페스트 자체를 가리킵니다</translation>
+    </message>
+    <message>
+        <source>is a second %1; one is allowed</source>
+        <translation>두 번째 %1입니다. 하나만 허용됩니다</translation>
+    </message>
+    <message>
+        <source>checks preconditions after a step that changes the camera</source>
+        <translation>카메라를 변경하는 단계 이후에 사전 조건을 확인합니다</translation>
+    </message>
+    <message>
+        <source>acquires the update data after a FileUpload</source>
+        <translation>FileUpload 이후에 업데이트 데이터를 가져옵니다</translation>
+    </message>
+    <message>
+        <source>takes %1 ms by its estimates; at most %2 are allowed</source>
+        <translation>예상 시간의 합계가 %1ms입니다. 최대 %2ms까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>is &quot;%1&quot;, which is not a version like 2.0.0 or 2.0.0-rc1</source>
+        <translation>&quot;%1&quot;은(는) 2.0.0 또는 2.0.0-rc1과 같은 버전이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the format version is %1, but this program reads version %2 only</source>
+        <translation>형식 버전이 %1이지만, 이 프로그램은 버전 %2만 읽을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>update.json has %1 bytes; at most %2 are allowed</source>
+        <translation>update.json의 크기가 %1바이트입니다. 최대 %2바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>update.json %1</source>
+        <translation>update.json: %1</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be read; the archive is damaged</source>
+        <translation>파일 &quot;%1&quot;을(를) 읽을 수 없습니다. 압축 파일이 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; is damaged and cannot be unpacked</source>
+        <translation>파일 &quot;%1&quot;이(가) 손상되어 압축을 풀 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; unpacks to more bytes than the archive declares</source>
+        <translation>파일 &quot;%1&quot;의 압축을 푼 크기가 압축 파일에 기록된 크기보다 큽니다</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json</source>
+        <translation>데이터 파일 &quot;%1&quot;이(가) update.json의 SHA-256과 일치하지 않습니다</translation>
+    </message>
+    <message>
+        <source>update.json is in a folder of the archive (&quot;%1&quot;); it must be at the top level</source>
+        <translation>update.json이 압축 파일의 폴더 안에 있습니다(&quot;%1&quot;). 최상위에 있어야 합니다</translation>
+    </message>
+    <message>
+        <source>the file has %1 bytes; at most %2 are allowed</source>
+        <translation>파일 크기가 %1바이트입니다. 최대 %2바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>the archive has %1 entries; at most %2 are allowed</source>
+        <translation>압축 파일에 항목이 %1개 있습니다. 최대 %2개까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>the archive has two entries named &quot;%1&quot;</source>
+        <translation>압축 파일에 이름이 &quot;%1&quot;인 항목이 두 개 있습니다</translation>
+    </message>
+    <message>
+        <source>the entry name &quot;%1&quot; %2</source>
+        <translation>항목 이름 &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; of the archive is damaged</source>
+        <translation>압축 파일의 항목 &quot;%1&quot;이(가) 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; is encrypted; pack it without a password</source>
+        <translation>항목 &quot;%1&quot;이(가) 암호화되어 있습니다. 암호 없이 압축하십시오</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; is compressed by a method other than Deflate</source>
+        <translation>항목 &quot;%1&quot;이(가) Deflate 이외의 방식으로 압축되었습니다</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is missing in the archive</source>
+        <translation>압축 파일에 데이터 파일 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is too short: it has %2 bytes where update.json says %3</source>
+        <translation>데이터 파일 &quot;%1&quot;이(가) 너무 짧습니다. update.json에는 %3바이트이지만 실제로는 %2바이트입니다</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is too long: it has %2 bytes where update.json says %3</source>
+        <translation>데이터 파일 &quot;%1&quot;이(가) 너무 깁니다. update.json에는 %3바이트이지만 실제로는 %2바이트입니다</translation>
+    </message>
+    <message>
+        <source>the archive has a file &quot;%1&quot; that no step uploads</source>
+        <translation>압축 파일에 어떤 단계에서도 업로드하지 않는 파일 &quot;%1&quot;이(가) 있습니다</translation>
+    </message>
+    <message>
+        <source>the update is not for its model &quot;%1&quot;</source>
+        <translation>이 업데이트는 해당 카메라 모델 &quot;%1&quot;용이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the update is not for its device version &quot;%1&quot;</source>
+        <translation>이 업데이트는 해당 장치 버전 &quot;%1&quot;용이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the update needs firmware version %1 or later, but the camera has &quot;%2&quot;; install an older update first</source>
+        <translation>이 업데이트에는 펌웨어 버전 %1 이상이 필요하지만, 카메라의 버전은 &quot;%2&quot;입니다. 먼저 더 낮은 버전의 업데이트를 설치하십시오</translation>
+    </message>
+    <message>
+        <source>a precondition of the update is not met: its feature &quot;%1&quot; is &quot;%2&quot; instead of &quot;%3&quot;</source>
+        <translation>업데이트의 사전 조건이 충족되지 않았습니다: 기능 &quot;%1&quot;의 값이 &quot;%3&quot;이어야 하지만 &quot;%2&quot;입니다</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is &quot;%2&quot; instead of &quot;%3&quot;</source>
+        <translation>기능 &quot;%1&quot;의 값이 &quot;%3&quot;이어야 하지만 &quot;%2&quot;입니다</translation>
+    </message>
+    <message>
+        <source>after the update it reports firmware version &quot;%1&quot; instead of %2</source>
+        <translation>업데이트 후 보고된 펌웨어 버전이 %2이어야 하지만 &quot;%1&quot;입니다</translation>
+    </message>
+    <message>
+        <source>the archive cannot be created</source>
+        <translation>압축 파일을 만들 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the archive cannot be written: %1</source>
+        <translation>압축 파일에 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is missing in the folder</source>
+        <translation>폴더에 데이터 파일 &quot;%1&quot;이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>its folder does not exist or is read-only</source>
+        <translation>파일의 폴더가 없거나 읽기 전용입니다</translation>
+    </message>
+    <message>
+        <source>the file cannot be replaced</source>
+        <translation>파일을 바꿀 수 없습니다</translation>
+    </message>
+    <message>
+        <source>this is not a folder</source>
+        <translation>폴더가 아닙니다</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the folder</source>
+        <translation>폴더에 update.json이 없습니다</translation>
+    </message>
+    <message>
+        <source>update.json cannot be opened; check its access rights</source>
+        <translation>update.json을 열 수 없습니다. 액세스 권한을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is empty</source>
+        <translation>데이터 파일 &quot;%1&quot;이(가) 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; cannot be read</source>
+        <translation>데이터 파일 &quot;%1&quot;을(를) 읽을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the name of a field in double quotes</source>
+        <translation>큰따옴표로 묶은 필드 이름</translation>
+    </message>
+    <message>
+        <source>expected a colon after &quot;%1&quot;, found %2</source>
+        <translation>&quot;%1&quot; 다음에 콜론이 필요하지만 %2이(가) 있습니다</translation>
+    </message>
+    <message>
+        <source>a text in double quotes</source>
+        <translation>큰따옴표로 묶은 문자열</translation>
+    </message>
+    <message>
+        <source>expected a number, found %1</source>
+        <translation>숫자가 필요하지만 %1이(가) 있습니다</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>%1에서 %2 사이의 정수</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>%1이(가) 필요하지만 %2이(가) 있습니다</translation>
+    </message>
+    <message>
+        <source>expected the end of the text, found %1</source>
+        <translation>텍스트가 끝나야 하지만 %1이(가) 있습니다</translation>
+    </message>
+    <message>
+        <source>a list that begins with &quot;[&quot;</source>
+        <translation>&quot;[&quot;로 시작하는 목록</translation>
+    </message>
+    <message>
+        <source>an object that begins with &quot;{&quot;</source>
+        <translation>&quot;{&quot;로 시작하는 개체</translation>
+    </message>
+    <message>
+        <source>expected a comma or &quot;%1&quot;, found %2</source>
+        <translation>쉼표 또는 &quot;%1&quot;이(가) 필요하지만 %2이(가) 있습니다</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>문자열이 올바른 UTF-8이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the text has no closing double quote</source>
+        <translation>문자열을 닫는 큰따옴표가 없습니다</translation>
+    </message>
+    <message>
+        <source>the text contains a control character</source>
+        <translation>문자열에 제어 문자가 있습니다</translation>
+    </message>
+    <message>
+        <source>unknown escape sequence in a text</source>
+        <translation>문자열에 알 수 없는 이스케이프 시퀀스가 있습니다</translation>
+    </message>
+    <message>
+        <source>the text contains half a surrogate pair</source>
+        <translation>문자열에 서로게이트 쌍의 한쪽만 있습니다</translation>
+    </message>
+    <message>
+        <source>expected four hexadecimal digits after &quot;\u&quot;</source>
+        <translation>&quot;\u&quot; 다음에 16진수 4자리가 필요합니다</translation>
+    </message>
+    <message>
+        <source>the end of the text</source>
+        <translation>텍스트의 끝</translation>
+    </message>
+    <message>
+        <source>an unexpected character</source>
+        <translation>예기치 않은 문자</translation>
+    </message>
+    <message>
+        <source>a double quote</source>
+        <translation>큰따옴표</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>&quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>null 값</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; refers to itself</source>
+        <translation>기능 &quot;%1&quot;이(가) 자기 자신을 참조합니다</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; refers to too many others</source>
+        <translation>기능 &quot;%1&quot;이(가) 다른 기능을 너무 많이 참조합니다</translation>
+    </message>
+    <message>
+        <source>its feature description is larger than %1 bytes</source>
+        <translation>기능 설명이 %1바이트보다 큽니다</translation>
+    </message>
+    <message>
+        <source>its feature description is nested too deeply</source>
+        <translation>기능 설명이 너무 깊게 중첩되어 있습니다</translation>
+    </message>
+    <message>
+        <source>its feature description defines entities</source>
+        <translation>기능 설명에 엔터티 정의가 있습니다</translation>
+    </message>
+    <message>
+        <source>its feature description is damaged in line %1</source>
+        <translation>기능 설명의 %1번째 줄이 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>its feature description describes no features</source>
+        <translation>기능 설명에 기능이 없습니다</translation>
+    </message>
+    <message>
+        <source>its packed feature description is damaged</source>
+        <translation>압축된 기능 설명이 손상되었습니다</translation>
+    </message>
+    <message>
+        <source>its feature description does not lie in the camera</source>
+        <translation>기능 설명이 카메라 안에 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>its feature description is empty</source>
+        <translation>기능 설명이 비어 있습니다</translation>
+    </message>
+    <message>
+        <source>its feature description could not be read</source>
+        <translation>기능 설명을 읽지 못했습니다</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>Viewer</name>
+    <message>
+        <source>There is no display: neither DISPLAY nor WAYLAND_DISPLAY is set. Start it from a desktop, or with QT_QPA_PLATFORM=offscreen to see nothing.</source>
+        <translation>没有可用的显示器：DISPLAY 和 WAYLAND_DISPLAY 均未设置。请从桌面环境启动；如果不需要显示画面，请使用 QT_QPA_PLATFORM=offscreen 启动。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -40,10 +47,6 @@
         <translation>录制到文件夹</translation>
     </message>
     <message>
-        <source>%1 records into %2.</source>
-        <translation>正在将 %1 的图像录制到 %2。</translation>
-    </message>
-    <message>
         <source>No camera selected</source>
         <translation>未选择相机</translation>
     </message>
@@ -56,20 +59,24 @@
         <translation>未找到相机</translation>
     </message>
     <message>
-        <source>Plug one in and press Refresh.</source>
-        <translation>请连接相机，然后单击“刷新”。</translation>
-    </message>
-    <message>
-        <source>Press Start to see its image.</source>
-        <translation>单击“开始”可查看图像。</translation>
-    </message>
-    <message>
         <source>Its firmware is being updated.</source>
         <translation>正在更新其固件。</translation>
     </message>
     <message>
-        <source>Another application is using it.</source>
-        <translation>另一个应用程序正在使用它。</translation>
+        <source>Recording %1 to %2.</source>
+        <translation>正在将 %1 的图像录制到 %2。</translation>
+    </message>
+    <message>
+        <source>Plug one in and click Refresh.</source>
+        <translation>请连接相机，然后单击“刷新”。</translation>
+    </message>
+    <message>
+        <source>Click Start to see its image.</source>
+        <translation>单击“开始”可查看图像。</translation>
+    </message>
+    <message>
+        <source>It is in use by another application.</source>
+        <translation>正被另一个应用程序使用。</translation>
     </message>
 </context>
 <context>
@@ -89,10 +96,6 @@
     <message>
         <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
         <translation>清除以往更新写入模拟相机的固件。</translation>
-    </message>
-    <message>
-        <source>Let the simulated cameras work &lt;n&gt; times faster than real ones (a demonstration: %1).</source>
-        <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（演示：%1）。</translation>
     </message>
     <message>
         <source>n</source>
@@ -115,24 +118,12 @@
         <translation>代码</translation>
     </message>
     <message>
-        <source>Offer the update files in &lt;dir&gt;.</source>
-        <translation>提供 &lt;文件夹&gt; 中的更新文件。</translation>
-    </message>
-    <message>
-        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and end.</source>
-        <translation>自动执行固件更新向导，将截图保存到 &lt;文件夹&gt; 后退出。</translation>
-    </message>
-    <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>意外的参数“%1”。</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
-        <translation>未知的语言“%1”；请使用 en、ko、ja 或 zh。</translation>
-    </message>
-    <message>
-        <source>The folder for the demonstration&apos;s pictures is empty.</source>
-        <translation>未指定保存演示截图的文件夹。</translation>
+        <translation>未知的语言“%1”，请使用 en、ko、ja 或 zh。</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
@@ -143,10 +134,6 @@
         <translation>不使用模拟相机。</translation>
     </message>
     <message>
-        <source>Search the network and USB for cameras this time, by broadcast.</source>
-        <translation>本次通过广播搜索网络以及 USB 上的相机。</translation>
-    </message>
-    <message>
         <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
         <translation>不使用广播，查找位于 &lt;地址&gt; 的相机；可多次指定。</translation>
     </message>
@@ -155,12 +142,40 @@
         <translation>地址</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no camera address; it has the form 192.168.0.10.</source>
-        <translation>“%1”不是相机地址；其格式应为 192.168.0.10。</translation>
+        <source>Show this help and quit.</source>
+        <translation>显示此帮助并退出。</translation>
     </message>
     <message>
-        <source>This viewer was built without the library for cameras on real wires.</source>
-        <translation>此查看器构建时未包含用于实际连接相机的库。</translation>
+        <source>Show the version and quit.</source>
+        <translation>显示版本并退出。</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
+        <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（默认为 1，使用 --demo 时为 %1）。</translation>
+    </message>
+    <message>
+        <source>Search the network (by broadcast) and USB for cameras this time.</source>
+        <translation>本次运行时搜索网络（通过广播）和 USB 上的相机。</translation>
+    </message>
+    <message>
+        <source>Use &lt;dir&gt; as the folder of sample update files.</source>
+        <translation>将 &lt;文件夹&gt; 用作示例更新文件的文件夹。</translation>
+    </message>
+    <message>
+        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and quit.</source>
+        <translation>自动执行固件更新向导，将截图保存到 &lt;文件夹&gt; 后退出。</translation>
+    </message>
+    <message>
+        <source>No folder is given for the demonstration&apos;s pictures.</source>
+        <translation>未指定保存演示截图的文件夹。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
+        <translation>“%1”不是相机地址，其格式应为 192.168.0.10。</translation>
+    </message>
+    <message>
+        <source>This viewer was built without the library for real cameras.</source>
+        <translation>此查看器在构建时未包含真实相机所需的库。</translation>
     </message>
 </context>
 <context>
@@ -186,7 +201,7 @@
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
-        <translation>此桌面没有可打开网页的程序。请复制该地址，然后在其他位置打开。</translation>
+        <translation>此桌面环境没有可打开网页的程序。请复制该地址，然后在其他地方打开。</translation>
     </message>
 </context>
 <context>
@@ -236,7 +251,7 @@
         <translation>语言(&amp;L)</translation>
     </message>
     <message>
-        <source>The language changes when the viewer is started the next time.</source>
+        <source>The language changes the next time the viewer starts.</source>
         <translation>语言将在下次启动查看器时更改。</translation>
     </message>
 </context>
@@ -278,8 +293,8 @@
         <translation>已连接(&amp;P)</translation>
     </message>
     <message>
-        <source>&amp;Busy elsewhere</source>
-        <translation>被其他程序占用(&amp;B)</translation>
+        <source>In &amp;use elsewhere</source>
+        <translation>被其他程序占用(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -294,10 +309,6 @@
     <message>
         <source>Re&amp;fresh</source>
         <translation>刷新(&amp;F)</translation>
-    </message>
-    <message>
-        <source>Look for cameras (F5)</source>
-        <translation>搜索相机 (F5)</translation>
     </message>
     <message>
         <source>&amp;Open sample folder</source>
@@ -361,16 +372,16 @@
         <source>Search the &amp;network for cameras</source>
         <translation>在网络中搜索相机(&amp;N)</translation>
     </message>
+    <message>
+        <source>Search for cameras (F5)</source>
+        <translation>搜索相机 (F5)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
     <message>
         <source>The folder &quot;%1&quot; does not exist; choose another one.</source>
-        <translation>文件夹“%1”不存在；请选择其他文件夹。</translation>
-    </message>
-    <message>
-        <source>Camera %1 does not answer any more; its acquisition has ended.</source>
-        <translation>相机 %1 不再响应，采集已结束。</translation>
+        <translation>文件夹“%1”不存在，请选择其他文件夹。</translation>
     </message>
     <message>
         <source>The recording of camera %1 has ended: %2.</source>
@@ -378,398 +389,27 @@
     </message>
     <message>
         <source>Camera %1 cannot be started while the firmware updater is open.</source>
-        <translation>固件更新程序打开期间无法启动相机 %1。</translation>
+        <translation>固件更新工具打开期间无法启动相机 %1。</translation>
     </message>
     <message>
         <source>Camera %1 does not answer; check its cable.</source>
-        <translation>相机 %1 没有响应；请检查电缆。</translation>
-    </message>
-    <message>
-        <source>Camera %1 is used by another application.</source>
-        <translation>相机 %1 正被另一个应用程序使用。</translation>
+        <translation>相机 %1 没有响应，请检查线缆。</translation>
     </message>
     <message>
         <source>Camera %1 is being updated.</source>
         <translation>正在更新相机 %1。</translation>
     </message>
     <message>
-        <source>Camera %1 is on a real wire; only its firmware can be updated here.</source>
-        <translation>相机 %1 是实际连接的相机；此处只能更新其固件。</translation>
+        <source>Camera %1 no longer answers; acquisition has stopped.</source>
+        <translation>相机 %1 不再响应，采集已停止。</translation>
     </message>
-</context>
-<context>
-    <name>Viewer::CameraPool::CErrorText</name>
     <message>
-        <source>Camera %1: %2</source>
-        <translation>相机 %1：%2</translation>
+        <source>Camera %1 is a real camera; only its firmware can be updated here.</source>
+        <translation>相机 %1 是真实相机，此查看器只能更新其固件。</translation>
     </message>
     <message>
-        <source>out of memory</source>
-        <translation>内存不足</translation>
-    </message>
-    <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>更新此相机之前，系列更新已停止</translation>
-    </message>
-    <message>
-        <source>it is already being updated</source>
-        <translation>已在更新中</translation>
-    </message>
-    <message>
-        <source>it is acquiring images; stop that and start the update again</source>
-        <translation>正在采集图像；请停止采集，然后重新开始更新</translation>
-    </message>
-    <message>
-        <source>the update failed for an unknown reason</source>
-        <translation>由于未知原因，更新失败</translation>
-    </message>
-    <message>
-        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
-        <translation>%1；更新已开始写入，因此在使用相机之前请重新执行更新</translation>
-    </message>
-    <message>
-        <source>it does not answer; check its cable and its power supply</source>
-        <translation>没有响应；请检查电缆和电源</translation>
-    </message>
-    <message>
-        <source>another application uses it; close that application</source>
-        <translation>另一个应用程序正在使用它；请关闭该应用程序</translation>
-    </message>
-    <message>
-        <source>it is already open</source>
-        <translation>已打开</translation>
-    </message>
-    <message>
-        <source>it has no feature &quot;%1&quot; that can be read</source>
-        <translation>没有可读取的功能“%1”</translation>
-    </message>
-    <message>
-        <source>it refuses to write the feature &quot;%1&quot;</source>
-        <translation>拒绝写入功能“%1”</translation>
-    </message>
-    <message>
-        <source>it has no feature &quot;%1&quot; that can be written</source>
-        <translation>没有可写入的功能“%1”</translation>
-    </message>
-    <message>
-        <source>it has no command &quot;%1&quot;</source>
-        <translation>没有命令“%1”</translation>
-    </message>
-    <message>
-        <source>it refuses to write the file &quot;%1&quot;</source>
-        <translation>拒绝写入文件“%1”</translation>
-    </message>
-    <message>
-        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
-        <translation>文件“%1”的数据在 %3 字节中的第 %2 字节处结束（%4）</translation>
-    </message>
-    <message>
-        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
-        <translation>文件“%1”的上传在 %3 字节中的第 %2 字节处中断</translation>
-    </message>
-    <message>
-        <source>it did not come back from its reset within %1 s; switch it off and on</source>
-        <translation>重置后未在 %1 秒内恢复；请关闭电源后重新打开</translation>
-    </message>
-    <message>
-        <source>it did not answer within %1 s</source>
-        <translation>未在 %1 秒内响应</translation>
-    </message>
-    <message>
-        <source>it is not open</source>
-        <translation>未打开</translation>
-    </message>
-    <message>
-        <source>the connection was lost; check its cable and its power supply</source>
-        <translation>连接已断开；请检查电缆和电源</translation>
-    </message>
-    <message>
-        <source>there is no complete firmware image to activate</source>
-        <translation>没有可激活的完整固件映像</translation>
-    </message>
-    <message>
-        <source>it does not accept the uploaded file as a firmware image</source>
-        <translation>不接受上传的文件作为固件映像</translation>
-    </message>
-    <message>
-        <source>the uploaded firmware image is for model %1, not for %2</source>
-        <translation>上传的固件映像适用于型号 %1，而不是 %2</translation>
-    </message>
-    <message>
-        <source>the update file contains a step of an unknown kind</source>
-        <translation>更新文件包含未知类型的步骤</translation>
-    </message>
-    <message>
-        <source>it cannot be updated now, since it reports status %1</source>
-        <translation>它报告的状态为 %1，因此现在无法更新</translation>
-    </message>
-    <message>
-        <source>the update is not for its model %1</source>
-        <translation>此更新不适用于其型号 %1</translation>
-    </message>
-    <message>
-        <source>the update is not for its device version %1</source>
-        <translation>此更新不适用于其设备版本 %1</translation>
-    </message>
-    <message>
-        <source>its firmware version %1 is below %2, from which on the update can be installed; install an older update first</source>
-        <translation>其固件版本 %1 低于此更新所需的最低版本 %2；请先安装较旧的更新</translation>
-    </message>
-    <message>
-        <source>a precondition of the update is not met: its feature %1 is %2 instead of %3</source>
-        <translation>不满足更新的前提条件：其功能 %1 的值为 %2，而不是 %3</translation>
-    </message>
-    <message>
-        <source>its feature %1 is %2 instead of %3</source>
-        <translation>其功能 %1 的值为 %2，而不是 %3</translation>
-    </message>
-    <message>
-        <source>after the update it reports firmware version %1 instead of %2</source>
-        <translation>更新后报告的固件版本为 %1，而不是 %2</translation>
-    </message>
-    <message>
-        <source>the file %1 cannot be read; the archive is damaged</source>
-        <translation>无法读取文件 %1；压缩文件已损坏</translation>
-    </message>
-    <message>
-        <source>the file %1 is damaged and cannot be unpacked</source>
-        <translation>文件 %1 已损坏，无法解压</translation>
-    </message>
-    <message>
-        <source>the file %1 unpacks to more bytes than the archive declares</source>
-        <translation>文件 %1 解压后的大小超过压缩文件中声明的大小</translation>
-    </message>
-    <message>
-        <source>the payload %1 does not match its SHA-256 in update.json</source>
-        <translation>数据 %1 与 update.json 中的 SHA-256 不一致</translation>
-    </message>
-    <message>
-        <source>the archive is cut off at its end; copy the file again</source>
-        <translation>压缩文件末尾不完整；请重新复制该文件</translation>
-    </message>
-    <message>
-        <source>this is not an update file, as it is not a ZIP archive</source>
-        <translation>这不是 ZIP 压缩文件，因此不是更新文件</translation>
-    </message>
-    <message>
-        <source>the archive is one part of several; pack it as one file</source>
-        <translation>这是分卷压缩文件的一部分；请打包为单个文件</translation>
-    </message>
-    <message>
-        <source>there is not enough memory to read the archive</source>
-        <translation>内存不足，无法读取压缩文件</translation>
-    </message>
-    <message>
-        <source>the file cannot be read from the disk</source>
-        <translation>无法从磁盘读取文件</translation>
-    </message>
-    <message>
-        <source>the archive is damaged; copy the file again</source>
-        <translation>压缩文件已损坏；请重新复制该文件</translation>
-    </message>
-    <message>
-        <source>update.json lies in a folder of the archive (%1); it has to lie at the top</source>
-        <translation>update.json 位于压缩文件的文件夹中（%1）；它必须位于顶层</translation>
-    </message>
-    <message>
-        <source>there is no update.json in the archive</source>
-        <translation>压缩文件中没有 update.json</translation>
-    </message>
-    <message>
-        <source>update.json has %1 bytes; %2 are allowed</source>
-        <translation>update.json 有 %1 字节；最多允许 %2 字节</translation>
-    </message>
-    <message>
-        <source>the file does not exist</source>
-        <translation>文件不存在</translation>
-    </message>
-    <message>
-        <source>this is a folder, not a file</source>
-        <translation>这是文件夹，而不是文件</translation>
-    </message>
-    <message>
-        <source>this is not a regular file</source>
-        <translation>这不是普通文件</translation>
-    </message>
-    <message>
-        <source>the file cannot be opened; check its access rights</source>
-        <translation>无法打开文件；请检查其访问权限</translation>
-    </message>
-    <message>
-        <source>the file is empty</source>
-        <translation>文件为空</translation>
-    </message>
-    <message>
-        <source>the file has %1 bytes; %2 are allowed</source>
-        <translation>文件有 %1 字节；最多允许 %2 字节</translation>
-    </message>
-    <message>
-        <source>the file cannot be opened; too many files are open</source>
-        <translation>打开的文件过多，无法打开该文件</translation>
-    </message>
-    <message>
-        <source>the archive has %1 entries; %2 are allowed</source>
-        <translation>压缩文件有 %1 个条目；最多允许 %2 个</translation>
-    </message>
-    <message>
-        <source>the archive has two entries named %1</source>
-        <translation>压缩文件中有两个名为 %1 的条目</translation>
-    </message>
-    <message>
-        <source>the archive unpacks to more than %1 bytes</source>
-        <translation>压缩文件解压后超过 %1 字节</translation>
-    </message>
-    <message>
-        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
-        <translation>压缩文件的第 %1 个条目没有名称，或名称不是 UTF-8</translation>
-    </message>
-    <message>
-        <source>the entry %1 of the archive is damaged</source>
-        <translation>压缩文件的条目 %1 已损坏</translation>
-    </message>
-    <message>
-        <source>the entry %1 is encrypted; pack it without a password</source>
-        <translation>条目 %1 已加密；请在不使用密码的情况下打包</translation>
-    </message>
-    <message>
-        <source>the entry %1 is compressed by a method other than Deflate</source>
-        <translation>条目 %1 使用了 Deflate 以外的压缩方式</translation>
-    </message>
-    <message>
-        <source>the payload %1 is missing in the archive</source>
-        <translation>压缩文件中缺少数据 %1</translation>
-    </message>
-    <message>
-        <source>the payload %1 is too short: it has %2 bytes where update.json says %3</source>
-        <translation>数据 %1 过短：update.json 中为 %3 字节，实际为 %2 字节</translation>
-    </message>
-    <message>
-        <source>the payload %1 is too long: it has %2 bytes where update.json says %3</source>
-        <translation>数据 %1 过长：update.json 中为 %3 字节，实际为 %2 字节</translation>
-    </message>
-    <message>
-        <source>Update file %1: %2</source>
-        <translation>更新文件 %1：%2</translation>
-    </message>
-    <message>
-        <source>it did not answer; check its cable, its power supply and the network</source>
-        <translation>没有响应；请检查电缆、电源和网络</translation>
-    </message>
-    <message>
-        <source>control over it was lost; close other applications that use it</source>
-        <translation>失去了对它的控制；请关闭正在使用它的其他应用程序</translation>
-    </message>
-    <message>
-        <source>it is busy; try again later</source>
-        <translation>它正忙；请稍后重试</translation>
-    </message>
-    <message>
-        <source>it refused (%1)</source>
-        <translation>被拒绝（%1）</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1：%2</translation>
-    </message>
-    <message>
-        <source>its feature %1 could not be read</source>
-        <translation>无法读取其功能 %1</translation>
-    </message>
-    <message>
-        <source>its feature %1 could not be set to &quot;%2&quot;</source>
-        <translation>无法将其功能 %1 设置为“%2”</translation>
-    </message>
-    <message>
-        <source>it has no feature %1; the update file may be for another model</source>
-        <translation>没有功能 %1；更新文件可能适用于其他型号</translation>
-    </message>
-    <message>
-        <source>its feature %1 is no command</source>
-        <translation>其功能 %1 不是命令</translation>
-    </message>
-    <message>
-        <source>its command %1 could not be executed</source>
-        <translation>无法执行其命令 %1</translation>
-    </message>
-    <message>
-        <source>the end of its command %1 could not be awaited</source>
-        <translation>无法确认其命令 %1 是否完成</translation>
-    </message>
-    <message>
-        <source>its feature %1 is no register</source>
-        <translation>其功能 %1 不是寄存器</translation>
-    </message>
-    <message>
-        <source>its memory could not be written</source>
-        <translation>无法写入其内存</translation>
-    </message>
-    <message>
-        <source>opening its file &quot;%1&quot; failed</source>
-        <translation>打开其文件“%1”失败</translation>
-    </message>
-    <message>
-        <source>writing its file &quot;%1&quot; failed at byte %2</source>
-        <translation>在第 %2 字节处写入其文件“%1”失败</translation>
-    </message>
-    <message>
-        <source>closing its file &quot;%1&quot; failed</source>
-        <translation>关闭其文件“%1”失败</translation>
-    </message>
-    <message>
-        <source>its buffer for files is empty</source>
-        <translation>其文件缓冲区为空</translation>
-    </message>
-    <message>
-        <source>it took %1 of %2 bytes</source>
-        <translation>只接受了 %2 字节中的 %1 字节</translation>
-    </message>
-    <message>
-        <source>it took too long</source>
-        <translation>耗时过长</translation>
-    </message>
-    <message>
-        <source>it reports the status &quot;%1&quot;</source>
-        <translation>报告的状态为“%1”</translation>
-    </message>
-    <message>
-        <source>there is no way to its address; check the network settings of this computer</source>
-        <translation>无法到达其地址；请检查此计算机的网络设置</translation>
-    </message>
-    <message>
-        <source>it could not be opened</source>
-        <translation>无法打开相机</translation>
-    </message>
-    <message>
-        <source>it is in use by another application; close that one and start the update again</source>
-        <translation>另一个应用程序正在使用它；请关闭该应用程序后重新开始更新</translation>
-    </message>
-    <message>
-        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
-        <translation>其命令“%1”耗时过长；请关闭相机电源后重新打开，然后重复更新</translation>
-    </message>
-    <message>
-        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
-        <translation>文件“%1”的上传耗时过长；已在 %3 字节中的第 %2 字节处中断</translation>
-    </message>
-    <message>
-        <source>it did not come back from its reset; switch it off and on and look for its firmware version</source>
-        <translation>重置后未恢复；请关闭电源后重新打开，并检查其固件版本</translation>
-    </message>
-    <message>
-        <source>it did not restart; switch it off and on and look for its firmware version</source>
-        <translation>未重新启动；请关闭电源后重新打开，并检查其固件版本</translation>
-    </message>
-    <message>
-        <source>same serial number as another camera</source>
-        <translation>与另一台相机的序列号相同</translation>
-    </message>
-    <message>
-        <source>another camera has the same vendor, model and serial number; connect only one of them and look for cameras again</source>
-        <translation>另一台相机具有相同的厂商、型号和序列号；请只连接其中一台，然后重新搜索相机</translation>
-    </message>
-    <message>
-        <source>another camera, %1, answers at its address; look for cameras again</source>
-        <translation>在其地址上应答的是另一台相机 %1；请重新搜索相机</translation>
+        <source>Camera %1 is in use by another application.</source>
+        <translation>相机 %1 正被另一个应用程序使用。</translation>
     </message>
 </context>
 <context>
@@ -807,7 +447,7 @@ Firmware: %5</source>
     </message>
     <message>
         <source>In use elsewhere</source>
-        <translation>被占用</translation>
+        <translation>被其他程序占用</translation>
     </message>
     <message>
         <source>Ready</source>
@@ -831,7 +471,7 @@ Firmware: %5</source>
     </message>
     <message>
         <source>Not updatable (%1)</source>
-        <translation>无法更新 (%1)</translation>
+        <translation>无法更新（%1）</translation>
     </message>
     <message>
         <source>Model</source>
@@ -846,6 +486,115 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::GufTool::CGufTool</name>
+    <message>
+        <source>There is no command.</source>
+        <translation>缺少命令。</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; is unknown.</source>
+        <translation>未知的命令“%1”。</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; has too few or too many arguments.</source>
+        <translation>命令“%1”的参数过少或过多。</translation>
+    </message>
+    <message>
+        <source>The command &quot;%1&quot; has no option --json.</source>
+        <translation>命令“%1”没有 --json 选项。</translation>
+    </message>
+    <message>
+        <source>Packed %1: updates: %2, bytes: %3</source>
+        <translation>已打包 %1：更新 %2 个，共 %3 字节</translation>
+    </message>
+    <message>
+        <source>%1 is faultless, updates: %2</source>
+        <translation>%1 没有错误，更新 %2 个</translation>
+    </message>
+    <message>
+        <source>Usage: guftool pack DIR FILE
+       guftool inspect [--json] FILE
+       guftool verify FILE
+
+pack     makes the update file FILE from DIR/update.json and the payloads
+         in DIR that it names; sizes and digests that it leaves out are
+         filled in
+inspect  checks FILE and shows what it holds, with --json as JSON
+verify   checks FILE
+
+Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong
+call of this program.
+</source>
+        <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
+        <translation>用法：guftool pack &lt;文件夹&gt; &lt;文件&gt;
+      guftool inspect [--json] &lt;文件&gt;
+      guftool verify &lt;文件&gt;
+
+pack     使用 &lt;文件夹&gt;/update.json 及其指定的、
+         位于 &lt;文件夹&gt; 中的数据文件，创建更新文件 &lt;文件&gt;；
+         其中省略的大小和摘要会自动补全
+inspect  检查 &lt;文件&gt; 并显示其内容，使用 --json 时以 JSON 格式显示
+verify   检查 &lt;文件&gt;
+
+退出代码：正常时为 0，文件有错误时为 1，
+程序调用方式有误时为 2。
+</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::GufTool::CManifestPrinter</name>
+    <message>
+        <source>File:     %1
+Format:   %2
+Updates:  %3
+</source>
+        <translation>文件：    %1
+格式：    %2
+更新：    %3
+</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>
+Update %1
+  Version:          %2
+  Description:      %3
+  Models:           %4
+  Device versions:  %5
+  Minimum version:  %6
+  Release notes:    %7
+  Steps:
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>
+更新 %1
+  版本：            %2
+  说明：            %3
+  型号：            %4
+  设备版本：        %5
+  最低版本：        %6
+  发行说明：        %7
+  步骤：
+</translation>
+    </message>
+    <message>
+        <source>any</source>
+        <translation>任意</translation>
+    </message>
+    <message>
+        <source>    by size</source>
+        <extracomment>Eleven columns wide; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>     按大小</translation>
+    </message>
+    <message>
+        <source>%1 (%2 bytes) to %3</source>
+        <translation>%1（%2 字节）→ %3</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CDependencyResolver</name>
     <message>
         <source>Its name is that of a part of the viewer.</source>
@@ -856,20 +605,20 @@ Firmware: %5</source>
         <translation>此前已找到同名插件：%1。</translation>
     </message>
     <message>
-        <source>It needs &quot;%1&quot; %2, which is not there.</source>
-        <translation>它需要“%1”%2，但该项不存在。</translation>
+        <source>It needs &quot;%1&quot;, which could not be started.</source>
+        <translation>需要“%1”，但未能将其启动。</translation>
     </message>
     <message>
-        <source>It is in a circle of dependencies: %1.</source>
+        <source>It needs &quot;%1&quot; %2, which is missing.</source>
+        <translation>需要“%1”%2，但未找到。</translation>
+    </message>
+    <message>
+        <source>It is part of a circular dependency: %1.</source>
         <translation>存在循环依赖：%1。</translation>
     </message>
     <message>
-        <source>It needs &quot;%1&quot; %2, but the one that is there has version %3 and is compatible down to %4.</source>
-        <translation>它需要“%1”%2，但现有版本为 %3，最低仅兼容到 %4。</translation>
-    </message>
-    <message>
-        <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation>它需要“%1”，但该项无法启动。</translation>
+        <source>It needs &quot;%1&quot; %2, but version %3 is installed, which is compatible with %4 and later.</source>
+        <translation>需要“%1”%2，但已安装的版本为 %3，仅与 %4 及更高版本兼容。</translation>
     </message>
 </context>
 <context>
@@ -912,7 +661,7 @@ Firmware: %5</source>
     </message>
     <message>
         <source>It needs &quot;%1&quot;, which could not be started.</source>
-        <translation>它需要“%1”，但该项无法启动。</translation>
+        <translation>需要“%1”，但未能将其启动。</translation>
     </message>
     <message>
         <source>The plug-in &quot;%1&quot; (%2) is not available. %3</source>
@@ -930,7 +679,7 @@ Firmware: %5</source>
     <name>Viewer::PluginSystem::CPluginSpec</name>
     <message>
         <source>It was built for the interface &quot;%1&quot;, but this viewer has &quot;%2&quot;.</source>
-        <translation>它是为接口“%1”构建的，但此查看器的接口为“%2”。</translation>
+        <translation>为接口“%1”构建，但此查看器的接口为“%2”。</translation>
     </message>
     <message>
         <source>Its metadata has no &quot;Name&quot;.</source>
@@ -947,6 +696,765 @@ Firmware: %5</source>
     <message>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
         <translation>其元数据中“%2”的“%1”不是版本号：“%3”。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Text::CErrorText</name>
+    <message>
+        <source>Camera %1: %2</source>
+        <translation>相机 %1：%2</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera</source>
+        <translation>在更新此相机之前，批量更新已停止</translation>
+    </message>
+    <message>
+        <source>it is already being updated</source>
+        <translation>已在更新中</translation>
+    </message>
+    <message>
+        <source>it is acquiring images; stop that and start the update again</source>
+        <translation>正在采集图像，请停止采集，然后重新开始更新</translation>
+    </message>
+    <message>
+        <source>the update failed for an unknown reason</source>
+        <translation>由于未知原因，更新失败</translation>
+    </message>
+    <message>
+        <source>%1; the update had already begun to write, so repeat it before the camera is used</source>
+        <translation>%1；固件已开始写入，请先重新执行更新，再使用相机</translation>
+    </message>
+    <message>
+        <source>it does not answer; check its cable and its power supply</source>
+        <translation>没有响应，请检查线缆和电源</translation>
+    </message>
+    <message>
+        <source>it is already open</source>
+        <translation>已打开</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be read</source>
+        <translation>没有可读取的参数“%1”</translation>
+    </message>
+    <message>
+        <source>it refuses to write the feature &quot;%1&quot;</source>
+        <translation>拒绝写入参数“%1”</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot; that can be written</source>
+        <translation>没有可写入的参数“%1”</translation>
+    </message>
+    <message>
+        <source>it has no command &quot;%1&quot;</source>
+        <translation>没有命令“%1”</translation>
+    </message>
+    <message>
+        <source>it refuses to write the file &quot;%1&quot;</source>
+        <translation>拒绝写入相机中的文件“%1”</translation>
+    </message>
+    <message>
+        <source>the data for its file &quot;%1&quot; ended after %2 of %3 bytes (%4)</source>
+        <translation>相机中的文件“%1”的数据不完整：共 %3 字节，只有 %2 字节（%4）</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; broke off after %2 of %3 bytes</source>
+        <translation>相机中的文件“%1”上传中断：共 %3 字节，已上传 %2 字节</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset within %1 s; switch it off and on</source>
+        <translation>复位后未在 %1 秒内恢复，请关闭电源后重新打开</translation>
+    </message>
+    <message>
+        <source>it did not answer within %1 s</source>
+        <translation>未在 %1 秒内响应</translation>
+    </message>
+    <message>
+        <source>it is not open</source>
+        <translation>未打开</translation>
+    </message>
+    <message>
+        <source>the connection was lost; check its cable and its power supply</source>
+        <translation>连接已断开，请检查线缆和电源</translation>
+    </message>
+    <message>
+        <source>there is no complete firmware image to activate</source>
+        <translation>没有可激活的完整固件映像</translation>
+    </message>
+    <message>
+        <source>it does not accept the uploaded file as a firmware image</source>
+        <translation>无法将上传的文件识别为固件映像</translation>
+    </message>
+    <message>
+        <source>the uploaded firmware image is for model %1, not for %2</source>
+        <translation>上传的固件映像适用于型号 %1，而不是 %2</translation>
+    </message>
+    <message>
+        <source>the update file contains a step of an unknown kind</source>
+        <translation>更新文件包含未知类型的步骤</translation>
+    </message>
+    <message>
+        <source>it cannot be updated now, since it reports status %1</source>
+        <translation>报告的状态为 %1，因此现在无法更新</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at its end; copy the file again</source>
+        <translation>压缩文件末尾不完整，请重新复制该文件</translation>
+    </message>
+    <message>
+        <source>this is not an update file, as it is not a ZIP archive</source>
+        <translation>这不是 ZIP 压缩文件，因此不是更新文件</translation>
+    </message>
+    <message>
+        <source>the archive is one part of several; pack it as one file</source>
+        <translation>这是分卷压缩文件的一部分，请打包为单个文件</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read the archive</source>
+        <translation>内存不足，无法读取压缩文件</translation>
+    </message>
+    <message>
+        <source>the file cannot be read from the disk</source>
+        <translation>无法从磁盘读取文件</translation>
+    </message>
+    <message>
+        <source>the archive is damaged; copy the file again</source>
+        <translation>压缩文件已损坏，请重新复制该文件</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the archive</source>
+        <translation>压缩文件中没有 update.json</translation>
+    </message>
+    <message>
+        <source>the file does not exist</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>this is a folder, not a file</source>
+        <translation>这是文件夹，而不是文件</translation>
+    </message>
+    <message>
+        <source>this is not a regular file</source>
+        <translation>这不是普通文件</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; check its access rights</source>
+        <translation>无法打开文件，请检查其访问权限</translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>the file cannot be opened; too many files are open</source>
+        <translation>打开的文件过多，无法打开该文件</translation>
+    </message>
+    <message>
+        <source>the archive unpacks to more than %1 bytes</source>
+        <translation>压缩文件解压后超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>entry %1 of the archive has no name, or one that is not UTF-8</source>
+        <translation>压缩文件的第 %1 个条目没有名称，或名称不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>Update file %1: %2</source>
+        <translation>更新文件 %1：%2</translation>
+    </message>
+    <message>
+        <source>it did not answer; check its cable, its power supply and the network</source>
+        <translation>没有响应，请检查线缆、电源和网络</translation>
+    </message>
+    <message>
+        <source>control over it was lost; close other applications that use it</source>
+        <translation>已失去对相机的控制权，请关闭正在使用它的其他应用程序</translation>
+    </message>
+    <message>
+        <source>it is busy; try again later</source>
+        <translation>正忙，请稍后重试</translation>
+    </message>
+    <message>
+        <source>it refused (%1)</source>
+        <translation>相机拒绝了请求（%1）</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>its memory could not be written</source>
+        <translation>无法写入相机的存储器</translation>
+    </message>
+    <message>
+        <source>opening its file &quot;%1&quot; failed</source>
+        <translation>打开相机中的文件“%1”失败</translation>
+    </message>
+    <message>
+        <source>writing its file &quot;%1&quot; failed at byte %2</source>
+        <translation>在第 %2 字节处写入相机中的文件“%1”失败</translation>
+    </message>
+    <message>
+        <source>closing its file &quot;%1&quot; failed</source>
+        <translation>关闭相机中的文件“%1”失败</translation>
+    </message>
+    <message>
+        <source>it took too long</source>
+        <translation>耗时过长</translation>
+    </message>
+    <message>
+        <source>it reports the status &quot;%1&quot;</source>
+        <translation>报告的状态为“%1”</translation>
+    </message>
+    <message>
+        <source>it could not be opened</source>
+        <translation>无法打开相机</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; took too long; switch the camera off and on and repeat the update</source>
+        <translation>其命令“%1”耗时过长，请关闭相机电源后重新打开，然后重新执行更新</translation>
+    </message>
+    <message>
+        <source>the upload of its file &quot;%1&quot; took too long; it was broken off after %2 of %3 bytes</source>
+        <translation>相机中的文件“%1”上传耗时过长，已中断：共 %3 字节，已上传 %2 字节</translation>
+    </message>
+    <message>
+        <source>same serial number as another camera</source>
+        <translation>与另一台相机的序列号相同</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; could not be read</source>
+        <translation>无法读取其参数“%1”</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; could not be set to &quot;%2&quot;</source>
+        <translation>无法将其参数“%1”设置为“%2”</translation>
+    </message>
+    <message>
+        <source>it has no feature &quot;%1&quot;; the update file may be for another model</source>
+        <translation>没有参数“%1”，更新文件可能适用于其他型号</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is not a command</source>
+        <translation>其参数“%1”不是命令</translation>
+    </message>
+    <message>
+        <source>its command &quot;%1&quot; could not be executed</source>
+        <translation>无法执行其命令“%1”</translation>
+    </message>
+    <message>
+        <source>it could not be found out whether its command &quot;%1&quot; has finished</source>
+        <translation>无法确认其命令“%1”是否已完成</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is not a register</source>
+        <translation>其参数“%1”不是寄存器</translation>
+    </message>
+    <message>
+        <source>its buffer for files has no room (length 0)</source>
+        <translation>其文件传输缓冲区的大小为 0</translation>
+    </message>
+    <message>
+        <source>it accepted only %1 of %2 bytes</source>
+        <translation>共 %2 字节，只接受了 %1 字节</translation>
+    </message>
+    <message>
+        <source>another camera has the same vendor, model and serial number; connect only one of them and search for cameras again</source>
+        <translation>另一台相机具有相同的厂商、型号和序列号，请只连接其中一台，然后重新搜索相机</translation>
+    </message>
+    <message>
+        <source>another camera, %1, answers at its address; search for cameras again</source>
+        <translation>响应其地址的是另一台相机 %1，请重新搜索相机</translation>
+    </message>
+    <message>
+        <source>its address cannot be reached; check the network settings of this computer</source>
+        <translation>无法访问其地址，请检查此计算机的网络设置</translation>
+    </message>
+    <message>
+        <source>it is in use by another application; close that application and start the update again</source>
+        <translation>正被另一个应用程序使用，请关闭该应用程序后重新开始更新</translation>
+    </message>
+    <message>
+        <source>it did not come back from its reset; switch it off and on and check its firmware version</source>
+        <translation>复位后未恢复，请关闭电源后重新打开，并检查其固件版本</translation>
+    </message>
+    <message>
+        <source>it did not restart; switch it off and on and check its firmware version</source>
+        <translation>未重新启动，请关闭电源后重新打开，并检查其固件版本</translation>
+    </message>
+    <message>
+        <source>the field is given twice</source>
+        <translation>字段重复指定</translation>
+    </message>
+    <message>
+        <source>unknown field</source>
+        <translation>未知字段</translation>
+    </message>
+    <message>
+        <source>the field &quot;%1&quot; is missing</source>
+        <translation>缺少字段“%1”</translation>
+    </message>
+    <message>
+        <source>format %1 is unknown, only format 1 can be read</source>
+        <translation>未知的格式 %1，只能读取格式 1</translation>
+    </message>
+    <message>
+        <source>more than %1 transport layers</source>
+        <translation>传输层超过 %1 个</translation>
+    </message>
+    <message>
+        <source>more than %1 cameras</source>
+        <translation>相机超过 %1 台</translation>
+    </message>
+    <message>
+        <source>the id &quot;%1&quot; is already used in line %2</source>
+        <translation>ID“%1”已在第 %2 行使用</translation>
+    </message>
+    <message>
+        <source>the text must not be empty</source>
+        <translation>字符串不能为空</translation>
+    </message>
+    <message>
+        <source>the text has %1 characters; at most %2 are allowed</source>
+        <translation>字符串有 %1 个字符，最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>the text must not contain line breaks or control characters</source>
+        <translation>字符串不能包含换行符或控制字符</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; cannot be read: it is not a regular file</source>
+        <translation>无法读取相机描述文件“%1”：这不是普通文件</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取相机描述文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot; is larger than %2 bytes</source>
+        <translation>相机描述文件“%1”大于 %2 字节</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot;, line %2, column %3: %4</source>
+        <translation>相机描述文件“%1”，第 %2 行第 %3 列：%4</translation>
+    </message>
+    <message>
+        <source>Camera description &quot;%1&quot;, line %2, column %3, field &quot;%4&quot;: %5</source>
+        <translation>相机描述文件“%1”，第 %2 行第 %3 列，字段“%4”：%5</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>为空</translation>
+    </message>
+    <message>
+        <source>is longer than %1 characters</source>
+        <translation>超过 %1 个字符</translation>
+    </message>
+    <message>
+        <source>has a control character</source>
+        <translation>包含控制字符</translation>
+    </message>
+    <message>
+        <source>has a backslash; use forward slashes</source>
+        <translation>包含反斜杠，请使用正斜杠</translation>
+    </message>
+    <message>
+        <source>has a colon; drive letters are not allowed</source>
+        <translation>包含冒号，不允许使用驱动器号</translation>
+    </message>
+    <message>
+        <source>is an absolute path; use one inside the archive</source>
+        <translation>是绝对路径，请使用压缩文件内的路径</translation>
+    </message>
+    <message>
+        <source>has an empty part or one of dots only; use a plain path</source>
+        <translation>包含空的部分或仅由点组成的部分，请使用普通路径</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>布尔值 true 或 false</translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>字符串</translation>
+    </message>
+    <message>
+        <source>a list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>is %1 where %2 is wanted</source>
+        <translation>是%1，但需要%2</translation>
+    </message>
+    <message>
+        <source>is unknown; known here are %1</source>
+        <translation>是未知字段，此处可用的字段：%1</translation>
+    </message>
+    <message>
+        <source>has to be a whole number from %1 to %2</source>
+        <translation>必须是 %1 到 %2 之间的整数</translation>
+    </message>
+    <message>
+        <source>is an empty list</source>
+        <translation>是空列表</translation>
+    </message>
+    <message>
+        <source>has %1 items; at most %2 are allowed</source>
+        <translation>有 %1 项，最多允许 %2 项</translation>
+    </message>
+    <message>
+        <source>repeats &quot;%1&quot;</source>
+        <translation>重复了“%1”</translation>
+    </message>
+    <message>
+        <source>the field &quot;%1&quot; %2</source>
+        <translation>字段“%1”：%2</translation>
+    </message>
+    <message>
+        <source>is missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>has a line break or a control character</source>
+        <translation>包含换行符或控制字符</translation>
+    </message>
+    <message>
+        <source>begins or ends with white space</source>
+        <translation>开头或结尾有空白字符</translation>
+    </message>
+    <message>
+        <source>line %1, column %2</source>
+        <translation>第 %1 行第 %2 列</translation>
+    </message>
+    <message>
+        <source>has to be an object in braces at its top level</source>
+        <translation>顶层必须是用花括号括起来的对象</translation>
+    </message>
+    <message>
+        <source>a value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>has the name &quot;%1&quot; twice in one object, again at %2</source>
+        <translation>同一对象中名称“%1”出现两次（第二次：%2）</translation>
+    </message>
+    <message>
+        <source>is nested more than %1 levels deep at %2</source>
+        <translation>在%2处嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>is not JSON at %1: %2</source>
+        <translation>%1处不是有效的 JSON：%2</translation>
+    </message>
+    <message>
+        <source>is &quot;%1&quot;; known kinds are %2</source>
+        <translation>“%1”是未知的类型，可用的类型：%2</translation>
+    </message>
+    <message>
+        <source>has to be %1 hexadecimal digits</source>
+        <translation>必须是 %1 位十六进制数字</translation>
+    </message>
+    <message>
+        <source>names the manifest itself</source>
+        <translation>指向清单文件自身</translation>
+    </message>
+    <message>
+        <source>is a second %1; one is allowed</source>
+        <translation>是第二个 %1，只允许一个</translation>
+    </message>
+    <message>
+        <source>checks preconditions after a step that changes the camera</source>
+        <translation>在更改相机的步骤之后才检查前提条件</translation>
+    </message>
+    <message>
+        <source>acquires the update data after a FileUpload</source>
+        <translation>在 FileUpload 之后才获取更新数据</translation>
+    </message>
+    <message>
+        <source>takes %1 ms by its estimates; at most %2 are allowed</source>
+        <translation>预计共需 %1 毫秒，最多允许 %2 毫秒</translation>
+    </message>
+    <message>
+        <source>is &quot;%1&quot;, which is not a version like 2.0.0 or 2.0.0-rc1</source>
+        <translation>“%1”不是 2.0.0 或 2.0.0-rc1 这样的版本号</translation>
+    </message>
+    <message>
+        <source>the format version is %1, but this program reads version %2 only</source>
+        <translation>格式版本为 %1，但此程序只能读取版本 %2</translation>
+    </message>
+    <message>
+        <source>update.json has %1 bytes; at most %2 are allowed</source>
+        <translation>update.json 有 %1 字节，最多允许 %2 字节</translation>
+    </message>
+    <message>
+        <source>update.json %1</source>
+        <translation>update.json：%1</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be read; the archive is damaged</source>
+        <translation>无法读取文件“%1”，压缩文件已损坏</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; is damaged and cannot be unpacked</source>
+        <translation>文件“%1”已损坏，无法解压</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; unpacks to more bytes than the archive declares</source>
+        <translation>文件“%1”解压后的大小超过压缩文件中声明的大小</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json</source>
+        <translation>数据文件“%1”与 update.json 中的 SHA-256 不一致</translation>
+    </message>
+    <message>
+        <source>update.json is in a folder of the archive (&quot;%1&quot;); it must be at the top level</source>
+        <translation>update.json 位于压缩文件的文件夹中（“%1”），必须位于顶层</translation>
+    </message>
+    <message>
+        <source>the file has %1 bytes; at most %2 are allowed</source>
+        <translation>文件有 %1 字节，最多允许 %2 字节</translation>
+    </message>
+    <message>
+        <source>the archive has %1 entries; at most %2 are allowed</source>
+        <translation>压缩文件有 %1 个条目，最多允许 %2 个</translation>
+    </message>
+    <message>
+        <source>the archive has two entries named &quot;%1&quot;</source>
+        <translation>压缩文件中有两个名为“%1”的条目</translation>
+    </message>
+    <message>
+        <source>the entry name &quot;%1&quot; %2</source>
+        <translation>条目名称“%1”：%2</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; of the archive is damaged</source>
+        <translation>压缩文件的条目“%1”已损坏</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; is encrypted; pack it without a password</source>
+        <translation>条目“%1”已加密，请不加密码重新打包</translation>
+    </message>
+    <message>
+        <source>the entry &quot;%1&quot; is compressed by a method other than Deflate</source>
+        <translation>条目“%1”使用了 Deflate 以外的压缩方式</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is missing in the archive</source>
+        <translation>压缩文件中缺少数据文件“%1”</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is too short: it has %2 bytes where update.json says %3</source>
+        <translation>数据文件“%1”过短：update.json 中为 %3 字节，实际为 %2 字节</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is too long: it has %2 bytes where update.json says %3</source>
+        <translation>数据文件“%1”过长：update.json 中为 %3 字节，实际为 %2 字节</translation>
+    </message>
+    <message>
+        <source>the archive has a file &quot;%1&quot; that no step uploads</source>
+        <translation>压缩文件中的文件“%1”没有任何步骤会上传</translation>
+    </message>
+    <message>
+        <source>the update is not for its model &quot;%1&quot;</source>
+        <translation>此更新不适用于其型号“%1”</translation>
+    </message>
+    <message>
+        <source>the update is not for its device version &quot;%1&quot;</source>
+        <translation>此更新不适用于其设备版本“%1”</translation>
+    </message>
+    <message>
+        <source>the update needs firmware version %1 or later, but the camera has &quot;%2&quot;; install an older update first</source>
+        <translation>此更新需要固件版本 %1 或更高版本，但相机的版本为“%2”，请先安装较旧的更新</translation>
+    </message>
+    <message>
+        <source>a precondition of the update is not met: its feature &quot;%1&quot; is &quot;%2&quot; instead of &quot;%3&quot;</source>
+        <translation>不满足更新的前提条件：其参数“%1”的值为“%2”，而不是“%3”</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; is &quot;%2&quot; instead of &quot;%3&quot;</source>
+        <translation>其参数“%1”的值为“%2”，而不是“%3”</translation>
+    </message>
+    <message>
+        <source>after the update it reports firmware version &quot;%1&quot; instead of %2</source>
+        <translation>更新后报告的固件版本为“%1”，而不是 %2</translation>
+    </message>
+    <message>
+        <source>the archive cannot be created</source>
+        <translation>无法创建压缩文件</translation>
+    </message>
+    <message>
+        <source>the archive cannot be written: %1</source>
+        <translation>无法写入压缩文件：%1</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is missing in the folder</source>
+        <translation>文件夹中缺少数据文件“%1”</translation>
+    </message>
+    <message>
+        <source>its folder does not exist or is read-only</source>
+        <translation>其文件夹不存在或为只读</translation>
+    </message>
+    <message>
+        <source>the file cannot be replaced</source>
+        <translation>无法替换文件</translation>
+    </message>
+    <message>
+        <source>this is not a folder</source>
+        <translation>这不是文件夹</translation>
+    </message>
+    <message>
+        <source>there is no update.json in the folder</source>
+        <translation>文件夹中没有 update.json</translation>
+    </message>
+    <message>
+        <source>update.json cannot be opened; check its access rights</source>
+        <translation>无法打开 update.json，请检查其访问权限</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; is empty</source>
+        <translation>数据文件“%1”为空</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; cannot be read</source>
+        <translation>无法读取数据文件“%1”</translation>
+    </message>
+    <message>
+        <source>the name of a field in double quotes</source>
+        <translation>用双引号括起来的字段名</translation>
+    </message>
+    <message>
+        <source>expected a colon after &quot;%1&quot;, found %2</source>
+        <translation>“%1”之后应为冒号，但实际为%2</translation>
+    </message>
+    <message>
+        <source>a text in double quotes</source>
+        <translation>用双引号括起来的字符串</translation>
+    </message>
+    <message>
+        <source>expected a number, found %1</source>
+        <translation>应为数字，但实际为 %1</translation>
+    </message>
+    <message>
+        <source>a whole number from %1 to %2</source>
+        <translation>从 %1 到 %2 的整数</translation>
+    </message>
+    <message>
+        <source>expected %1, found %2</source>
+        <translation>应为%1，但实际为%2</translation>
+    </message>
+    <message>
+        <source>expected the end of the text, found %1</source>
+        <translation>文本应在此结束，但实际为%1</translation>
+    </message>
+    <message>
+        <source>a list that begins with &quot;[&quot;</source>
+        <translation>以“[”开头的列表</translation>
+    </message>
+    <message>
+        <source>an object that begins with &quot;{&quot;</source>
+        <translation>以“{”开头的对象</translation>
+    </message>
+    <message>
+        <source>expected a comma or &quot;%1&quot;, found %2</source>
+        <translation>应为逗号或“%1”，但实际为%2</translation>
+    </message>
+    <message>
+        <source>the text is not valid UTF-8</source>
+        <translation>字符串不是有效的 UTF-8</translation>
+    </message>
+    <message>
+        <source>the text has no closing double quote</source>
+        <translation>字符串缺少结尾的双引号</translation>
+    </message>
+    <message>
+        <source>the text contains a control character</source>
+        <translation>字符串包含控制字符</translation>
+    </message>
+    <message>
+        <source>unknown escape sequence in a text</source>
+        <translation>字符串中有未知的转义序列</translation>
+    </message>
+    <message>
+        <source>the text contains half a surrogate pair</source>
+        <translation>字符串包含不完整的代理对</translation>
+    </message>
+    <message>
+        <source>expected four hexadecimal digits after &quot;\u&quot;</source>
+        <translation>“\u”之后应为四位十六进制数字</translation>
+    </message>
+    <message>
+        <source>the end of the text</source>
+        <translation>文本结尾</translation>
+    </message>
+    <message>
+        <source>an unexpected character</source>
+        <translation>意外的字符</translation>
+    </message>
+    <message>
+        <source>a double quote</source>
+        <translation>双引号</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>null</source>
+        <translation>空值 null</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; refers to itself</source>
+        <translation>参数“%1”引用了自身</translation>
+    </message>
+    <message>
+        <source>its feature &quot;%1&quot; refers to too many others</source>
+        <translation>参数“%1”引用的其他参数过多</translation>
+    </message>
+    <message>
+        <source>its feature description is larger than %1 bytes</source>
+        <translation>参数描述超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>its feature description is nested too deeply</source>
+        <translation>参数描述嵌套过深</translation>
+    </message>
+    <message>
+        <source>its feature description defines entities</source>
+        <translation>参数描述中定义了实体</translation>
+    </message>
+    <message>
+        <source>its feature description is damaged in line %1</source>
+        <translation>参数描述的第 %1 行已损坏</translation>
+    </message>
+    <message>
+        <source>its feature description describes no features</source>
+        <translation>参数描述中没有任何参数</translation>
+    </message>
+    <message>
+        <source>its packed feature description is damaged</source>
+        <translation>压缩的参数描述已损坏</translation>
+    </message>
+    <message>
+        <source>its feature description does not lie in the camera</source>
+        <translation>参数描述不在相机中</translation>
+    </message>
+    <message>
+        <source>its feature description is empty</source>
+        <translation>参数描述为空</translation>
+    </message>
+    <message>
+        <source>its feature description could not be read</source>
+        <translation>无法读取参数描述</translation>
     </message>
 </context>
 </TS>

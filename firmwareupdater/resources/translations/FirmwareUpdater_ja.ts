@@ -9,11 +9,11 @@
     </message>
     <message>
         <source>Step 1: Select cameras</source>
-        <translation>ステップ1: カメラの選択</translation>
+        <translation>ステップ 1: カメラの選択</translation>
     </message>
     <message>
         <source>Not all Korvane camera models can be updated using the Firmware Updater.</source>
-        <translation>Korvaneのカメラには、ファームウェア更新ツールで更新できないモデルもあります。</translation>
+        <translation>Korvane のカメラには、ファームウェア更新ツールで更新できないモデルもあります。</translation>
     </message>
     <message>
         <source>Refresh camera list</source>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Step 4: Updating firmware</source>
-        <translation>ステップ4: ファームウェアの更新中</translation>
+        <translation>ステップ 4: ファームウェアの更新中</translation>
     </message>
     <message>
         <source>Cameras:</source>
@@ -36,7 +36,7 @@
     </message>
     <message>
         <source>Be aware that disconnecting the power supply during the update process may damage the camera.</source>
-        <translation>更新中に電源を切ると、カメラが破損するおそれがありますのでご注意ください。</translation>
+        <translation>更新中に電源が切れると、カメラが故障するおそれがありますのでご注意ください。</translation>
     </message>
     <message>
         <source>The update process may take a while.&lt;br&gt;If you want to stop the update process before it has completed, click &lt;b&gt;Cancel&lt;/b&gt;. The update of the camera currently being updated will be completed, and then the update wizard will close.</source>
@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>&lt;p&gt;To use the Firmware Updater, you have to stop continuous image acquisition as well as any recordings.&lt;/p&gt;Do you want to stop all cameras and start using the Firmware Updater?</source>
-        <translation>&lt;p&gt;ファームウェア更新ツールを使用するには、連続画像取得とすべての録画を停止する必要があります。&lt;/p&gt;すべてのカメラを停止して、ファームウェア更新ツールを開始しますか？</translation>
+        <translation>&lt;p&gt;ファームウェア更新ツールを使用するには、連続画像取得とすべての録画を停止する必要があります。&lt;/p&gt;すべてのカメラを停止して、ファームウェア更新ツールを起動しますか？</translation>
     </message>
     <message>
         <source>Update files</source>
@@ -90,7 +90,7 @@
     </message>
     <message>
         <source>Internal error: Firmware update is missing and could not be applied.</source>
-        <translation>内部エラー: ファームウェアの更新が見つからないため、適用できませんでした。</translation>
+        <translation>内部エラー: ファームウェアの更新データが見つからないため、適用できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -111,7 +111,7 @@
     <name>Plugin::FirmwareUpdater::Internal::View::CFirmwareUpdateDialog</name>
     <message>
         <source>Camera %1 of %2</source>
-        <translation>カメラ %1/%2</translation>
+        <translation>%2 台中 %1 台目のカメラ</translation>
     </message>
 </context>
 <context>
@@ -138,7 +138,7 @@
     </message>
     <message>
         <source>For more information, see the &lt;a href=&quot;%1&quot;&gt;log file&lt;/a&gt;. If you require assistance, contact the &lt;a href=&quot;%2&quot;&gt;Korvane Support&lt;/a&gt;.</source>
-        <translation>詳細は&lt;a href=&quot;%1&quot;&gt;ログファイル&lt;/a&gt;をご覧ください。サポートが必要な場合は、&lt;a href=&quot;%2&quot;&gt;Korvaneサポート&lt;/a&gt;にお問い合わせください。</translation>
+        <translation>詳細は&lt;a href=&quot;%1&quot;&gt;ログファイル&lt;/a&gt;をご覧ください。サポートが必要な場合は、&lt;a href=&quot;%2&quot;&gt;Korvane サポート&lt;/a&gt;にお問い合わせください。</translation>
     </message>
     <message>
         <source>See &lt;a href=&quot;%1&quot;&gt;log file&lt;/a&gt; for more information.</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from &lt;a href=&quot;%1&quot;&gt;Korvane Support&lt;/a&gt;.</source>
-        <translation>ファームウェアを更新するには、&lt;a href=&quot;%1&quot;&gt;Korvaneサポート&lt;/a&gt;が提供する更新ファイルが必要です。</translation>
+        <translation>ファームウェアを更新するには、&lt;a href=&quot;%1&quot;&gt;Korvane サポート&lt;/a&gt;が提供する更新ファイルが必要です。</translation>
     </message>
     <message>
         <source>No file selected</source>
@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>Step 5: Result summary</source>
-        <translation>ステップ5: 結果の概要</translation>
+        <translation>ステップ 5: 結果の概要</translation>
     </message>
     <message>
         <source>See log file for more information.</source>
@@ -290,11 +290,11 @@
     </message>
     <message>
         <source>Click &lt;b&gt;Next&lt;/b&gt; to repeat the update process.</source>
-        <translation>更新を繰り返すには、&lt;b&gt;次へ&lt;/b&gt;をクリックしてください。</translation>
+        <translation>更新をもう一度行うには、&lt;b&gt;次へ&lt;/b&gt;をクリックしてください。</translation>
     </message>
     <message>
         <source>For more information, see the log file. If you require assistance, contact the Korvane Support.</source>
-        <translation>詳細はログファイルをご覧ください。サポートが必要な場合は、Korvaneサポートにお問い合わせください。</translation>
+        <translation>詳細はログファイルをご覧ください。サポートが必要な場合は、Korvane サポートにお問い合わせください。</translation>
     </message>
 </context>
 <context>
@@ -305,7 +305,7 @@
     </message>
     <message>
         <source>Step 2: Select update file</source>
-        <translation>ステップ2: 更新ファイルの選択</translation>
+        <translation>ステップ 2: 更新ファイルの選択</translation>
     </message>
     <message>
         <source>Browse</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</source>
-        <translation>ファームウェアを更新するには、Korvaneサポートが提供する更新ファイルが必要です。</translation>
+        <translation>ファームウェアを更新するには、Korvane サポートが提供する更新ファイルが必要です。</translation>
     </message>
     <message>
         <source>Update file</source>
@@ -348,7 +348,7 @@
     </message>
     <message>
         <source>Step 3: Update Summary</source>
-        <translation>ステップ3: 更新の概要</translation>
+        <translation>ステップ 3: 更新の概要</translation>
     </message>
     <message>
         <source>Be aware that with the currently selected firmware versions some cameras will be downgraded.</source>
@@ -364,7 +364,7 @@
     </message>
     <message>
         <source>Be aware that disconnecting the power supply during the update process may damage the camera.</source>
-        <translation>更新中に電源を切ると、カメラが破損するおそれがありますのでご注意ください。</translation>
+        <translation>更新中に電源が切れると、カメラが故障するおそれがありますのでご注意ください。</translation>
     </message>
 </context>
 </TS>

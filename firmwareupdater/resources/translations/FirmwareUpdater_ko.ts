@@ -221,7 +221,7 @@
     <name>Plugin::FirmwareUpdater::Internal::View::CUpdateSelectionDialog</name>
     <message>
         <source>Back</source>
-        <translation>뒤로</translation>
+        <translation>이전</translation>
     </message>
     <message>
         <source>Next</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from &lt;a href=&quot;%1&quot;&gt;Korvane Support&lt;/a&gt;.</source>
-        <translation>카메라의 펌웨어를 업데이트하려면 &lt;a href=&quot;%1&quot;&gt;Korvane 고객 지원&lt;/a&gt;의 업데이트 파일이 필요합니다.</translation>
+        <translation>카메라의 펌웨어를 업데이트하려면 &lt;a href=&quot;%1&quot;&gt;Korvane 고객 지원&lt;/a&gt;에서 제공하는 업데이트 파일이 필요합니다.</translation>
     </message>
     <message>
         <source>No file selected</source>
@@ -248,7 +248,7 @@
     <name>Plugin::FirmwareUpdater::Internal::View::CUpdateSummaryDialog</name>
     <message>
         <source>Back</source>
-        <translation>뒤로</translation>
+        <translation>이전</translation>
     </message>
     <message>
         <source>Next</source>
@@ -290,7 +290,7 @@
     </message>
     <message>
         <source>Click &lt;b&gt;Next&lt;/b&gt; to repeat the update process.</source>
-        <translation>업데이트를 반복하려면 &lt;b&gt;다음&lt;/b&gt;을 클릭하십시오.</translation>
+        <translation>업데이트를 다시 수행하려면 &lt;b&gt;다음&lt;/b&gt;을 클릭하십시오.</translation>
     </message>
     <message>
         <source>For more information, see the log file. If you require assistance, contact the Korvane Support.</source>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>To update the firmware of your cameras, you need a firmware update file from Korvane Support.</source>
-        <translation>카메라의 펌웨어를 업데이트하려면 Korvane 고객 지원의 업데이트 파일이 필요합니다.</translation>
+        <translation>카메라의 펌웨어를 업데이트하려면 Korvane 고객 지원에서 제공하는 업데이트 파일이 필요합니다.</translation>
     </message>
     <message>
         <source>Update file</source>

@@ -5,7 +5,7 @@
     <name>CameraSelectionDialogUi</name>
     <message>
         <source>Firmware Updater</source>
-        <translation>固件更新程序</translation>
+        <translation>固件更新工具</translation>
     </message>
     <message>
         <source>Step 1: Select cameras</source>
@@ -13,7 +13,7 @@
     </message>
     <message>
         <source>Not all Korvane camera models can be updated using the Firmware Updater.</source>
-        <translation>并非所有 Korvane 相机型号都能使用固件更新程序进行更新。</translation>
+        <translation>并非所有 Korvane 相机型号都能使用固件更新工具进行更新。</translation>
     </message>
     <message>
         <source>Refresh camera list</source>
@@ -24,7 +24,7 @@
     <name>FirmwareUpdateDialogUi</name>
     <message>
         <source>Firmware Updater</source>
-        <translation>固件更新程序</translation>
+        <translation>固件更新工具</translation>
     </message>
     <message>
         <source>Step 4: Updating firmware</source>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>The update process may take a while.&lt;br&gt;If you want to stop the update process before it has completed, click &lt;b&gt;Cancel&lt;/b&gt;. The update of the camera currently being updated will be completed, and then the update wizard will close.</source>
-        <translation>更新过程可能需要一些时间。&lt;br&gt;如果要提前停止更新，请单击&lt;b&gt;取消&lt;/b&gt;。系统将完成当前相机的更新，然后关闭更新向导。</translation>
+        <translation>更新过程可能需要一些时间。&lt;br&gt;如果要提前停止更新，请单击&lt;b&gt;取消&lt;/b&gt;。当前相机的更新会继续完成，然后更新向导将关闭。</translation>
     </message>
     <message>
         <source>Update progress</source>
@@ -51,7 +51,7 @@
     <name>Plugin::FirmwareUpdater::CFirmwareUpdaterPlugin</name>
     <message>
         <source>Firmware Updater</source>
-        <translation>固件更新程序</translation>
+        <translation>固件更新工具</translation>
     </message>
 </context>
 <context>
@@ -74,11 +74,11 @@
     </message>
     <message>
         <source>Fimware Updater</source>
-        <translation>固件更新程序</translation>
+        <translation>固件更新工具</translation>
     </message>
     <message>
         <source>&lt;p&gt;To use the Firmware Updater, you have to stop continuous image acquisition as well as any recordings.&lt;/p&gt;Do you want to stop all cameras and start using the Firmware Updater?</source>
-        <translation>&lt;p&gt;要使用固件更新程序，必须停止连续图像采集以及所有录制。&lt;/p&gt;是否停止所有相机并开始使用固件更新程序？</translation>
+        <translation>&lt;p&gt;要使用固件更新工具，必须停止连续图像采集以及所有录制。&lt;/p&gt;是否停止所有相机并开始使用固件更新工具？</translation>
     </message>
     <message>
         <source>Update files</source>
@@ -278,7 +278,7 @@
     <name>ResultSummaryDialogUi</name>
     <message>
         <source>Firmware Updater</source>
-        <translation>固件更新程序</translation>
+        <translation>固件更新工具</translation>
     </message>
     <message>
         <source>Step 5: Result summary</source>
@@ -290,7 +290,7 @@
     </message>
     <message>
         <source>Click &lt;b&gt;Next&lt;/b&gt; to repeat the update process.</source>
-        <translation>单击&lt;b&gt;下一步&lt;/b&gt;可重复更新过程。</translation>
+        <translation>单击&lt;b&gt;下一步&lt;/b&gt;可重新执行更新。</translation>
     </message>
     <message>
         <source>For more information, see the log file. If you require assistance, contact the Korvane Support.</source>
@@ -301,7 +301,7 @@
     <name>UpdateSelectionDialogUi</name>
     <message>
         <source>Firmware Updater</source>
-        <translation>固件更新程序</translation>
+        <translation>固件更新工具</translation>
     </message>
     <message>
         <source>Step 2: Select update file</source>
@@ -344,7 +344,7 @@
     <name>UpdateSummaryDialogUi</name>
     <message>
         <source>Firmware Updater</source>
-        <translation>固件更新程序</translation>
+        <translation>固件更新工具</translation>
     </message>
     <message>
         <source>Step 3: Update Summary</source>
@@ -356,7 +356,7 @@
     </message>
     <message>
         <source>The firmware versions selected for some cameras are identical with the firmware versions currently installed on the cameras. By clicking &lt;b&gt;Next&lt;/b&gt; you will reinstall the same firmware version.</source>
-        <translation>部分相机的所选固件版本与当前安装的版本相同。单击&lt;b&gt;下一步&lt;/b&gt;将重新安装相同的固件版本。</translation>
+        <translation>为部分相机选择的固件版本与其当前安装的版本相同。单击&lt;b&gt;下一步&lt;/b&gt;将重新安装相同的固件版本。</translation>
     </message>
     <message>
         <source>Click &lt;b&gt;Next&lt;/b&gt; to start the update. The update process may take a while.</source>

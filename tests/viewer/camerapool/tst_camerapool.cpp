@@ -97,7 +97,7 @@ void CCameraPoolTest::startsAndStopsCameras()
         QVERIFY2(error.contains(cause), qPrintable(error));
     };
     simulation.setBusy(FirstId, true);
-    verifyRefused("used by another application");
+    verifyRefused("in use by another application");
     simulation.setBusy(FirstId, false);
 
     QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);

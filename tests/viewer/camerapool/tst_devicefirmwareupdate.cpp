@@ -243,8 +243,8 @@ void CDeviceFirmwareUpdateTest::refusesBeforeTheFirstWrite()
     verify("reports status 5", "DeviceStatus", "5");
     verify("not for its model \"VX-1\"", "DeviceModelName", "VX-1");
     verify("not for its device version \"R9\"", "DeviceVersion", "R9");
-    verify("\"1.0.9\" is below 1.1", "DeviceFirmwareVersion", "1.0.9");
-    verify("\"?\" is below 1.1", "DeviceFirmwareVersion", "?");
+    verify("version 1.1 or later, but the camera has \"1.0.9\"", "DeviceFirmwareVersion", "1.0.9");
+    verify("version 1.1 or later, but the camera has \"?\"", "DeviceFirmwareVersion", "?");
     for (const int size : {999, 1000}) { // too short; wrong digest
         writeFile(m_path, makeArchive({{"firmware-2.0.0.img", QByteArray(size, 'x')}}));
         verify("firmware-2.0.0.img", "", "");

@@ -234,7 +234,8 @@ void CRealCamerasTest::leavesACameraInUseAlone()
     CVirtualCameraProcess &camera = startCamera({});
     const auto device = openDevice();
     const QVector<CameraInfoPtr> found = openPool();
-    QVERIFY(update(found.value(0)).contains("it is in use by another application; close that one"));
+    QVERIFY(update(found.value(0))
+                .contains("it is in use by another application; close that application"));
     QVERIFY(!camera.getEvents().contains("open FirmwareImage"));
     QCOMPARE(device->readFeature("DeviceFirmwareVersion", std::chrono::seconds(5)), "1.2.0");
 }

@@ -16,6 +16,7 @@ private slots:
     void demonstrationUpdatesThenReinstalls();
     void demonstrationFailsWithTheUpdate();
     void refusesToStart();
+    void answersInTheLanguageAskedFor();
 
 private:
     void run(const QStringList &arguments, int exitCode, const QString &sentence);
@@ -90,6 +91,24 @@ void CNuvexViewerTest::refusesToStart()
     run({"--language=de"}, 2, "\"de\"");
     for (const char *speed : {"fast", "0", "nan"})
         run({"--speed", speed}, 2, QString("\"%1\"").arg(speed));
+}
+
+void CNuvexViewerTest::answersInTheLanguageAskedFor()
+{
+    static const QRegularExpression names("\\S*nuvexviewer|--[a-z-]+|USB");
+    static const QRegularExpression word("[A-Za-z]{3}.*");
+    for (const QString language : {"ko", "ja", "zh"}) {
+        run({"--help", "--language", language}, 0, "--camera-address");
+        QCOMPARE(word.match(m_output.remove(names)).captured(), QString());
+    }
+    run({"--language=ja", "--nothing"}, 2, "オプション");
+    run({"--language=ja", "--speed=fast"}, 2, "「fast」");
+    run({"--language=de", "--help"}, 2, "\"de\"");
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    for (const char *variable : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        qunsetenv(variable);
+    run({"--language=ja"}, 1, "ディスプレイがありません");
+    qputenv("QT_QPA_PLATFORM", platform);
 }
 
 QTEST_GUILESS_MAIN(CNuvexViewerTest)

@@ -18,6 +18,7 @@ private slots:
     void init();
     void packsFillsInAndShows();
     void refusesFaultySources();
+    void speaksTheUsersLanguage();
 
 private:
     QScopedPointer<QTemporaryDir> m_folder;
@@ -96,6 +97,36 @@ void CGufToolTest::refusesFaultySources()
     QVERIFY(run("unpack a.guf").startsWith("2 "));
     for (const char *target : {"missing/a.guf", "source"})
         QVERIFY(run(QString("pack source ") + target).startsWith("1 "));
+}
+
+void CGufToolTest::speaksTheUsersLanguage()
+{
+    const QStringList commands{"--help", "unpack a", "pack source a.guf", "verify a.guf"};
+    QStringList english;
+    for (const QString &command : commands)
+        english += run(command).split('\n', Qt::SkipEmptyParts);
+    QVERIFY(QDir().mkdir("faulty"));
+    writeFile("faulty/update.json", "{ \"a\": tru }");
+    const QMap<QByteArray, QString> faults{
+        {"ko",
+         "업데이트 파일 faulty: update.json: 1행 8열에서 JSON 형식이 올바르지 않습니다: "
+         "true 또는 false이(가) 필요하지만 \"tru\"이(가) 있습니다"},
+        {"ja",
+         "更新ファイル faulty: update.json: 1 行 8 列が JSON として正しくありません: "
+         "true または false の値が必要ですが、「tru」があります"},
+        {"zh",
+         "更新文件 faulty：update.json：第 1 行第 8 列处不是有效的 JSON："
+         "应为布尔值 true 或 false，但实际为“tru”"}};
+    for (const QByteArray &language : faults.keys()) {
+        qputenv("LANGUAGE", language);
+        QCOMPARE(run("pack faulty b.guf"), "1 " + faults.value(language) + '\n');
+        for (const QString &command : commands) {
+            const QStringList lines = run(command).split('\n', Qt::SkipEmptyParts);
+            for (const QString &line : lines)
+                QVERIFY2(!english.contains(line), qPrintable(line));
+        }
+    }
+    qunsetenv("LANGUAGE");
 }
 
 QTEST_GUILESS_MAIN(CGufToolTest)

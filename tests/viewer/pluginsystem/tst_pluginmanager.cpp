@@ -98,9 +98,9 @@ void CPluginManagerTest::namesEachFailure()
         QCOMPARE(m_initializer.getServices().size(), 1);
     };
     verify("wrong_interface", "IPlugin/5.0");
-    verify("missing", "\"nowhere\" 1.0.0, which is not there");
+    verify("missing", "\"nowhere\" 1.0.0, which is missing");
     verify("too_new", "\"Host\" 3.0.0");
-    verify("too_old", "compatible down to 2.0.0");
+    verify("too_old", "compatible with 2.0.0 and later");
     verify("refuses", "could not be initialized");
     verify("throws", "out of order");
     verify("refuses_late", "could not be connected");

@@ -51,7 +51,7 @@ void CManifestParserTest::tellsFaults()
     QFETCH(QByteArray, json);
     QFETCH(QString, fault);
     const CManifestResult result = parseManifest(json);
-    QCOMPARE(result.fault, fault);
+    QCOMPARE(result.fault.getEnglish(), fault);
     QCOMPARE(result.manifest.updates.isEmpty(), !fault.isEmpty());
 }
 

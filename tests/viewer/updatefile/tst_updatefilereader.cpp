@@ -49,9 +49,10 @@ static QString readCause(const QString &path, CUpdateFileCache *cache = nullptr)
         return manifest.updates.size() == 1 ? "no fault" : "no updates";
     } catch (const CUpdateFileError &error) {
         const QString message = error.getMessage();
-        const bool isSentence = message == "Update file " + path + ": " + error.getCause()
+        const QString cause = error.getCause().getEnglish();
+        const bool isSentence = message == "Update file " + path + ": " + cause
             && !message.contains('\n') && !message.endsWith('.');
-        return isSentence ? error.getCause() : "bad sentence: " + message;
+        return isSentence ? cause : "bad sentence: " + message;
     }
 }
 
@@ -119,7 +120,7 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
     QVector<CEntry> crowd;
     for (int index = 0; index < 257; ++index)
         crowd.append({QString::number(index), "x"});
-    row(makeArchive(crowd), "the archive has 257 entries; 256 are allowed");
+    row(makeArchive(crowd), "the archive has 257 entries; at most 256 are allowed");
 }
 
 void CUpdateFileReaderTest::tellsFaultyArchives()
@@ -141,7 +142,8 @@ void CUpdateFileReaderTest::refusesWhatIsNoFile()
     QVERIFY(QFile::remove(path));
     writeFile(path, "");
     QVERIFY(QFile::resize(path, 256 * 1024 * 1024 + 1));
-    QCOMPARE(readCause(path), QString("the file has 268435457 bytes; 268435456 are allowed"));
+    QCOMPARE(readCause(path),
+             QString("the file has 268435457 bytes; at most 268435456 are allowed"));
 }
 
 void CUpdateFileReaderTest::refusesTruncatedAndDamagedFiles()

@@ -13,6 +13,8 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
+
 namespace {
 
 /// Elements within elements; real descriptions come to about ten.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/camerapool/errortext.h"
+#include "viewer/text/errortext.h"
 
 #include <QByteArray>
 
@@ -17,7 +17,7 @@ struct CDescriptionPlace
     quint64 address = 0;
     qint64 size = 0; ///< from 1 to MAXIMUM_PACKED_DESCRIPTION
     bool isPacked = false; ///< in a ZIP archive
-    CErrorText fault; ///< why the description may not be read; empty: the rest is valid
+    Text::CErrorText fault; ///< why the description may not be read; empty: the rest is valid
 };
 
 /// Understands the address that a camera gives for its description, @p url up to its first NUL. An
@@ -27,6 +27,6 @@ struct CDescriptionPlace
 /// Why the library must not be given a description: it trusts it, follows references for ever and
 /// unpacks whatever there is. @p file is what lies in the camera, @p isPacked as the place says.
 /// Empty: it may have it. Any thread.
-[[nodiscard]] CErrorText findDescriptionFault(const QByteArray &file, bool isPacked);
+[[nodiscard]] Text::CErrorText findDescriptionFault(const QByteArray &file, bool isPacked);
 
 } // namespace Viewer::CameraPool::GenICam

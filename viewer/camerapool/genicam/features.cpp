@@ -2,6 +2,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
 using EReason = CFeatureError::EReason;
 
 CFeatureError::CFeatureError(const CErrorText &text, EReason reason)
@@ -30,8 +31,8 @@ CErrorText getNoAnswerText()
 
 CErrorText getInUseText()
 {
-    return CErrorText::tr("it is in use by another application; close that one and start the "
-                          "update again");
+    return CErrorText::tr("it is in use by another application; close that application "
+                          "and start the update again");
 }
 
 static CErrorText describe(const CErrorGuard &error)
@@ -57,19 +58,15 @@ void throwIf(const CErrorGuard &error, const CErrorText &attempt)
                         noAnswer ? EReason::NoAnswer : EReason::Refused);
 }
 
-static QString quote(const QByteArray &name)
-{
-    return QStringLiteral("\"%1\"").arg(QString::fromUtf8(name));
-}
-
 static CErrorText readingOf(const QByteArray &name)
 {
-    return CErrorText::tr("its feature %1 could not be read").arg(quote(name));
+    return CErrorText::tr("its feature \"%1\" could not be read").arg(QString::fromUtf8(name));
 }
 
 static CErrorText writingOf(const QByteArray &name, const QString &value)
 {
-    return CErrorText::tr("its feature %1 could not be set to \"%2\"").arg(quote(name), value);
+    return CErrorText::tr("its feature \"%1\" could not be set to \"%2\"")
+        .arg(QString::fromUtf8(name), value);
 }
 
 CFeatures::CFeatures(ArvDevice *device)
@@ -86,9 +83,9 @@ ArvGcNode *CFeatures::getNode(const QByteArray &name) const
 {
     ArvGcNode *const node = arv_device_get_feature(m_device, name.constData());
     if (!ARV_IS_GC_FEATURE_NODE(node))
-        throw CFeatureError(CErrorText::tr("it has no feature %1; the update file may be for "
+        throw CFeatureError(CErrorText::tr("it has no feature \"%1\"; the update file may be for "
                                            "another model")
-                                .arg(quote(name)),
+                                .arg(QString::fromUtf8(name)),
                             EReason::Refused);
     return node;
 }
@@ -130,11 +127,14 @@ void CFeatures::execute(const QByteArray &name) const
 {
     ArvGcNode *const node = getNode(name);
     if (!ARV_IS_GC_COMMAND(node))
-        throw CFeatureError(CErrorText::tr("its feature %1 is no command").arg(quote(name)),
-                            EReason::Refused);
+        throw CFeatureError(
+            CErrorText::tr("its feature \"%1\" is not a command").arg(QString::fromUtf8(name)),
+            EReason::Refused);
     CErrorGuard error;
     arv_gc_command_execute(ARV_GC_COMMAND(node), error.receive());
-    throwIf(error, CErrorText::tr("its command %1 could not be executed").arg(quote(name)));
+    throwIf(
+        error,
+        CErrorText::tr("its command \"%1\" could not be executed").arg(QString::fromUtf8(name)));
 }
 
 bool CFeatures::isDone(const QByteArray &name) const
@@ -169,7 +169,8 @@ bool CFeatures::isDone(const QByteArray &name) const
     CErrorGuard error;
     const gint64 current = arv_gc_integer_get_value(ARV_GC_INTEGER(value), error.receive());
     throwIf(error,
-            CErrorText::tr("the end of its command %1 could not be awaited").arg(quote(name)));
+            CErrorText::tr("it could not be found out whether its command \"%1\" has finished")
+                .arg(QString::fromUtf8(name)));
     return current != commandValue;
 }
 
@@ -177,8 +178,9 @@ CFeatures::CRegister CFeatures::findRegister(const QByteArray &name) const
 {
     ArvGcNode *const node = getNode(name);
     if (!ARV_IS_GC_REGISTER(node))
-        throw CFeatureError(CErrorText::tr("its feature %1 is no register").arg(quote(name)),
-                            EReason::Refused);
+        throw CFeatureError(
+            CErrorText::tr("its feature \"%1\" is not a register").arg(QString::fromUtf8(name)),
+            EReason::Refused);
     CErrorGuard error;
     CRegister found;
     found.address = arv_gc_register_get_address(ARV_GC_REGISTER(node), error.receive());

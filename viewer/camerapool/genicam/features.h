@@ -2,7 +2,7 @@
 
 #include "glibpointers.h"
 
-#include "viewer/camerapool/errortext.h"
+#include "viewer/text/errortext.h"
 
 #include "core/baseexception.h"
 
@@ -20,27 +20,27 @@ public:
         Refused,
     };
 
-    CFeatureError(const CErrorText &text, EReason reason);
+    CFeatureError(const Text::CErrorText &text, EReason reason);
     ~CFeatureError() override;
 
     /// The message, also in the user's language.
-    [[nodiscard]] CErrorText getText() const;
+    [[nodiscard]] Text::CErrorText getText() const;
     [[nodiscard]] EReason getReason() const;
 
 private:
-    CErrorText m_text;
+    Text::CErrorText m_text;
     EReason m_reason;
 };
 
 /// What to say about a camera that does not answer.
-[[nodiscard]] CErrorText getNoAnswerText();
+[[nodiscard]] Text::CErrorText getNoAnswerText();
 
 /// What to say of a camera that another application has taken control over.
-[[nodiscard]] CErrorText getInUseText();
+[[nodiscard]] Text::CErrorText getInUseText();
 
 /// Throws the CFeatureError for @p error: "<attempt>: <why, and what to do about it>". Does
 /// nothing when there is no error.
-void throwIf(const CErrorGuard &error, const CErrorText &attempt);
+void throwIf(const CErrorGuard &error, const Text::CErrorText &attempt);
 
 /// The features of one open camera, by name. All operations block for as long as the camera takes,
 /// up to 2.5 s for an answer that does not come, and throw CFeatureError. The thread that owns the

@@ -6,6 +6,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
 using namespace std::chrono_literals;
 
 // Names that the standard gives.
@@ -97,7 +98,7 @@ void CFileUpload::prepare()
     // Whole words only: the last block is filled up to one.
     m_buffer.length = std::min(m_buffer.length, MaximumBlockSize) / 4 * 4;
     if (m_buffer.length == 0)
-        fail(CErrorText::tr("its buffer for files is empty"));
+        fail(CErrorText::tr("its buffer for files has no room (length 0)"));
     m_hasOffset = m_features.has(AccessOffset);
     m_features.write(Selector, m_fileName);
     m_features.write(OpenMode, QStringLiteral("Write"));
@@ -121,7 +122,7 @@ void CFileUpload::write(const QByteArray &block)
     const qint64 written = m_features.readInteger(OperationResult);
     if (written != block.size()) {
         checkStatus();
-        fail(CErrorText::tr("it took %1 of %2 bytes")
+        fail(CErrorText::tr("it accepted only %1 of %2 bytes")
                  .arg(QString::number(written), QString::number(block.size())));
     }
     m_offset += written;

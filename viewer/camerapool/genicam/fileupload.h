@@ -39,7 +39,7 @@ private:
 
     /// Runs @p action; what it throws is thrown on behind @p failure.
     template <typename Action>
-    void attempt(const CErrorText &failure, Action action);
+    void attempt(const Text::CErrorText &failure, Action action);
 
     const CFeatures &m_features;
     const QString m_fileName;

@@ -4,7 +4,7 @@
 #include "networksearch.h"
 #include "unicastdiscovery.h"
 
-#include "viewer/camerapool/errortext.h"
+#include "viewer/text/errortext.h"
 
 #include "camerapool/transportlayertypes.h"
 
@@ -12,6 +12,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
 /// Two cameras say that they are the same one: nobody can tell which one an update would reach.
 static constexpr qint32 AmbiguousIdentityStatus = 1001;
 

@@ -14,7 +14,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
-/// Cameras on real wires, GigE Vision and USB3 Vision. Nothing is sent to anybody but the given
+/// Real cameras, GigE Vision and USB3 Vision. Nothing is sent to anybody but the given
 /// addresses unless searching the network is asked for.
 class CGenICam : public ICameraDeviceFactory, public ICameraEnumerator
 {

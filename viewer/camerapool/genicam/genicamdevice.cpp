@@ -15,6 +15,7 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 
@@ -55,7 +56,7 @@ void CGenICamDevice::open(milliseconds timeLimit)
         fail(CErrorText::tr("it is already open"));
     if (m_camera.isAmbiguous)
         fail(CErrorText::tr("another camera has the same vendor, model and serial number; connect "
-                            "only one of them and look for cameras again"));
+                            "only one of them and search for cameras again"));
     // What is dead is found out before the library, which takes longer, is set to work. From then
     // on only its own limits count: 2.5 s for each answer that does not come.
     checkIdentity(std::min(timeLimit, IdentityLimit));
@@ -71,7 +72,7 @@ void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
     if (found.isEmpty())
         fail(getNoAnswerText());
     if (found.first().getId() != m_camera.getId())
-        fail(CErrorText::tr("another camera, %1, answers at its address; look for cameras again")
+        fail(CErrorText::tr("another camera, %1, answers at its address; search for cameras again")
                  .arg(found.first().getFullName()));
 }
 
@@ -98,7 +99,7 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
         const CObjectPointer<GInetAddress> cameraAddress(
             g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
         if (!interfaceAddress || !cameraAddress)
-            throw CFeatureError(CErrorText::tr("there is no way to its address; check the network "
+            throw CFeatureError(CErrorText::tr("its address cannot be reached; check the network "
                                                "settings of this computer"),
                                 CFeatureError::EReason::NoAnswer);
         device.reset(
@@ -241,8 +242,8 @@ void CGenICamDevice::waitForReturn(const QString &oldVersion, const QDeadlineTim
         QThread::msleep(PollInterval.count());
     }
     fail(silence > 0 ? CErrorText::tr("it did not come back from its reset; switch it off and on "
-                                      "and look for its firmware version")
-                     : CErrorText::tr("it did not restart; switch it off and on and look for its "
+                                      "and check its firmware version")
+                     : CErrorText::tr("it did not restart; switch it off and on and check its "
                                       "firmware version"));
 }
 

@@ -11,7 +11,7 @@ class QDeadlineTimer;
 
 namespace Viewer::CameraPool::GenICam {
 
-/// A camera on a real wire. The thread that opens it owns it: only that thread uses and closes it,
+/// A real camera. The thread that opens it owns it: only that thread uses and closes it,
 /// and closing one that has died takes seconds.
 class CGenICamDevice : public ICameraDevice
 {
@@ -47,7 +47,7 @@ private:
     /// Runs @p action; whatever it throws leaves as a CCameraError.
     template <typename Action>
     std::invoke_result_t<Action> translate(Action action) const;
-    [[noreturn]] void fail(const CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause) const;
 
     const CFoundCamera m_camera;
     CObjectPointer<ArvDevice> m_device;

@@ -10,6 +10,8 @@
 
 namespace Viewer::CameraPool::GenICam {
 
+using Text::CErrorText;
+
 // The control protocol of GigE Vision: reading memory and what is answered to it.
 static constexpr quint16 ControlPort = 3956;
 static constexpr int HeaderSize = 8;

@@ -23,6 +23,7 @@ namespace Viewer::CameraPool::Simulation {
 
 using Core::Exception::BaseException;
 using Json::CJsonScanner;
+using Text::CErrorText;
 
 namespace {
 
@@ -50,12 +51,12 @@ public:
         if (!m_scanner.nextMember(name))
             return false;
         if (m_names.contains(name))
-            m_scanner.fail(QStringLiteral("the field is given twice"));
+            m_scanner.fail(CErrorText::tr("the field is given twice"));
         m_names.append(name);
         return true;
     }
 
-    [[noreturn]] void failUnknown() { m_scanner.fail(QStringLiteral("unknown field")); }
+    [[noreturn]] void failUnknown() { m_scanner.fail(CErrorText::tr("unknown field")); }
 
     /// Call it after the last member. Reported where the object begins.
     void require(std::initializer_list<const char *> names) const
@@ -64,7 +65,7 @@ public:
             if (!m_names.contains(QLatin1String(name)))
                 m_scanner.failAt(
                     m_begin,
-                    QStringLiteral("the field \"%1\" is missing").arg(QLatin1String(name)));
+                    CErrorText::tr("the field \"%1\" is missing").arg(QString::fromLatin1(name)));
         }
     }
 
@@ -91,8 +92,8 @@ public:
             if (name == QLatin1String("format")) {
                 const qint64 format = m_scanner.readInteger(0, std::numeric_limits<qint32>::max());
                 if (format != 1)
-                    m_scanner.fail(QStringLiteral("format %1 is unknown, only format 1 can be read")
-                                       .arg(format));
+                    m_scanner.fail(CErrorText::tr("format %1 is unknown, only format 1 can be read")
+                                       .arg(QString::number(format)));
             } else if (name == QLatin1String("layers")) {
                 readLayers(description);
             } else {
@@ -110,8 +111,9 @@ private:
         m_scanner.beginArray();
         while (m_scanner.nextElement()) {
             if (description.layers.size() == CCameraDescriptionReader::MaximumLayerCount)
-                m_scanner.fail(QStringLiteral("more than %1 transport layers")
-                                   .arg(CCameraDescriptionReader::MaximumLayerCount));
+                m_scanner.fail(
+                    CErrorText::tr("more than %1 transport layers")
+                        .arg(QString::number(CCameraDescriptionReader::MaximumLayerCount)));
             description.layers.append(readLayer());
         }
     }
@@ -140,8 +142,9 @@ private:
         m_scanner.beginArray();
         while (m_scanner.nextElement()) {
             if (++m_cameraCount > CCameraDescriptionReader::MaximumCameraCount)
-                m_scanner.fail(QStringLiteral("more than %1 cameras")
-                                   .arg(CCameraDescriptionReader::MaximumCameraCount));
+                m_scanner.fail(
+                    CErrorText::tr("more than %1 cameras")
+                        .arg(QString::number(CCameraDescriptionReader::MaximumCameraCount)));
             layer.cameras.append(readCamera());
         }
     }
@@ -215,9 +218,8 @@ private:
         const QString id = readText();
         const auto other = m_idPositions.constFind(id);
         if (other != m_idPositions.constEnd())
-            m_scanner.fail(QStringLiteral("the id \"%1\" is already used in line %2")
-                               .arg(id)
-                               .arg(m_scanner.getLine(*other)));
+            m_scanner.fail(CErrorText::tr("the id \"%1\" is already used in line %2")
+                               .arg(id, QString::number(m_scanner.getLine(*other))));
         m_idPositions.insert(id, m_scanner.getPosition());
         return id;
     }
@@ -227,14 +229,13 @@ private:
         constexpr int MAXIMUM = CCameraDescriptionReader::MaximumTextLength;
         const QString text = m_scanner.readText();
         if (text.trimmed().isEmpty())
-            m_scanner.fail(QStringLiteral("the text must not be empty"));
+            m_scanner.fail(CErrorText::tr("the text must not be empty"));
         if (text.size() > MAXIMUM)
-            m_scanner.fail(QStringLiteral("the text has %1 characters, at most %2 are allowed")
-                               .arg(text.size())
-                               .arg(MAXIMUM));
+            m_scanner.fail(CErrorText::tr("the text has %1 characters; at most %2 are allowed")
+                               .arg(QString::number(text.size()), QString::number(MAXIMUM)));
         if (std::any_of(text.cbegin(), text.cend(), isControlCharacter))
             m_scanner.fail(
-                QStringLiteral("the text must not contain line breaks or control characters"));
+                CErrorText::tr("the text must not contain line breaks or control characters"));
         return text;
     }
 
@@ -244,6 +245,12 @@ private:
     int m_cameraCount = 0;
     QHash<QString, int> m_idPositions; // of cameras and layers, which share one space
 };
+
+/// Told where the viewer was started, so in the user's language.
+[[noreturn]] void fail(const CErrorText &text)
+{
+    throw BaseException(text.getLocalized());
+}
 
 } // namespace
 
@@ -259,34 +266,33 @@ CCameraDescription CCameraDescriptionReader::readFile(const QString &path)
     QFile file(path);
     // Asked before opening, since a pipe would be waited for.
     if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        throw BaseException(
-            QStringLiteral("Camera description \"%1\" cannot be read: it is not a regular file")
-                .arg(name));
+        fail(CErrorText::tr("Camera description \"%1\" cannot be read: it is not a regular file")
+                 .arg(name));
+    const CErrorText unreadable = CErrorText::tr("Camera description \"%1\" cannot be read: %2");
     if (!file.open(QIODevice::ReadOnly))
-        throw BaseException(QStringLiteral("Camera description \"%1\" cannot be read: %2")
-                                .arg(name, file.errorString()));
+        fail(unreadable.arg(name, file.errorString()));
     // One byte more than allowed is enough to know, whatever size the file claims to have.
     const QByteArray text = file.read(MaximumFileSize + 1);
     if (file.error() != QFileDevice::NoError)
-        throw BaseException(QStringLiteral("Camera description \"%1\" cannot be read: %2")
-                                .arg(name, file.errorString()));
+        fail(unreadable.arg(name, file.errorString()));
     return read(text, name);
 }
 
 CCameraDescription CCameraDescriptionReader::read(const QByteArray &text, const QString &name)
 {
-    const QString description = QStringLiteral("Camera description \"%1\"").arg(name);
     if (text.size() > MaximumFileSize)
-        throw BaseException(
-            QStringLiteral("%1 is larger than %2 bytes").arg(description).arg(MaximumFileSize));
+        fail(CErrorText::tr("Camera description \"%1\" is larger than %2 bytes")
+                 .arg(name, QString::number(MaximumFileSize)));
     try {
         return CReader(text).read();
     } catch (const Json::CJsonFault &fault) {
-        const QString field
-            = fault.field.isEmpty() ? QString() : QStringLiteral(", field \"%1\"").arg(fault.field);
-        throw BaseException(QStringLiteral("%1, line %2, column %3%4: %5")
-                                .arg(description, QString::number(fault.line),
-                                     QString::number(fault.column), field, fault.problem));
+        const QString line = QString::number(fault.line);
+        const QString column = QString::number(fault.column);
+        fail(fault.field.isEmpty()
+                 ? CErrorText::tr("Camera description \"%1\", line %2, column %3: %4")
+                       .arg(name, line, column, fault.problem)
+                 : CErrorText::tr("Camera description \"%1\", line %2, column %3, field \"%4\": %5")
+                       .arg(name, line, column, fault.field, fault.problem));
     }
 }
 

@@ -3,12 +3,13 @@
 #include "firmwarestatefile.h"
 #include "simulationnotifier.h"
 
-#include "viewer/camerapool/errortext.h"
+#include "viewer/text/errortext.h"
 
 #include <algorithm>
 
 namespace Viewer::CameraPool::Simulation {
 
+using Text::CErrorText;
 CSimulatedCamera::CSimulatedCamera(const CCameraDescriptionEntry &description, double speedFactor,
                                    const std::shared_ptr<CFirmwareStateFile> &stateFile,
                                    const std::shared_ptr<const CSimulationNotifier> &notifier)
@@ -88,7 +89,9 @@ CSimulatedCamera::Session CSimulatedCamera::connect(CErrorText &cause)
     if (!m_plugged || m_restarting)
         cause = CErrorText::tr("it does not answer; check its cable and its power supply");
     else if (m_busy)
-        cause = CErrorText::tr("another application uses it; close that application");
+        cause = CErrorText::tr(
+            "it is in use by another application; close that application and start the "
+            "update again");
     else if (m_session != 0)
         cause = CErrorText::tr("it is already being updated");
     else

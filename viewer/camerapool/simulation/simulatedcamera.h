@@ -8,7 +8,7 @@
 #include <mutex>
 #include <optional>
 
-namespace Viewer::CameraPool {
+namespace Viewer::Text {
 class CErrorText;
 }
 
@@ -55,7 +55,7 @@ public:
     void setBusy(bool busy);
 
     /// Begins a session, or says in @p cause why there is none.
-    [[nodiscard]] Session connect(CErrorText &cause);
+    [[nodiscard]] Session connect(Text::CErrorText &cause);
     void disconnect(Session session);
 
     /// Waits for so long; false as soon as the session has ended otherwise.

@@ -11,6 +11,7 @@
 
 namespace Viewer::CameraPool::Simulation {
 
+using Text::CErrorText;
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 

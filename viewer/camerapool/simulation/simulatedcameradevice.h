@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace Viewer::CameraPool {
+namespace Viewer::Text {
 class CErrorText;
 }
 
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] qint64 getUploadRate() const override;
 
 private:
-    [[noreturn]] void fail(const CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause) const;
     [[noreturn]] void failByTime(std::chrono::milliseconds timeLimit) const;
     void work(std::chrono::milliseconds duration, std::chrono::milliseconds timeLimit) const;
     void requireConnection(bool connected) const;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/text/errortext.h"
+
 #include <QString>
 
 namespace Viewer::CameraPool::UpdateFile {
@@ -10,6 +12,6 @@ namespace Viewer::CameraPool::UpdateFile {
 /// Why @p name cannot name a file in an update file, as the end of a sentence that begins with the
 /// name ("has a backslash; ..."); empty when it can. Names are relative paths with forward slashes
 /// that stay inside the archive, also where it is unpacked by other programs.
-[[nodiscard]] QString findEntryNameFault(const QString &name);
+[[nodiscard]] Text::CErrorText findEntryNameFault(const QString &name);
 
 } // namespace Viewer::CameraPool::UpdateFile

@@ -6,23 +6,25 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Text::CErrorText;
+
 namespace {
 
-QString describeType(QJsonValue::Type type)
+CErrorText describeType(QJsonValue::Type type)
 {
     switch (type) {
     case QJsonValue::Bool:
-        return QStringLiteral("true or false");
+        return CErrorText::tr("true or false");
     case QJsonValue::Double:
-        return QStringLiteral("a number");
+        return CErrorText::tr("a number");
     case QJsonValue::String:
-        return QStringLiteral("a text");
+        return CErrorText::tr("a text");
     case QJsonValue::Array:
-        return QStringLiteral("a list");
+        return CErrorText::tr("a list");
     case QJsonValue::Object:
-        return QStringLiteral("an object");
+        return CErrorText::tr("an object");
     default:
-        return QStringLiteral("null");
+        return CErrorText::tr("null");
     }
 }
 
@@ -41,7 +43,8 @@ CJsonObjectReader CJsonObjectReader::getObject(const QJsonArray &list, const QSt
     const QJsonValue value = list.at(index);
     if (!value.isObject())
         fail(itemName,
-             QStringLiteral("is %1 where an object is wanted").arg(describeType(value.type())));
+             CErrorText::tr("is %1 where %2 is wanted")
+                 .arg(describeType(value.type()), describeType(QJsonValue::Object)));
     return CJsonObjectReader(value.toObject(), getPath(itemName));
 }
 
@@ -51,7 +54,7 @@ void CJsonObjectReader::checkNames(const QStringList &knownNames) const
     for (const QString &name : names) {
         if (!knownNames.contains(name))
             fail(name,
-                 QStringLiteral("is unknown; known here are %1")
+                 CErrorText::tr("is unknown; known here are %1")
                      .arg(knownNames.join(QStringLiteral(", "))));
     }
 }
@@ -77,7 +80,8 @@ qint64 CJsonObjectReader::readInteger(const QString &name, qint64 minimum, qint6
     if (std::floor(value) != value || value < static_cast<double>(minimum)
         || value > static_cast<double>(maximum))
         fail(name,
-             QStringLiteral("has to be a whole number from %1 to %2").arg(minimum).arg(maximum));
+             CErrorText::tr("has to be a whole number from %1 to %2")
+                 .arg(QString::number(minimum), QString::number(maximum)));
     return static_cast<qint64>(value);
 }
 
@@ -85,10 +89,11 @@ QJsonArray CJsonObjectReader::readList(const QString &name, int minimumSize, int
 {
     const QJsonArray list = getValue(name, QJsonValue::Array).toArray();
     if (list.size() < minimumSize)
-        fail(name, QStringLiteral("is an empty list"));
+        fail(name, CErrorText::tr("is an empty list"));
     if (list.size() > maximumSize)
         fail(name,
-             QStringLiteral("has %1 items; %2 are allowed").arg(list.size()).arg(maximumSize));
+             CErrorText::tr("has %1 items; at most %2 are allowed")
+                 .arg(QString::number(list.size()), QString::number(maximumSize)));
     return list;
 }
 
@@ -101,19 +106,20 @@ QStringList CJsonObjectReader::readTexts(const QString &name, int minimumSize, i
         const QString itemName = QStringLiteral("%1[%2]").arg(name, QString::number(index));
         if (!list.at(index).isString())
             fail(itemName,
-                 QStringLiteral("is %1 where a text is wanted")
-                     .arg(describeType(list.at(index).type())));
+                 CErrorText::tr("is %1 where %2 is wanted")
+                     .arg(describeType(list.at(index).type()), describeType(QJsonValue::String)));
         const QString text = checkText(itemName, list.at(index).toString(), rule);
         if (texts.contains(text))
-            fail(itemName, QStringLiteral("repeats %1").arg(Json::quote(text)));
+            fail(itemName, CErrorText::tr("repeats \"%1\"").arg(Json::shorten(text)));
         texts.append(text);
     }
     return texts;
 }
 
-void CJsonObjectReader::fail(const QString &name, const QString &cause) const
+void CJsonObjectReader::fail(const QString &name, const CErrorText &cause) const
 {
-    throw CFieldFault{QStringLiteral("the field %1 %2").arg(Json::quote(getPath(name)), cause)};
+    throw CFieldFault{
+        CErrorText::tr("the field \"%1\" %2").arg(Json::shorten(getPath(name)), cause)};
 }
 
 QString CJsonObjectReader::getPath(const QString &name) const
@@ -124,11 +130,11 @@ QString CJsonObjectReader::getPath(const QString &name) const
 QJsonValue CJsonObjectReader::getValue(const QString &name, QJsonValue::Type type) const
 {
     if (!has(name))
-        fail(name, QStringLiteral("is missing"));
+        fail(name, CErrorText::tr("is missing"));
     const QJsonValue value = m_object.value(name);
     if (value.type() != type)
         fail(name,
-             QStringLiteral("is %1 where %2 is wanted")
+             CErrorText::tr("is %1 where %2 is wanted")
                  .arg(describeType(value.type()), describeType(type)));
     return value;
 }
@@ -137,15 +143,17 @@ QString CJsonObjectReader::checkText(const QString &name, const QString &text,
                                      const CTextRule &rule) const
 {
     if (text.isEmpty() && !rule.mayBeEmpty)
-        fail(name, QStringLiteral("is empty"));
+        fail(name, CErrorText::tr("is empty"));
     if (text.size() > rule.maximumLength)
-        fail(name, QStringLiteral("is longer than %1 characters").arg(rule.maximumLength));
+        fail(name,
+             CErrorText::tr("is longer than %1 characters")
+                 .arg(QString::number(rule.maximumLength)));
     if (Json::hasUnprintable(text, rule.hasSeveralLines))
         fail(name,
-             rule.hasSeveralLines ? QStringLiteral("has a control character")
-                                  : QStringLiteral("has a line break or a control character"));
+             rule.hasSeveralLines ? CErrorText::tr("has a control character")
+                                  : CErrorText::tr("has a line break or a control character"));
     if (!rule.hasSeveralLines && text != text.trimmed())
-        fail(name, QStringLiteral("begins or ends with white space"));
+        fail(name, CErrorText::tr("begins or ends with white space"));
     return text;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/text/errortext.h"
+
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
@@ -10,7 +12,7 @@ namespace Viewer::CameraPool::UpdateFile {
 /// What a field of the manifest breaks. Thrown and caught within the parser.
 struct CFieldFault
 {
-    QString sentence;
+    Text::CErrorText sentence;
 };
 
 /// What a text of the manifest has to be like.
@@ -48,7 +50,7 @@ public:
                                         const CTextRule &rule) const;
 
     /// Throws the sentence 'the field "<path>" <cause>'.
-    [[noreturn]] void fail(const QString &name, const QString &cause) const;
+    [[noreturn]] void fail(const QString &name, const Text::CErrorText &cause) const;
 
 private:
     [[nodiscard]] QString getPath(const QString &name) const;

@@ -13,17 +13,18 @@ namespace {
 
 using Json::CJsonFault;
 using Json::CJsonScanner;
+using Text::CErrorText;
 using EKind = CJsonScanner::EKind;
 
 /// A rule of ours that JSON itself does not have is broken.
 struct CRuleFault
 {
-    QString sentence;
+    CErrorText sentence;
 };
 
-QString toPlace(int line, int column)
+CErrorText toPlace(int line, int column)
 {
-    return QStringLiteral("line %1, column %2").arg(line).arg(column);
+    return CErrorText::tr("line %1, column %2").arg(QString::number(line), QString::number(column));
 }
 
 /// Makes a document of what the scanner reads.
@@ -41,7 +42,7 @@ public:
         const QJsonValue value = readValue();
         m_scanner.expectEnd();
         if (!value.isObject())
-            throw CRuleFault{QStringLiteral("has to be an object in braces at its top level")};
+            throw CRuleFault{CErrorText::tr("has to be an object in braces at its top level")};
         return value.toObject();
     }
 
@@ -65,7 +66,7 @@ private:
         case EKind::None:
             break;
         }
-        m_scanner.failExpected(QStringLiteral("a value"));
+        m_scanner.failExpected(CErrorText::tr("a value"));
     }
 
     QJsonObject readObject()
@@ -78,8 +79,8 @@ private:
         while (m_scanner.nextMember(name)) {
             if (members.contains(name))
                 throw CRuleFault{
-                    QStringLiteral("has the name %1 twice in one object, again at %2")
-                        .arg(Json::quote(name), describePlace(m_scanner.getNamePosition()))};
+                    CErrorText::tr("has the name \"%1\" twice in one object, again at %2")
+                        .arg(Json::shorten(name), describePlace(m_scanner.getNamePosition()))};
             members.insert(name, readValue());
         }
         QJsonObject object;
@@ -102,12 +103,12 @@ private:
     void checkNesting() const
     {
         if (m_scanner.getDepth() >= m_maximumNesting)
-            throw CRuleFault{QStringLiteral("is nested more than %1 levels deep at %2")
+            throw CRuleFault{CErrorText::tr("is nested more than %1 levels deep at %2")
                                  .arg(QString::number(m_maximumNesting),
                                       describePlace(m_scanner.getPosition()))};
     }
 
-    [[nodiscard]] QString describePlace(int position) const
+    [[nodiscard]] CErrorText describePlace(int position) const
     {
         return toPlace(m_scanner.getLine(position), m_scanner.getColumn(position));
     }
@@ -121,14 +122,14 @@ private:
 CJsonResult parseJsonObject(const QByteArray &text, int maximumNesting)
 {
     if (text.trimmed().isEmpty())
-        return {QJsonObject(), QStringLiteral("is empty")};
+        return {QJsonObject(), CErrorText::tr("is empty")};
     try {
-        return {CBuilder(text, maximumNesting).build(), QString()};
+        return {CBuilder(text, maximumNesting).build(), {}};
     } catch (const CRuleFault &fault) {
         return {QJsonObject(), fault.sentence};
     } catch (const CJsonFault &fault) {
         return {QJsonObject(),
-                QStringLiteral("is not JSON at %1: %2")
+                CErrorText::tr("is not JSON at %1: %2")
                     .arg(toPlace(fault.line, fault.column), fault.problem)};
     }
 }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "viewer/text/errortext.h"
+
 #include <QByteArray>
 #include <QJsonObject>
-#include <QString>
 
 namespace Viewer::CameraPool::UpdateFile {
 
@@ -10,7 +11,7 @@ namespace Viewer::CameraPool::UpdateFile {
 struct CJsonResult
 {
     QJsonObject object;
-    QString fault; ///< end of a sentence that begins with the text's name; empty: no fault
+    Text::CErrorText fault; ///< end of a sentence that begins with the text's name; empty: no fault
 };
 
 /// Reads a JSON text whose top level is an object. Faults are: no JSON, with line and column; lists

@@ -10,6 +10,7 @@
 namespace Viewer::CameraPool::UpdateFile {
 
 using Plugin::CameraPool::EFirmwareUpdateStep;
+using Text::CErrorText;
 
 namespace {
 
@@ -55,8 +56,8 @@ const CStepKind &readKind(const CJsonObjectReader &step)
         knownNames.append(kind.name);
     }
     step.fail(field,
-              QStringLiteral("is %1; known kinds are %2")
-                  .arg(Json::quote(name), knownNames.join(QStringLiteral(", "))));
+              CErrorText::tr("is \"%1\"; known kinds are %2")
+                  .arg(Json::shorten(name), knownNames.join(QStringLiteral(", "))));
 }
 
 CFeatureValue readFeatureValue(const CJsonObjectReader &object)
@@ -86,7 +87,9 @@ QByteArray readSha256(const CJsonObjectReader &step)
     const QByteArray text = step.readText(field, {Limits::VALUE_LENGTH}).toLower().toUtf8();
     const QByteArray digest = QByteArray::fromHex(text);
     if (text.size() != SHA256_HEX_LENGTH || digest.toHex() != text)
-        step.fail(field, QStringLiteral("has to be %1 hexadecimal digits").arg(SHA256_HEX_LENGTH));
+        step.fail(field,
+                  CErrorText::tr("has to be %1 hexadecimal digits")
+                      .arg(QString::number(SHA256_HEX_LENGTH)));
     return digest;
 }
 
@@ -95,11 +98,11 @@ CPayload readPayload(const CJsonObjectReader &step)
     const QString field = QStringLiteral("payload");
     CPayload payload;
     payload.name = step.readText(field, {Limits::ENTRY_NAME_LENGTH});
-    const QString nameFault = findEntryNameFault(payload.name);
+    const CErrorText nameFault = findEntryNameFault(payload.name);
     if (!nameFault.isEmpty())
         step.fail(field, nameFault);
     if (payload.name == getManifestName())
-        step.fail(field, QStringLiteral("names the manifest itself"));
+        step.fail(field, CErrorText::tr("names the manifest itself"));
     payload.size = step.readInteger(QStringLiteral("size"), 1, Limits::UNPACKED_SIZE);
     payload.sha256 = readSha256(step);
     return payload;
@@ -157,24 +160,24 @@ class CStepOrder
 {
 public:
     /// Why @p kind may not come next; empty when it may.
-    QString findFault(EFirmwareUpdateStep kind)
+    CErrorText findFault(EFirmwareUpdateStep kind)
     {
         if (kind == EFirmwareUpdateStep::CheckPreconditions) {
             if (m_hasCheck)
-                return QStringLiteral("is a second CheckPreconditions; one is allowed");
+                return CErrorText::tr("is a second %1; one is allowed").arg(getStepKindName(kind));
             if (m_hasChange)
-                return QStringLiteral("checks preconditions after a step that changes the camera");
+                return CErrorText::tr("checks preconditions after a step that changes the camera");
             m_hasCheck = true;
         } else if (kind == EFirmwareUpdateStep::AcquireUpdateData) {
             if (m_hasAcquisition)
-                return QStringLiteral("is a second AcquireUpdateData; one is allowed");
+                return CErrorText::tr("is a second %1; one is allowed").arg(getStepKindName(kind));
             if (m_hasUpload)
-                return QStringLiteral("acquires the update data after a FileUpload");
+                return CErrorText::tr("acquires the update data after a FileUpload");
             m_hasAcquisition = true;
         }
         m_hasChange = m_hasChange || changesCamera(kind);
         m_hasUpload = m_hasUpload || kind == EFirmwareUpdateStep::FileUpload;
-        return QString();
+        return {};
     }
 
 private:
@@ -194,16 +197,15 @@ QVector<CUpdateStep> readSteps(const CJsonObjectReader &update)
     for (int index = 0; index < list.size(); ++index) {
         const CJsonObjectReader object = update.getObject(list, field, index);
         steps.append(readStep(object));
-        const QString orderFault = order.findFault(steps.constLast().kind);
+        const CErrorText orderFault = order.findFault(steps.constLast().kind);
         if (!orderFault.isEmpty())
             object.fail(QStringLiteral("kind"), orderFault);
         totalMs += steps.constLast().estimatedMs.value_or(0);
     }
     if (totalMs > Limits::ESTIMATE_MS)
         update.fail(field,
-                    QStringLiteral("takes %1 ms by its estimates; %2 are allowed")
-                        .arg(totalMs)
-                        .arg(Limits::ESTIMATE_MS));
+                    CErrorText::tr("takes %1 ms by its estimates; at most %2 are allowed")
+                        .arg(QString::number(totalMs), QString::number(Limits::ESTIMATE_MS)));
     return steps;
 }
 
@@ -212,8 +214,8 @@ QString readVersion(const CJsonObjectReader &update, const QString &field)
     const QString version = update.readText(field, {Limits::VERSION_LENGTH});
     if (!CFirmwareVersion::parse(version))
         update.fail(field,
-                    QStringLiteral("is %1, which is not a version like 2.0.0 or 2.0.0-rc1")
-                        .arg(Json::quote(version)));
+                    CErrorText::tr("is \"%1\", which is not a version like 2.0.0 or 2.0.0-rc1")
+                        .arg(Json::shorten(version)));
     return version;
 }
 
@@ -250,9 +252,8 @@ void checkFormatVersion(const CJsonObjectReader &top)
     const qint64 version = top.readInteger(QStringLiteral("formatVersion"), 1, LARGEST);
     if (version != FORMAT_VERSION)
         throw CFieldFault{
-            QStringLiteral("the format version is %1, but this program reads version %2 only")
-                .arg(version)
-                .arg(FORMAT_VERSION)};
+            CErrorText::tr("the format version is %1, but this program reads version %2 only")
+                .arg(QString::number(version), QString::number(FORMAT_VERSION))};
 }
 
 CUpdateManifest readManifest(const QJsonObject &object)
@@ -275,16 +276,15 @@ CManifestResult parseManifest(const QByteArray &json)
 {
     if (json.size() > Limits::MANIFEST_SIZE)
         return {CUpdateManifest(),
-                QStringLiteral("update.json has %1 bytes; %2 are allowed")
-                    .arg(json.size())
-                    .arg(Limits::MANIFEST_SIZE)};
+                CErrorText::tr("update.json has %1 bytes; at most %2 are allowed")
+                    .arg(QString::number(json.size()), QString::number(Limits::MANIFEST_SIZE))};
     const CJsonResult text = parseJsonObject(json, Limits::NESTING);
     if (!text.fault.isEmpty())
-        return {CUpdateManifest(), QStringLiteral("update.json ") + text.fault};
+        return {CUpdateManifest(), CErrorText::tr("update.json %1").arg(text.fault)};
     try {
-        return {readManifest(text.object), QString()};
+        return {readManifest(text.object), {}};
     } catch (const CFieldFault &fault) {
-        return {CUpdateManifest(), QStringLiteral("update.json: ") + fault.sentence};
+        return {CUpdateManifest(), CErrorText::tr("%1: %2").arg(getManifestName(), fault.sentence)};
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "updatemanifest.h"
 
+#include "viewer/text/errortext.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -14,7 +16,7 @@ constexpr int FORMAT_VERSION = 1;
 struct CManifestResult
 {
     CUpdateManifest manifest; ///< empty when there is a fault
-    QString fault; ///< one line of English text without a final full stop; empty: no fault
+    Text::CErrorText fault; ///< one line without a final full stop; empty: no fault
 };
 
 /// Reads the bytes of update.json and checks every rule that does not need the archive. A pure

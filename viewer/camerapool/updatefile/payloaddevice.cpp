@@ -7,6 +7,7 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Text::CErrorText;
 void CPayloadDevice::CFileCloser::operator()(zip_file *file) const
 {
     zip_fclose(file);
@@ -21,7 +22,7 @@ CPayloadDevice::CPayloadDevice(std::shared_ptr<zip> archive, const CSource &sour
     if (m_file)
         setOpenMode(QIODevice::ReadOnly | QIODevice::Unbuffered);
     else
-        setFault(CErrorText::tr("the file %1 cannot be read; the archive is damaged"));
+        setFault(CErrorText::tr("the file \"%1\" cannot be read; the archive is damaged"));
 }
 
 CPayloadDevice::~CPayloadDevice() = default;
@@ -56,7 +57,7 @@ qint64 CPayloadDevice::readData(char *data, qint64 maximumSize)
     const qint64 wanted = qMin(maximumSize, m_remaining);
     const qint64 size = zip_fread(m_file.get(), data, static_cast<zip_uint64_t>(wanted));
     if (size <= 0) {
-        setFault(CErrorText::tr("the file %1 is damaged and cannot be unpacked"));
+        setFault(CErrorText::tr("the file \"%1\" is damaged and cannot be unpacked"));
         return -1;
     }
     // QCryptographicHash counts in int; a block of 1 GiB and more is never asked for, as the
@@ -79,15 +80,15 @@ bool CPayloadDevice::checkEnd()
     char next = 0;
     const qint64 size = zip_fread(m_file.get(), &next, 1);
     if (size > 0) {
-        setFault(CErrorText::tr("the file %1 unpacks to more bytes than the archive declares"));
+        setFault(CErrorText::tr("the file \"%1\" unpacks to more bytes than the archive declares"));
         return false;
     }
     if (size < 0) {
-        setFault(CErrorText::tr("the file %1 is damaged and cannot be unpacked"));
+        setFault(CErrorText::tr("the file \"%1\" is damaged and cannot be unpacked"));
         return false;
     }
     if (!m_source.sha256.isEmpty() && m_hash.result() != m_source.sha256) {
-        setFault(CErrorText::tr("the payload %1 does not match its SHA-256 in update.json"));
+        setFault(CErrorText::tr("the payload \"%1\" does not match its SHA-256 in update.json"));
         return false;
     }
     return true;
@@ -95,7 +96,7 @@ bool CPayloadDevice::checkEnd()
 
 void CPayloadDevice::setFault(const CErrorText &cause)
 {
-    m_fault = cause.arg(Json::quote(m_source.name));
+    m_fault = cause.arg(Json::shorten(m_source.name));
     setErrorString(CUpdateFileError(m_source.archivePath, m_fault).getMessage());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/camerapool/errortext.h"
+#include "viewer/text/errortext.h"
 
 #include <QByteArray>
 #include <QCryptographicHash>
@@ -36,7 +36,7 @@ public:
     ~CPayloadDevice() override;
 
     /// What is wrong with the file, without the archive's path; empty as long as nothing is.
-    [[nodiscard]] CErrorText getFault() const;
+    [[nodiscard]] Text::CErrorText getFault() const;
 
     [[nodiscard]] bool isSequential() const override;
     [[nodiscard]] bool atEnd() const override;
@@ -53,14 +53,14 @@ private:
     };
 
     bool checkEnd();
-    void setFault(const CErrorText &cause);
+    void setFault(const Text::CErrorText &cause);
 
     const std::shared_ptr<zip> m_archive; ///< outlives the file read from it
     const CSource m_source;
     std::unique_ptr<zip_file, CFileCloser> m_file;
     QCryptographicHash m_hash{QCryptographicHash::Sha256};
     qint64 m_remaining = 0;
-    CErrorText m_fault;
+    Text::CErrorText m_fault;
 };
 
 } // namespace Viewer::CameraPool::UpdateFile

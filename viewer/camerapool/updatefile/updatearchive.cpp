@@ -16,6 +16,7 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Text::CErrorText;
 namespace {
 
 constexpr int BLOCK_SIZE = 64 * 1024;
@@ -84,14 +85,15 @@ QByteArray CUpdateArchive::readManifest() const
         const QString ending = QLatin1Char('/') + getManifestName();
         for (const CEntry &file : m_files) {
             if (file.name.endsWith(ending))
-                fail(CErrorText::tr("update.json lies in a folder of the archive (%1); it has to "
-                                    "lie at the top")
-                         .arg(Json::quote(file.name)));
+                fail(
+                    CErrorText::tr("update.json is in a folder of the archive (\"%1\"); it must be "
+                                   "at the top level")
+                        .arg(Json::shorten(file.name)));
         }
         fail(CErrorText::tr("there is no update.json in the archive"));
     }
     if (entry->size > Limits::MANIFEST_SIZE)
-        fail(CErrorText::tr("update.json has %1 bytes; %2 are allowed")
+        fail(CErrorText::tr("update.json has %1 bytes; at most %2 are allowed")
                  .arg(QString::number(entry->size), QString::number(Limits::MANIFEST_SIZE)));
 
     const auto device = openFile(*entry, QByteArray());
@@ -133,7 +135,7 @@ void CUpdateArchive::openFile()
     if (file.size() == 0)
         fail(CErrorText::tr("the file is empty"));
     if (file.size() > Limits::ARCHIVE_SIZE)
-        fail(CErrorText::tr("the file has %1 bytes; %2 are allowed")
+        fail(CErrorText::tr("the file has %1 bytes; at most %2 are allowed")
                  .arg(QString::number(file.size()), QString::number(Limits::ARCHIVE_SIZE)));
     const QByteArray firstBytes = file.read(ARCHIVE_BEGIN.size());
 
@@ -154,7 +156,7 @@ void CUpdateArchive::readDirectory()
 {
     const qint64 entryCount = zip_get_num_entries(m_zip.get(), 0);
     if (entryCount > Limits::ENTRIES)
-        fail(CErrorText::tr("the archive has %1 entries; %2 are allowed")
+        fail(CErrorText::tr("the archive has %1 entries; at most %2 are allowed")
                  .arg(QString::number(entryCount), QString::number(Limits::ENTRIES)));
 
     QSet<QString> names;
@@ -162,8 +164,8 @@ void CUpdateArchive::readDirectory()
     for (qint64 index = 0; index < entryCount; ++index) {
         const CEntry entry = readEntry(static_cast<quint64>(index));
         if (names.contains(entry.name))
-            fail(CErrorText::tr("the archive has two entries named %1")
-                     .arg(Json::quote(entry.name)));
+            fail(CErrorText::tr("the archive has two entries named \"%1\"")
+                     .arg(Json::shorten(entry.name)));
         names.insert(entry.name);
 
         if (entry.size > Limits::UNPACKED_SIZE - unpackedSize)
@@ -186,22 +188,23 @@ CUpdateArchive::CEntry CUpdateArchive::readEntry(quint64 index) const
     entry.isFolder = entry.name.endsWith(QLatin1Char('/')) && entry.name.size() > 1;
     if (entry.isFolder)
         entry.name.chop(1);
-    const QString nameFault = findEntryNameFault(entry.name);
+    const CErrorText nameFault = findEntryNameFault(entry.name);
     if (!nameFault.isEmpty())
-        fail(QStringLiteral("the entry name %1 %2").arg(Json::quote(entry.name), nameFault));
+        fail(CErrorText::tr("the entry name \"%1\" %2").arg(Json::shorten(entry.name), nameFault));
 
     constexpr zip_uint64_t NEEDED
         = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_ENCRYPTION_METHOD;
     zip_stat_t status;
     zip_stat_init(&status);
     if (zip_stat_index(m_zip.get(), index, 0, &status) != 0 || (status.valid & NEEDED) != NEEDED)
-        fail(CErrorText::tr("the entry %1 of the archive is damaged").arg(Json::quote(entry.name)));
+        fail(CErrorText::tr("the entry \"%1\" of the archive is damaged")
+                 .arg(Json::shorten(entry.name)));
     if (status.encryption_method != ZIP_EM_NONE)
-        fail(CErrorText::tr("the entry %1 is encrypted; pack it without a password")
-                 .arg(Json::quote(entry.name)));
+        fail(CErrorText::tr("the entry \"%1\" is encrypted; pack it without a password")
+                 .arg(Json::shorten(entry.name)));
     if (status.comp_method != ZIP_CM_STORE && status.comp_method != ZIP_CM_DEFLATE)
-        fail(CErrorText::tr("the entry %1 is compressed by a method other than Deflate")
-                 .arg(Json::quote(entry.name)));
+        fail(CErrorText::tr("the entry \"%1\" is compressed by a method other than Deflate")
+                 .arg(Json::shorten(entry.name)));
     constexpr auto LARGEST = static_cast<zip_uint64_t>(Limits::UNPACKED_SIZE);
     entry.size = static_cast<qint64>(qMin<zip_uint64_t>(status.size, LARGEST + 1));
     return entry;
@@ -220,15 +223,17 @@ const CUpdateArchive::CEntry &CUpdateArchive::getPayloadEntry(const CPayload &pa
 {
     const CEntry *entry = findFile(payload.name);
     if (!entry)
-        fail(CErrorText::tr("the payload %1 is missing in the archive")
-                 .arg(Json::quote(payload.name)));
+        fail(CErrorText::tr("the payload \"%1\" is missing in the archive")
+                 .arg(Json::shorten(payload.name)));
     if (entry->size != payload.size) {
         const CErrorText text = entry->size < payload.size
-            ? CErrorText::tr("the payload %1 is too short: it has %2 bytes where update.json says "
-                             "%3")
-            : CErrorText::tr("the payload %1 is too long: it has %2 bytes where update.json says "
-                             "%3");
-        fail(text.arg(Json::quote(payload.name), QString::number(entry->size),
+            ? CErrorText::tr(
+                "the payload \"%1\" is too short: it has %2 bytes where update.json says "
+                "%3")
+            : CErrorText::tr(
+                "the payload \"%1\" is too long: it has %2 bytes where update.json says "
+                "%3");
+        fail(text.arg(Json::shorten(payload.name), QString::number(entry->size),
                       QString::number(payload.size)));
     }
     return *entry;

@@ -11,7 +11,7 @@
 class QIODevice;
 struct zip;
 
-namespace Viewer::CameraPool {
+namespace Viewer::Text {
 class CErrorText;
 }
 
@@ -69,7 +69,7 @@ private:
     [[nodiscard]] const CEntry &getPayloadEntry(const CPayload &payload) const;
     [[nodiscard]] std::unique_ptr<CPayloadDevice> openFile(const CEntry &entry,
                                                            const QByteArray &sha256) const;
-    [[noreturn]] void fail(const CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause) const;
 
     QString m_path;
     std::shared_ptr<zip> m_zip;

@@ -2,6 +2,8 @@
 
 #include "updatemanifest.h"
 
+#include "viewer/text/errortext.h"
+
 #include <QDateTime>
 #include <QSharedPointer>
 #include <QString>
@@ -38,7 +40,7 @@ private:
     {
         CFileState state;
         QSharedPointer<const CUpdateManifest> manifest; ///< null when the file is faulty
-        QString cause; ///< the fault
+        Text::CErrorText cause; ///< the fault
     };
 
     static CFileState getFileState(const QString &path);

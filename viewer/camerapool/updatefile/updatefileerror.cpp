@@ -6,6 +6,7 @@
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Text::CErrorText;
 CUpdateFileError::CUpdateFileError(const QString &path, const CErrorText &cause)
     : CUpdateFileError(CErrorText::tr("Update file %1: %2")
                            .arg(Json::toSingleLine(QDir::toNativeSeparators(path)), cause),
@@ -16,13 +17,13 @@ CUpdateFileError::CUpdateFileError(const QString &path, const CErrorText &cause)
 CUpdateFileError::CUpdateFileError(const CErrorText &text, const CErrorText &cause)
     : BaseException(text.getEnglish())
     , m_text(text)
-    , m_cause(cause.getEnglish())
+    , m_cause(cause)
 {
 }
 
 CUpdateFileError::~CUpdateFileError() = default;
 
-QString CUpdateFileError::getCause() const
+CErrorText CUpdateFileError::getCause() const
 {
     return m_cause;
 }

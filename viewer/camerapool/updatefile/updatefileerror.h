@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/camerapool/errortext.h"
+#include "viewer/text/errortext.h"
 
 #include "core/baseexception.h"
 
@@ -12,20 +12,20 @@ class CUpdateFileError : public Core::Exception::BaseException
 {
 public:
     /// "Update file <path>: <cause>", with native separators.
-    CUpdateFileError(const QString &path, const CErrorText &cause);
+    CUpdateFileError(const QString &path, const Text::CErrorText &cause);
     ~CUpdateFileError() override;
 
-    /// The cause alone, in English.
-    [[nodiscard]] QString getCause() const;
+    /// The cause alone.
+    [[nodiscard]] Text::CErrorText getCause() const;
 
     /// The message, also in the user's language.
-    [[nodiscard]] CErrorText getText() const;
+    [[nodiscard]] Text::CErrorText getText() const;
 
 private:
-    CUpdateFileError(const CErrorText &text, const CErrorText &cause);
+    CUpdateFileError(const Text::CErrorText &text, const Text::CErrorText &cause);
 
-    CErrorText m_text;
-    QString m_cause;
+    Text::CErrorText m_text;
+    Text::CErrorText m_cause;
 };
 
 } // namespace Viewer::CameraPool::UpdateFile

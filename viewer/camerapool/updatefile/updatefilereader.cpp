@@ -35,9 +35,10 @@ void checkNothingIsLeftOver(const CUpdateArchive &archive, const QVector<CPayloa
         const auto isPayload = [&name](const CPayload &payload) { return payload.name == name; };
         if (name != getManifestName()
             && std::none_of(payloads.cbegin(), payloads.cend(), isPayload))
-            throw CUpdateFileError(archive.getPath(),
-                                   QStringLiteral("the archive has a file %1 that no step uploads")
-                                       .arg(Json::quote(name)));
+            throw CUpdateFileError(
+                archive.getPath(),
+                Text::CErrorText::tr("the archive has a file \"%1\" that no step uploads")
+                    .arg(Json::shorten(name)));
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-namespace Viewer::CameraPool {
+namespace Viewer::Text {
 
 static QString toClauseText(const QString &text)
 {
@@ -26,7 +26,7 @@ CErrorText::CErrorText(const QString &english, const QString &localized)
 CErrorText CErrorText::tr(const char *source)
 {
     return {QString::fromUtf8(source),
-            QCoreApplication::translate("Viewer::CameraPool::CErrorText", source)};
+            QCoreApplication::translate("Viewer::Text::CErrorText", source)};
 }
 
 CErrorText CErrorText::toClause() const
@@ -49,4 +49,4 @@ QString CErrorText::getLocalized() const
     return m_localized;
 }
 
-} // namespace Viewer::CameraPool
+} // namespace Viewer::Text

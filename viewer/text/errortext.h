@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace Viewer::CameraPool {
+namespace Viewer::Text {
 
 /// What went wrong, in two languages: English, as logs and the contract of update jobs have it, and
 /// the user's, for showing it.
@@ -40,4 +40,4 @@ private:
     QString m_localized;
 };
 
-} // namespace Viewer::CameraPool
+} // namespace Viewer::Text

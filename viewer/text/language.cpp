@@ -1,14 +1,13 @@
 #include "language.h"
 
-#include <QApplication>
-#include <QFont>
+#include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
 
 #include <algorithm>
 
-namespace Viewer::AppCore {
+namespace Viewer::Text {
 
 static const QLatin1String LanguageKey("language");
 
@@ -29,12 +28,17 @@ bool CLanguage::isKnown(const QString &code)
 
 QString CLanguage::choose(const QString &override)
 {
-    const QString system = QLocale::system().name().left(2);
-    for (const QString &code : {override, getRemembered(), system}) {
+    for (const QString &code : {override, getRemembered()}) {
         if (isKnown(code))
             return code;
     }
-    return QStringLiteral("en");
+    return getSystem();
+}
+
+QString CLanguage::getSystem()
+{
+    const QString code = QLocale::system().name().left(2);
+    return isKnown(code) ? code : QStringLiteral("en");
 }
 
 QString CLanguage::getRemembered()
@@ -45,29 +49,6 @@ QString CLanguage::getRemembered()
 void CLanguage::remember(const QString &code)
 {
     QSettings().setValue(LanguageKey, code);
-}
-
-// A desktop's word about fonts counts. Where nobody says anything, Qt asks for any sans serif font
-// and mostly gets a wide one, DejaVu Sans or Noto Sans; the titles of narrow columns do not fit in
-// it. A font with the widths of Helvetica is asked for first there. Where it is not installed, the
-// old family still stands behind it.
-void CLanguage::chooseFont(const QString &code)
-{
-    QFont font = QApplication::font();
-    if (font.family() != QLatin1String("Sans Serif") && font.family() != QLatin1String("Sans"))
-        return;
-    QStringList families(QStringLiteral("Liberation Sans"));
-    // In front, so that letters and digits come from the same font: two fonts in one row share
-    // neither a base line nor a height. Unicode has one code for characters that China and Japan
-    // write differently; which form is meant depends on the language.
-    if (code == QLatin1String("ja"))
-        families.prepend(QStringLiteral("Noto Sans CJK JP"));
-    else if (code == QLatin1String("ko"))
-        families.prepend(QStringLiteral("Noto Sans CJK KR"));
-    else if (code == QLatin1String("zh"))
-        families.prepend(QStringLiteral("Noto Sans CJK SC"));
-    font.setFamilies(families);
-    QApplication::setFont(font);
 }
 
 CLanguage::CLanguage(const QString &code)
@@ -87,4 +68,4 @@ CLanguage::CLanguage(const QString &code)
 
 CLanguage::~CLanguage() = default;
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Text

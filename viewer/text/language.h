@@ -7,16 +7,16 @@
 #include <memory>
 #include <vector>
 
-namespace Viewer::AppCore {
+namespace Viewer::Text {
 
-/// One language that the viewer can speak.
+/// One language that the programs can speak.
 struct CLanguageEntry
 {
     QString code; ///< two letters
     QString nativeName; ///< as its speakers write it
 };
 
-/// The viewer's language: which there are, which is chosen, and its catalogues.
+/// The language of the programs: which there are, which is chosen, and its catalogues.
 class CLanguage
 {
 public:
@@ -24,19 +24,18 @@ public:
     [[nodiscard]] static QList<CLanguageEntry> getEntries();
     [[nodiscard]] static bool isKnown(const QString &code);
 
-    /// The language of this start: @p override if it is not empty, else the remembered one, else
-    /// the desktop's, else English.
+    /// The language of this start: @p override if it is known, else the remembered one, else
+    /// getSystem().
     [[nodiscard]] static QString choose(const QString &override);
+
+    /// The language of the desktop or the shell; English where it is none of ours.
+    [[nodiscard]] static QString getSystem();
 
     /// The remembered language; empty as long as the user has not chosen one.
     [[nodiscard]] static QString getRemembered();
 
     /// Takes effect at the next start.
     static void remember(const QString &code);
-
-    /// Where the desktop does not say which font its programs use, gives the application one that
-    /// suits the wizard's pages and the language @p code.
-    static void chooseFont(const QString &code);
 
     /// Installs the viewer's and Qt's own texts in the language @p code until destruction. Needs
     /// the application object.
@@ -47,4 +46,4 @@ private:
     std::vector<std::unique_ptr<QTranslator>> m_translators;
 };
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Text
