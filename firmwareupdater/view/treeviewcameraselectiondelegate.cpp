@@ -77,6 +77,11 @@ CTreeViewCameraSelectionDelegate::CTreeViewCameraSelectionDelegate(QObject *pare
     m_transportLayerLabel->setIndent(0);
     m_transportLayerLabel->setTextFormat(Qt::PlainText);
     m_transportLayerLabel->setBackgroundRole(QPalette::Base);
+
+    // An open editor takes the mouse's moves from the view. It does not take the hover events,
+    // which tell the view also then which row the mouse is on.
+    if (const QAbstractItemView *view = getView())
+        view->viewport()->setAttribute(Qt::WA_Hover);
 }
 
 CTreeViewCameraSelectionDelegate::~CTreeViewCameraSelectionDelegate() = default;

@@ -1,3 +1,4 @@
+#include "constants.h"
 #include "style/icons.h"
 #include "support/accessiblereader.h"
 #include "view/treeviewdetailsdelegate.h"
@@ -34,6 +35,7 @@ private slots:
     void init();
     void rowsHaveTheirHeights();
     void rowsKeepStillUnderTheMouse();
+    void hoverFollowsTheMouse();
     void valuesHaveNamesAndIcons();
     void hoverOpensOneEditor();
     void clicksReachTheModel();
@@ -47,7 +49,10 @@ private slots:
 private:
     /// The row "Layer l", "A", "Camera a1", ... of the dialog's tree.
     QModelIndex row(const char *name) const;
+    /// Moves the mouse to a point of the tree's viewport, or beside it.
+    void moveMouse(const QPoint &point) const;
     void hover(const char *name) const;
+    QImage grab(const char *name) const;
     void click(const char *name, int x) const;
     QCheckBox *getEditorBox() const;
     /// Replaces the tree by a layer with @p cameras.
@@ -75,6 +80,8 @@ void CCameraTreeTest::init()
     m_dialog->show();
     QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
     m_tree = getTree(*m_dialog);
+    // Wherever the mouse was in the dialog before.
+    moveMouse(QPoint(-10, 0));
 }
 
 QModelIndex CCameraTreeTest::row(const char *name) const
@@ -82,12 +89,21 @@ QModelIndex CCameraTreeTest::row(const char *name) const
     return findRow(*m_tree->model(), name);
 }
 
+void CCameraTreeTest::moveMouse(const QPoint &point) const
+{
+    const QWidget *window = m_tree->window();
+    QTest::mouseMove(window->windowHandle(), m_tree->viewport()->mapTo(window, point));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
 void CCameraTreeTest::hover(const char *name) const
 {
-    QMouseEvent event(QEvent::MouseMove, m_tree->visualRect(row(name)).center(), Qt::NoButton,
-                      Qt::NoButton, {});
-    QCoreApplication::sendEvent(m_tree->viewport(), &event);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    moveMouse(m_tree->visualRect(row(name)).center());
+}
+
+QImage CCameraTreeTest::grab(const char *name) const
+{
+    return m_tree->viewport()->grab(m_tree->visualRect(row(name))).toImage();
 }
 
 void CCameraTreeTest::click(const char *name, int x) const
@@ -154,6 +170,29 @@ void CCameraTreeTest::rowsKeepStillUnderTheMouse()
     m_tree = getTree(*m_summary);
     check("Camera c0", 20);
     check("Camera c1", 20);
+}
+
+void CCameraTreeTest::hoverFollowsTheMouse()
+{
+    const auto isLight = [this](const char *name) {
+        const QImage image = grab(name);
+        return image.pixelColor(image.rect().center()) == Constants::LIGHT_BLUE_COLOR;
+    };
+    hover("Camera a1");
+    QVERIFY(isLight("Camera a1"));
+    // Back to a row whose editor is still open.
+    moveMouse(QPoint(-10, m_tree->visualRect(row("Camera a1")).center().y()));
+    QVERIFY(!isLight("Camera a1"));
+    hover("Camera a1");
+    QVERIFY(isLight("Camera a1"));
+    m_summary->show();
+    m_tree = getTree(*m_summary);
+    hover("Camera c0");
+    moveMouse(m_tree->visualRect(row("Camera c1").siblingAtColumn(3)).center());
+    QVERIFY(isLight("Camera c1"));
+    hover("Camera c0");
+    QVERIFY(isLight("Camera c0"));
+    QVERIFY(!isLight("Camera c1"));
 }
 
 void CCameraTreeTest::valuesHaveNamesAndIcons()
