@@ -61,14 +61,6 @@ void CAbstractLabelDelegate::paint(QPainter *painter, const QStyleOptionViewItem
     painter->restore();
 }
 
-QSize CAbstractLabelDelegate::sizeHint(const QStyleOptionViewItem &option,
-                                       const QModelIndex &index) const
-{
-    const CTreeRow row(index);
-    const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-    return row.isValid() ? QSize(hint.width(), row.getHeight()) : hint;
-}
-
 QString CAbstractLabelDelegate::getText(const QModelIndex &index) const
 {
     const CTreeRow row(index);

@@ -24,7 +24,6 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
     /// The text that the cell of @p index shows, not elided and without markup.
     [[nodiscard]] QString getText(const QModelIndex &index) const;

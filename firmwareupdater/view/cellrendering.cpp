@@ -7,6 +7,13 @@
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
+void setCellFont(QWidget *widget)
+{
+    QFont font = widget->font();
+    font.setPointSize(8);
+    widget->setFont(font);
+}
+
 void setUpCellWidget(QWidget *widget)
 {
     QPalette palette = widget->palette();
@@ -22,10 +29,7 @@ void setUpCellWidget(QWidget *widget)
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText, Constants::LIGHT_GREY_COLOR);
     widget->setPalette(palette);
 
-    QFont font = widget->font();
-    font.setPointSize(8);
-    widget->setFont(font);
-
+    setCellFont(widget);
     widget->setAutoFillBackground(true);
 }
 

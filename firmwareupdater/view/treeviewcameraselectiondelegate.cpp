@@ -155,9 +155,7 @@ void CTreeViewCameraSelectionDelegate::paintCheckBox(QPainter *painter,
 QSize CTreeViewCameraSelectionDelegate::sizeHint(const QStyleOptionViewItem &option,
                                                  const QModelIndex &index) const
 {
-    const CTreeRow row(index);
-    const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-    return row.isValid() ? QSize(hint.width(), row.getHeight()) : hint;
+    return CTreeRow(index).getSizeHint(QStyledItemDelegate::sizeHint(option, index));
 }
 
 QWidget *CTreeViewCameraSelectionDelegate::createEditor(QWidget *parent,

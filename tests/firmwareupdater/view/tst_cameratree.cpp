@@ -3,6 +3,7 @@
 #include "support/accessiblereader.h"
 #include "view/treeviewdetailsdelegate.h"
 #include "view/treeviewheaderview.h"
+#include "view/treeviewlabeldelegate.h"
 #include "view/treeviewresultdelegate.h"
 #include "view/treeviewstatusdelegate.h"
 #include "viewfixture.h"
@@ -139,6 +140,18 @@ void CCameraTreeTest::rowsHaveTheirHeights()
     QCOMPARE(m_tree->visualRect(row("Camera a1")).height(), 20);
     QCOMPARE(getTree(*m_summary)->visualRect(m_list->index(0, 0)).height(), 27);
     QCOMPARE(getTree(*m_summary)->visualRect(m_list->index(1, 0)).height(), 20);
+
+    // The other columns have no part in it.
+    QStyleOptionViewItem option;
+    option.font.setPointSize(30);
+    const auto getHint = [&](const QStyledItemDelegate &delegate) {
+        return delegate.sizeHint(option, m_list->index(1, 0));
+    };
+    const QSize usual = getHint(QStyledItemDelegate());
+    QCOMPARE(getHint(CTreeViewLabelDelegate()), QSize(usual.width(), 20));
+    QCOMPARE(getHint(CTreeViewDetailsDelegate()), usual);
+    QCOMPARE(getHint(CTreeViewStatusDelegate()), usual);
+    QCOMPARE(getHint(CTreeViewResultDelegate()), usual);
 }
 
 void CCameraTreeTest::rowsKeepStillUnderTheMouse()
