@@ -1,6 +1,8 @@
 #include "icons.h"
 
 #include <QGuiApplication>
+#include <QPaintEngine>
+#include <QPainter>
 
 namespace Plugin::FirmwareUpdater::Internal::Style {
 
@@ -13,6 +15,12 @@ QPixmap getIconPixmap(const QString &name)
         return pixmap;
     }
     return QPixmap(path);
+}
+
+qreal getDevicePixelRatio(const QPainter &painter)
+{
+    const QPaintEngine *engine = painter.paintEngine();
+    return engine ? engine->paintDevice()->devicePixelRatioF() : 1;
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::Style

