@@ -42,7 +42,10 @@ void CAbstractLabelDelegate::paint(QPainter *painter, const QStyleOptionViewItem
     m_label->setBackgroundRole(isActive ? getBackgroundRole(option.state) : QPalette::Base);
     m_label->setGeometry(cell);
     m_label->setEnabled(row.getEntity()->isEnabled());
-    showContent(getContent(*row.getEntity(), index.column()), cell, isBeginning ? 0 : TEXT_INDENT);
+    const CCellContent content = getContent(*row.getEntity(), index.column());
+    const int indent = isBeginning ? 0 : TEXT_INDENT;
+    showText(content, cell, indent);
+    showIcon(content, cell, indent, Style::getDevicePixelRatio(*painter));
 
     const int top = row.isCameraType() ? 1 : row.isFirst() ? 4 : 0;
     renderCellWidget(painter, m_label.get(), cell.topLeft() + QPoint(0, top),
@@ -72,8 +75,8 @@ QString CAbstractLabelDelegate::getText(const QModelIndex &index) const
         : content.text;
 }
 
-void CAbstractLabelDelegate::showContent(const CCellContent &content, const QRect &cell,
-                                         int indent) const
+void CAbstractLabelDelegate::showText(const CCellContent &content, const QRect &cell,
+                                      int indent) const
 {
     QFont font = m_label->font();
     font.setWeight(content.isBold ? QFont::Bold : QFont::Normal);
@@ -82,14 +85,18 @@ void CAbstractLabelDelegate::showContent(const CCellContent &content, const QRec
     m_label->setTextFormat(content.textFormat);
     m_label->setText(m_label->fontMetrics().elidedText(content.text, Qt::ElideRight,
                                                        cell.width() - content.reservedWidth));
+}
 
+void CAbstractLabelDelegate::showIcon(const CCellContent &content, const QRect &cell, int indent,
+                                      qreal ratio) const
+{
     m_iconLabel->setVisible(!content.iconName.isEmpty());
-    if (!content.iconName.isEmpty()) {
-        const QPixmap icon = Style::getIconPixmap(content.iconName);
-        const QSize size = icon.size() / icon.devicePixelRatio();
-        m_iconLabel->setPixmap(icon);
-        m_iconLabel->setGeometry(QRect(QPoint(indent, (cell.height() - size.height()) / 2), size));
-    }
+    if (content.iconName.isEmpty())
+        return;
+    const QPixmap icon = Style::getIconPixmap(content.iconName, ratio);
+    const QSize size = icon.size() / icon.devicePixelRatio();
+    m_iconLabel->setPixmap(icon);
+    m_iconLabel->setGeometry(QRect(QPoint(indent, (cell.height() - size.height()) / 2), size));
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

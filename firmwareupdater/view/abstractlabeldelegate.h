@@ -51,7 +51,8 @@ protected:
                                                   int column) const = 0;
 
 private:
-    void showContent(const CCellContent &content, const QRect &cell, int indent) const;
+    void showText(const CCellContent &content, const QRect &cell, int indent) const;
+    void showIcon(const CCellContent &content, const QRect &cell, int indent, qreal ratio) const;
 
     const std::unique_ptr<QLabel> m_label;
     QLabel *const m_iconLabel;

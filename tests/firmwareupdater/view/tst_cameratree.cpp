@@ -1,5 +1,4 @@
 #include "constants.h"
-#include "style/icons.h"
 #include "support/accessiblereader.h"
 #include "view/treeviewdetailsdelegate.h"
 #include "view/treeviewheaderview.h"
@@ -9,14 +8,13 @@
 #include "viewfixture.h"
 
 #include <QCheckBox>
-#include <QPainter>
+#include <QLabel>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QtTest>
 
 using namespace ViewFixture;
 using namespace Plugin::FirmwareUpdater;
-using namespace Internal::Style;
 using namespace Internal::View;
 
 /// Gives a test the content that a delegate chose for a cell.
@@ -46,6 +44,7 @@ private slots:
     void cellsAreNumberedAsInEvents();
     void scrollBarBeginsBelowTheHeader();
     void arrowPointsUpAtAscendingOrder();
+    void iconsAreShownPixelByPixel();
 
 private:
     /// The row "Layer l", "A", "Camera a1", ... of the dialog's tree.
@@ -364,17 +363,31 @@ void CCameraTreeTest::arrowPointsUpAtAscendingOrder()
     QHeaderView *const header = m_tree->header();
     const QFontMetrics metrics(header->font());
     const QString title = m_tree->model()->headerData(0, Qt::Horizontal).toString();
-    const QRect place(metrics.horizontalAdvance(title) + 5, metrics.ascent() - 7, 10, 7);
-    const auto show = [&](Qt::SortOrder order) {
+    const QPoint place(metrics.horizontalAdvance(title) + 5, metrics.ascent() - 7);
+    const QImage stored = loadIcon("sort_icon_10x7_en", m_tree->devicePixelRatioF());
+    const auto isShown = [&](const QImage &arrow, Qt::SortOrder order) {
         header->setSortIndicator(0, order);
-        return header->grab(place).toImage();
+        const QImage image = header->grab({place, QSize(11, 8)}).toImage();
+        return image.convertToFormat(arrow.format()).copy(arrow.rect()) == arrow;
     };
-    QImage stored = show(Qt::DescendingOrder);
-    stored.fill(Qt::white);
-    QPainter(&stored).drawPixmap(0, 0, getIconPixmap("sort_icon_10x7_en"));
-    QCOMPARE(show(Qt::DescendingOrder), stored);
-    QCOMPARE(show(Qt::AscendingOrder), stored.mirrored(true, true));
+    QVERIFY(isShown(stored, Qt::DescendingOrder));
+    QVERIFY(isShown(stored.mirrored(true, true), Qt::AscendingOrder));
     QVERIFY(stored != stored.mirrored(true, true));
+}
+
+void CCameraTreeTest::iconsAreShownPixelByPixel()
+{
+    CPages pages;
+    pages.fill(1, "text");
+    const auto isShown = [](CUpdateDialogBase &page, const QString &name) {
+        const QImage icon = loadIcon(name, page.devicePixelRatioF());
+        const QList<QLabel *> labels = page.findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&](QLabel *label) { return shows(label->grab().toImage(), icon); });
+    };
+    QVERIFY(isShown(pages.selection, "info_icon_24x24_en"));
+    QVERIFY(isShown(pages.update, "warning_icon_24x24_en"));
+    QVERIFY(isShown(pages.result, "error_icon_24x24_en"));
 }
 
 QTEST_MAIN(CCameraTreeTest)

@@ -32,6 +32,7 @@ private slots:
     void backgroundsBeginWhereTheKindOfRowSays();
     void boxesShowTheTick();
     void textsKeepTheirIndent();
+    void iconsAreDrawnPixelByPixel();
     void onlyTheUpdatedCameraIsBold();
     void longTextsEndBeforeTheSeparator();
     void headerSectionsShowTheirState();
@@ -222,6 +223,22 @@ void CTreePaintingTest::textsKeepTheirIndent()
             const qreal indent = findLeft(cell("Camera c1", column), position) - first;
             QVERIFY(qAbs(indent - 11) * m_ratio < 1);
         }
+    }
+}
+
+void CTreePaintingTest::iconsAreDrawnPixelByPixel()
+{
+    Entity *const entity = getEntity(cell("Camera c1"));
+    const auto isShown = [this](int column, const QString &name) {
+        return shows(show(cell("Camera c1", column), 0, Cell::Middle), loadIcon(name, m_ratio));
+    };
+    entity->setUpdateStatus(Entity::EFirmwareUpdateStatus::Updating);
+    QVERIFY(isShown(6, "refresh_black_icon_14x12_en"));
+    const QStringList icons{"update_ok_icon_12x8_en", "update_failed_icon_12x11_en",
+                            "update_skipped_icon_12x3_en"};
+    for (int result = 0; result < icons.count(); ++result) {
+        entity->setUpdateResult(Entity::EFirmwareUpdateResult(result));
+        QVERIFY(isShown(7, icons[result]));
     }
 }
 
