@@ -16,12 +16,18 @@ static constexpr int ICON_SPACING = 6;
 /// Distance of a text from the column separator on its left.
 static constexpr int TEXT_INDENT = 11;
 
+static QString removeMarkup(const QString &text)
+{
+    return QTextDocumentFragment::fromHtml(text).toPlainText();
+}
+
 CAbstractLabelDelegate::CAbstractLabelDelegate(QObject *parent)
     : QStyledItemDelegate(parent)
     , m_label(std::make_unique<QLabel>())
     , m_iconLabel(new QLabel(m_label.get()))
 {
     setUpCellWidget(m_label.get());
+    m_label->setTextFormat(Qt::PlainText);
 }
 
 CAbstractLabelDelegate::~CAbstractLabelDelegate() = default;
@@ -70,9 +76,7 @@ QString CAbstractLabelDelegate::getText(const QModelIndex &index) const
     if (!row.isValid())
         return {};
     const CCellContent content = getContent(*row.getEntity(), index.column());
-    return content.textFormat == Qt::RichText
-        ? QTextDocumentFragment::fromHtml(content.text).toPlainText()
-        : content.text;
+    return content.isMarkup ? removeMarkup(content.text) : content.text;
 }
 
 void CAbstractLabelDelegate::showText(const CCellContent &content, const QRect &cell,
@@ -81,10 +85,17 @@ void CAbstractLabelDelegate::showText(const CCellContent &content, const QRect &
     QFont font = m_label->font();
     font.setWeight(content.isBold ? QFont::Bold : QFont::Normal);
     m_label->setFont(font);
+    QString text = m_label->fontMetrics().elidedText(content.text, Qt::ElideRight,
+                                                     cell.width() - content.reservedWidth);
+    if (content.isMarkup) {
+        // Shown as a plain text: rich text would get a base line of its own, up to a pixel above
+        // that of the row's other cells.
+        text = removeMarkup(text);
+        font.setWeight(QFont::Bold);
+        m_label->setFont(font);
+    }
     m_label->setIndent(content.hasIconPlace ? indent + ICON_WIDTH + ICON_SPACING : indent);
-    m_label->setTextFormat(content.textFormat);
-    m_label->setText(m_label->fontMetrics().elidedText(content.text, Qt::ElideRight,
-                                                       cell.width() - content.reservedWidth));
+    m_label->setText(text);
 }
 
 void CAbstractLabelDelegate::showIcon(const CCellContent &content, const QRect &cell, int indent,

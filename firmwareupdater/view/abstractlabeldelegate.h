@@ -32,8 +32,10 @@ protected:
     struct CCellContent
     {
         QString text;
-        Qt::TextFormat textFormat = Qt::PlainText;
         bool isBold = false;
+
+        /// Whether the text stands between tags that make it bold. They count when it is elided.
+        bool isMarkup = false;
 
         /// Pixels of the cell's width that the text may not take.
         int reservedWidth = 0;

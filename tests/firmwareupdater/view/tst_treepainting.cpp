@@ -32,6 +32,7 @@ private slots:
     void backgroundsBeginWhereTheKindOfRowSays();
     void boxesShowTheTick();
     void textsKeepTheirIndent();
+    void textsOfARowStandOnOneLine();
     void iconsAreDrawnPixelByPixel();
     void onlyTheUpdatedCameraIsBold();
     void longTextsEndBeforeTheSeparator();
@@ -222,6 +223,27 @@ void CTreePaintingTest::textsKeepTheirIndent()
         for (const auto position : {Cell::Middle, Cell::End}) {
             const qreal indent = findLeft(cell("Camera c1", column), position) - first;
             QVERIFY(qAbs(indent - 11) * m_ratio < 1);
+        }
+    }
+}
+
+void CTreePaintingTest::textsOfARowStandOnOneLine()
+{
+    // The first row is higher.
+    for (const int row : {0, 1}) {
+        const auto findBottom = [&](int column) {
+            const QImage image
+                = show(m_list->index(row, column), 0, Cell::Middle, {200, row == 0 ? 27 : 20});
+            // Without boxes and icons.
+            return findInk(image, image.rect().adjusted(30 * m_ratio, 0, 0, 0)).bottom();
+        };
+        const int line = findBottom(4);
+        QVERIFY(line > 0);
+        QCOMPARE(findBottom(0), line);
+        for (const auto result :
+             {Entity::EFirmwareUpdateResult::OK, Entity::EFirmwareUpdateResult::Failed}) {
+            getEntity(m_list->index(row, 0))->setUpdateResult(result);
+            QCOMPARE(findBottom(7), line);
         }
     }
 }
