@@ -105,10 +105,11 @@ void CTreeViewHeaderStyle::drawSortArrow(const QStyleOptionHeader &option, QPain
         // Qt's headers ask for SortDown at an ascending order. Here the arrow points up then.
         pointsUp = header->sortIndicatorOrder() == Qt::AscendingOrder;
     }
-    QPixmap arrow = getIconPixmap(QStringLiteral("sort_icon_10x7_en"));
+    QPixmap arrow
+        = getIconPixmap(QStringLiteral("sort_icon_10x7_en"), getDevicePixelRatio(*painter));
     if (pointsUp)
         arrow = arrow.transformed(QTransform().rotate(180), Qt::FastTransformation);
-    painter->drawPixmap(subElementRect(SE_HeaderArrow, &option, widget), arrow);
+    painter->drawPixmap(subElementRect(SE_HeaderArrow, &option, widget).topLeft(), arrow);
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::Style

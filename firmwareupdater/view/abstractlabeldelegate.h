@@ -24,7 +24,6 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
     /// The text that the cell of @p index shows, not elided and without markup.
     [[nodiscard]] QString getText(const QModelIndex &index) const;
@@ -33,8 +32,10 @@ protected:
     struct CCellContent
     {
         QString text;
-        Qt::TextFormat textFormat = Qt::PlainText;
         bool isBold = false;
+
+        /// Whether the text stands between tags that make it bold. They count when it is elided.
+        bool isMarkup = false;
 
         /// Pixels of the cell's width that the text may not take.
         int reservedWidth = 0;
@@ -52,7 +53,8 @@ protected:
                                                   int column) const = 0;
 
 private:
-    void showContent(const CCellContent &content, const QRect &cell, int indent) const;
+    void showText(const CCellContent &content, const QRect &cell, int indent) const;
+    void showIcon(const CCellContent &content, const QRect &cell, int indent, qreal ratio) const;
 
     const std::unique_ptr<QLabel> m_label;
     QLabel *const m_iconLabel;

@@ -6,6 +6,9 @@
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
+/// Gives @p widget the size of texts in cells.
+void setCellFont(QWidget *widget);
+
 /// Prepares a widget that is never shown but painted into cells: its font, and a palette with the
 /// colours of hovered and selected rows in the roles that getBackgroundRole() names.
 void setUpCellWidget(QWidget *widget);

@@ -61,6 +61,11 @@ bool CTreeRow::isFirstListedCamera() const
     return isFirst() && !isTransportLayer() && !isCameraType() && !isDirectCamera();
 }
 
+QSize CTreeRow::getSizeHint(const QSize &hint) const
+{
+    return isValid() ? QSize(hint.width(), getHeight()) : hint;
+}
+
 int CTreeRow::getHeight() const
 {
     if (isTransportLayer())

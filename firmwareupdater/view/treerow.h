@@ -4,6 +4,7 @@
 
 #include <QModelIndex>
 #include <QPointer>
+#include <QSize>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
@@ -31,10 +32,13 @@ public:
     /// The first camera of a flat list, which keeps a gap to the header.
     [[nodiscard]] bool isFirstListedCamera() const;
 
-    /// Height of the row in pixels; the font has no part in it.
-    [[nodiscard]] int getHeight() const;
+    /// The size hint of a cell for which a delegate usually gives @p hint: the row's height in
+    /// pixels, in which the font has no part. @p hint itself without an entity.
+    [[nodiscard]] QSize getSizeHint(const QSize &hint) const;
 
 private:
+    [[nodiscard]] int getHeight() const;
+
     QPointer<Entity::CFirmwareUpdateEntity> m_entity;
     int m_row;
 };

@@ -77,6 +77,11 @@ CTreeViewCameraSelectionDelegate::CTreeViewCameraSelectionDelegate(QObject *pare
     m_transportLayerLabel->setIndent(0);
     m_transportLayerLabel->setTextFormat(Qt::PlainText);
     m_transportLayerLabel->setBackgroundRole(QPalette::Base);
+
+    // An open editor takes the mouse's moves from the view. It does not take the hover events,
+    // which tell the view also then which row the mouse is on.
+    if (const QAbstractItemView *view = getView())
+        view->viewport()->setAttribute(Qt::WA_Hover);
 }
 
 CTreeViewCameraSelectionDelegate::~CTreeViewCameraSelectionDelegate() = default;
@@ -150,9 +155,7 @@ void CTreeViewCameraSelectionDelegate::paintCheckBox(QPainter *painter,
 QSize CTreeViewCameraSelectionDelegate::sizeHint(const QStyleOptionViewItem &option,
                                                  const QModelIndex &index) const
 {
-    const CTreeRow row(index);
-    const QSize hint = QStyledItemDelegate::sizeHint(option, index);
-    return row.isValid() ? QSize(hint.width(), row.getHeight()) : hint;
+    return CTreeRow(index).getSizeHint(QStyledItemDelegate::sizeHint(option, index));
 }
 
 QWidget *CTreeViewCameraSelectionDelegate::createEditor(QWidget *parent,

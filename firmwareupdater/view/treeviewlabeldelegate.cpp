@@ -1,6 +1,7 @@
 #include "treeviewlabeldelegate.h"
 
 #include "model/firmwareupdateentity.h"
+#include "treerow.h"
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
@@ -9,6 +10,12 @@ using Entity::CFirmwareUpdateEntity;
 CTreeViewLabelDelegate::CTreeViewLabelDelegate(QObject *parent)
     : CAbstractLabelDelegate(parent)
 {
+}
+
+QSize CTreeViewLabelDelegate::sizeHint(const QStyleOptionViewItem &option,
+                                       const QModelIndex &index) const
+{
+    return CTreeRow(index).getSizeHint(QStyledItemDelegate::sizeHint(option, index));
 }
 
 CTreeViewLabelDelegate::CCellContent

@@ -27,7 +27,7 @@ CTreeViewResultDelegate::getContent(const CFirmwareUpdateEntity &entity, int col
         // Elided as a whole, tags included: in a narrow column fewer letters fit than of the
         // others.
         content.text = QStringLiteral("<b>") + tr("Failed") + QStringLiteral("</b>");
-        content.textFormat = Qt::RichText;
+        content.isMarkup = true;
         content.iconName = QStringLiteral("update_failed_icon_12x11_en");
         break;
     case 2:

@@ -1,5 +1,6 @@
 #include "updatedialogbase.h"
 
+#include "cellrendering.h"
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
 #include "style/buttonfocusstyle.h"
@@ -104,6 +105,9 @@ void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
     m_treeView = treeView;
     treeView->setAccessibleName(QObject::tr("Cameras"));
     treeView->setModel(nullptr);
+    // Cells draw their texts in this size anyway. A larger one, as of the desktop, would only make
+    // those without a height of their own ask for more than their row has.
+    setCellFont(treeView);
     // Rows need the height of a large page more than the gaps below them.
     m_content->setStretchFactor(treeView, 8);
     treeView->setHeader(new CTreeViewHeaderView);

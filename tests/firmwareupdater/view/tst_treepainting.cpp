@@ -18,8 +18,8 @@ using namespace Internal::View;
 using Cell = QStyleOptionViewItem;
 using Header = QStyleOptionHeader;
 
-/// What the cells and the header of the camera tree look like, with one and with two device pixels
-/// per pixel.
+/// What the cells and the header of the camera tree look like, with different numbers of device
+/// pixels per pixel.
 class CTreePaintingTest : public QObject
 {
     Q_OBJECT
@@ -32,6 +32,8 @@ private slots:
     void backgroundsBeginWhereTheKindOfRowSays();
     void boxesShowTheTick();
     void textsKeepTheirIndent();
+    void textsOfARowStandOnOneLine();
+    void iconsAreDrawnPixelByPixel();
     void onlyTheUpdatedCameraIsBold();
     void longTextsEndBeforeTheSeparator();
     void headerSectionsShowTheirState();
@@ -46,7 +48,7 @@ private:
     /// The names of the colors at @p points.
     static QString describe(const QImage &image, const QVector<QPoint> &points);
 
-    int m_ratio = 1;
+    qreal m_ratio = 1;
     ModelPtr m_tree;
     ModelPtr m_list;
     const QHash<int, QSharedPointer<QAbstractItemDelegate>> m_delegates{
@@ -64,14 +66,14 @@ static Entity *getEntity(const QModelIndex &cell)
 
 void CTreePaintingTest::initTestCase_data()
 {
-    QTest::addColumn<int>("ratio");
-    QTest::addRow("usual resolution") << 1;
-    QTest::addRow("double resolution") << 2;
+    QTest::addColumn<qreal>("ratio");
+    for (const qreal ratio : {1., 1.25, 1.5, 2.})
+        QTest::addRow("%d %%", int(ratio * 100)) << ratio;
 }
 
 void CTreePaintingTest::init()
 {
-    QFETCH_GLOBAL(int, ratio);
+    QFETCH_GLOBAL(qreal, ratio);
     m_ratio = ratio;
     m_tree = makeTree();
     m_list = makeList(3);
@@ -98,14 +100,14 @@ QImage CTreePaintingTest::show(const QModelIndex &cell, int state, int position,
 {
     // What is painted beside the cell is not in the picture.
     Cell option;
-    option.rect = QRect(QPoint(40, 30), size);
+    option.rect = QRect(QPoint(40, 32), size);
     option.state = QStyle::State_Enabled | QStyle::State(state);
     option.viewItemPosition = Cell::ViewItemPosition(position);
     QImage image = makeImage(size + QSize(80, 60));
     QPainter painter(&image);
     m_delegates[cell.column()]->paint(&painter, option, cell);
     painter.end();
-    return image.copy(QRect(option.rect.topLeft() * m_ratio, size * m_ratio));
+    return image.copy(QRect(option.rect.topLeft() * m_ratio, makeImage(size).size()));
 }
 
 QString CTreePaintingTest::describe(const QImage &image, const QVector<QPoint> &points)
@@ -203,23 +205,62 @@ void CTreePaintingTest::boxesShowTheTick()
 
 void CTreePaintingTest::textsKeepTheirIndent()
 {
-    const auto findLeft = [this](const QModelIndex &cell, int position = Cell::OnlyOne) {
+    const auto findLeft = [this](const QModelIndex &cell, int position = Cell::OnlyOne) -> qreal {
         const QImage image = show(cell, 0, position);
         // Drawn with all the pixels there are.
         const bool isSharp
-            = m_ratio == 1 || image.scaled(image.size() / 2).scaled(image.size()) != image;
-        return isSharp ? findInk(image, image.rect()).left() : -1;
+            = m_ratio == 1 || image.scaled(image.size() / m_ratio).scaled(image.size()) != image;
+        return isSharp ? findInk(image, image.rect()).left() / m_ratio : -1;
     };
-    const int layerIndent = findLeft(cell("Layer l")) / m_ratio;
+    const int layerIndent = findLeft(cell("Layer l"));
     QVERIFY(layerIndent >= 1 && layerIndent <= 3);
-    QCOMPARE(findLeft(cell("A")) / m_ratio, 2);
-    QCOMPARE(findLeft(cell("Camera a1")) / m_ratio, 22);
-    QCOMPARE(findLeft(cell("Camera c0")) / m_ratio, 2);
+    QCOMPARE(int(findLeft(cell("A"))), 2);
+    QCOMPARE(int(findLeft(cell("Camera a1"))), 22);
+    QCOMPARE(int(findLeft(cell("Camera c0"))), 2);
     for (const int column : {4, 5, 6, 7}) {
-        const int first = findLeft(cell("Camera c1", column), Cell::Beginning);
+        const qreal first = findLeft(cell("Camera c1", column), Cell::Beginning);
         QVERIFY(first >= 0);
-        QCOMPARE(findLeft(cell("Camera c1", column), Cell::Middle), first + 11 * m_ratio);
-        QCOMPARE(findLeft(cell("Camera c1", column), Cell::End), first + 11 * m_ratio);
+        for (const auto position : {Cell::Middle, Cell::End}) {
+            const qreal indent = findLeft(cell("Camera c1", column), position) - first;
+            QVERIFY(qAbs(indent - 11) * m_ratio < 1);
+        }
+    }
+}
+
+void CTreePaintingTest::textsOfARowStandOnOneLine()
+{
+    // The first row is higher.
+    for (const int row : {0, 1}) {
+        const auto findBottom = [&](int column) {
+            const QImage image
+                = show(m_list->index(row, column), 0, Cell::Middle, {200, row == 0 ? 27 : 20});
+            // Without boxes and icons.
+            return findInk(image, image.rect().adjusted(30 * m_ratio, 0, 0, 0)).bottom();
+        };
+        const int line = findBottom(4);
+        QVERIFY(line > 0);
+        QCOMPARE(findBottom(0), line);
+        for (const auto result :
+             {Entity::EFirmwareUpdateResult::OK, Entity::EFirmwareUpdateResult::Failed}) {
+            getEntity(m_list->index(row, 0))->setUpdateResult(result);
+            QCOMPARE(findBottom(7), line);
+        }
+    }
+}
+
+void CTreePaintingTest::iconsAreDrawnPixelByPixel()
+{
+    Entity *const entity = getEntity(cell("Camera c1"));
+    const auto isShown = [this](int column, const QString &name) {
+        return shows(show(cell("Camera c1", column), 0, Cell::Middle), loadIcon(name, m_ratio));
+    };
+    entity->setUpdateStatus(Entity::EFirmwareUpdateStatus::Updating);
+    QVERIFY(isShown(6, "refresh_black_icon_14x12_en"));
+    const QStringList icons{"update_ok_icon_12x8_en", "update_failed_icon_12x11_en",
+                            "update_skipped_icon_12x3_en"};
+    for (int result = 0; result < icons.count(); ++result) {
+        entity->setUpdateResult(Entity::EFirmwareUpdateResult(result));
+        QVERIFY(isShown(7, icons[result]));
     }
 }
 
@@ -245,7 +286,7 @@ void CTreePaintingTest::longTextsEndBeforeTheSeparator()
           cell("Camera c1", 6), cell("Camera c1", 7)}) {
         const auto findEnd = [&](int width) {
             const QImage image = show(index, 0, Cell::Middle, {width, 20});
-            return findInk(image, image.rect()).right() / m_ratio;
+            return int(findInk(image, image.rect()).right() / m_ratio);
         };
         // All of the text fits into the wide cell, and not into the narrow ones. The separator is
         // two pixels wide.
@@ -299,7 +340,7 @@ void CTreePaintingTest::headerTitlesStayInTheirSections()
                 = findInk(image, QRect(left * m_ratio, 0, width * m_ratio, 20 * m_ratio));
             const int begin = ink.left() / m_ratio - left - (section == 0 ? 0 : 11);
             QVERIFY(begin >= 0 && begin < 3);
-            QVERIFY(ink.right() / m_ratio < left + width - 2);
+            QVERIFY(int(ink.right() / m_ratio) < left + width - 2);
         }
     }
 }

@@ -7,6 +7,7 @@
 #include "view/updateselectiondialog.h"
 #include "view/updatesummarydialog.h"
 
+#include <QPainter>
 #include <QTreeView>
 
 /// What the tests of the wizard's views share: models to show, and ways to find things.
@@ -102,6 +103,34 @@ QRect findPixels(const QImage &image, const QRect &place, const TMatches &matche
 inline QRect findInk(const QImage &image, const QRect &place)
 {
     return findPixels(image, place, [](QRgb pixel) { return qGray(pixel) < 160; });
+}
+
+/// The device pixels of an icon on white: those of a picture of it where there is one for @p ratio.
+inline QImage loadIcon(const QString &name, qreal ratio)
+{
+    const QString path = ":/firmwareupdater/icons/" + name;
+    QImage icon(ratio == 1 ? path : path + "@2x");
+    icon.setDevicePixelRatio(1);
+    if (ratio != 1)
+        icon = icon.scaled((QSizeF(icon.size()) * ratio / 2).toSize(), Qt::IgnoreAspectRatio,
+                           Qt::SmoothTransformation);
+    QImage shown(icon.size(), QImage::Format_RGB32);
+    shown.fill(Qt::white);
+    QPainter(&shown).drawImage(0, 0, icon);
+    return shown;
+}
+
+/// Whether @p image shows @p icon somewhere, pixel by pixel.
+inline bool shows(const QImage &image, const QImage &icon)
+{
+    const QImage pixels = image.convertToFormat(icon.format());
+    for (int y = 0; y + icon.height() <= pixels.height(); ++y)
+        for (int x = 0; x + icon.width() <= pixels.width(); ++x)
+            if (QImage(pixels.constScanLine(y) + 4 * x, icon.width(), icon.height(),
+                       pixels.bytesPerLine(), icon.format())
+                == icon)
+                return true;
+    return false;
 }
 
 } // namespace ViewFixture
