@@ -22,7 +22,6 @@
 #include "core/baseexception.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -59,8 +58,6 @@ CFirmwareUpdaterService::CFirmwareUpdaterService(
 
 CFirmwareUpdaterService::~CFirmwareUpdaterService()
 {
-    if (m_temporaryLogFile)
-        m_temporaryLogFile->deleteLater();
     // The state machine is left alive on purpose: its steps share this service, which the plug-in
     // owns as its child, and their release of it would delete it a second time.
 }
@@ -345,15 +342,7 @@ QString CFirmwareUpdaterService::getSelectedUpdatePath() const
 void CFirmwareUpdaterService::openTemporaryLogFile()
 {
     closeTemporaryLogFile();
-
-    QString folder = QDir::tempPath();
-    if (!folder.endsWith(QDir::separator()))
-        folder += QDir::separator();
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
-    m_temporaryLogFile = new QFile(folder + QStringLiteral("NuvexFirmwareUpdaterGUI_") + time
-                                   + QStringLiteral(".log"));
-    if (m_temporaryLogFile->open(QIODevice::WriteOnly))
-        m_temporaryLogFile->setTextModeEnabled(true);
+    m_temporaryLog.open();
 }
 
 QString CFirmwareUpdaterService::addTemporaryLogMessage(const ELogLevel &level,
@@ -361,38 +350,27 @@ QString CFirmwareUpdaterService::addTemporaryLogMessage(const ELogLevel &level,
 {
     if (message.isEmpty())
         return message;
-    if (!m_temporaryLogFile)
+    if (!m_temporaryLog.isHeld())
         openTemporaryLogFile();
 
     const char *const key = LOGLEVEL_TO_I18N_KEYS_MAP.value(
         static_cast<int>(level), LOGLEVEL_TO_I18N_KEYS_MAP[static_cast<int>(ELogLevel::Info)]);
-    if (m_temporaryLogFile->isOpen()) {
-        m_temporaryLogFile->write(
-            QStringLiteral("%1 %2 %3\n")
-                .arg(QDateTime::currentDateTime().toString(Qt::TextDate), tr(key), message)
-                .toUtf8());
-        // Slow but complete: should the host die during an update, the last line tells how far it
-        // had come.
-        m_temporaryLogFile->flush();
-    }
+    m_temporaryLog.addLine(tr(key), message);
     return message;
 }
 
 void CFirmwareUpdaterService::closeTemporaryLogFile()
 {
-    if (!m_temporaryLogFile)
+    if (!m_temporaryLog.isHeld())
         return;
 
     m_updateFailureMessage.clear();
-    m_temporaryLogFile->flush();
-    m_temporaryLogFile->close();
-    m_temporaryLogFile->deleteLater();
-    m_temporaryLogFile.clear();
+    m_temporaryLog.close();
 }
 
 QString CFirmwareUpdaterService::getCurrentTemporaryLogFilePath() const
 {
-    return m_temporaryLogFile ? QFileInfo(*m_temporaryLogFile).absoluteFilePath() : QString();
+    return m_temporaryLog.getFilePath();
 }
 
 QString CFirmwareUpdaterService::getUpdateFailureMessage() const

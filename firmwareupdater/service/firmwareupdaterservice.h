@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ifirmwareupdaterservice.h"
+#include "temporarylog.h"
 
 #include "core/iplugininitializer.h"
 
-#include <QFile>
 #include <QHash>
 #include <QPointer>
 #include <QStateMachine>
@@ -102,7 +102,7 @@ private:
     QSharedPointer<Model::CFirmwareUpdateTreeModel> m_cameraUpdateModel;
 
     QString m_selectedUpdatePath;
-    QPointer<QFile> m_temporaryLogFile;
+    CTemporaryLog m_temporaryLog;
     QString m_updateFailureMessage;
     QPoint m_dialogPos;
     QSize m_dialogSize;
