@@ -13,7 +13,7 @@ namespace Plugin::FirmwareUpdater::Internal::View {
 
 CCustomTreeView::CCustomTreeView(QWidget *parent)
     : QTreeView(parent)
-    , m_inputMonitor(new CInputMonitor(this))
+    , m_inputMonitor(CInputMonitor::get())
 {
     CAccessibleTreeView::installFactory();
 }
@@ -75,7 +75,7 @@ void CCustomTreeView::showEvent(QShowEvent *event)
     QTreeView::showEvent(event);
     // Whoever came to this page by keyboard sees at once which row the keys work on.
     if (!event->spontaneous())
-        setKeyboardUsed(m_inputMonitor->isKeyboardUsed());
+        setKeyboardUsed(m_inputMonitor && m_inputMonitor->isKeyboardUsed());
 }
 
 void CCustomTreeView::resizeEvent(QResizeEvent *event)
