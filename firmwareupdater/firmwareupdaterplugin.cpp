@@ -47,6 +47,8 @@ bool CFirmwareUpdaterPlugin::initialize(QPointer<Core::Plugin::IPluginInitialize
 
 bool CFirmwareUpdaterPlugin::postInitialize()
 {
+    if (!m_initializer)
+        return true;
     createMenuEntries();
 
     if (const auto enumeration = m_initializer->getService<ICameraEnumerationService>()) {
@@ -102,7 +104,8 @@ bool CFirmwareUpdaterPlugin::unInitialize(QPointer<Core::Plugin::IPluginInitiali
 {
     Q_UNUSED(initializer)
 
-    m_initializer->removeService(m_service);
+    if (m_initializer && m_service)
+        m_initializer->removeService(m_service);
     m_service.reset();
     return true;
 }
@@ -119,8 +122,10 @@ void CFirmwareUpdaterPlugin::onSelectionChanged(QSharedPointer<Plugin::CameraPoo
 
 void CFirmwareUpdaterPlugin::onEnumerationChanged()
 {
+    if (!m_initializer || !m_toolsAction)
+        return;
     const auto enumeration = m_initializer->getService<ICameraEnumerationService>();
-    if (!enumeration || !m_toolsAction)
+    if (!enumeration)
         return;
 
     const auto layers = enumeration->getTransportLayerInfoVector();

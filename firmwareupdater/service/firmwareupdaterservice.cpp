@@ -8,8 +8,10 @@
 #include "state/updateselectionstep.h"
 #include "state/updatesummarystep.h"
 #include "style/icons.h"
+#include "view/accessibletreeview.h"
 #include "view/cameraselectiondialog.h"
 #include "view/firmwareupdatedialog.h"
+#include "view/inputmonitor.h"
 #include "view/resultsummarydialog.h"
 #include "view/updateselectiondialog.h"
 #include "view/updatesummarydialog.h"
@@ -22,14 +24,12 @@
 #include "core/baseexception.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QMessageBox>
-
-#include <algorithm>
+#include <QSignalTransition>
 
 namespace Plugin::FirmwareUpdater::Internal::Service {
 
@@ -38,7 +38,9 @@ using Entity::CFirmwareUpdateEntity;
 using Model::CFirmwareUpdateTreeModel;
 using Plugin::CameraPool::ICameraEnumerationService;
 using Plugin::CameraPool::ICameraInfo;
+using Plugin::CameraPool::ICameraStatusService;
 using Plugin::CameraPool::IFirmwareUpdateInfo;
+using Plugin::CameraPool::ITransportLayerInfo;
 
 const QHash<int, const char *> CFirmwareUpdaterService::LOGLEVEL_TO_I18N_KEYS_MAP = {
     {static_cast<int>(ELogLevel::Debug), QT_TR_NOOP("DEBUG")},
@@ -59,10 +61,23 @@ CFirmwareUpdaterService::CFirmwareUpdaterService(
 
 CFirmwareUpdaterService::~CFirmwareUpdaterService()
 {
-    if (m_temporaryLogFile)
-        m_temporaryLogFile->deleteLater();
     // The state machine is left alive on purpose: its steps share this service, which the plug-in
-    // owns as its child, and their release of it would delete it a second time.
+    // owns as its child, and their release of it would delete it a second time. None of them may be
+    // entered or left any more.
+    if (m_stateMachine) {
+        QCoreApplication::removePostedEvents(m_stateMachine);
+        m_stateMachine->stop();
+    }
+    // Nobody is left to close a modal page.
+    for (QDialog *const dialog : std::initializer_list<QDialog *>{
+             m_cameraSelectionDialog, m_updateSelectionDialog, m_updateSummaryDialog,
+             m_firmwareUpdateDialog, m_resultSummaryDialog}) {
+        if (dialog)
+            dialog->hide();
+    }
+    // The pages may live on, but nothing of them stays installed in the application.
+    View::CInputMonitor::remove();
+    View::CAccessibleTreeView::removeFactory();
 }
 
 bool CFirmwareUpdaterService::postInitialize()
@@ -105,6 +120,17 @@ void CFirmwareUpdaterService::initializeDialogs()
     }
 }
 
+/// Leads from @p from to @p to when @p dialog emits @p signal. The machine disconnects from a
+/// dialog when it leaves the step, so the transition must not remember one that is gone.
+template <typename TDialog, typename TSignal>
+static void addTransition(QState *from, const QPointer<TDialog> &dialog, TSignal signal,
+                          QAbstractState *to)
+{
+    QSignalTransition *const transition = from->addTransition(dialog.data(), signal, to);
+    QObject::connect(dialog, &QObject::destroyed, transition,
+                     [transition] { transition->setSenderObject(nullptr); });
+}
+
 void CFirmwareUpdaterService::initializeStateMachine()
 {
     auto *const done = new State::CFirmwareUpdateDoneStep(m_initializer, nullptr);
@@ -125,30 +151,30 @@ void CFirmwareUpdaterService::initializeStateMachine()
     resultSummary->setCameraUpdateModel(m_cameraUpdateModel);
 
     using View::CUpdateDialogBase;
-    cameraSelection->addTransition(m_cameraSelectionDialog,
-                                   &View::CCameraSelectionDialog::nextClicked, updateSelection);
-    cameraSelection->addTransition(m_cameraSelectionDialog, &CUpdateDialogBase::closeClicked, done);
+    addTransition(cameraSelection, m_cameraSelectionDialog,
+                  &View::CCameraSelectionDialog::nextClicked, updateSelection);
+    addTransition(cameraSelection, m_cameraSelectionDialog, &CUpdateDialogBase::closeClicked, done);
 
-    updateSelection->addTransition(m_updateSelectionDialog,
-                                   &View::CUpdateSelectionDialog::backClicked, cameraSelection);
-    updateSelection->addTransition(m_updateSelectionDialog,
-                                   &View::CUpdateSelectionDialog::nextClicked, updateSummary);
-    updateSelection->addTransition(m_updateSelectionDialog, &CUpdateDialogBase::closeClicked, done);
+    addTransition(updateSelection, m_updateSelectionDialog,
+                  &View::CUpdateSelectionDialog::backClicked, cameraSelection);
+    addTransition(updateSelection, m_updateSelectionDialog,
+                  &View::CUpdateSelectionDialog::nextClicked, updateSummary);
+    addTransition(updateSelection, m_updateSelectionDialog, &CUpdateDialogBase::closeClicked, done);
 
-    updateSummary->addTransition(m_updateSummaryDialog, &View::CUpdateSummaryDialog::backClicked,
-                                 updateSelection);
-    updateSummary->addTransition(m_updateSummaryDialog, &View::CUpdateSummaryDialog::nextClicked,
-                                 updating);
-    updateSummary->addTransition(m_updateSummaryDialog, &CUpdateDialogBase::closeClicked, done);
+    addTransition(updateSummary, m_updateSummaryDialog, &View::CUpdateSummaryDialog::backClicked,
+                  updateSelection);
+    addTransition(updateSummary, m_updateSummaryDialog, &View::CUpdateSummaryDialog::nextClicked,
+                  updating);
+    addTransition(updateSummary, m_updateSummaryDialog, &CUpdateDialogBase::closeClicked, done);
 
     updating->addTransition(updating, &State::CFirmwareUpdatingStep::firmwareUpdateDone,
                             resultSummary);
     // Closing the page while cameras are updated is a wish that the step weighs, no way out of it.
     connect(m_firmwareUpdateDialog, SIGNAL(closeClicked()), updating, SLOT(onUpdatesCanceled()));
 
-    resultSummary->addTransition(m_resultSummaryDialog, &View::CResultSummaryDialog::nextClicked,
-                                 cameraSelection);
-    resultSummary->addTransition(m_resultSummaryDialog, &CUpdateDialogBase::closeClicked, done);
+    addTransition(resultSummary, m_resultSummaryDialog, &View::CResultSummaryDialog::nextClicked,
+                  cameraSelection);
+    addTransition(resultSummary, m_resultSummaryDialog, &CUpdateDialogBase::closeClicked, done);
 
     m_stateMachine->addState(done);
     m_stateMachine->addState(cameraSelection);
@@ -159,42 +185,49 @@ void CFirmwareUpdaterService::initializeStateMachine()
     m_stateMachine->setInitialState(cameraSelection);
 }
 
+static QVector<QSharedPointer<ITransportLayerInfo>>
+getTransportLayers(const QSharedPointer<ICameraEnumerationService> &enumeration)
+{
+    return enumeration ? enumeration->getTransportLayerInfoVector()
+                       : QVector<QSharedPointer<ITransportLayerInfo>>();
+}
+
+static int countBusyCameras(const QSharedPointer<ICameraStatusService> &status,
+                            const QVector<QSharedPointer<ITransportLayerInfo>> &layers)
+{
+    if (!status)
+        return 0;
+    int count = 0;
+    for (const QSharedPointer<ITransportLayerInfo> &layer : layers) {
+        for (const QSharedPointer<ICameraInfo> &camera : layer->getCameraInfoList())
+            count += status->isCameraBusy(camera) ? 1 : 0;
+    }
+    return count;
+}
+
 void CFirmwareUpdaterService::startFirmwareUpdater()
 {
-    // Without a menu service in the host nothing of the wizard has been built.
+    const auto status = m_initializer->getService<ICameraStatusService>();
+    const auto enumeration = m_initializer->getService<ICameraEnumerationService>();
+    const auto streamControl
+        = m_initializer->getService<Plugin::CameraPool::ICameraStreamControlService>();
+
+    // Without a menu service in the host nothing of the wizard has been built, and with the host's
+    // window it goes.
     if (!m_cameraSelectionDialog)
         return;
 
-    const TransportLayers layers = getTransportLayers();
-    if (isAnyCameraBusy(layers)) {
+    const TransportLayers layers = getTransportLayers(enumeration);
+    if (countBusyCameras(status, layers) != 0) {
         if (!askToStopAllCameras())
             return;
-        if (const auto streamControl
-            = m_initializer->getService<Plugin::CameraPool::ICameraStreamControlService>())
+        if (streamControl)
             streamControl->stopAllCameras();
     }
 
     loadCameraTree(layers);
     openTemporaryLogFile();
     m_stateMachine->start();
-}
-
-CFirmwareUpdaterService::TransportLayers CFirmwareUpdaterService::getTransportLayers() const
-{
-    const auto enumeration = m_initializer->getService<ICameraEnumerationService>();
-    return enumeration ? enumeration->getTransportLayerInfoVector() : TransportLayers();
-}
-
-bool CFirmwareUpdaterService::isAnyCameraBusy(const TransportLayers &layers) const
-{
-    const auto status = m_initializer->getService<Plugin::CameraPool::ICameraStatusService>();
-    if (!status)
-        return false;
-    return std::any_of(layers.cbegin(), layers.cend(), [&status](const auto &layer) {
-        const QVector<QSharedPointer<ICameraInfo>> &cameras = layer->getCameraInfoList();
-        return std::any_of(cameras.cbegin(), cameras.cend(),
-                           [&status](const auto &camera) { return status->isCameraBusy(camera); });
-    });
 }
 
 bool CFirmwareUpdaterService::askToStopAllCameras() const
@@ -231,7 +264,8 @@ void CFirmwareUpdaterService::loadCameraTree(const TransportLayers &layers)
         m_cameraSelectionModel->setData(index, true, Qt::EditRole);
         m_cameraSelectionModel->updateAllNodesBySelection(index);
     }
-    m_cameraSelectionDialog->setModel(m_cameraSelectionModel);
+    if (m_cameraSelectionDialog)
+        m_cameraSelectionDialog->setModel(m_cameraSelectionModel);
 }
 
 void CFirmwareUpdaterService::onRefreshCameraTreeClicked()
@@ -242,8 +276,9 @@ void CFirmwareUpdaterService::onRefreshCameraTreeClicked()
 
 void CFirmwareUpdaterService::onEnumerationChanged()
 {
-    if (m_stateMachine && m_stateMachine->isRunning())
-        loadCameraTree(getTransportLayers());
+    if (!m_stateMachine || !m_stateMachine->isRunning())
+        return;
+    loadCameraTree(getTransportLayers(m_initializer->getService<ICameraEnumerationService>()));
 }
 
 void CFirmwareUpdaterService::onBrowseClicked()
@@ -345,15 +380,7 @@ QString CFirmwareUpdaterService::getSelectedUpdatePath() const
 void CFirmwareUpdaterService::openTemporaryLogFile()
 {
     closeTemporaryLogFile();
-
-    QString folder = QDir::tempPath();
-    if (!folder.endsWith(QDir::separator()))
-        folder += QDir::separator();
-    const QString time = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd_HHmmss"));
-    m_temporaryLogFile = new QFile(folder + QStringLiteral("NuvexFirmwareUpdaterGUI_") + time
-                                   + QStringLiteral(".log"));
-    if (m_temporaryLogFile->open(QIODevice::WriteOnly))
-        m_temporaryLogFile->setTextModeEnabled(true);
+    m_temporaryLog.open();
 }
 
 QString CFirmwareUpdaterService::addTemporaryLogMessage(const ELogLevel &level,
@@ -361,38 +388,27 @@ QString CFirmwareUpdaterService::addTemporaryLogMessage(const ELogLevel &level,
 {
     if (message.isEmpty())
         return message;
-    if (!m_temporaryLogFile)
+    if (!m_temporaryLog.isHeld())
         openTemporaryLogFile();
 
     const char *const key = LOGLEVEL_TO_I18N_KEYS_MAP.value(
         static_cast<int>(level), LOGLEVEL_TO_I18N_KEYS_MAP[static_cast<int>(ELogLevel::Info)]);
-    if (m_temporaryLogFile->isOpen()) {
-        m_temporaryLogFile->write(
-            QStringLiteral("%1 %2 %3\n")
-                .arg(QDateTime::currentDateTime().toString(Qt::TextDate), tr(key), message)
-                .toUtf8());
-        // Slow but complete: should the host die during an update, the last line tells how far it
-        // had come.
-        m_temporaryLogFile->flush();
-    }
+    m_temporaryLog.addLine(tr(key), message);
     return message;
 }
 
 void CFirmwareUpdaterService::closeTemporaryLogFile()
 {
-    if (!m_temporaryLogFile)
+    if (!m_temporaryLog.isHeld())
         return;
 
     m_updateFailureMessage.clear();
-    m_temporaryLogFile->flush();
-    m_temporaryLogFile->close();
-    m_temporaryLogFile->deleteLater();
-    m_temporaryLogFile.clear();
+    m_temporaryLog.close();
 }
 
 QString CFirmwareUpdaterService::getCurrentTemporaryLogFilePath() const
 {
-    return m_temporaryLogFile ? QFileInfo(*m_temporaryLogFile).absoluteFilePath() : QString();
+    return m_temporaryLog.getFilePath();
 }
 
 QString CFirmwareUpdaterService::getUpdateFailureMessage() const

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ifirmwareupdaterservice.h"
+#include "temporarylog.h"
 
 #include "core/iplugininitializer.h"
 
-#include <QFile>
 #include <QHash>
 #include <QPointer>
 #include <QStateMachine>
@@ -76,20 +76,18 @@ private:
     void checkCompatibility(const QFileInfo &fileInfo);
 
     void selectUpdateFile(const QString &shownPath, const QFileInfo &fileInfo);
-    [[nodiscard]] TransportLayers getTransportLayers() const;
-    [[nodiscard]] bool isAnyCameraBusy(const TransportLayers &layers) const;
     [[nodiscard]] bool askToStopAllCameras() const;
     void loadCameraTree(const TransportLayers &layers);
 
     /// Untranslated words of the levels in the log.
     static const QHash<int, const char *> LOGLEVEL_TO_I18N_KEYS_MAP;
 
-    // Not owned: children of the host's main window.
-    View::CCameraSelectionDialog *m_cameraSelectionDialog = nullptr;
-    View::CUpdateSelectionDialog *m_updateSelectionDialog = nullptr;
-    View::CUpdateSummaryDialog *m_updateSummaryDialog = nullptr;
-    View::CFirmwareUpdateDialog *m_firmwareUpdateDialog = nullptr;
-    View::CResultSummaryDialog *m_resultSummaryDialog = nullptr;
+    // Not owned: children of the host's main window, which may die before or after this.
+    QPointer<View::CCameraSelectionDialog> m_cameraSelectionDialog;
+    QPointer<View::CUpdateSelectionDialog> m_updateSelectionDialog;
+    QPointer<View::CUpdateSummaryDialog> m_updateSummaryDialog;
+    QPointer<View::CFirmwareUpdateDialog> m_firmwareUpdateDialog;
+    QPointer<View::CResultSummaryDialog> m_resultSummaryDialog;
 
     QPointer<QStateMachine> m_stateMachine;
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
@@ -102,7 +100,7 @@ private:
     QSharedPointer<Model::CFirmwareUpdateTreeModel> m_cameraUpdateModel;
 
     QString m_selectedUpdatePath;
-    QPointer<QFile> m_temporaryLogFile;
+    CTemporaryLog m_temporaryLog;
     QString m_updateFailureMessage;
     QPoint m_dialogPos;
     QSize m_dialogSize;

@@ -2,6 +2,7 @@
 
 #include "view/firmwareupdatedialog.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QMutexLocker>
 
@@ -39,6 +40,9 @@ CFirmwareUpdatingStep::CFirmwareUpdatingStep(
     connect(&m_thread, &CFirmwareUpdateThread::firmwareUpdateProgressStepProgressChanged, this,
             &CFirmwareUpdatingStep::onFirmwareUpdateProgressStepProgressChanged);
     connect(&m_thread, &QThread::finished, this, &CFirmwareUpdatingStep::startUpdate);
+
+    if (const auto service = getUpdaterService())
+        connect(service.data(), &QObject::destroyed, this, &CFirmwareUpdatingStep::fallSilent);
 }
 
 CFirmwareUpdatingStep::~CFirmwareUpdatingStep()
@@ -48,6 +52,7 @@ CFirmwareUpdatingStep::~CFirmwareUpdatingStep()
 
 void CFirmwareUpdatingStep::onEntry(QEvent *event)
 {
+    m_stay = EStay::During;
     View::CFirmwareUpdateDialog *const dialog = getUpdateDialog();
     if (!dialog)
         return;
@@ -185,6 +190,9 @@ void CFirmwareUpdatingStep::onFirmwareUpdateError(const QString &errorMessage)
 
 void CFirmwareUpdatingStep::onUpdatesCanceled()
 {
+    // The dialog can also be closed by program, on whatever page the wizard is.
+    if (m_stay != EStay::During)
+        return;
     const QMutexLocker locker(&m_mutex);
     if (m_canceled)
         return;
@@ -240,6 +248,8 @@ void CFirmwareUpdatingStep::onFirmwareUpdateProgressStepBegin(EFirmwareUpdateSte
 
 void CFirmwareUpdatingStep::onDeviceResetTick()
 {
+    if (m_stay == EStay::After)
+        return;
     const auto elapsedMs = static_cast<double>(m_resetElapsedMs);
     const double percent = m_stepEstimateMs > 0 ? elapsedMs / m_stepEstimateMs * 100.0 : 0.0;
     onFirmwareUpdateProgressStepProgressChanged(EFirmwareUpdateStep::DeviceReset,
@@ -281,9 +291,21 @@ void CFirmwareUpdatingStep::onExit(QEvent *event)
             loop.exec();
     }
 
+    // A job may have ended in the middle of its camera's reset.
+    m_resetTimer.stop();
+    m_stay = EStay::After;
     m_currentUpdate.reset();
     m_queue.clear();
     CFirmwareUpdateStepBase::onExit(event);
+}
+
+void CFirmwareUpdatingStep::fallSilent()
+{
+    m_stay = EStay::After;
+    m_resetTimer.stop();
+    disconnect(&m_thread, nullptr, this, nullptr);
+    // The end of the thread, which it posts itself.
+    QCoreApplication::removePostedEvents(this);
 }
 
 QString CFirmwareUpdatingStep::updateStepToString(EFirmwareUpdateStep updateStep)

@@ -65,6 +65,9 @@ public slots:
                                                 double progressPercentDone);
 
 private:
+    /// Where the wizard's machine is, seen from this step.
+    enum class EStay { Before, During, After };
+
     using EntityPtr = QPointer<Entity::CFirmwareUpdateEntity>;
     using ModelPtr = QSharedPointer<Model::CFirmwareUpdateTreeModel>;
 
@@ -72,6 +75,10 @@ private:
     void prepareNextCamera(const ModelPtr &model);
     void resetCameraProgress();
     void onDeviceResetTick();
+
+    /// The service to tell everything is dying, maybe in the middle of a camera. The worker thread
+    /// goes on to the end of its job, and nobody hears of it.
+    void fallSilent();
 
     /// Writes status or result of @p camera, which may have died; @p model may be null.
     static void setModelValue(const ModelPtr &model, const EntityPtr &camera,
@@ -90,6 +97,7 @@ private:
 
     /// Cameras still to be updated; the current one stays at the front until its update has ended.
     QList<EntityPtr> m_queue;
+    EStay m_stay = EStay::Before;
     bool m_firstUpdateStarted = false;
     bool m_canceled = false;
 

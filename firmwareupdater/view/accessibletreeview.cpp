@@ -33,6 +33,11 @@ void CAccessibleTreeView::installFactory()
     QAccessible::installFactory(createInterface);
 }
 
+void CAccessibleTreeView::removeFactory()
+{
+    QAccessible::removeFactory(createInterface);
+}
+
 CAccessibleTreeView *CAccessibleTreeView::find(CCustomTreeView *view)
 {
     return dynamic_cast<CAccessibleTreeView *>(QAccessible::queryAccessibleInterface(view));

@@ -25,6 +25,9 @@ public:
     /// Lets Qt make this for each camera tree that somebody asks about.
     static void installFactory();
 
+    /// Leaves the trees that nobody has asked about to Qt.
+    static void removeFactory();
+
     /// What screen readers know of @p view; null when something else answers for it.
     [[nodiscard]] static CAccessibleTreeView *find(CCustomTreeView *view);
 

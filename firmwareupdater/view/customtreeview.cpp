@@ -13,7 +13,7 @@ namespace Plugin::FirmwareUpdater::Internal::View {
 
 CCustomTreeView::CCustomTreeView(QWidget *parent)
     : QTreeView(parent)
-    , m_inputMonitor(new CInputMonitor(this))
+    , m_inputMonitor(CInputMonitor::get())
 {
     CAccessibleTreeView::installFactory();
 }
@@ -26,10 +26,28 @@ void CCustomTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex 
             accessible->announceRow(topLeft);
     }
     if (topLeft == bottomRight && !isPersistentEditorOpen(topLeft)) {
-        viewport()->update();
+        updateRow(topLeft);
         return;
     }
     QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
+void CCustomTreeView::updateRow(const QModelIndex &index)
+{
+    // A tick spreads over the rows of a group.
+    if (index.parent().isValid()) {
+        viewport()->update();
+        return;
+    }
+    // Most rows of a long list are not on the screen, and to ask where they are takes a walk there.
+    const QModelIndex first = indexAt(QPoint(0, 0));
+    const QModelIndex last = indexAt(QPoint(0, viewport()->height() - 1));
+    const bool isAbove = !first.parent().isValid() && index.row() < first.row();
+    const bool isBelow = last.isValid() && !last.parent().isValid() && index.row() > last.row();
+    if (isAbove || isBelow)
+        return;
+    const QRect cell = visualRect(index.siblingAtColumn(0));
+    viewport()->update(0, cell.top(), viewport()->width(), cell.height());
 }
 
 bool CCustomTreeView::toggleRow(const QModelIndex &index)
@@ -57,7 +75,7 @@ void CCustomTreeView::showEvent(QShowEvent *event)
     QTreeView::showEvent(event);
     // Whoever came to this page by keyboard sees at once which row the keys work on.
     if (!event->spontaneous())
-        setKeyboardUsed(m_inputMonitor->isKeyboardUsed());
+        setKeyboardUsed(m_inputMonitor && m_inputMonitor->isKeyboardUsed());
 }
 
 void CCustomTreeView::resizeEvent(QResizeEvent *event)

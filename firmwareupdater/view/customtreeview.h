@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QTreeView>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
@@ -16,7 +17,8 @@ public:
     explicit CCustomTreeView(QWidget *parent = nullptr);
 
     /// Announced changes never alter a row's height, which follows from the kind of row alone; so a
-    /// tick that announces every row of a long tree costs one repaint instead of a search per row.
+    /// tick that announces every row of a long tree costs one repaint instead of a search per row,
+    /// and a row of a list that changes alone is repainted alone.
     void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
                      const QVector<int> &roles = {}) override;
 
@@ -43,11 +45,12 @@ protected:
     void updateGeometries() override;
 
 private:
+    void updateRow(const QModelIndex &index);
     void updateScrollBarGeometry();
     void setKeyboardUsed(bool used);
     void announceCurrentCell();
 
-    const CInputMonitor *const m_inputMonitor;
+    const QPointer<const CInputMonitor> m_inputMonitor;
 
     /// Whether the current row was reached by keyboard and so shows a focus frame.
     bool m_isKeyboardUsed = false;

@@ -42,9 +42,26 @@ void CFirmwareUpdateDialog::setModel(QSharedPointer<Model::CFirmwareUpdateTreeMo
         treeView->setItemDelegateForColumn(CFirmwareUpdateEntity::SelectedFirmware, labelDelegate);
         treeView->setItemDelegateForColumn(CFirmwareUpdateEntity::UpdateStatus,
                                            new CTreeViewStatusDelegate(treeView));
+        watchExpansion();
     }
-    treeView->expandAll();
+    // A series hands over its model with each camera, and expanding lays out all of its rows.
+    if (!m_isExpanded) {
+        treeView->expandAll();
+        m_isExpanded = true;
+    }
     CUpdateDialogBase::setModel(std::move(model));
+}
+
+void CFirmwareUpdateDialog::watchExpansion()
+{
+    m_isExpanded = false;
+    const QAbstractItemModel *const model = m_ui->cameraTreeView->model();
+    if (!model)
+        return;
+    const auto forget = [this] { m_isExpanded = false; };
+    connect(m_ui->cameraTreeView, &QTreeView::collapsed, this, forget);
+    connect(model, &QAbstractItemModel::modelReset, this, forget);
+    connect(model, &QAbstractItemModel::rowsInserted, this, forget);
 }
 
 void CFirmwareUpdateDialog::updateOverallProgress(int current, int total)

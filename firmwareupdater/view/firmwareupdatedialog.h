@@ -36,8 +36,11 @@ protected slots:
     void dialogButtonClicked(QAbstractButton *pButton) override;
 
 private:
+    void watchExpansion();
+
     const std::unique_ptr<Ui::FirmwareUpdateDialogUi> m_ui;
     QPushButton *m_cancelButton = nullptr;
+    bool m_isExpanded = false; ///< whether all rows still are as expandAll() left them
 };
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

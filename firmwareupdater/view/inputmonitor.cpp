@@ -2,13 +2,28 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QPointer>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
-CInputMonitor::CInputMonitor(QObject *parent)
-    : QObject(parent)
+static QPointer<CInputMonitor> monitor;
+
+CInputMonitor::CInputMonitor(QObject *application)
+    : QObject(application)
 {
-    QCoreApplication::instance()->installEventFilter(this);
+    application->installEventFilter(this);
+}
+
+const CInputMonitor *CInputMonitor::get()
+{
+    if (!monitor)
+        monitor = new CInputMonitor(QCoreApplication::instance());
+    return monitor;
+}
+
+void CInputMonitor::remove()
+{
+    delete monitor;
 }
 
 bool CInputMonitor::isKeyboardUsed() const

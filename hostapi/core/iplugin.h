@@ -15,6 +15,12 @@ namespace Core::Plugin {
 /// The object that a plug-in library exports. All operations are called on the GUI thread, in this
 /// order: construction, setLanguage(), initialize() of all plug-ins, postInitialize() of all
 /// plug-ins, then, when the host ends, aboutToUninitialize(), unInitialize() and destruction.
+///
+/// The host destroys the object, before the initializer. From then on nothing of the plug-in is
+/// installed in the application: no event filter, no translator, no factory. What it has put into
+/// the host's windows, such as dialogs, lives as long as those. The host may therefore destroy its
+/// main window before the plug-in or after it, and unload the library in between: a plug-in that
+/// puts anything into windows is linked with `-z nodelete`, which keeps its code in the process.
 class HOSTAPI_EXPORT IPlugin : public QObject
 {
     Q_OBJECT
@@ -32,6 +38,7 @@ public:
     virtual bool postInitialize() = 0;
 
     /// Withdraws the plug-in's services; the registry is still complete but for those withdrawn.
+    /// Harmless for a plug-in that has not been initialized.
     virtual bool unInitialize(QPointer<Core::Plugin::IPluginInitializer> initializer) = 0;
 
     /// Announces the end before any plug-in is un-initialized. Does nothing by default.

@@ -19,6 +19,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace TestSupport {
 
@@ -65,10 +66,12 @@ class CFakeStatusService : public Plugin::CameraPool::ICameraStatusService
 public:
     bool isCameraBusy(Plugin::CameraPool::CameraInfoPtr camera) const override
     {
+        askedIds.append(camera->getId());
         return busyIds.contains(camera->getId());
     }
 
     QSet<QString> busyIds;
+    mutable QStringList askedIds; ///< cameras of all requests
 };
 
 class CFakeStreamControlService : public Plugin::CameraPool::ICameraStreamControlService
@@ -116,10 +119,11 @@ using CFakeSelectorService = Plugin::CameraSelector::IDeviceSelectorService;
 class CFakeWindowService : public Plugin::AppCore::IWindowService
 {
 public:
-    QWidget *getMainWindow() const override { return &m_mainWindow; }
+    QWidget *getMainWindow() const override { return m_mainWindow.get(); }
+    void destroyMainWindow() { m_mainWindow.reset(); }
 
 private:
-    mutable QWidget m_mainWindow;
+    std::unique_ptr<QWidget> m_mainWindow = std::make_unique<QWidget>();
 };
 
 /// One entry that a plug-in has placed in a menu.

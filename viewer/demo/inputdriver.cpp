@@ -60,8 +60,11 @@ bool CInputDriver::tick(QTreeView *view, const QModelIndex &index)
     const QList<QCheckBox *> boxes = view->viewport()->findChildren<QCheckBox *>();
     for (QCheckBox *const box : boxes) {
         const QRect area(box->mapTo(view->viewport(), QPoint()), box->size());
-        if (!box->isVisible() || !box->isEnabled() || box->isChecked() || !area.contains(center))
+        if (!box->isVisible() || !box->isEnabled() || !area.contains(center))
             continue;
+        // A model's groups under other transport layers are ticked together with the first.
+        if (box->isChecked())
+            return true;
         click(box, QPoint(box->height() / 2, box->height() / 2));
         return box->isChecked();
     }

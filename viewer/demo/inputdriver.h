@@ -24,8 +24,8 @@ public:
     /// Replaces the text of @p lineEdit key by key.
     static void type(QLineEdit *lineEdit, const QString &text);
 
-    /// Points at the row of @p index and clicks the check box that appears there. False when none
-    /// appears, or when it is disabled or ticked already.
+    /// Points at the row of @p index and clicks the check box that appears there, unless it is
+    /// ticked already. False when none appears, or when it is disabled.
     static bool tick(QTreeView *view, const QModelIndex &index);
 };
 

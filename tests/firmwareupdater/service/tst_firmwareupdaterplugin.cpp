@@ -1,15 +1,25 @@
 #include "appcore/icommand.h"
 #include "core/iplugin.h"
 #include "support/fakehost.h"
+#include "support/scriptedupdate.h"
 #include "support/widgets.h"
+#include "support/wizardpages.h"
 
+#include <QAccessible>
 #include <QDialog>
 #include <QJsonArray>
+#include <QLineEdit>
 #include <QPluginLoader>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QTreeView>
 #include <QtTest>
 
+#include <algorithm>
+#include <typeinfo>
+
 using TestSupport::CMenuEntry;
+using TestSupport::CScriptedUpdate;
 using TestSupport::makeLayer;
 
 /// The built module, loaded as a host loads it.
@@ -29,8 +39,17 @@ private slots:
     void preselectsTheCameraRememberedFromTheSelector();
     void loadsTheCatalogueOfTheLanguage();
     void runsWithoutTheHostsServices();
+    void isHarmlessOutOfOrder();
+    void leavesNothingBehind_data();
+    void leavesNothingBehind();
 
 private:
+    void createPlugin();
+    void destroyPlugin();
+    /// Walks the wizard to the page of @p step; @p job updates its one camera.
+    [[nodiscard]] QDialog *goTo(int step,
+                                const Plugin::CameraPool::DeviceFirmwareUpdatePtr &job) const;
+    [[nodiscard]] qint64 getLogSize() const;
     [[nodiscard]] QAction *getToolsEntry() const;
     [[nodiscard]] QAction *getContextEntry() const;
     [[nodiscard]] QDialog *getVisibleDialog() const;
@@ -51,25 +70,38 @@ private:
 void CFirmwareUpdaterPluginTest::initTestCase()
 {
     qputenv("TMPDIR", m_temporaryFolder.path().toLocal8Bit());
+    // A loader keeps libraries that are unloaded, unless it is told not to.
+    m_loader.setLoadHints({});
     QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
 }
 
 void CFirmwareUpdaterPluginTest::init()
 {
     m_host = std::make_unique<TestSupport::CFakeHost>();
-    m_plugin.reset(qobject_cast<Core::Plugin::IPlugin *>(m_loader.instance()));
-    QVERIFY(m_plugin);
+    createPlugin();
     m_plugin->setLanguage("en");
     QVERIFY(m_plugin->initialize(&m_host->initializer));
 }
 
 void CFirmwareUpdaterPluginTest::cleanup()
 {
+    if (m_plugin)
+        destroyPlugin();
+    m_host.reset();
+}
+
+void CFirmwareUpdaterPluginTest::createPlugin()
+{
+    m_plugin.reset(qobject_cast<Core::Plugin::IPlugin *>(m_loader.instance()));
+    QVERIFY(m_plugin);
+}
+
+void CFirmwareUpdaterPluginTest::destroyPlugin()
+{
     m_plugin->aboutToUninitialize();
     QVERIFY(m_plugin->unInitialize(&m_host->initializer));
     // Destroyed by the test as by a host; the loader makes a new instance on demand.
     m_plugin.reset();
-    m_host.reset();
 }
 
 QAction *CFirmwareUpdaterPluginTest::getToolsEntry() const
@@ -213,6 +245,134 @@ void CFirmwareUpdaterPluginTest::runsWithoutTheHostsServices()
     QVERIFY(m_plugin->unInitialize(&bare));
     QVERIFY(bare.getServices().isEmpty());
     QVERIFY(m_plugin->initialize(&m_host->initializer));
+}
+
+void CFirmwareUpdaterPluginTest::isHarmlessOutOfOrder()
+{
+    destroyPlugin();
+    createPlugin();
+    QVERIFY(m_plugin->postInitialize());
+    QVERIFY(m_plugin->unInitialize(&m_host->initializer));
+    QVERIFY(m_host->menus->entries.isEmpty());
+
+    QVERIFY(m_plugin->initialize(&m_host->initializer));
+    QVERIFY(m_plugin->postInitialize());
+    QVERIFY(m_plugin->unInitialize(&m_host->initializer));
+    // The host still has cameras to announce.
+    const auto layer = makeLayer("l", {{"a"}});
+    m_host->enumeration->announce({layer});
+    QVERIFY(!offers(layer->getCameraInfoList().first()));
+}
+
+QDialog *
+CFirmwareUpdaterPluginTest::goTo(int step,
+                                 const Plugin::CameraPool::DeviceFirmwareUpdatePtr &job) const
+{
+    QFile file(m_temporaryFolder.filePath("update.guf"));
+    const auto layer = makeLayer("l", {{"a"}});
+    m_host->updates->entries
+        = {TestSupport::UpdateInfoPtr(new TestSupport::CFakeUpdateInfo("2.0.0"))};
+    m_host->updates->createJob
+        = [job](const QString &, const TestSupport::UpdateInfoPtr &) { return job; };
+    m_host->enumeration->announce({layer});
+    if (!file.open(QIODevice::WriteOnly) || !offers(layer->getCameraInfoList().first()))
+        return nullptr;
+
+    getToolsEntry()->trigger();
+    const auto waitForPage = [](int number) {
+        return WizardPages::waitForPage(qPrintable(QString("Step %1").arg(number)));
+    };
+    for (int current = 1; current < std::min(step, 4); ++current) {
+        QDialog *const page = waitForPage(current);
+        if (!page)
+            return nullptr;
+        if (auto *const edit = page->findChild<QLineEdit *>()) {
+            edit->selectAll();
+            QTest::keyClicks(edit, file.fileName());
+        }
+        QTest::mouseClick(TestSupport::getButton(*page, "Next"), Qt::LeftButton);
+    }
+    return waitForPage(step);
+}
+
+qint64 CFirmwareUpdaterPluginTest::getLogSize() const
+{
+    qint64 size = 0;
+    const QFileInfoList logs = QDir(m_temporaryFolder.path()).entryInfoList({"*.log"});
+    for (const QFileInfo &log : logs)
+        size += log.size();
+    return size;
+}
+
+void CFirmwareUpdaterPluginTest::leavesNothingBehind_data()
+{
+    QTest::addColumn<int>("step"); // which is open when the plug-in dies
+    QTest::addColumn<bool>("windowFirst");
+    QTest::newRow("window last") << 0 << false;
+    QTest::newRow("window first") << 0 << true;
+    QTest::newRow("while cameras are selected, window last") << 1 << false;
+    QTest::newRow("while cameras are selected, window first") << 1 << true;
+    QTest::newRow("while a camera is updated, window last") << 4 << false;
+    QTest::newRow("while a camera is updated, window first") << 4 << true;
+}
+
+void CFirmwareUpdaterPluginTest::leavesNothingBehind()
+{
+    QFETCH(int, step);
+    QFETCH(bool, windowFirst);
+
+    QVERIFY(m_plugin->postInitialize());
+    const Plugin::CameraPool::DeviceFirmwareUpdatePtr job(new CScriptedUpdate);
+    auto &script = static_cast<CScriptedUpdate &>(*job);
+    script.begin(1000).beginStep(CScriptedUpdate::EStep::DeviceReset, 1000);
+    if (step == 4)
+        script.hold();
+    script.endStep(CScriptedUpdate::EStep::DeviceReset, 1000).done();
+    QDialog *const page = goTo(step == 0 ? 5 : step, job);
+    QVERIFY(page);
+    auto *const tree = page->findChild<QTreeView *>();
+    QAccessibleInterface *const known = QAccessible::queryAccessibleInterface(tree);
+    if (step == 0) {
+        QTest::mouseClick(TestSupport::getButton(*page, "Close"), Qt::LeftButton);
+        QTRY_VERIFY(!page->isVisible());
+    } else if (step == 4) {
+        QTRY_VERIFY(script.isHeld());
+    }
+    m_plugin->setLanguage("ko");
+
+    if (windowFirst)
+        m_host->windows->destroyMainWindow();
+    destroyPlugin();
+    QVERIFY(m_loader.unload());
+    const qint64 logSize = getLogSize();
+    if (step == 4) {
+        // Started behind the timer of the camera's reset, it is the later one to end.
+        QTimer later;
+        later.setTimerType(Qt::PreciseTimer);
+        QSignalSpy ended(&later, &QTimer::timeout);
+        later.start(250);
+        QVERIFY(ended.wait());
+        script.release();
+        QTRY_COMPARE(job->thread(), thread());
+    }
+    QCoreApplication::processEvents();
+    QCOMPARE(getLogSize(), logSize);
+    QCOMPARE(QCoreApplication::translate("QObject", "Cameras"), "Cameras");
+    for (const QObject *const child : qApp->children())
+        QVERIFY(!QByteArray(child->metaObject()->className()).contains("FirmwareUpdater"));
+    if (windowFirst)
+        return;
+
+    // The pages live on: what screen readers know goes on, and what is new to them is Qt's.
+    QVERIFY(!page->isVisible());
+    QVERIFY(known->childCount() > 0);
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(known));
+    const QAccessibleInterface &unknown = *QAccessible::queryAccessibleInterface(tree);
+    QVERIFY(!QByteArray(typeid(unknown).name()).contains("FirmwareUpdater"));
+    QVERIFY(!page->grab().isNull());
+    QTest::keyClick(page, Qt::Key_Escape);
+    QCoreApplication::processEvents();
+    QVERIFY(!getVisibleDialog());
 }
 
 QTEST_MAIN(CFirmwareUpdaterPluginTest)

@@ -156,7 +156,9 @@ void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
     const bool started = answer == QMessageBox::Yes;
     m_fixture->host.status->busyIds = {"b"};
     bool asked = false;
-    whenModal([&asked, answer](QWidget *widget) {
+    whenModal([this, &asked, answer](QWidget *widget) {
+        // Too late for the wizard, which has found all that it needs.
+        m_fixture->host.initializer.removeService(m_fixture->host.streams);
         auto *const box = qobject_cast<QMessageBox *>(widget);
         asked = box && box->windowTitle() == "Fimware Updater"
             && box->text().startsWith("<p>To use the Firmware Updater, you have to stop")
@@ -170,6 +172,7 @@ void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
     });
     m_fixture->service->startFirmwareUpdater();
     QVERIFY(asked);
+    QCOMPARE(m_fixture->host.status->askedIds, QStringList({"a", "b", "n"}));
     QCOMPARE(m_fixture->host.streams->stopCount, started ? 1 : 0);
     QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath().isEmpty(), !started);
     const auto model = dialog<View::CCameraSelectionDialog>()->getModel();

@@ -15,6 +15,7 @@ class CTemporaryLogTest : public QObject
 private slots:
     void namesTheFileByTime();
     void writesLevelAndMessage();
+    void tellsTheTimeOfEachLine();
     void opensOnDemandButNotForNothing();
     void closesAndForgetsTheFailure();
     void dropsLinesThatItCannotWrite();
@@ -41,6 +42,31 @@ void CTemporaryLogTest::writesLevelAndMessage()
     QCOMPARE(fixture.getLog(),
              QStringList({"DEBUG " + message, "INFO " + message, "WARNING " + message,
                           "CRITICAL " + message, "INFO " + message}));
+}
+
+void CTemporaryLogTest::tellsTheTimeOfEachLine()
+{
+    CUpdaterFixture fixture;
+    fixture.service->openTemporaryLogFile();
+    QFile log(fixture.service->getCurrentTemporaryLogFilePath());
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    const auto getTime = [] { return QDateTime::currentDateTime().toString(Qt::TextDate); };
+    const auto writeLine = [&] {
+        const QString earliest = getTime();
+        fixture.service->addTemporaryLogMessage(ELogLevel::Info, "x");
+        const QStringList possible{earliest + " INFO x\n", getTime() + " INFO x\n"};
+        const QString written = QString::fromUtf8(log.readAll());
+        QVERIFY2(possible.contains(written), qPrintable(possible.last() + written));
+    };
+    for (const char *const zone : {"Asia/Seoul", "America/St_Johns", ""}) {
+        qputenv("TZ", zone);
+        writeLine();
+    }
+    qunsetenv("TZ");
+    writeLine();
+    const QString last = getTime();
+    QTRY_VERIFY(getTime() != last);
+    writeLine();
 }
 
 void CTemporaryLogTest::opensOnDemandButNotForNothing()

@@ -5,6 +5,7 @@
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QtTest>
 
 using namespace Plugin::FirmwareUpdater::Internal;
@@ -56,6 +57,7 @@ private slots:
     void animatesTheReset();
     void tellsEachTickOncePerReset();
     void waitsForTheCameraOnExit();
+    void doesNothingBeforeAndAfter();
     void survivesALostDialog();
     void survivesAnEmptiedList();
     void isFirstSeenWhereTheWizardWas();
@@ -372,6 +374,32 @@ void CFirmwareUpdatingStepTest::waitsForTheCameraOnExit()
     m_step->onExit(nullptr);
     QCOMPARE(column(7), QVector<int>({0}));
     QVERIFY(!m_dialog->isVisible());
+}
+
+void CFirmwareUpdatingStepTest::doesNothingBeforeAndAfter()
+{
+    const auto close = [this] {
+        m_step->onUpdatesCanceled();
+        QVERIFY(!m_dialog->isVisible());
+    };
+    close();
+    // A reset begins after the last signal that a job may send.
+    auto *const job = new CScriptedUpdate;
+    job->begin(1000).error("Camera is on fire").beginStep(EStep::DeviceReset, 1000);
+    enter(QVector<CScriptedUpdate *>{job});
+    QTRY_COMPARE(m_endSpy->count(), 1);
+    m_step->onExit(nullptr);
+    m_fixture->service->closeTemporaryLogFile();
+    close();
+
+    // Started behind the reset's own timer, it is the later one to end.
+    QTimer later;
+    later.setTimerType(Qt::PreciseTimer);
+    QSignalSpy ended(&later, &QTimer::timeout);
+    later.start(250);
+    QVERIFY(ended.wait());
+    // A line would have begun a new log.
+    QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), "");
 }
 
 void CFirmwareUpdatingStepTest::survivesALostDialog()

@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -12,6 +13,7 @@
 
 using namespace ViewFixture;
 using namespace Plugin::FirmwareUpdater::Internal::View;
+using TestSupport::CUpdaterFixture;
 
 /// The dialogs of the five steps, and what they have from their base.
 class CUpdateDialogsTest : public QObject
@@ -32,9 +34,12 @@ private slots:
     void announcesThePathOfTheUser();
     void warningsCloseTheirGap();
     void showsProgressWhileItCannotBeClosed();
+    void renewsOnlyWhatChanges();
     void showsTextsForTheOutcome();
 
 private:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     /// The dialog's signals that @p act leads to.
     template <typename TAct>
     static QString record(QDialog &dialog, const TAct &act);
@@ -46,6 +51,7 @@ private:
     static QString getShown(const QDialog &dialog, const std::vector<const char *> &names);
 
     std::unique_ptr<CPages> m_dialogs;
+    QRegion m_painted; ///< of what is watched
 };
 
 void CUpdateDialogsTest::init()
@@ -358,6 +364,48 @@ void CUpdateDialogsTest::showsProgressWhileItCannotBeClosed()
                  "closeClicked()");
         QVERIFY(dialog.isVisible());
     }
+}
+
+bool CUpdateDialogsTest::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint)
+        m_painted += static_cast<QPaintEvent *>(event)->region();
+    return QObject::eventFilter(watched, event);
+}
+
+void CUpdateDialogsTest::renewsOnlyWhatChanges()
+{
+    CFirmwareUpdateDialog dialog;
+    const ModelPtr list = makeList(100);
+    dialog.setModel(list);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QTreeView *const tree = getTree(dialog);
+    tree->viewport()->installEventFilter(this);
+    // The rows that a change of the state in row @p row leads to.
+    const auto change = [&](int row) {
+        QCoreApplication::processEvents();
+        m_painted = QRegion();
+        list->setData(list->index(row, 6), 1, Qt::EditRole);
+        QCoreApplication::processEvents();
+        return m_painted.boundingRect();
+    };
+    const QRect first = tree->visualRect(list->index(0, 0));
+    QCOMPARE(change(0), QRect(0, first.top(), tree->viewport()->width(), first.height()));
+    QCOMPARE(change(90), QRect());
+    tree->scrollTo(list->index(90, 0));
+    QVERIFY(!change(90).isEmpty());
+    QCOMPARE(change(0), QRect());
+
+    const auto isExpanded = [&] { return tree->isExpanded(list->index(0, 0)); };
+    tree->collapseAll();
+    QVERIFY(!isExpanded());
+    dialog.setModel(list);
+    QVERIFY(isExpanded());
+    list->setCameraDeviceList({CUpdaterFixture::makeTickedCamera({"new"})});
+    QVERIFY(!isExpanded());
+    dialog.setModel(list);
+    QVERIFY(isExpanded());
 }
 
 void CUpdateDialogsTest::showsTextsForTheOutcome()

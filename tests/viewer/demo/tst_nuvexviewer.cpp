@@ -14,11 +14,14 @@ class CNuvexViewerTest : public QObject
 private slots:
     void init();
     void demonstrationUpdatesThenReinstalls();
+    void demonstrationUpdatesAModelOnTwoLayers();
     void demonstrationFailsWithTheUpdate();
     void refusesToStart();
     void answersInTheLanguageAskedFor();
 
 private:
+    /// Writes the default cameras to "cameras.json", with @p after in place of @p before.
+    void writeCameras(const QByteArray &before, const QByteArray &after) const;
     void run(const QStringList &arguments, int exitCode, const QString &sentence);
 
     const QStringList m_demonstration{"--samples=" SAMPLES, "--speed=100", "--demo=pictures"};
@@ -36,6 +39,16 @@ void CNuvexViewerTest::init()
     // The wizard's state machine lives until the process ends, which a leak checker takes for a
     // leak; the test of the viewer without a plug-in looks for leaks of the viewer's own.
     qputenv("ASAN_OPTIONS", "detect_leaks=0");
+}
+
+void CNuvexViewerTest::writeCameras(const QByteArray &before, const QByteArray &after) const
+{
+    QFile source(DEFAULT_CAMERAS);
+    QFile description(m_home.filePath("cameras.json"));
+    QVERIFY(source.open(QIODevice::ReadOnly) && description.open(QIODevice::WriteOnly));
+    const QByteArray cameras = source.readAll();
+    QCOMPARE(cameras.count(before), 1);
+    description.write(QByteArray(cameras).replace(before, after));
 }
 
 void CNuvexViewerTest::run(const QStringList &arguments, int exitCode, const QString &sentence)
@@ -66,16 +79,21 @@ void CNuvexViewerTest::demonstrationUpdatesThenReinstalls()
     QCOMPARE(m_output.count("(reinstalled)"), 6);
 }
 
+void CNuvexViewerTest::demonstrationUpdatesAModelOnTwoLayers()
+{
+    // The last two cameras of the model stand on a layer of their own.
+    const QByteArray id("\"id\": \"gige-40012360\"");
+    const QByteArray between(",\n        {\n          ");
+    writeCameras(between + id,
+                 R"(]}, {"id": "gige-1", "displayName": "GigE Vision 2", "cameras": [{)" + id);
+    run(m_demonstration + QStringList{"--cameras", "cameras.json"}, 0, "Successful updates: 6");
+}
+
 void CNuvexViewerTest::demonstrationFailsWithTheUpdate()
 {
     // The first camera of the model comes back with the firmware that it had before.
     const QByteArray serial("\"serialNumber\": \"40012345\",");
-    QFile source(DEFAULT_CAMERAS);
-    QFile description(m_home.filePath("cameras.json"));
-    QVERIFY(source.open(QIODevice::ReadOnly) && description.open(QIODevice::WriteOnly));
-    description.write(source.readAll().replace(
-        serial, serial + " \"faults\": {\"returnsWithOldVersion\": true},"));
-    description.close();
+    writeCameras(serial, serial + " \"faults\": {\"returnsWithOldVersion\": true},");
     run(m_demonstration + QStringList{"--cameras", "cameras.json"}, 1, "Failed updates: 1");
     QVERIFY(m_output.contains("Skipped updates: 5"));
 }
