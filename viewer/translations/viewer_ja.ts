@@ -771,6 +771,10 @@
         <source>another camera, %1, answers at its address; look for cameras again</source>
         <translation>そのアドレスでは別のカメラ %1 が応答しています。もう一度カメラを検索してください</translation>
     </message>
+    <message>
+        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation>データ %1 の SHA-256 を計算できません。このコンピューターの OpenSSL の設定を確認してください</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

@@ -771,6 +771,10 @@
         <source>another camera, %1, answers at its address; look for cameras again</source>
         <translation>해당 주소에서 다른 카메라 %1이(가) 응답합니다. 카메라를 다시 검색하십시오</translation>
     </message>
+    <message>
+        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation>데이터 %1의 SHA-256을 계산할 수 없습니다. 이 컴퓨터의 OpenSSL 설정을 확인하십시오</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>

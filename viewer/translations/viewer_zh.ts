@@ -771,6 +771,10 @@
         <source>another camera, %1, answers at its address; look for cameras again</source>
         <translation>在其地址上应答的是另一台相机 %1；请重新搜索相机</translation>
     </message>
+    <message>
+        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation>无法计算数据 %1 的 SHA-256；请检查此计算机的 OpenSSL 设置</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>
