@@ -103,7 +103,8 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
             m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
             m_camera.serialNumber.toUtf8().constData(), error.receive()));
     }
-    throwIf(error, CErrorText::tr("it could not be opened"));
+    if (error)
+        throwError(error, CErrorText::tr("it could not be opened"));
     if (!device)
         throw CFeatureError(CErrorText::tr("it could not be opened"),
                             CFeatureError::EReason::NoAnswer);
