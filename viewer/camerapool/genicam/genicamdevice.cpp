@@ -17,9 +17,6 @@ namespace Viewer::CameraPool::GenICam {
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 
-/// Cameras that write their flash memory while they start take long.
-static constexpr milliseconds ShortestResetLimit = 60s;
-
 /// How long a camera may take to say who it is before it is opened.
 static constexpr milliseconds IdentityLimit = 1s;
 
@@ -193,7 +190,7 @@ void CGenICamDevice::uploadFile(const QString &fileName, QIODevice &source, qint
 
 void CGenICamDevice::resetAndWait(milliseconds timeLimit)
 {
-    const QDeadlineTimer deadline(std::max(timeLimit, ShortestResetLimit));
+    const QDeadlineTimer deadline(timeLimit);
     translate([this, &deadline] {
         QString oldVersion;
         if (!isPresent(oldVersion))
@@ -263,6 +260,12 @@ bool CGenICamDevice::isPresent(QString &version) const
 qint64 CGenICamDevice::getUploadRate() const
 {
     return UsualUploadRate;
+}
+
+milliseconds CGenICamDevice::getShortestResetLimit() const
+{
+    // Cameras that write their flash memory while they start take long.
+    return 60s;
 }
 
 CFeatures CGenICamDevice::getFeatures() const
