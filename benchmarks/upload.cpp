@@ -1,9 +1,11 @@
 // How close an upload to a camera comes to what its connection can do.
 //
-// An image is uploaded to virtual cameras with file access buffers of different lengths. The
-// baseline is a bare loop over a plain socket that sends commands of the same kinds, numbers and
-// sizes to the same camera and waits for each answer.
+// An image is uploaded to virtual cameras with file access buffers of different lengths. The anchor
+// is a bare loop over a plain socket that sends commands of the same kinds, numbers and sizes to
+// the same camera and waits for each answer. Both are measured by the clock on the wall: either
+// side spends its time waiting for the camera, and the user waits with it.
 
+#include "comparison.h"
 #include "support/virtualcameraprocess.h"
 #include "viewer/camerapool/genicam/genicam.h"
 #include "viewer/camerapool/icameradevice.h"
@@ -83,12 +85,12 @@ public:
         write(address, bytes);
     }
 
-    void readWord(quint32 address)
+    quint32 readWord(quint32 address)
     {
         QByteArray payload;
         Gvcp::appendWord(payload, address);
         Gvcp::appendWord(payload, 4);
-        ask(Gvcp::ECommand::ReadMemory, payload);
+        return Gvcp::readWord(ask(Gvcp::ECommand::ReadMemory, payload), Gvcp::HEADER_SIZE + 4);
     }
 
 private:
@@ -115,7 +117,7 @@ static std::unique_ptr<ICameraDevice> openDevice(const QHostAddress &address)
     return device;
 }
 
-static qint64 upload(const QHostAddress &address, const QByteArray &image)
+static double upload(const QHostAddress &address, const QByteArray &image)
 {
     const std::unique_ptr<ICameraDevice> device = openDevice(address);
     QBuffer source;
@@ -124,15 +126,16 @@ static qint64 upload(const QHostAddress &address, const QByteArray &image)
     QElapsedTimer timer;
     timer.start();
     device->uploadFile("FirmwareImage", source, image.size(), {}, std::chrono::minutes(10));
-    return timer.nsecsElapsed();
+    return megabytesPerSecond(timer.nsecsElapsed());
 }
 
 // What the upload sends for each block, and nothing else.
-static qint64 runBaseline(const QHostAddress &address, const QByteArray &image, int bufferLength)
+static double runBareLoop(const QHostAddress &address, const QByteArray &image, int bufferLength)
 {
     CBareClient client(address);
     client.writeWord(MemoryMap::CONTROL_PRIVILEGE, 2);
     client.writeWord(MemoryMap::FILE_OPEN_MODE, 1);
+    client.writeWord(MemoryMap::FILE_OPERATION_SELECTOR, 0);
     client.writeWord(MemoryMap::FILE_OPERATION_EXECUTE, 1);
     client.writeWord(MemoryMap::FILE_OPERATION_SELECTOR, 3);
     QElapsedTimer timer;
@@ -143,9 +146,21 @@ static qint64 runBaseline(const QHostAddress &address, const QByteArray &image, 
             client.write(MemoryMap::FILE_ACCESS_BUFFER + static_cast<quint32>(i),
                          image.mid(offset + i, MemoryBlock));
         client.writeWord(MemoryMap::FILE_OPERATION_EXECUTE, 1);
-        client.readWord(MemoryMap::FILE_OPERATION_RESULT);
+        if (client.readWord(MemoryMap::FILE_OPERATION_RESULT) != static_cast<quint32>(bufferLength))
+            fail("The virtual camera has not taken a block.");
     }
-    return timer.nsecsElapsed();
+    const double speed = megabytesPerSecond(timer.nsecsElapsed());
+    client.writeWord(MemoryMap::CONTROL_PRIVILEGE, 0);
+    return speed;
+}
+
+static qint64 countCommands(CVirtualCameraProcess &camera)
+{
+    const QHash<QString, qint64> numbers = camera.end();
+    qint64 commands = 0;
+    for (const char *const kind : {"readreg", "writereg", "readmem", "writemem"})
+        commands += numbers.value(kind);
+    return commands;
 }
 
 int main(int argc, char **argv)
@@ -153,30 +168,27 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     const QByteArray image(ImageSize, 'x');
 
-    std::printf("%8s %10s %10s %10s %12s %8s %16s\n", "buffer", "commands", "per block", "MB/s",
-                "bare MB/s", "ratio", "s at 0.2 ms");
+    Benchmark::printHeader();
     int host = 0;
     for (const int bufferLength : {512, 4096, 65536}) {
         const QHostAddress address = CVirtualCameraProcess::getOwnAddress(++host);
         const QStringList arguments{"--buffer", QString::number(bufferLength)};
+        {
+            const CVirtualCameraProcess camera(address, arguments);
+            Benchmark::compare(
+                qPrintable(QString("8 MiB upload, %1-byte buffer, MB/s").arg(bufferLength)),
+                Benchmark::atLeast(0.75), [&] { return upload(address, image); },
+                [&] { return runBareLoop(address, image, bufferLength); });
+        }
+
         CVirtualCameraProcess idle(address, arguments);
-        openDevice(address).reset(); // to leave out of the count what has nothing to do with blocks
-        const QHash<QString, qint64> before = idle.end();
-
+        openDevice(address).reset(); // what has nothing to do with blocks
+        const qint64 others = countCommands(idle);
         CVirtualCameraProcess camera(address, arguments);
-        const qint64 time = upload(address, image);
-        const QHash<QString, qint64> after = camera.end();
-        CVirtualCameraProcess baseline(address, arguments);
-        const qint64 bareTime = runBaseline(address, image, bufferLength);
-        baseline.end();
-
-        qint64 commands = 0;
-        for (const char *const kind : {"readreg", "writereg", "readmem", "writemem"})
-            commands += after.value(kind) - before.value(kind);
-        const double perBlock = static_cast<double>(commands) / (ImageSize / bufferLength);
-        std::printf("%8d %10lld %10.2f %10.2f %12.2f %8.2f %16.1f\n", bufferLength, commands,
-                    perBlock, megabytesPerSecond(time), megabytesPerSecond(bareTime),
-                    static_cast<double>(bareTime) / static_cast<double>(time),
+        upload(address, image);
+        const qint64 commands = countCommands(camera) - others;
+        std::printf("  %.2f commands per block; %.1f s at a round trip of 0.2 ms\n",
+                    static_cast<double>(commands) / (ImageSize / bufferLength),
                     static_cast<double>(commands) * RoundTripMs / 1000.0);
     }
     return EXIT_SUCCESS;

@@ -10,6 +10,7 @@ run_packages=(
   cmake
   g++
   libaravis-dev
+  libssl-dev
   libusb-1.0-0-dev
   libzip-dev
   ninja-build
@@ -30,6 +31,7 @@ test_packages=(
   clang-format
   git
   iproute2
+  unzip
   # The address and thread sanitizers' libraries come with the compiler.
 )
 

@@ -11,9 +11,9 @@ class QIODevice;
 namespace Viewer::CameraPool {
 
 /// Everything that an update does to one camera, whatever the wire. All operations but the
-/// constructor, getName() and getUploadRate() block and are called on one worker thread. Each ends
-/// within its time limit and reports a failure by throwing CCameraError; nothing else is thrown.
-/// After a failure only close() and destruction are safe.
+/// constructor, getName(), getUploadRate() and getShortestResetLimit() block and are called on one
+/// worker thread. Each ends within its time limit and reports a failure by throwing CCameraError;
+/// nothing else is thrown. After a failure only close() and destruction are safe.
 class ICameraDevice
 {
 public:
@@ -56,6 +56,10 @@ public:
 
     /// Nominal upload speed in bytes per second, at least 1. Does not touch the camera; any thread.
     [[nodiscard]] virtual qint64 getUploadRate() const = 0;
+
+    /// What resetAndWait() is to be given at least, as cameras of this kind may take so long
+    /// whatever an update file promises. Does not touch the camera; any thread.
+    [[nodiscard]] virtual std::chrono::milliseconds getShortestResetLimit() const = 0;
 };
 
 } // namespace Viewer::CameraPool

@@ -88,7 +88,7 @@ void CUpdateRun::executeStep(const CUpdateStep &step)
         return;
     case EFirmwareUpdateStep::DeviceReset:
         prepareWriting();
-        m_device.resetAndWait(limit);
+        m_device.resetAndWait(std::max(limit, m_device.getShortestResetLimit()));
         return;
     case EFirmwareUpdateStep::Invalid:
         break;

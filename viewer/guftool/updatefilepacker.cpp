@@ -3,12 +3,12 @@
 #include "viewer/camerapool/updatefile/entryname.h"
 #include "viewer/camerapool/updatefile/jsontext.h"
 #include "viewer/camerapool/updatefile/manifestparser.h"
+#include "viewer/camerapool/updatefile/sha256.h"
 #include "viewer/camerapool/updatefile/updatefileerror.h"
 #include "viewer/camerapool/updatefile/updatefilelimits.h"
 #include "viewer/camerapool/updatefile/updatefilereader.h"
 #include "viewer/json/messagetext.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -58,6 +58,16 @@ QStringList collectPayloadNames(const CUpdateManifest &manifest)
         }
     }
     return names;
+}
+
+/// False: the file cannot be read to its end.
+bool addFileTo(CSha256 &hash, QFile &file)
+{
+    QByteArray block(64 * 1024, Qt::Uninitialized);
+    qint64 size = 0;
+    while ((size = file.read(block.data(), block.size())) > 0)
+        hash.addData(block.constData(), size);
+    return size == 0;
 }
 
 /// Returns what went wrong; empty: nothing.
@@ -195,13 +205,18 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
     if (info.size() == 0)
         fail(CErrorText::tr("the payload \"%1\" is empty").arg(Json::shorten(name)));
     QFile payload(info.filePath());
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (!payload.open(QIODevice::ReadOnly) || !hash.addData(&payload))
+    CSha256 hash;
+    if (!payload.open(QIODevice::ReadOnly) || !addFileTo(hash, payload))
         fail(CErrorText::tr("the payload \"%1\" cannot be read").arg(Json::shorten(name)));
+    const QByteArray digest = hash.takeResult();
+    if (digest.isEmpty())
+        fail(CErrorText::tr("the SHA-256 of the payload \"%1\" cannot be computed; check the "
+                            "settings of OpenSSL on this computer")
+                 .arg(Json::shorten(name)));
     if (!step.contains(sizeField))
         step.insert(sizeField, info.size());
     if (!step.contains(digestField))
-        step.insert(digestField, QString::fromLatin1(hash.result().toHex()));
+        step.insert(digestField, QString::fromLatin1(digest.toHex()));
     return step;
 }
 

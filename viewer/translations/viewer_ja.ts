@@ -411,6 +411,10 @@
         <source>Camera %1 is in use by another application.</source>
         <translation>カメラ %1 は別のアプリケーションで使用中です。</translation>
     </message>
+    <message>
+        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation type="vanished">データ %1 の SHA-256 を計算できません。このコンピューターの OpenSSL の設定を確認してください</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>
@@ -1455,6 +1459,10 @@ Update %1
     <message>
         <source>its feature description could not be read</source>
         <translation>機能記述を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>the SHA-256 of the payload &quot;%1&quot; cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation>データファイル「%1」の SHA-256 を計算できません。このコンピューターの OpenSSL の設定を確認してください</translation>
     </message>
 </context>
 </TS>

@@ -411,6 +411,10 @@
         <source>Camera %1 is in use by another application.</source>
         <translation>카메라 %1을(를) 다른 응용 프로그램에서 사용 중입니다.</translation>
     </message>
+    <message>
+        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation type="vanished">데이터 %1의 SHA-256을 계산할 수 없습니다. 이 컴퓨터의 OpenSSL 설정을 확인하십시오</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>
@@ -1455,6 +1459,10 @@ Update %1
     <message>
         <source>its feature description could not be read</source>
         <translation>기능 설명을 읽지 못했습니다</translation>
+    </message>
+    <message>
+        <source>the SHA-256 of the payload &quot;%1&quot; cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation>데이터 파일 &quot;%1&quot;의 SHA-256을 계산할 수 없습니다. 이 컴퓨터의 OpenSSL 설정을 확인하십시오</translation>
     </message>
 </context>
 </TS>

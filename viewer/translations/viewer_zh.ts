@@ -411,6 +411,10 @@
         <source>Camera %1 is in use by another application.</source>
         <translation>相机 %1 正被另一个应用程序使用。</translation>
     </message>
+    <message>
+        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation type="vanished">无法计算数据 %1 的 SHA-256；请检查此计算机的 OpenSSL 设置</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CFrameStream</name>
@@ -1455,6 +1459,10 @@ Update %1
     <message>
         <source>its feature description could not be read</source>
         <translation>无法读取参数描述</translation>
+    </message>
+    <message>
+        <source>the SHA-256 of the payload &quot;%1&quot; cannot be computed; check the settings of OpenSSL on this computer</source>
+        <translation>无法计算数据文件“%1”的 SHA-256，请检查此计算机上 OpenSSL 的设置</translation>
     </message>
 </context>
 </TS>

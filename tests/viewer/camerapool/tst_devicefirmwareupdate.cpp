@@ -36,6 +36,7 @@ struct CDeviceScript
     std::function<void(const QString &call)> before; ///< each operation but close(); may throw
     QStringList calls; ///< "open", "read A", "write A=b", "execute A", "upload A 400", "reset"
     QByteArray uploaded; ///< all bytes of all uploads
+    milliseconds resetLimit{0}; ///< what the last reset was given
     bool isOpen = false;
 };
 
@@ -87,10 +88,12 @@ public:
     void resetAndWait(milliseconds limit) override
     {
         note("reset", limit);
+        m_script->resetLimit = limit;
         m_script->features.insert("DeviceFirmwareVersion", m_script->versionAfterReset);
     }
 
     qint64 getUploadRate() const override { return 1000; }
+    milliseconds getShortestResetLimit() const override { return 45s; }
 
 private:
     void note(const QString &call, milliseconds limit)
@@ -191,6 +194,7 @@ void CDeviceFirmwareUpdateTest::announcesWhatItDoes()
     QCOMPARE(m_script->calls.constLast(), QString("read DeviceFirmwareVersion"));
     QCOMPARE(m_script->uploaded.size(), 1000);
     QVERIFY(m_script->uploaded.startsWith("model: VX-1400M\nversion: 2.0.0\n\nxxx"));
+    QCOMPARE(m_script->resetLimit.count(), 45000); // although the file promises 16 ms
     QCOMPARE(job->getFirmwareVersion(), QString("2.0.0"));
 }
 

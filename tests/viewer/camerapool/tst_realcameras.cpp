@@ -33,6 +33,7 @@ private slots:
     void updatesACamera();
     void tellsEachFault_data();
     void tellsEachFault();
+    void givesUpACameraThatStaysAway();
     void leavesACameraInUseAlone();
     void refusesTwoCamerasOfOneIdentity();
     void refusesAnotherCameraAtTheAddress();
@@ -155,13 +156,15 @@ QString CRealCamerasTest::update(const CameraInfoPtr &camera)
 void CRealCamerasTest::updatesACamera_data()
 {
     QTest::addColumn<QStringList>("arguments");
+    const QStringList shortReset{"--reset-ms", "100"};
     QTest::newRow("smallest buffer") << QStringList{"--buffer", "512"};
-    QTest::newRow("buffer of no whole block") << QStringList{"--buffer", "700"};
+    QTest::newRow("buffer of no whole block, short reset")
+        << QStringList{"--buffer", "700"} + shortReset;
     QTest::newRow("largest buffer, requests lost")
-        << QStringList{"--buffer", "65536", "--lose-every", "150"};
-    QTest::newRow("an acknowledge lost") << QStringList{"--lose-ack", "30"};
+        << QStringList{"--buffer", "65536", "--lose-every", "300"} + shortReset;
+    QTest::newRow("an acknowledge lost") << QStringList{"--lose-ack", "30"} + shortReset;
     // Longer than the library waits for an answer that is not announced.
-    QTest::newRow("file opened slowly") << QStringList{"--open-ms", "4000"};
+    QTest::newRow("file opened slowly") << QStringList{"--open-ms", "3000"} + shortReset;
 }
 
 void CRealCamerasTest::updatesACamera()
@@ -213,8 +216,6 @@ void CRealCamerasTest::tellsEachFault_data()
         << "its feature \"DeviceFirmwareVersion\" is \"1.2.0\" instead of \"2.0.0\"";
     QTest::newRow("does not restart") << QStringList{"--refuse", "DeviceReset"}
                                       << "its command \"DeviceReset\" could not be executed";
-    QTest::newRow("never comes back")
-        << QStringList{"--never-return"} << "it did not come back from its reset; switch it off";
 }
 
 void CRealCamerasTest::tellsEachFault()
@@ -227,6 +228,21 @@ void CRealCamerasTest::tellsEachFault()
     const QString text = update(found[0]);
     QVERIFY2(text.startsWith("Camera 50000001 (GV-1400M, 127."), qPrintable(text));
     QVERIFY2(text.contains(QRegularExpression(error)), qPrintable(text));
+}
+
+void CRealCamerasTest::givesUpACameraThatStaysAway()
+{
+    startCamera({"--never-return"});
+    const auto device = openDevice();
+    try {
+        device->resetAndWait(std::chrono::seconds(1));
+        QFAIL("The camera is there again.");
+    } catch (const CCameraError &error) {
+        const QString text = error.getMessage();
+        QVERIFY2(text.startsWith("Camera 50000001 (GV-1400M, 127."), qPrintable(text));
+        QVERIFY2(text.contains("): it did not come back from its reset; switch it off"),
+                 qPrintable(text));
+    }
 }
 
 void CRealCamerasTest::leavesACameraInUseAlone()

@@ -19,12 +19,13 @@ private slots:
     void packsFillsInAndShows();
     void refusesFaultySources();
     void speaksTheUsersLanguage();
+    void saysWhenDigestsCannotBeComputed();
 
 private:
     QScopedPointer<QTemporaryDir> m_folder;
 };
 
-static const QByteArray PAYLOAD = QByteArray(5000, 'p');
+static const QByteArray PAYLOAD = QByteArray(100000, 'p'); // more than is read at a time
 static const QByteArray MANIFEST = Test::makeManifest(QStringLiteral("images/a.img"), PAYLOAD);
 
 /// A manifest that leaves out what can be filled in.
@@ -71,7 +72,7 @@ void CGufToolTest::packsFillsInAndShows()
     const QString json = run("inspect --json a.guf").mid(2).remove("\"description\": \"\",");
     QCOMPARE(getUpdate(json.toUtf8()), getUpdate(MANIFEST));
     QVERIFY(run("inspect a.guf")
-                .contains("by size  images/a.img (5000 bytes) to FirmwareImage  [Image]\n"));
+                .contains("by size  images/a.img (100000 bytes) to FirmwareImage  [Image]\n"));
 }
 
 void CGufToolTest::refusesFaultySources()
@@ -89,7 +90,7 @@ void CGufToolTest::refusesFaultySources()
     refuse("\"updates\":", "\"updates\"", R"(expected a colon after "updates", found "[")");
     refuse("a.img", "b.img", R"(the payload "images/b.img" is missing in the folder)");
     refuse("images/a.img", "../a.img", "has an empty part or one of dots only; use a plain path");
-    refuse("\"targetFile\"", "\"size\": 4999, \"targetFile\"", "where update.json says 4999");
+    refuse("\"targetFile\"", "\"size\": 99999, \"targetFile\"", "where update.json says 99999");
     refuse("\"targetFile\"", "\"sha256\": \"" + QByteArray(64, '0') + "\", \"targetFile\"",
            "does not match its SHA-256 in update.json");
     for (const char *command : {"verify a.guf", "inspect a.guf", "inspect --json a.guf"})
@@ -127,6 +128,23 @@ void CGufToolTest::speaksTheUsersLanguage()
         }
     }
     qunsetenv("LANGUAGE");
+}
+
+void CGufToolTest::saysWhenDigestsCannotBeComputed()
+{
+    QVERIFY(run("pack source a.guf").startsWith("0 "));
+    // OpenSSL as somebody may have set it up: without the provider that has the algorithms.
+    writeFile("openssl.cnf",
+              "openssl_conf = a\n[a]\nproviders = b\n[b]\nbase = c\n[c]\nactivate = 1\n");
+    qputenv("OPENSSL_CONF", QFile::encodeName(m_folder->filePath("openssl.cnf")));
+    for (const char *command : {"verify a.guf", "pack source b.guf"}) {
+        const QString result = run(command);
+        QVERIFY2(result.startsWith("1 ")
+                     && result.contains(
+                         "the SHA-256 of the payload \"images/a.img\" cannot be computed"),
+                 qPrintable(result));
+    }
+    qunsetenv("OPENSSL_CONF");
 }
 
 QTEST_GUILESS_MAIN(CGufToolTest)

@@ -48,10 +48,8 @@ static CErrorText describe(const CErrorGuard &error)
     return CErrorText::tr("it refused (%1)").arg(error.getMessage().simplified());
 }
 
-void throwIf(const CErrorGuard &error, const CErrorText &attempt)
+void throwError(const CErrorGuard &error, const CErrorText &attempt)
 {
-    if (!error)
-        return;
     const bool noAnswer
         = error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED);
     throw CFeatureError(CErrorText::tr("%1: %2").arg(attempt, describe(error)),
@@ -95,7 +93,8 @@ QString CFeatures::read(const QByteArray &name) const
     CErrorGuard error;
     const char *const value = arv_gc_feature_node_get_value_as_string(
         ARV_GC_FEATURE_NODE(getNode(name)), error.receive());
-    throwIf(error, readingOf(name));
+    if (error)
+        throwError(error, readingOf(name));
     return QString::fromUtf8(value);
 }
 
@@ -104,7 +103,8 @@ void CFeatures::write(const QByteArray &name, const QString &value) const
     CErrorGuard error;
     arv_gc_feature_node_set_value_from_string(ARV_GC_FEATURE_NODE(getNode(name)),
                                               value.toUtf8().constData(), error.receive());
-    throwIf(error, writingOf(name, value));
+    if (error)
+        throwError(error, writingOf(name, value));
 }
 
 qint64 CFeatures::readInteger(const QByteArray &name) const
@@ -112,7 +112,8 @@ qint64 CFeatures::readInteger(const QByteArray &name) const
     CErrorGuard error;
     const qint64 value
         = arv_device_get_integer_feature_value(m_device, name.constData(), error.receive());
-    throwIf(error, readingOf(name));
+    if (error)
+        throwError(error, readingOf(name));
     return value;
 }
 
@@ -120,7 +121,8 @@ void CFeatures::writeInteger(const QByteArray &name, qint64 value) const
 {
     CErrorGuard error;
     arv_device_set_integer_feature_value(m_device, name.constData(), value, error.receive());
-    throwIf(error, writingOf(name, QString::number(value)));
+    if (error)
+        throwError(error, writingOf(name, QString::number(value)));
 }
 
 void CFeatures::execute(const QByteArray &name) const
@@ -132,9 +134,10 @@ void CFeatures::execute(const QByteArray &name) const
             EReason::Refused);
     CErrorGuard error;
     arv_gc_command_execute(ARV_GC_COMMAND(node), error.receive());
-    throwIf(
-        error,
-        CErrorText::tr("its command \"%1\" could not be executed").arg(QString::fromUtf8(name)));
+    if (error)
+        throwError(error,
+                   CErrorText::tr("its command \"%1\" could not be executed")
+                       .arg(QString::fromUtf8(name)));
 }
 
 bool CFeatures::isDone(const QByteArray &name) const
@@ -168,7 +171,9 @@ bool CFeatures::isDone(const QByteArray &name) const
         return true;
     CErrorGuard error;
     const gint64 current = arv_gc_integer_get_value(ARV_GC_INTEGER(value), error.receive());
-    throwIf(error,
+    if (error)
+        throwError(
+            error,
             CErrorText::tr("it could not be found out whether its command \"%1\" has finished")
                 .arg(QString::fromUtf8(name)));
     return current != commandValue;
@@ -184,9 +189,11 @@ CFeatures::CRegister CFeatures::findRegister(const QByteArray &name) const
     CErrorGuard error;
     CRegister found;
     found.address = arv_gc_register_get_address(ARV_GC_REGISTER(node), error.receive());
-    throwIf(error, readingOf(name));
+    if (error)
+        throwError(error, readingOf(name));
     found.length = arv_gc_register_get_length(ARV_GC_REGISTER(node), error.receive());
-    throwIf(error, readingOf(name));
+    if (error)
+        throwError(error, readingOf(name));
     return found;
 }
 
@@ -195,7 +202,8 @@ void CFeatures::writeMemory(quint64 address, QByteArray bytes) const
     CErrorGuard error;
     arv_device_write_memory(m_device, address, static_cast<guint32>(bytes.size()), bytes.data(),
                             error.receive());
-    throwIf(error, CErrorText::tr("its memory could not be written"));
+    if (error)
+        throwError(error, CErrorText::tr("its memory could not be written"));
 }
 
 } // namespace Viewer::CameraPool::GenICam

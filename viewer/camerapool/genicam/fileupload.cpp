@@ -50,12 +50,13 @@ CFileUpload::~CFileUpload()
 
 void CFileUpload::open()
 {
-    attempt(CErrorText::tr("opening its file \"%1\" failed").arg(m_fileName), [this] {
-        prepare();
-        // A camera that has opened the file may still fail to say so.
-        m_mayBeOpen = true;
-        operate(QByteArrayLiteral("Open"));
-    });
+    attempt([this] { return CErrorText::tr("opening its file \"%1\" failed").arg(m_fileName); },
+            [this] {
+                prepare();
+                // A camera that has opened the file may still fail to say so.
+                m_mayBeOpen = true;
+                operate(QByteArrayLiteral("Open"));
+            });
 }
 
 int CFileUpload::getBlockSize() const
@@ -65,21 +66,24 @@ int CFileUpload::getBlockSize() const
 
 void CFileUpload::writeBlock(const QByteArray &block)
 {
-    attempt(CErrorText::tr("writing its file \"%1\" failed at byte %2")
-                .arg(m_fileName, QString::number(m_offset)),
-            [this, &block] { write(block); });
+    attempt(
+        [this] {
+            return CErrorText::tr("writing its file \"%1\" failed at byte %2")
+                .arg(m_fileName, QString::number(m_offset));
+        },
+        [this, &block] { write(block); });
 }
 
 void CFileUpload::close()
 {
     // Whether it works or not, it is not tried again.
     m_mayBeOpen = false;
-    attempt(CErrorText::tr("closing its file \"%1\" failed").arg(m_fileName),
+    attempt([this] { return CErrorText::tr("closing its file \"%1\" failed").arg(m_fileName); },
             [this] { operate(QByteArrayLiteral("Close")); });
 }
 
-template <typename Action>
-void CFileUpload::attempt(const CErrorText &failure, Action action)
+template <typename Describe, typename Action>
+void CFileUpload::attempt(Describe describe, Action action)
 {
     try {
         action();
@@ -87,7 +91,7 @@ void CFileUpload::attempt(const CErrorText &failure, Action action)
         // Asking a dead camera to close its file would only take as long again.
         if (error.getReason() == CFeatureError::EReason::NoAnswer)
             m_mayBeOpen = false;
-        throw CFeatureError(CErrorText::tr("%1: %2").arg(failure, error.getText()),
+        throw CFeatureError(CErrorText::tr("%1: %2").arg(describe(), error.getText()),
                             error.getReason());
     }
 }

@@ -37,9 +37,9 @@ private:
     void execute();
     void checkStatus() const;
 
-    /// Runs @p action; what it throws is thrown on behind @p failure.
-    template <typename Action>
-    void attempt(const Text::CErrorText &failure, Action action);
+    /// Runs @p action; what it throws is thrown on behind the text that @p describe then returns.
+    template <typename Describe, typename Action>
+    void attempt(Describe describe, Action action);
 
     const CFeatures &m_features;
     const QString m_fileName;

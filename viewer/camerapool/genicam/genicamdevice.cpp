@@ -19,9 +19,6 @@ using Text::CErrorText;
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 
-/// Cameras that write their flash memory while they start take long.
-static constexpr milliseconds ShortestResetLimit = 60s;
-
 /// How long a camera may take to say who it is before it is opened.
 static constexpr milliseconds IdentityLimit = 1s;
 
@@ -109,7 +106,8 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
             m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
             m_camera.serialNumber.toUtf8().constData(), error.receive()));
     }
-    throwIf(error, CErrorText::tr("it could not be opened"));
+    if (error)
+        throwError(error, CErrorText::tr("it could not be opened"));
     if (!device)
         throw CFeatureError(CErrorText::tr("it could not be opened"),
                             CFeatureError::EReason::NoAnswer);
@@ -196,7 +194,7 @@ void CGenICamDevice::uploadFile(const QString &fileName, QIODevice &source, qint
 
 void CGenICamDevice::resetAndWait(milliseconds timeLimit)
 {
-    const QDeadlineTimer deadline(std::max(timeLimit, ShortestResetLimit));
+    const QDeadlineTimer deadline(timeLimit);
     translate([this, &deadline] {
         QString oldVersion;
         if (!isPresent(oldVersion))
@@ -266,6 +264,12 @@ bool CGenICamDevice::isPresent(QString &version) const
 qint64 CGenICamDevice::getUploadRate() const
 {
     return UsualUploadRate;
+}
+
+milliseconds CGenICamDevice::getShortestResetLimit() const
+{
+    // Cameras that write their flash memory while they start take long.
+    return 60s;
 }
 
 CFeatures CGenICamDevice::getFeatures() const

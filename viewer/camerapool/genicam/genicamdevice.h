@@ -32,6 +32,7 @@ public:
                     const ProgressFunction &progress, std::chrono::milliseconds timeLimit) override;
     void resetAndWait(std::chrono::milliseconds timeLimit) override;
     [[nodiscard]] qint64 getUploadRate() const override;
+    [[nodiscard]] std::chrono::milliseconds getShortestResetLimit() const override;
 
 private:
     /// Addresses can be given to others between a search and an update.

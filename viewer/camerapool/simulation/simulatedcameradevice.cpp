@@ -191,6 +191,11 @@ qint64 CSimulatedCameraDevice::getUploadRate() const
     return m_camera->getDescription().uploadSpeed;
 }
 
+milliseconds CSimulatedCameraDevice::getShortestResetLimit() const
+{
+    return 0ms; // a simulated camera takes as long as its description says
+}
+
 void CSimulatedCameraDevice::fail(const CErrorText &cause) const
 {
     throw CCameraError(getName(), cause);

@@ -39,6 +39,7 @@ public:
                     const ProgressFunction &progress, std::chrono::milliseconds timeLimit) override;
     void resetAndWait(std::chrono::milliseconds timeLimit) override;
     [[nodiscard]] qint64 getUploadRate() const override;
+    [[nodiscard]] std::chrono::milliseconds getShortestResetLimit() const override;
 
 private:
     [[noreturn]] void fail(const Text::CErrorText &cause) const;

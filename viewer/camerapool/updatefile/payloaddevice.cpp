@@ -60,9 +60,7 @@ qint64 CPayloadDevice::readData(char *data, qint64 maximumSize)
         setFault(CErrorText::tr("the file \"%1\" is damaged and cannot be unpacked"));
         return -1;
     }
-    // QCryptographicHash counts in int; a block of 1 GiB and more is never asked for, as the
-    // unpacked size is limited.
-    m_hash.addData(data, static_cast<int>(size));
+    m_hash.addData(data, size);
     m_remaining -= size;
     if (m_remaining == 0 && !checkEnd())
         return -1;
@@ -87,8 +85,15 @@ bool CPayloadDevice::checkEnd()
         setFault(CErrorText::tr("the file \"%1\" is damaged and cannot be unpacked"));
         return false;
     }
-    if (!m_source.sha256.isEmpty() && m_hash.result() != m_source.sha256) {
-        setFault(CErrorText::tr("the payload \"%1\" does not match its SHA-256 in update.json"));
+    if (m_source.sha256.isEmpty())
+        return true;
+    const QByteArray sha256 = m_hash.takeResult();
+    if (sha256 != m_source.sha256) {
+        setFault(
+            sha256.isEmpty()
+                ? CErrorText::tr("the SHA-256 of the payload \"%1\" cannot be computed; check the "
+                                 "settings of OpenSSL on this computer")
+                : CErrorText::tr("the payload \"%1\" does not match its SHA-256 in update.json"));
         return false;
     }
     return true;

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "sha256.h"
+
 #include "viewer/text/errortext.h"
 
 #include <QByteArray>
-#include <QCryptographicHash>
 #include <QIODevice>
 
 #include <memory>
@@ -58,7 +59,7 @@ private:
     const std::shared_ptr<zip> m_archive; ///< outlives the file read from it
     const CSource m_source;
     std::unique_ptr<zip_file, CFileCloser> m_file;
-    QCryptographicHash m_hash{QCryptographicHash::Sha256};
+    CSha256 m_hash;
     qint64 m_remaining = 0;
     Text::CErrorText m_fault;
 };
