@@ -352,7 +352,13 @@ void CUpdateDialogsTest::showsProgressWhileItCannotBeClosed()
     for (const bool enable : {true, false}) {
         dialog.enableButtons(enable);
         QVERIFY(blinkSpy.isEmpty());
-        QCOMPARE(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint), enable);
+        // The same buttons as on a dialog that gets them before it is shown.
+        Qt::WindowFlags flags
+            = Qt::Dialog | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+        QDialog hidden;
+        hidden.setWindowFlags(flags.setFlag(Qt::WindowCloseButtonHint, enable));
+        QCOMPARE(dialog.windowFlags(), hidden.windowFlags());
+        QCOMPARE(dialog.windowHandle()->flags(), hidden.windowFlags());
         QCOMPARE(getButton(dialog, "Cancel")->isEnabled(), enable);
         QCOMPARE(record(dialog, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }),
                  "closeClicked()");
