@@ -1,5 +1,6 @@
 #include "updateselectiondialog.h"
 
+#include "accessibletreeview.h"
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
 #include "ui_updateselectiondialog.h"
@@ -36,6 +37,7 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
     : CUpdateDialogBase(parent)
     , m_ui(std::make_unique<Ui::UpdateSelectionDialogUi>())
 {
+    CAccessibleTreeView::installFactory();
     m_ui->setupUi(this);
     setIcon(m_ui->errorIconLabel, EIcon::Error);
     setIcon(m_ui->infoIconLabel, EIcon::Info);

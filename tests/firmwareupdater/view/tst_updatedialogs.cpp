@@ -30,6 +30,7 @@ private slots:
     void showEverythingAtEverySize();
     void showsTheFirstUpdate();
     void announcesThePathOfTheUser();
+    void pathCanBeRead();
     void warningsCloseTheirGap();
     void showsProgressWhileItCannotBeClosed();
     void showsTextsForTheOutcome();
@@ -322,10 +323,38 @@ void CUpdateDialogsTest::announcesThePathOfTheUser()
     lineEdit->setCursorPosition(2);
     dialog.updateFileSelection("/a.guf");
     QTest::keyClick(lineEdit, Qt::Key_X);
+    // By speech, or by a program that fills fields in.
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(lineEdit);
+    QAccessibleEditableTextInterface *const editor = accessible->editableTextInterface();
+    editor->replaceText(0, accessible->textInterface()->characterCount(), "/b.guf");
+    editor->insertText(2, "c");
+    editor->deleteText(3, 99);
+    accessible->setText(QAccessible::Value, "/d.guf");
+    lineEdit->setText("/e.guf");
     dialog.hide();
-    QCOMPARE(
-        paths,
-        QStringList({QDir::toNativeSeparators(QDir::homePath()) + ", hidden", "/ax.guf, visible"}));
+    QCOMPARE(paths.takeFirst(), QDir::toNativeSeparators(QDir::homePath()) + ", hidden");
+    QCOMPARE(paths.join(' ').remove(", visible"), "/ax.guf /b.guf /bc.guf /bc /d.guf");
+}
+
+void CUpdateDialogsTest::pathCanBeRead()
+{
+    auto *const lineEdit = find<QLineEdit>(m_dialogs->file, "updateFileLineEdit");
+    m_dialogs->file.show();
+    lineEdit->setText(QString("/folder").repeated(40));
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(lineEdit);
+    QAccessibleTextInterface *const text = accessible->textInterface();
+    QCOMPARE(accessible->text(QAccessible::Value), lineEdit->text());
+    QCOMPARE(text->text(270, text->characterCount()), "der/folder");
+    // The end of the long path; a field scrolls to its cursor when it is painted.
+    text->setCursorPosition(280);
+    lineEdit->grab();
+    const QRect last = text->characterRect(279);
+    QVERIFY(accessible->rect().contains(last));
+    QCOMPARE(text->offsetAtPoint({last.left() + 1, last.center().y()}), 279);
+    text->setSelection(0, 3, 6);
+    int start = 0, end = 0;
+    text->selection(0, &start, &end);
+    QCOMPARE(lineEdit->selectedText() + QString("%1 %2").arg(start).arg(end), "lde3 6");
 }
 
 void CUpdateDialogsTest::warningsCloseTheirGap()
