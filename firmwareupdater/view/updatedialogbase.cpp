@@ -4,6 +4,7 @@
 #include "readablepalette.h"
 #include "style/buttonfocusstyle.h"
 #include "style/icons.h"
+#include "surplusitem.h"
 #include "treeviewheaderview.h"
 
 #include <QCloseEvent>
@@ -57,11 +58,8 @@ void CUpdateDialogBase::initializeFrame(const QLabel *title, QVBoxLayout *conten
     m_content = content;
     for (int i = 0; i < content->count(); ++i) {
         QSpacerItem *gap = content->itemAt(i)->spacerItem();
-        if (!gap)
-            continue;
-        if (gap->expandingDirections() & Qt::Vertical) {
-            content->setStretch(i, 1);
-        } else if (gap->sizeHint().height() > ROW_GAP) {
+        if (gap && !(gap->expandingDirections() & Qt::Vertical)
+            && gap->sizeHint().height() > ROW_GAP) {
             m_gaps.append(gap);
             m_designGapHeights.append(gap->sizeHint().height());
         }
@@ -104,8 +102,9 @@ void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
     m_treeView = treeView;
     treeView->setAccessibleName(QObject::tr("Cameras"));
     treeView->setModel(nullptr);
-    // Rows need the height of a large page more than the gaps below them.
-    m_content->setStretchFactor(treeView, 8);
+    const int index = m_content->indexOf(treeView);
+    delete m_content->takeAt(index);
+    m_content->insertItem(index, new CSurplusItem(treeView, m_designMinimumSize.height()));
     treeView->setHeader(new CTreeViewHeaderView);
 }
 
@@ -252,6 +251,10 @@ void CUpdateDialogBase::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     fitGaps();
+    // The layout must ask the tree again for the height that it wants, and spacers, which do not
+    // tell it of a new size.
+    m_content->invalidate();
+    layout()->activate();
     if (!m_columns.isEmpty())
         fitColumns();
 }
@@ -290,9 +293,6 @@ void CUpdateDialogBase::fitGaps()
                                  isCompact ? designHeight / 2 : designHeight, QSizePolicy::Minimum,
                                  QSizePolicy::Fixed);
     }
-    // A spacer does not tell its layout of a new size.
-    m_content->invalidate();
-    layout()->activate();
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -39,6 +39,8 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
 {
     CAccessibleTreeView::installFactory();
     m_ui->setupUi(this);
+    // On a wide page the button stays beside the field.
+    m_ui->contentVerticalLayout->setAlignment(m_ui->fileSelectionHorizontalLayout, Qt::AlignLeft);
     setIcon(m_ui->errorIconLabel, EIcon::Error);
     setIcon(m_ui->infoIconLabel, EIcon::Info);
     initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);
