@@ -1,18 +1,25 @@
 #include "accessibletreeview.h"
 
+#include "accessiblepathfield.h"
 #include "accessibletreecell.h"
 #include "accessibletreetitle.h"
 #include "customtreeview.h"
+#include "updateselectiondialog.h"
 
 #include <QHeaderView>
+#include <QLineEdit>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
 static QAccessibleInterface *createInterface(const QString &className, QObject *object)
 {
     Q_UNUSED(className)
-    auto *const view = qobject_cast<CCustomTreeView *>(object);
-    return view ? new CAccessibleTreeView(view) : nullptr;
+    if (auto *const view = qobject_cast<CCustomTreeView *>(object))
+        return new CAccessibleTreeView(view);
+    auto *const field = qobject_cast<QLineEdit *>(object);
+    if (field && qobject_cast<CUpdateSelectionDialog *>(field->parent()))
+        return new CAccessiblePathField(field);
+    return nullptr;
 }
 
 CAccessibleTreeView::CAccessibleTreeView(CCustomTreeView *view)

@@ -22,7 +22,8 @@ class CAccessibleTreeView final : public QAccessibleWidget, public QAccessibleTa
 public:
     explicit CAccessibleTreeView(CCustomTreeView *view);
 
-    /// Lets Qt make this for each camera tree that somebody asks about.
+    /// Lets Qt make this for each camera tree that somebody asks about, and what else of the wizard
+    /// Qt would describe wrongly for its control.
     static void installFactory();
 
     /// Leaves the trees that nobody has asked about to Qt.

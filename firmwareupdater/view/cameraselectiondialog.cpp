@@ -15,8 +15,6 @@ CCameraSelectionDialog::CCameraSelectionDialog(QWidget *parent)
     , m_ui(std::make_unique<Ui::CameraSelectionDialogUi>())
 {
     m_ui->setupUi(this);
-    // The tree begins as far below the title as on the other pages.
-    m_ui->stepTitleLabel->setContentsMargins(0, 0, 0, 21);
     setIcon(m_ui->infoIconLabel, EIcon::Info);
     initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);
     m_nextButton = addNextButton(tr("Next"));

@@ -82,8 +82,10 @@ void CFirmwareUpdateDialog::enableButtons(bool enable)
 {
     enableDefaultButton(m_cancelButton, enable);
 
-    Qt::WindowFlags flags
-        = Qt::Dialog | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+    // Where a window is made with these buttons, Qt adds the title bar that holds them; where it
+    // has them replaced, it does not.
+    Qt::WindowFlags flags = Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
+        | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
     flags.setFlag(Qt::WindowCloseButtonHint, enable);
     if (isVisible()) {
         // Hiding the page to show it with other buttons would be seen, and lose its place.

@@ -4,6 +4,10 @@
 
 #include <QLabel>
 #include <QTextDocument>
+#include <QTextFormat>
+#include <QVector>
+
+#include <algorithm>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
@@ -31,6 +35,17 @@ void setReadableColors(QPalette &palette)
     palette.setColor(QPalette::Shadow, button.darker(200));
 }
 
+static bool hasLinks(const QLabel &label)
+{
+    // Fills the document.
+    label.sizeHint();
+    const auto *const document = label.findChild<QTextDocument *>();
+    const QVector<QTextFormat> formats = document ? document->allFormats() : QVector<QTextFormat>();
+    return std::any_of(formats.cbegin(), formats.cend(), [](const QTextFormat &format) {
+        return format.hasProperty(QTextFormat::AnchorHref);
+    });
+}
+
 void showTextWithLinks(QLabel *label, const QString &text)
 {
     label->setText(text);
@@ -40,6 +55,7 @@ void showTextWithLinks(QLabel *label, const QString &text)
         document->setDefaultStyleSheet(
             QStringLiteral("a { color: %1 }").arg(Constants::LINK_COLOR.name()));
     }
+    label->setFocusPolicy(hasLinks(*label) ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -14,7 +14,8 @@ void setReadableText(QPalette &palette, QPalette::ColorRole role);
 /// of buttons and scroll bars, which would stand out of a white page under a dark palette.
 void setReadableColors(QPalette &palette);
 
-/// Shows @p text, whose links have a colour that can be read on white.
+/// Shows @p text, whose links have a colour that can be read on white. Only a text with links is a
+/// stop for Tab.
 void showTextWithLinks(QLabel *label, const QString &text);
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -12,9 +12,6 @@ namespace Plugin::FirmwareUpdater::Internal::View {
 
 using Entity::CFirmwareUpdateEntity;
 
-/// Space between the line and the first row below it.
-static constexpr int LINE_GAP = 10;
-
 /// Lets words be broken that are longer than any in a language, as they would be cut off.
 static QString makeBreakable(QString text)
 {
@@ -138,9 +135,6 @@ void CResultSummaryDialog::showTexts(bool isFailure)
         widget->setVisible(!isFailure);
     for (QWidget *widget : failureWidgets)
         widget->setVisible(isFailure);
-    // The row that follows the line keeps off it; a hidden row's margin would still take its place.
-    m_ui->errorHorizontalLayout->setContentsMargins(0, isFailure ? LINE_GAP : 0, 0, 0);
-    m_ui->infoHorizontalLayout_2->setContentsMargins(0, isFailure ? 0 : LINE_GAP, 0, 0);
     m_ui->repeatHintSpacer->changeSize(0, isFailure ? 0 : 16, QSizePolicy::Minimum,
                                        QSizePolicy::Fixed);
     // A spacer does not tell its layout of a new size.

@@ -1,16 +1,18 @@
 #include "updatedialogbase.h"
 
 #include "cellrendering.h"
+#include "linklabel.h"
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
-#include "style/buttonfocusstyle.h"
+#include "style/focusstyle.h"
 #include "style/icons.h"
+#include "surplusitem.h"
 #include "treeviewheaderview.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLabel>
+#include <QPainter>
 #include <QScreen>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -27,11 +29,24 @@ static constexpr QSize FRAME_SIZE(10, 40);
 /// Gaps up to this height hold rows apart that belong together, and stay on small screens, too.
 static constexpr int ROW_GAP = 16;
 
+/// Room between a control and the frame that the page draws around it.
+static constexpr QMargins FRAME_MARGINS(3, 3, 3, 3);
+
+/// Whether @p control frames a part of itself when it has the focus: a button its text, a text its
+/// link, a tree its row. Around others the page does it.
+static bool showsFocus(const QWidget &control)
+{
+    if (const auto *const view = qobject_cast<const QAbstractItemView *>(&control))
+        return view->currentIndex().isValid();
+    return qobject_cast<const QAbstractButton *>(&control)
+        || qobject_cast<const QLabel *>(&control);
+}
+
 CUpdateDialogBase::CUpdateDialogBase(QWidget *parent)
     : QDialog(parent,
               Qt::Window | Qt::WindowMaximizeButtonHint | Qt::CustomizeWindowHint
                   | Qt::WindowCloseButtonHint)
-    , m_buttonStyle(new Style::CButtonFocusStyle(this))
+    , m_focusStyle(new Style::CFocusStyle(this))
 {
 }
 
@@ -58,11 +73,8 @@ void CUpdateDialogBase::initializeFrame(const QLabel *title, QVBoxLayout *conten
     m_content = content;
     for (int i = 0; i < content->count(); ++i) {
         QSpacerItem *gap = content->itemAt(i)->spacerItem();
-        if (!gap)
-            continue;
-        if (gap->expandingDirections() & Qt::Vertical) {
-            content->setStretch(i, 1);
-        } else if (gap->sizeHint().height() > ROW_GAP) {
+        if (gap && !(gap->expandingDirections() & Qt::Vertical)
+            && gap->sizeHint().height() > ROW_GAP) {
             m_gaps.append(gap);
             m_designGapHeights.append(gap->sizeHint().height());
         }
@@ -81,9 +93,18 @@ void CUpdateDialogBase::initializeFrame(const QLabel *title, QVBoxLayout *conten
             pushButton->setAutoDefault(false);
             // Back and Next have no icon either.
             pushButton->setIcon({});
-            pushButton->setStyle(m_buttonStyle);
         }
     }
+    const QList<QPushButton *> pushButtons = findChildren<QPushButton *>();
+    for (QPushButton *pushButton : pushButtons)
+        pushButton->setStyle(m_focusStyle);
+    const QList<CLinkLabel *> labels = findChildren<CLinkLabel *>();
+    for (CLinkLabel *label : labels) {
+        label->setStyle(m_focusStyle);
+        showTextWithLinks(label, label->text());
+    }
+    // The page draws frames around some of its controls.
+    connect(qApp, &QApplication::focusChanged, this, [this] { update(); });
 
     QPalette readable = palette();
     setReadableColors(readable);
@@ -108,8 +129,9 @@ void CUpdateDialogBase::initializeCameraTree(QTreeView *treeView)
     // Cells draw their texts in this size anyway. A larger one, as of the desktop, would only make
     // those without a height of their own ask for more than their row has.
     setCellFont(treeView);
-    // Rows need the height of a large page more than the gaps below them.
-    m_content->setStretchFactor(treeView, 8);
+    const int index = m_content->indexOf(treeView);
+    delete m_content->takeAt(index);
+    m_content->insertItem(index, new CSurplusItem(treeView, m_designMinimumSize.height()));
     treeView->setHeader(new CTreeViewHeaderView);
 }
 
@@ -133,7 +155,7 @@ QPushButton *CUpdateDialogBase::addNextButton(const QString &text)
 QPushButton *CUpdateDialogBase::addButton(const QString &text, QDialogButtonBox::ButtonRole role)
 {
     QPushButton *button = m_buttonBox->addButton(text, role);
-    button->setStyle(m_buttonStyle);
+    button->setStyle(m_focusStyle);
     return button;
 }
 
@@ -256,8 +278,24 @@ void CUpdateDialogBase::resizeEvent(QResizeEvent *event)
 {
     QDialog::resizeEvent(event);
     fitGaps();
+    // The layout must ask the tree again for the height that it wants, and spacers, which do not
+    // tell it of a new size.
+    m_content->invalidate();
+    layout()->activate();
     if (!m_columns.isEmpty())
         fitColumns();
+}
+
+void CUpdateDialogBase::paintEvent(QPaintEvent *event)
+{
+    QDialog::paintEvent(event);
+    const QWidget *const control = focusWidget();
+    if (!control || !control->hasFocus() || !testAttribute(Qt::WA_KeyboardFocusChange)
+        || showsFocus(*control))
+        return;
+    QPainter painter(this);
+    const QRect place(control->mapTo(this, QPoint()), control->size());
+    Style::CFocusStyle::drawFrame(&painter, place + FRAME_MARGINS, palette());
 }
 
 void CUpdateDialogBase::fitColumns()
@@ -294,9 +332,6 @@ void CUpdateDialogBase::fitGaps()
                                  isCompact ? designHeight / 2 : designHeight, QSizePolicy::Minimum,
                                  QSizePolicy::Fixed);
     }
-    // A spacer does not tell its layout of a new size.
-    m_content->invalidate();
-    layout()->activate();
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

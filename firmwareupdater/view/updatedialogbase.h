@@ -19,7 +19,7 @@ class CFirmwareUpdateTreeModel;
 }
 
 namespace Plugin::FirmwareUpdater::Internal::Style {
-class CButtonFocusStyle;
+class CFocusStyle;
 }
 
 namespace Plugin::FirmwareUpdater::Internal::View {
@@ -116,6 +116,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -126,7 +127,7 @@ private:
     void focusFirstControl();
 
     QSharedPointer<Model::CFirmwareUpdateTreeModel> m_model;
-    Style::CButtonFocusStyle *const m_buttonStyle;
+    Style::CFocusStyle *const m_focusStyle;
     QDialogButtonBox *m_buttonBox = nullptr;
     QVBoxLayout *m_content = nullptr;
     QVector<QSpacerItem *> m_gaps; ///< those of m_content that give way on small screens

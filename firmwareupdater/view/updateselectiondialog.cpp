@@ -1,5 +1,6 @@
 #include "updateselectiondialog.h"
 
+#include "accessibletreeview.h"
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
 #include "ui_updateselectiondialog.h"
@@ -36,7 +37,10 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
     : CUpdateDialogBase(parent)
     , m_ui(std::make_unique<Ui::UpdateSelectionDialogUi>())
 {
+    CAccessibleTreeView::installFactory();
     m_ui->setupUi(this);
+    // On a wide page the button stays beside the field.
+    m_ui->contentVerticalLayout->setAlignment(m_ui->fileSelectionHorizontalLayout, Qt::AlignLeft);
     setIcon(m_ui->errorIconLabel, EIcon::Error);
     setIcon(m_ui->infoIconLabel, EIcon::Info);
     initializeFrame(m_ui->stepTitleLabel, m_ui->contentVerticalLayout, m_ui->buttonBox);

@@ -1,6 +1,7 @@
 #include "support/accessiblereader.h"
 #include "viewfixture.h"
 
+#include <QDesktopServices>
 #include <QDialogButtonBox>
 #include <QLayout>
 #include <QLineEdit>
@@ -15,6 +16,9 @@ using namespace ViewFixture;
 using namespace Plugin::FirmwareUpdater::Internal::View;
 using TestSupport::CUpdaterFixture;
 
+/// The size for which the forms were made.
+static constexpr QSize STANDARD_SIZE(570, 556);
+
 /// The dialogs of the five steps, and what they have from their base.
 class CUpdateDialogsTest : public QObject
 {
@@ -26,19 +30,30 @@ private slots:
     void stayOpenWhenTheUserLeaves();
     void enterClicksNothingButNext();
     void controlsHaveNames();
+    void tabGoesFromTopToBottom_data();
     void tabGoesFromTopToBottom();
+    void standardSizeIsThatOfTheForms_data();
+    void standardSizeIsThatOfTheForms();
+    void surplusGoesToTheTrees();
     void columnsFillTheTree();
     void showEverythingAtEverySize_data();
     void showEverythingAtEverySize();
     void showsTheFirstUpdate();
     void announcesThePathOfTheUser();
+    void pathCanBeRead();
     void warningsCloseTheirGap();
     void showsProgressWhileItCannotBeClosed();
     void renewsOnlyWhatChanges();
     void showsTextsForTheOutcome();
 
+    void open(const QUrl &url) { m_opened.append(url.toString()); }
+
 private:
     bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// The places to which @p key leads, from top to bottom, beginning with the control that has
+    /// the focus. Links are opened.
+    static QString walk(QDialog &dialog, Qt::Key key);
 
     /// The dialog's signals that @p act leads to.
     template <typename TAct>
@@ -52,6 +67,7 @@ private:
 
     std::unique_ptr<CPages> m_dialogs;
     QRegion m_painted; ///< of what is watched
+    QStringList m_opened;
 };
 
 void CUpdateDialogsTest::init()
@@ -59,6 +75,9 @@ void CUpdateDialogsTest::init()
     m_dialogs = std::make_unique<CPages>();
     for (CUpdateDialogBase *const dialog : m_dialogs->all)
         dialog->setModel(makeList(3));
+    QDesktopServices::setUrlHandler("https", this, "open");
+    QDesktopServices::setUrlHandler("mailto", this, "open");
+    QDesktopServices::setUrlHandler("", this, "open");
 }
 
 template <typename TAct>
@@ -164,40 +183,194 @@ void CUpdateDialogsTest::controlsHaveNames()
     QVERIFY(AccessibleReader::takeAnnouncements().contains("name Camera 2 of 3"));
 }
 
+QString CUpdateDialogsTest::walk(QDialog &dialog, Qt::Key key)
+{
+    const auto grab = [&dialog](QWidget *control) {
+        QRect place = control->rect();
+        for (const QWidget *i = control; i != &dialog; i = i->parentWidget())
+            place = place.translated(i->pos()) & i->parentWidget()->rect();
+        return dialog.grab(place.adjusted(-4, -4, 4, 4)).toImage();
+    };
+    QStringList stops;
+    QStringList unseen;
+    while (true) {
+        QWidget *const control = QApplication::focusWidget();
+        const auto *const label = qobject_cast<QLabel *>(control);
+        const auto *const button = qobject_cast<QPushButton *>(control);
+        const QString stop = label                ? label->selectedText()
+            : button && !button->text().isEmpty() ? button->text().remove('&')
+                                                  : control->objectName();
+        if (stop == stops.value(0))
+            break;
+        stops.append(stop);
+        if (label)
+            QTest::keyClick(control, Qt::Key_Return);
+        const QImage focused = grab(control);
+        QTest::keyClick(control, key);
+        // All buttons show it alike, by a frame around their text.
+        const QRgb color = control->palette().color(QPalette::Highlight).rgb();
+        const int edge = qRound(6 * focused.devicePixelRatio());
+        const QRect frame = findPixels(focused, focused.rect().adjusted(edge, edge, -edge, -edge),
+                                       [color](QRgb pixel) { return pixel == color; });
+        if (grab(control) == focused || (button && frame.isEmpty()))
+            unseen.append(stop);
+    }
+    if (key == Qt::Key_Backtab)
+        std::reverse(stops.begin() + 1, stops.end());
+    return stops.join(", ") + (unseen.isEmpty() ? "" : "; not seen: " + unseen.join(", "));
+}
+
+void CUpdateDialogsTest::tabGoesFromTopToBottom_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("isFilled");
+    QTest::addColumn<QString>("stops");
+    QTest::addColumn<QString>("links");
+    const auto addRow
+        = [](const char *name, int page, bool isFilled, const char *stops, const char *links = "") {
+              QTest::newRow(name) << page << isFilled << stops << links;
+          };
+    addRow("no cameras", 0, false, "cameraTreeView, refreshButton, Next, Close");
+    addRow("cameras", 0, true, "cameraTreeView, refreshButton, Next, Close");
+    addRow("no links", 1, false, "updateFileLineEdit, Browse, Back, Next, Close");
+    addRow("links", 1, true,
+           "updateFileLineEdit, Browse, scrollArea, one, two, Korvane Support, Back, Next, Close",
+           "mailto:one mailto:two https://a.example");
+    addRow("summary", 2, true, "cameraTreeView, Back, Next, Close");
+    addRow("update", 3, true, "cameraTreeView, Cancel");
+    addRow("result", 4, true, "cameraTreeView, log file, Korvane Support, Next, Close",
+           "/tmp/a.log https://a.example");
+}
+
 void CUpdateDialogsTest::tabGoesFromTopToBottom()
 {
-    m_dialogs->file.setKorvaneSupportUrl("http://a");
-    m_dialogs->result.setInfoTextData("http://a", "/b.log");
-    m_dialogs->result.updateView();
-    QVector<int> counts;
-    for (CUpdateDialogBase *const dialog : m_dialogs->all) {
-        dialog->show();
-        QVERIFY(QTest::qWaitForWindowActive(dialog));
-        QVector<QWidget *> reached;
-        QVector<std::pair<int, int>> places;
-        QWidget *focus = QApplication::focusWidget();
-        for (; !reached.contains(focus); focus = QApplication::focusWidget()) {
-            reached.append(focus);
-            const QPoint corner = focus->mapTo(dialog, QPoint());
-            places.append({corner.y(), corner.x()});
-            const QImage focused = focus->grab().toImage();
-            // The first stroke on a text goes to its link.
-            for (int i = 0; i < 2 && QApplication::focusWidget() == focus; ++i)
-                QTest::keyClick(focus, Qt::Key_Tab);
-            // Also the button that Enter clicks shows whether it has the focus.
-            QVERIFY(!qobject_cast<QPushButton *>(focus) || focus->grab().toImage() != focused);
-        }
-        QCOMPARE(focus, reached.constFirst());
-        QVERIFY(std::is_sorted(places.cbegin(), places.cend()));
-        counts.append(reached.count());
-        // Whichever control was used last, the page comes back with its first one.
-        reached.constLast()->setFocus();
-        dialog->hide();
-        dialog->show();
-        QCOMPARE(dialog->focusWidget(), reached.constFirst());
-        dialog->hide();
+    QFETCH(int, page);
+    QFETCH(bool, isFilled);
+    QFETCH(QString, stops);
+    QFETCH(QString, links);
+    CPages pages;
+    const ModelPtr noCameras = makeList(0);
+    if (!isFilled) {
+        pages.selection.setModel(noCameras);
+    } else {
+        const QString lines = QString("Words<br>").repeated(40);
+        pages.fill(3,
+                   lines + "<a href='mailto:one'>one</a> " + lines
+                       + "<a href='mailto:two'>two</a><br>" + lines + "Words");
+        pages.file.updateCompatibility(true, false);
     }
-    QCOMPARE(counts, QVector<int>({4, 7, 4, 2, 4}));
+    QDialog &dialog = *pages.all.at(page);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QWidget *const first = dialog.focusWidget();
+    // Words can be marked, and then Tab begins with the first link nevertheless.
+    auto *const notes = find<QLabel>(dialog, "updateNotesTextLabel");
+    if (notes && isFilled) {
+        QTest::mouseDClick(notes, Qt::LeftButton, {}, {10, notes->height() - 5});
+        QCOMPARE(notes->selectedText(), "Words");
+        first->setFocus();
+    }
+
+    // The controls show the focus to those who use the keyboard.
+    QTest::keyClick(first, Qt::Key_Backtab);
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    m_opened.clear();
+    QCOMPARE(walk(dialog, Qt::Key_Tab), stops);
+    QCOMPARE(m_opened.join(' '), links);
+    QCOMPARE(walk(dialog, Qt::Key_Backtab), stops);
+
+    // Whichever control was used last, the page comes back with its first one.
+    dialog.hide();
+    dialog.show();
+    QCOMPARE(dialog.focusWidget(), first);
+}
+
+void CUpdateDialogsTest::standardSizeIsThatOfTheForms_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("isFilled");
+    QTest::addColumn<QString>("gaps");
+    QTest::newRow("selection") << 0 << true << "63 24 19";
+    QTest::newRow("file") << 1 << true << "63 37 47 38 18 20 17 65";
+    QTest::newRow("warnings") << 2 << true << "63 21 40 13 13 15 24";
+    QTest::newRow("no warnings") << 2 << false << "63 21 40 0 0 15 24";
+    QTest::newRow("update") << 3 << true << "63 21 26 5 18 20 42 25";
+    QTest::newRow("failure") << 4 << true << "63 21 42 40 5 5 20 0 16 36";
+    QTest::newRow("success") << 4 << false << "63 21 42 40 5 5 20 16 16 36";
+}
+
+void CUpdateDialogsTest::standardSizeIsThatOfTheForms()
+{
+    QFETCH(int, page);
+    QFETCH(bool, isFilled);
+    QFETCH(QString, gaps);
+    m_dialogs->summary.updateDowngradeInfo(false);
+    m_dialogs->summary.updateSidegradeInfo(false);
+    m_dialogs->result.updateView();
+    CPages filled;
+    filled.fill(60, "Text");
+    QDialog &dialog = *(isFilled ? filled : *m_dialogs).all.at(page);
+    dialog.setMinimumSize(STANDARD_SIZE);
+    dialog.show();
+    dialog.resize(STANDARD_SIZE);
+
+    const auto *const content = find<QVBoxLayout>(dialog, "contentVerticalLayout");
+    QStringList found;
+    int bottom = 0;
+    int shortage = 0;
+    for (int i = 0; i < content->count(); ++i) {
+        QLayoutItem *const item = content->itemAt(i);
+        const int height = item->geometry().height();
+        if (const QSpacerItem *const gap = item->spacerItem()) {
+            const int hint = gap->sizeHint().height();
+            found.append(QString::number(hint));
+            // Where the rows are higher than the page, the tree gives way as much as each gap.
+            if (!(gap->expandingDirections() & Qt::Vertical))
+                QCOMPARE(height, hint);
+            else if (shortage == 0)
+                QVERIFY(height >= hint);
+            else
+                QVERIFY(qAbs(hint - height - qMin(shortage, hint)) <= 1);
+        } else if (item->widget() && item->widget() == getTree(dialog) && page > 0) {
+            shortage = 192 - height;
+            QVERIFY(shortage >= 0);
+        }
+        // Nothing stands between rows and gaps, and nothing else is in them.
+        if (item->spacerItem() || !item->isEmpty()) {
+            QCOMPARE(item->geometry().top(), bottom + 1);
+            bottom += height;
+        }
+        const QMargins margins = item->layout() ? item->layout()->contentsMargins()
+            : item->widget()                    ? item->widget()->contentsMargins()
+                                                : QMargins();
+        QCOMPARE(margins.top() + margins.bottom(), 0);
+    }
+    QCOMPARE(found.join(' '), gaps);
+    QCOMPARE(bottom + 1, find(dialog, "bottomSpaceLine")->y());
+}
+
+void CUpdateDialogsTest::surplusGoesToTheTrees()
+{
+    m_dialogs = std::make_unique<CPages>();
+    m_dialogs->fill(60, "Text");
+    for (CUpdateDialogBase *const dialog : m_dialogs->all) {
+        const QTreeView *const tree = getTree(*dialog);
+        if (!tree)
+            continue;
+        dialog->setMinimumSize(STANDARD_SIZE);
+        dialog->show();
+        for (const int width : {570, 1280}) {
+            dialog->resize(width, STANDARD_SIZE.height());
+            const int standard = tree->height();
+            for (const int surplus : {1, 2, 44, 449, 1, 0}) {
+                dialog->resize(width, STANDARD_SIZE.height() + surplus);
+                QCOMPARE(tree->height(), standard + surplus);
+            }
+        }
+    }
+    const QRect counter = find(m_dialogs->update, "progressIndicatorLabel")->geometry();
+    QCOMPARE(counter.left(), 29);
+    QCOMPARE(counter.width(), 1280 - 2 * 29);
 }
 
 void CUpdateDialogsTest::columnsFillTheTree()
@@ -247,8 +420,8 @@ void CUpdateDialogsTest::showEverythingAtEverySize_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<qreal>("textScale");
-    QTest::newRow("design size") << QSize(570, 556) << 1.0;
-    QTest::newRow("texts of 150 %") << QSize(570, 556) << 1.5;
+    QTest::newRow("standard size") << STANDARD_SIZE << 1.0;
+    QTest::newRow("texts of 150 %") << STANDARD_SIZE << 1.5;
     QTest::newRow("1024 x 768 at 150 %") << QSize(570, 472) << 1.0;
     QTest::newRow("maximized") << QSize(1280, 1005) << 1.0;
 }
@@ -283,8 +456,6 @@ void CUpdateDialogsTest::showEverythingAtEverySize()
     const auto *const path = find(m_dialogs->file, "updateFileLineEdit");
     QVERIFY(path->fontMetrics().height() < path->height() - 1);
     QVERIFY(find(m_dialogs->file, "browseButton")->x() - path->geometry().right() < 10);
-    QVERIFY(find(m_dialogs->update, "progressIndicatorLabel")->geometry().center().x()
-            < find(m_dialogs->update, "progressBar")->geometry().right());
 }
 
 void CUpdateDialogsTest::showsTheFirstUpdate()
@@ -328,10 +499,38 @@ void CUpdateDialogsTest::announcesThePathOfTheUser()
     lineEdit->setCursorPosition(2);
     dialog.updateFileSelection("/a.guf");
     QTest::keyClick(lineEdit, Qt::Key_X);
+    // By speech, or by a program that fills fields in.
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(lineEdit);
+    QAccessibleEditableTextInterface *const editor = accessible->editableTextInterface();
+    editor->replaceText(0, accessible->textInterface()->characterCount(), "/b.guf");
+    editor->insertText(2, "c");
+    editor->deleteText(3, 99);
+    accessible->setText(QAccessible::Value, "/d.guf");
+    lineEdit->setText("/e.guf");
     dialog.hide();
-    QCOMPARE(
-        paths,
-        QStringList({QDir::toNativeSeparators(QDir::homePath()) + ", hidden", "/ax.guf, visible"}));
+    QCOMPARE(paths.takeFirst(), QDir::toNativeSeparators(QDir::homePath()) + ", hidden");
+    QCOMPARE(paths.join(' ').remove(", visible"), "/ax.guf /b.guf /bc.guf /bc /d.guf");
+}
+
+void CUpdateDialogsTest::pathCanBeRead()
+{
+    auto *const lineEdit = find<QLineEdit>(m_dialogs->file, "updateFileLineEdit");
+    m_dialogs->file.show();
+    lineEdit->setText(QString("/folder").repeated(40));
+    QAccessibleInterface *const accessible = QAccessible::queryAccessibleInterface(lineEdit);
+    QAccessibleTextInterface *const text = accessible->textInterface();
+    QCOMPARE(accessible->text(QAccessible::Value), lineEdit->text());
+    QCOMPARE(text->text(270, text->characterCount()), "der/folder");
+    // The end of the long path; a field scrolls to its cursor when it is painted.
+    text->setCursorPosition(280);
+    lineEdit->grab();
+    const QRect last = text->characterRect(279);
+    QVERIFY(accessible->rect().contains(last));
+    QCOMPARE(text->offsetAtPoint({last.left() + 1, last.center().y()}), 279);
+    text->setSelection(0, 3, 6);
+    int start = 0, end = 0;
+    text->selection(0, &start, &end);
+    QCOMPARE(lineEdit->selectedText() + QString("%1 %2").arg(start).arg(end), "lde3 6");
 }
 
 void CUpdateDialogsTest::warningsCloseTheirGap()
@@ -358,7 +557,13 @@ void CUpdateDialogsTest::showsProgressWhileItCannotBeClosed()
     for (const bool enable : {true, false}) {
         dialog.enableButtons(enable);
         QVERIFY(blinkSpy.isEmpty());
-        QCOMPARE(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint), enable);
+        // The same buttons as on a dialog that gets them before it is shown.
+        Qt::WindowFlags flags
+            = Qt::Dialog | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+        QDialog hidden;
+        hidden.setWindowFlags(flags.setFlag(Qt::WindowCloseButtonHint, enable));
+        QCOMPARE(dialog.windowFlags(), hidden.windowFlags());
+        QCOMPARE(dialog.windowHandle()->flags(), hidden.windowFlags());
         QCOMPARE(getButton(dialog, "Cancel")->isEnabled(), enable);
         QCOMPARE(record(dialog, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }),
                  "closeClicked()");
