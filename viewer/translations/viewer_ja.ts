@@ -162,6 +162,10 @@
         <source>This viewer was built without the library for cameras on real wires.</source>
         <translation>このビューアーは、実際に接続されたカメラ用のライブラリなしでビルドされています。</translation>
     </message>
+    <message>
+        <source>No folder is given for the plug-ins.</source>
+        <translation>プラグインのフォルダーが指定されていません。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -873,6 +877,17 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::PluginSystem::CPathTrust</name>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>ユーザー %1 の所有物です</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>所有者以外のユーザーが書き込めます</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
@@ -924,6 +939,14 @@ Firmware: %5</source>
     <message>
         <source>The file is damaged or is not a library.</source>
         <translation>ファイルが破損しているか、ライブラリではありません。</translation>
+    </message>
+    <message>
+        <source>Its folder &quot;%1&quot; is not safe: %2.</source>
+        <translation>フォルダー「%1」は安全ではありません: %2。</translation>
+    </message>
+    <message>
+        <source>Its file is not safe: %1.</source>
+        <translation>ファイルは安全ではありません: %1。</translation>
     </message>
 </context>
 <context>

@@ -162,6 +162,10 @@
         <source>This viewer was built without the library for cameras on real wires.</source>
         <translation>이 뷰어는 실제 연결된 카메라용 라이브러리 없이 빌드되었습니다.</translation>
     </message>
+    <message>
+        <source>No folder is given for the plug-ins.</source>
+        <translation>플러그인 폴더가 지정되지 않았습니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -873,6 +877,17 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::PluginSystem::CPathTrust</name>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>사용자 %1의 소유입니다</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>소유자가 아닌 사용자가 쓸 수 있습니다</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
@@ -924,6 +939,14 @@ Firmware: %5</source>
     <message>
         <source>The file is damaged or is not a library.</source>
         <translation>파일이 손상되었거나 라이브러리가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Its folder &quot;%1&quot; is not safe: %2.</source>
+        <translation>폴더 &quot;%1&quot;이(가) 안전하지 않습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Its file is not safe: %1.</source>
+        <translation>파일이 안전하지 않습니다: %1.</translation>
     </message>
 </context>
 <context>

@@ -162,6 +162,10 @@
         <source>This viewer was built without the library for cameras on real wires.</source>
         <translation>此查看器构建时未包含用于实际连接相机的库。</translation>
     </message>
+    <message>
+        <source>No folder is given for the plug-ins.</source>
+        <translation>未指定插件的文件夹。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -873,6 +877,17 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::PluginSystem::CPathTrust</name>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>属于用户 %1</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>所有者以外的用户可以写入</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
@@ -924,6 +939,14 @@ Firmware: %5</source>
     <message>
         <source>The file is damaged or is not a library.</source>
         <translation>文件已损坏或不是库文件。</translation>
+    </message>
+    <message>
+        <source>Its folder &quot;%1&quot; is not safe: %2.</source>
+        <translation>文件夹“%1”不安全：%2。</translation>
+    </message>
+    <message>
+        <source>Its file is not safe: %1.</source>
+        <translation>文件不安全：%1。</translation>
     </message>
 </context>
 <context>

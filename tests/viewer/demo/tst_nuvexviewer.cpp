@@ -86,6 +86,7 @@ void CNuvexViewerTest::refusesToStart()
     run({"--demo", "pictures"}, 1, "no update file");
     run({"--nothing"}, 2, "nothing");
     run({"--cameras"}, 2, "cameras");
+    run({"--plugins", ""}, 2, "plug-ins");
     run({"file.guf"}, 2, "file.guf");
     run({"--language=de"}, 2, "\"de\"");
     for (const char *speed : {"fast", "0", "nan"})
