@@ -1,5 +1,8 @@
+#include "viewer/appcore/closesignals.h"
 #include "viewer/appcore/commandline.h"
 #include "viewer/appcore/language.h"
+#include "viewer/appcore/logfolder.h"
+#include "viewer/appcore/startguard.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/demo/wizarddemo.h"
 
@@ -13,6 +16,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 using namespace Viewer;
 
@@ -55,7 +59,7 @@ static bool answersWithoutDisplay(int argc, char **argv, int &exitCode)
     return true;
 }
 
-// Qt would end the process with an abort and a list of its platforms.
+// Told in advance, since Qt would only say that it could not connect.
 static bool hasDisplay(int argc, char **argv)
 {
     const bool chosen = std::any_of(argv + 1, argv + argc, [](const char *argument) {
@@ -68,9 +72,16 @@ static bool hasDisplay(int argc, char **argv)
         || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
-static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language)
+static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language,
+                     AppCore::CLogFolder &logs)
 {
-    AppCore::CViewer viewer(options, language);
+    // From here on a signal closes the window, which waits for updates.
+    const AppCore::CCloseSignals closeSignals;
+    logs.open();
+    AppCore::CViewer viewer(options, language, &logs);
+    QObject::connect(&closeSignals, &AppCore::CCloseSignals::closeRequested, &viewer,
+                     &AppCore::CViewer::requestClose);
+    QObject::connect(&viewer, &AppCore::CViewer::closeDeferred, printError);
     QStringList failures;
     const bool started = viewer.start(failures);
     for (const QString &failure : qAsConst(failures))
@@ -81,14 +92,23 @@ static int runViewer(const AppCore::CCommandLineOptions &options, const QString 
         return QCoreApplication::exec();
 
     Demo::CWizardDemo demo(viewer, options.samplesDirectory, options.demoDirectory);
-    QObject::connect(&demo, &Demo::CWizardDemo::finished, qApp, &QCoreApplication::exit,
-                     Qt::QueuedConnection);
+    // Who closes the viewer has ended the demonstration before it knows its outcome.
+    int exitCode = EXIT_FAILURE;
+    QObject::connect(
+        &demo, &Demo::CWizardDemo::finished, qApp,
+        [&exitCode](int code) {
+            exitCode = code;
+            QCoreApplication::quit();
+        },
+        Qt::QueuedConnection);
     demo.start();
-    return QCoreApplication::exec();
+    QCoreApplication::exec();
+    return exitCode;
 }
 
 int main(int argc, char **argv)
 {
+    AppCore::CLogFolder logs;
     setNames();
     int exitCode = EXIT_SUCCESS;
     if (answersWithoutDisplay(argc, argv, exitCode))
@@ -105,7 +125,18 @@ int main(int argc, char **argv)
     // Rounded, a desktop set to 150 % would get 200 %, which does not fit on small screens.
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    const QString fault = AppCore::CStartGuard::findFault(argc, argv);
+    if (!fault.isEmpty()) {
+        printError(fault);
+        return UsageError;
+    }
+    std::optional<AppCore::CStartGuard> startGuard(std::in_place, argc, argv, UsageError);
     const QApplication application(argc, argv);
+    startGuard.reset();
+    if (!QGuiApplication::primaryScreen()) {
+        printError(QStringLiteral("There is no screen to show a window on."));
+        return EXIT_FAILURE;
+    }
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
     QString languageCode = AppCore::CLanguage::choose({});
@@ -125,7 +156,7 @@ int main(int argc, char **argv)
     language = std::make_unique<AppCore::CLanguage>(languageCode);
     AppCore::CLanguage::chooseFont(languageCode);
     try {
-        return runViewer(options, languageCode);
+        return runViewer(options, languageCode, logs);
     } catch (const Core::Exception::BaseException &exception) {
         printError(exception.getMessage());
         return EXIT_FAILURE;

@@ -168,6 +168,17 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CFileEnd</name>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>일반 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>파일을 읽을 수 없습니다: %1.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CImageView</name>
     <message>
         <source>Image</source>
@@ -181,16 +192,90 @@
         <translation>폴더</translation>
     </message>
     <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>파일을 읽을 수 없습니다: %1.</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>주소</translation>
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
         <translation>이 데스크톱에는 웹 페이지를 여는 프로그램이 없습니다. 다른 곳에서 열려면 주소를 복사하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogFolder</name>
+    <message>
+        <source>Logs of firmware updates are not kept: there is no home folder.</source>
+        <translation>홈 폴더가 없어 펌웨어 업데이트 로그가 보관되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Logs of firmware updates are not kept, the folder &quot;%1&quot; cannot be used: %2.</source>
+        <translation>폴더 &quot;%1&quot;을(를) 사용할 수 없어 펌웨어 업데이트 로그가 보관되지 않습니다: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogListDialog</name>
+    <message>
+        <source>Logs of firmware updates</source>
+        <translation>펌웨어 업데이트 로그</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>카메라</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>There are no logs yet.</source>
+        <translation>아직 로그가 없습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>열기(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open &amp;folder</source>
+        <translation>폴더 열기(&amp;F)</translation>
+    </message>
+    <message>
+        <source>No update</source>
+        <translation>업데이트 없음</translation>
+    </message>
+    <message>
+        <source>Successful</source>
+        <translation>성공</translation>
+    </message>
+    <message>
+        <source>Failed (%1 of %2 updated)</source>
+        <translation>실패(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Canceled (%1 of %2 updated)</source>
+        <translation>취소됨(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Running (%1 of %2 updated)</source>
+        <translation>진행 중(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Interrupted (%1 of %2 updated)</source>
+        <translation>중단됨(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>The log is longer than %1 bytes; only its end was read.</source>
+        <translation>로그가 %1바이트보다 길어 끝부분만 읽었습니다.</translation>
     </message>
 </context>
 <context>
@@ -292,6 +377,10 @@
         <source>&amp;Copy all</source>
         <translation>모두 복사(&amp;C)</translation>
     </message>
+    <message>
+        <source>The file is too large to be shown in full: this is its end.</source>
+        <translation>파일이 너무 커서 끝부분만 표시합니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CViewer</name>
@@ -364,6 +453,14 @@
     <message>
         <source>Search the &amp;network for cameras</source>
         <translation>네트워크에서 카메라 검색(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Logs...</source>
+        <translation>로그(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>%1 Then the viewer closes by itself.</source>
+        <translation>%1 그 후 뷰어가 자동으로 종료됩니다.</translation>
     </message>
 </context>
 <context>
