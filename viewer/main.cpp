@@ -1,5 +1,8 @@
+#include "viewer/appcore/closesignals.h"
 #include "viewer/appcore/commandline.h"
 #include "viewer/appcore/languagefont.h"
+#include "viewer/appcore/logfolder.h"
+#include "viewer/appcore/startguard.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/demo/wizarddemo.h"
 #include "viewer/text/language.h"
@@ -60,7 +63,7 @@ static bool asksForMessage(int argc, char **argv)
     });
 }
 
-// Qt would end the process with an abort and a list of its platforms.
+// Told in advance, since Qt would only say that it could not connect.
 static bool hasDisplay(int argc, char **argv)
 {
     const bool chosen = std::any_of(argv + 1, argv + argc, [](const char *argument) {
@@ -99,9 +102,16 @@ static std::optional<int> answerWithoutDisplay(int argc, char **argv)
     return EXIT_FAILURE;
 }
 
-static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language)
+static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language,
+                     AppCore::CLogFolder &logs)
 {
-    AppCore::CViewer viewer(options, language);
+    // From here on a signal closes the window, which waits for updates.
+    const AppCore::CCloseSignals closeSignals;
+    logs.open();
+    AppCore::CViewer viewer(options, language, &logs);
+    QObject::connect(&closeSignals, &AppCore::CCloseSignals::closeRequested, &viewer,
+                     &AppCore::CViewer::requestClose);
+    QObject::connect(&viewer, &AppCore::CViewer::closeDeferred, printError);
     QStringList failures;
     const bool started = viewer.start(failures);
     for (const QString &failure : qAsConst(failures))
@@ -112,14 +122,23 @@ static int runViewer(const AppCore::CCommandLineOptions &options, const QString 
         return QCoreApplication::exec();
 
     Demo::CWizardDemo demo(viewer, options.samplesDirectory, options.demoDirectory);
-    QObject::connect(&demo, &Demo::CWizardDemo::finished, qApp, &QCoreApplication::exit,
-                     Qt::QueuedConnection);
+    // Who closes the viewer has ended the demonstration before it knows its outcome.
+    int exitCode = EXIT_FAILURE;
+    QObject::connect(
+        &demo, &Demo::CWizardDemo::finished, qApp,
+        [&exitCode](int code) {
+            exitCode = code;
+            QCoreApplication::quit();
+        },
+        Qt::QueuedConnection);
     demo.start();
-    return QCoreApplication::exec();
+    QCoreApplication::exec();
+    return exitCode;
 }
 
 int main(int argc, char **argv)
 {
+    AppCore::CLogFolder logs;
     setNames();
     if (asksForMessage(argc, argv) || !hasDisplay(argc, argv)) {
         if (const std::optional<int> exitCode = answerWithoutDisplay(argc, argv))
@@ -131,7 +150,18 @@ int main(int argc, char **argv)
     // Rounded, a desktop set to 150 % would get 200 %, which does not fit on small screens.
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    const QString fault = AppCore::CStartGuard::findFault(argc, argv);
+    if (!fault.isEmpty()) {
+        printError(fault);
+        return UsageError;
+    }
+    std::optional<AppCore::CStartGuard> startGuard(std::in_place, argc, argv, UsageError);
     const QApplication application(argc, argv);
+    startGuard.reset();
+    if (!QGuiApplication::primaryScreen()) {
+        printError(QStringLiteral("There is no screen to show a window on."));
+        return EXIT_FAILURE;
+    }
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
     std::unique_ptr<CLanguage> language;
@@ -147,7 +177,7 @@ int main(int argc, char **argv)
     const QString languageCode = CLanguage::choose(options.language);
     AppCore::chooseLanguageFont(languageCode);
     try {
-        return runViewer(options, languageCode);
+        return runViewer(options, languageCode, logs);
     } catch (const Core::Exception::BaseException &exception) {
         printError(exception.getMessage());
         return EXIT_FAILURE;

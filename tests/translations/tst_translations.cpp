@@ -6,6 +6,8 @@
 #include "view/updateselectiondialog.h"
 #include "view/updatesummarydialog.h"
 #include "viewer/appcore/languagefont.h"
+#include "viewer/appcore/logfolder.h"
+#include "viewer/appcore/loglistdialog.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
@@ -313,7 +315,16 @@ void CTranslationsTest::viewerSpeaksTheLanguage()
     Viewer::AppCore::CCommandLineOptions options;
     options.samplesDirectory = m_folder.path();
     options.pool.speedFactor = 1000;
-    Viewer::AppCore::CViewer viewer(options, language);
+    qputenv("XDG_STATE_HOME", m_folder.path().toUtf8());
+    const Viewer::AppCore::CLogFolder logs;
+    Viewer::AppCore::CLogListDialog logList(logs);
+    logList.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&logList));
+    QCOMPARE(findEnglish(getTexts(logList)), QString());
+    QCOMPARE(findCutText(logList), QString());
+    logList.close();
+
+    Viewer::AppCore::CViewer viewer(options, language, &logs);
     const auto &window = viewer.getMainWindow();
     const auto enumeration = viewer.getEnumerationService();
     QSignalSpy spy(enumeration.data(),

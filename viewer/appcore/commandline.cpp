@@ -138,6 +138,11 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         return EResult::Error;
     }
     const QStringList pluginDirectories = parser.values(pluginsOption);
+    // An empty folder would stand for the current one, in which anything may lie.
+    if (pluginDirectories.contains(QString())) {
+        m_message = tr("No folder is given for the plug-ins.");
+        return EResult::Error;
+    }
     for (const QString &directory : pluginDirectories)
         m_options.pluginDirectories.append(absolutePath(directory));
     m_options.samplesDirectory = absolutePath(parser.value(samplesOption));

@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -14,7 +13,7 @@
 namespace Viewer::AppCore {
 
 // The empty scheme is that of a bare path.
-static const char *const Schemes[] = {"https", "http", "file", ""};
+static const char *const Schemes[] = {"https", "http", "mailto", "file", ""};
 
 CLinkOpener::CLinkOpener(const QString &program, QObject *parent)
     : QObject(parent)
@@ -28,6 +27,11 @@ CLinkOpener::~CLinkOpener()
 {
     for (const char *scheme : Schemes)
         QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
+}
+
+void CLinkOpener::setEnvironment(const QProcessEnvironment &environment)
+{
+    m_environment = environment;
 }
 
 void CLinkOpener::open(const QUrl &url)
@@ -52,6 +56,7 @@ void CLinkOpener::open(const QUrl &url)
                 if (exitCode != 0 || status != QProcess::NormalExit)
                     openFallback(url);
             });
+    process->setProcessEnvironment(m_environment);
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());
     process->setStandardErrorFile(QProcess::nullDevice());
@@ -70,20 +75,12 @@ void CLinkOpener::openFallback(const QUrl &url)
 
 void CLinkOpener::showText(const QString &path)
 {
-    const QString nativePath = QDir::toNativeSeparators(path);
     if (QFileInfo(path).isDir()) {
-        showDialog(new CTextDialog(tr("Folder"), nativePath, QApplication::activeModalWidget()));
+        showDialog(new CTextDialog(tr("Folder"), QDir::toNativeSeparators(path),
+                                   QApplication::activeModalWidget()));
         return;
     }
-    QFile file(path);
-    QString text;
-    if (!file.open(QIODevice::ReadOnly)) {
-        text = tr("The file cannot be read: %1.").arg(file.errorString());
-    } else {
-        file.seek(qMax<qint64>(0, file.size() - MaximumTextSize));
-        text = QString::fromUtf8(file.read(MaximumTextSize));
-    }
-    showDialog(new CTextDialog(nativePath, text, QApplication::activeModalWidget()));
+    CTextDialog::showFile(path, QApplication::activeModalWidget());
 }
 
 void CLinkOpener::showAddress(const QUrl &url)

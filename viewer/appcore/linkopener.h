@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QProcessEnvironment>
 #include <QString>
 
 class QDialog;
@@ -21,8 +22,8 @@ public:
                          QObject *parent = nullptr);
     ~CLinkOpener() override;
 
-    /// Longest part of a text file that is shown, in bytes; of a longer one the end.
-    static constexpr qint64 MaximumTextSize = 4 * 1024 * 1024;
+    /// The environment of the desktop's programs; without a call the viewer's own.
+    void setEnvironment(const QProcessEnvironment &environment);
 
 public slots:
     /// Opens @p url, which may also be a bare absolute path. Returns at once.
@@ -35,6 +36,7 @@ private:
     void showDialog(QDialog *dialog);
 
     const QString m_program;
+    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };
 
 } // namespace Viewer::AppCore

@@ -1,58 +1,21 @@
 #include "pluginlistdialog.h"
 
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QHeaderView>
-#include <QLabel>
 #include <QStyle>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 
 namespace Viewer::AppCore {
 
-enum EColumn { NameColumn, VersionColumn, StateColumn, ColumnCount };
-
-static constexpr int DetailsRole = Qt::UserRole;
-
 CPluginListDialog::CPluginListDialog(const QList<PluginSystem::CPluginSpec> &specs, QWidget *parent)
-    : QDialog(parent)
-    , m_tree(new QTreeWidget(this))
-    , m_detailsLabel(new QLabel(this))
+    : CListDialog(tr("Plug-ins"), {tr("Name"), tr("Version"), tr("State")}, parent)
 {
     setObjectName(QStringLiteral("pluginListDialog"));
-    setWindowTitle(tr("Plug-ins"));
-    setModal(true);
     resize(560, 380);
-
-    m_tree->setObjectName(QStringLiteral("pluginTree"));
-    m_tree->setAccessibleName(windowTitle());
-    m_tree->setColumnCount(ColumnCount);
-    m_tree->setHeaderLabels({tr("Name"), tr("Version"), tr("State")});
-    m_tree->setRootIsDecorated(false);
-    m_tree->setAlternatingRowColors(true);
-    m_tree->setUniformRowHeights(true);
+    getTree()->setObjectName(QStringLiteral("pluginTree"));
+    getTree()->header()->setStretchLastSection(true);
     for (const PluginSystem::CPluginSpec &spec : specs)
         addEntry(spec);
-    m_tree->header()->setStretchLastSection(true);
-    m_tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-
-    m_detailsLabel->setObjectName(QStringLiteral("detailsLabel"));
-    m_detailsLabel->setWordWrap(true);
-    m_detailsLabel->setTextFormat(Qt::PlainText);
-    m_detailsLabel->setTextInteractionFlags(Qt::TextSelectableByMouse
-                                            | Qt::TextSelectableByKeyboard);
-    m_detailsLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_detailsLabel->setMinimumHeight(5 * fontMetrics().lineSpacing());
-
-    auto *const buttonBox = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    connect(buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(m_tree, &QTreeWidget::currentItemChanged, this, &CPluginListDialog::onCurrentChanged);
-
-    auto *const layout = new QVBoxLayout(this);
-    layout->addWidget(m_tree, 1);
-    layout->addWidget(m_detailsLabel);
-    layout->addWidget(buttonBox);
-    m_tree->setCurrentItem(m_tree->topLevelItem(0));
 }
 
 CPluginListDialog::~CPluginListDialog() = default;
@@ -70,17 +33,10 @@ void CPluginListDialog::addEntry(const PluginSystem::CPluginSpec &spec)
         if (!line.isEmpty())
             details.append(line);
     }
-    auto *const item
-        = new QTreeWidgetItem(m_tree, {spec.getName(), spec.getVersion().toString(), state});
-    item->setData(NameColumn, DetailsRole, details.join(QLatin1Char('\n')));
+    QTreeWidgetItem *const item = addRow({spec.getName(), spec.getVersion().toString(), state},
+                                         details.join(QLatin1Char('\n')));
     if (spec.hasFailed())
-        item->setIcon(NameColumn, style()->standardIcon(QStyle::SP_MessageBoxWarning));
-}
-
-void CPluginListDialog::onCurrentChanged()
-{
-    const QTreeWidgetItem *const item = m_tree->currentItem();
-    m_detailsLabel->setText(item ? item->data(NameColumn, DetailsRole).toString() : QString());
+        item->setIcon(0, style()->standardIcon(QStyle::SP_MessageBoxWarning));
 }
 
 } // namespace Viewer::AppCore

@@ -1,16 +1,13 @@
 #pragma once
 
+#include "listdialog.h"
+
 #include "viewer/pluginsystem/pluginspec.h"
-
-#include <QDialog>
-
-class QLabel;
-class QTreeWidget;
 
 namespace Viewer::AppCore {
 
 /// Lists the viewer's parts and plug-ins, with the reason for each one that is not available.
-class CPluginListDialog : public QDialog
+class CPluginListDialog : public CListDialog
 {
     Q_OBJECT
 
@@ -21,10 +18,6 @@ public:
 
 private:
     void addEntry(const PluginSystem::CPluginSpec &spec);
-    void onCurrentChanged();
-
-    QTreeWidget *const m_tree;
-    QLabel *const m_detailsLabel;
 };
 
 } // namespace Viewer::AppCore

@@ -1,7 +1,10 @@
 #include "textdialog.h"
 
+#include "fileend.h"
+
 #include <QClipboard>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QLabel>
@@ -43,6 +46,18 @@ CTextDialog::CTextDialog(const QString &title, const QString &text, QWidget *par
 }
 
 CTextDialog::~CTextDialog() = default;
+
+void CTextDialog::showFile(const QString &path, QWidget *parent)
+{
+    const CFileEnd end = CFileEnd::read(path, MaximumFileSize);
+    auto *const dialog
+        = new CTextDialog(QDir::toNativeSeparators(path),
+                          end.error.isEmpty() ? QString::fromUtf8(end.text) : end.error, parent);
+    if (end.isPartial)
+        dialog->setHint(tr("The file is too large to be shown in full: this is its end."));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+}
 
 void CTextDialog::setHint(const QString &hint)
 {

@@ -4,6 +4,8 @@
 #include "actioncontainer.h"
 #include "imageview.h"
 #include "linkopener.h"
+#include "logfolder.h"
+#include "loglistdialog.h"
 #include "mainwindow.h"
 #include "menuservice.h"
 #include "modaldialogwatcher.h"
@@ -65,9 +67,11 @@ static CameraPool::CCameraPoolOptions getPoolOptions(const CCommandLineOptions &
     return poolOptions;
 }
 
-CViewer::CViewer(const CCommandLineOptions &options, const QString &language)
+CViewer::CViewer(const CCommandLineOptions &options, const QString &language,
+                 const CLogFolder *logs)
     : m_options(options)
     , m_language(language)
+    , m_logs(logs)
     , m_dialogWatcher(std::make_unique<CModalDialogWatcher>())
     , m_linkOpener(std::make_unique<CLinkOpener>())
     , m_pool(std::make_unique<CameraPool::CCameraPool>(getPoolOptions(options)))
@@ -77,6 +81,8 @@ CViewer::CViewer(const CCommandLineOptions &options, const QString &language)
     , m_initializer(std::make_unique<PluginSystem::CPluginInitializer>())
     , m_pluginManager(std::make_unique<PluginSystem::CPluginManager>(m_initializer.get()))
 {
+    if (m_logs)
+        m_linkOpener->setEnvironment(m_logs->getOutsideEnvironment());
     createWindow();
     fillMenus();
     registerServices();
@@ -84,6 +90,11 @@ CViewer::CViewer(const CCommandLineOptions &options, const QString &language)
     // While a wizard is open nothing may begin to use the cameras that it works on.
     connect(m_dialogWatcher.get(), &CModalDialogWatcher::dialogVisibleChanged, m_pool.get(),
             &CameraPool::CCameraPool::setStartsLocked);
+    connect(m_dialogWatcher.get(), &CModalDialogWatcher::dialogVisibleChanged, this,
+            &CViewer::closeIfRequested, Qt::QueuedConnection);
+    // Tells of every update, also of one that began and ended while the event loop was busy.
+    connect(m_pool.get(), &CameraPool::CCameraPool::activityChanged, this,
+            &CViewer::closeIfRequested, Qt::QueuedConnection);
     connect(m_window.get(), &CMainWindow::closed, qApp, &QCoreApplication::quit,
             Qt::QueuedConnection);
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
@@ -161,6 +172,10 @@ void CViewer::fillMenus()
         = std::make_unique<CSimulationMenu>(m_pool->getSimulation(), m_window->getSimulationMenu());
     m_window->getSimulationMenu()->menuAction()->setVisible(m_options.pool.simulates);
     QMenu *const helpMenu = m_window->getHelpMenu();
+    if (m_logs) {
+        helpMenu->addAction(tr("&Logs..."), this, &CViewer::showLogs)
+            ->setObjectName(QStringLiteral("logs"));
+    }
     helpMenu->addAction(tr("&Plug-ins..."), this, &CViewer::showPlugins)
         ->setObjectName(QStringLiteral("plugins"));
     helpMenu->addAction(tr("&About"), this, &CViewer::showAbout)
@@ -217,8 +232,15 @@ bool CViewer::start(QStringList &failures)
         return false;
     m_window->restorePlace();
     m_window->show();
+    QStringList messages;
     if (!failures.isEmpty())
-        m_window->showMessage(tr("Not all plug-ins are available: see Help > Plug-ins."));
+        messages.append(tr("Not all plug-ins are available: see Help > Plug-ins."));
+    if (m_logs && !m_logs->getFault().isEmpty()) {
+        messages.append(m_logs->getFault());
+        failures.append(m_logs->getFault());
+    }
+    if (!messages.isEmpty())
+        m_window->showMessage(messages.join(QLatin1Char(' ')));
     m_pool->start();
     return true;
 }
@@ -232,6 +254,25 @@ QString CViewer::getReasonToStayOpen() const
     return {};
 }
 
+void CViewer::requestClose()
+{
+    m_closeRequested = true;
+    const QString reason = getReasonToStayOpen();
+    if (reason.isEmpty()) {
+        m_window->close();
+        return;
+    }
+    const QString sentence = tr("%1 Then the viewer closes by itself.").arg(reason);
+    m_window->showMessage(sentence);
+    emit closeDeferred(sentence);
+}
+
+void CViewer::closeIfRequested()
+{
+    if (m_closeRequested && getReasonToStayOpen().isEmpty())
+        m_window->close();
+}
+
 void CViewer::onEnumerationChanged()
 {
     const int count = m_selectorView->getModel()->getCameraCount();
@@ -239,12 +280,21 @@ void CViewer::onEnumerationChanged()
     m_window->setStatus(tr("%n camera(s) found.", nullptr, count));
 }
 
-void CViewer::showPlugins()
+static void openOwn(QDialog *dialog)
 {
-    auto *const dialog = new CPluginListDialog(m_pluginManager->getSpecs(), m_window.get());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     CModalDialogWatcher::markAsOwn(dialog);
     dialog->open();
+}
+
+void CViewer::showLogs()
+{
+    openOwn(new CLogListDialog(*m_logs, m_window.get()));
+}
+
+void CViewer::showPlugins()
+{
+    openOwn(new CPluginListDialog(m_pluginManager->getSpecs(), m_window.get()));
 }
 
 void CViewer::showAbout()
@@ -255,9 +305,7 @@ void CViewer::showAbout()
             .arg(QCoreApplication::applicationVersion()),
         QMessageBox::Close, m_window.get());
     box->setIconPixmap(m_window->windowIcon().pixmap(m_window->windowHandle(), {64, 64}));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    CModalDialogWatcher::markAsOwn(box);
-    box->open();
+    openOwn(box);
 }
 
 CMainWindow &CViewer::getMainWindow() const

@@ -31,6 +31,7 @@ namespace Viewer::AppCore {
 
 class CAcquisitionController;
 class CLinkOpener;
+class CLogFolder;
 class CMainWindow;
 class CMenuService;
 class CModalDialogWatcher;
@@ -44,8 +45,10 @@ class CViewer : public QObject
 
 public:
     /// Makes the parts and publishes their services. @p language is the language of this start.
-    /// Throws `Core::Exception::BaseException` when the description of the cameras is faulty.
-    CViewer(const CCommandLineOptions &options, const QString &language);
+    /// @p logs is borrowed and outlives this object; without it nobody keeps logs. Throws
+    /// `Core::Exception::BaseException` when the description of the cameras is faulty.
+    CViewer(const CCommandLineOptions &options, const QString &language,
+            const CLogFolder *logs = nullptr);
 
     /// Un-initializes the plug-ins, then takes down window and cameras.
     ~CViewer() override;
@@ -64,6 +67,15 @@ public:
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IDeviceFirmwareUpdateService>
     getUpdateService() const;
 
+public slots:
+    /// Closes the window as soon as nothing speaks against it: at once, or when the update and the
+    /// dialog in its way have ended.
+    void requestClose();
+
+signals:
+    /// requestClose() has to wait. @p sentence says what for; the status bar shows it, too.
+    void closeDeferred(const QString &sentence);
+
 private:
     void createWindow();
     void fillMenus();
@@ -71,12 +83,15 @@ private:
     void registerServices();
     void addBuiltIns();
     [[nodiscard]] QString getReasonToStayOpen() const;
+    void closeIfRequested();
     void onEnumerationChanged();
+    void showLogs();
     void showPlugins();
     void showAbout();
 
     const CCommandLineOptions m_options;
     const QString m_language;
+    const CLogFolder *const m_logs;
     // In the order of construction; destroyed from the last to the first.
     std::unique_ptr<CModalDialogWatcher> m_dialogWatcher;
     std::unique_ptr<CLinkOpener> m_linkOpener;
@@ -89,6 +104,7 @@ private:
     std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;
     CameraSelector::CCameraSelectorView *m_selectorView = nullptr; ///< the window's child
+    bool m_closeRequested = false;
 };
 
 } // namespace Viewer::AppCore

@@ -73,6 +73,8 @@ CWizardDemo::CWizardDemo(AppCore::CViewer &viewer, const QString &samplesDirecto
             this, [this] { m_enumerated = true; });
     connect(&m_viewer.getCameraPool(), &CameraPool::CCameraPool::frameReady, this,
             [this] { ++m_frameCount; });
+    connect(&m_viewer.getMainWindow(), &AppCore::CMainWindow::closed, this,
+            [this] { fail(QStringLiteral("the viewer was closed")); });
 }
 
 CWizardDemo::~CWizardDemo() = default;

@@ -1,5 +1,7 @@
 #include "pluginscanner.h"
 
+#include "pathtrust.h"
+
 #include "core/iplugin.h"
 
 #include <QDir>
@@ -14,6 +16,19 @@ static QString interfaceFamily()
     return QStringLiteral(NUVEX_VIEWER_PLUGIN_IID).section(QLatin1Char('/'), 0, 0);
 }
 
+QString CPluginScanner::findFault(const QString &directory, const QFileInfo &library)
+{
+    // The library's own folder is another one when a link leads to it.
+    for (const QString &folder : {directory, library.path()}) {
+        const QString fault = CPathTrust::findFault(folder);
+        if (!fault.isEmpty())
+            return tr("Its folder \"%1\" is not safe: %2.")
+                .arg(QDir::toNativeSeparators(folder), fault);
+    }
+    const QString fault = CPathTrust::findFault(library.filePath());
+    return fault.isEmpty() ? QString() : tr("Its file is not safe: %1.").arg(fault);
+}
+
 QList<CPluginSpec> CPluginScanner::scan(const QStringList &directories)
 {
     QList<CPluginSpec> specs;
@@ -26,6 +41,11 @@ QList<CPluginSpec> CPluginScanner::scan(const QStringList &directories)
             if (path.isEmpty() || seen.contains(path))
                 continue;
             seen.insert(path);
+            const QString fault = findFault(directory, QFileInfo(path));
+            if (!fault.isEmpty()) {
+                specs.append(CPluginSpec::createBroken(path, fault));
+                continue;
+            }
             const QPluginLoader loader(path);
             const QJsonObject metaData = loader.metaData();
             if (metaData.isEmpty()) {

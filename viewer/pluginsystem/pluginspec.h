@@ -41,7 +41,7 @@ public:
     /// or malformed.
     static CPluginSpec createFromMetaData(const QString &filePath, const QJsonObject &metaData);
 
-    /// A library that cannot be read at all.
+    /// A library that cannot be read at all, or must not be.
     static CPluginSpec createBroken(const QString &filePath, const QString &error);
 
     [[nodiscard]] const QString &getName() const;

@@ -177,6 +177,21 @@
         <source>This viewer was built without the library for real cameras.</source>
         <translation>このビューアーは、実際のカメラ用のライブラリなしでビルドされています。</translation>
     </message>
+    <message>
+        <source>No folder is given for the plug-ins.</source>
+        <translation>プラグインのフォルダーが指定されていません。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CFileEnd</name>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>ファイルを読み取れません: %1。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -192,16 +207,90 @@
         <translation>フォルダー</translation>
     </message>
     <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>ファイルを読み取れません: %1。</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>アドレス</translation>
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
         <translation>このデスクトップには Web ページを開くプログラムがありません。別の場所で開くには、アドレスをコピーしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogFolder</name>
+    <message>
+        <source>Logs of firmware updates are not kept: there is no home folder.</source>
+        <translation>ホームフォルダーがないため、ファームウェア更新のログは保存されません。</translation>
+    </message>
+    <message>
+        <source>Logs of firmware updates are not kept, the folder &quot;%1&quot; cannot be used: %2.</source>
+        <translation>フォルダー「%1」を使用できないため、ファームウェア更新のログは保存されません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogListDialog</name>
+    <message>
+        <source>Logs of firmware updates</source>
+        <translation>ファームウェア更新のログ</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>There are no logs yet.</source>
+        <translation>ログはまだありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>開く(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open &amp;folder</source>
+        <translation>フォルダーを開く(&amp;F)</translation>
+    </message>
+    <message>
+        <source>No update</source>
+        <translation>更新なし</translation>
+    </message>
+    <message>
+        <source>Successful</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Failed (%1 of %2 updated)</source>
+        <translation>失敗 (%2 台中 %1 台を更新)</translation>
+    </message>
+    <message>
+        <source>Canceled (%1 of %2 updated)</source>
+        <translation>キャンセル (%2 台中 %1 台を更新)</translation>
+    </message>
+    <message>
+        <source>Running (%1 of %2 updated)</source>
+        <translation>実行中 (%2 台中 %1 台を更新)</translation>
+    </message>
+    <message>
+        <source>Interrupted (%1 of %2 updated)</source>
+        <translation>中断 (%2 台中 %1 台を更新)</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>読み取り不可</translation>
+    </message>
+    <message>
+        <source>The log is longer than %1 bytes; only its end was read.</source>
+        <translation>ログが %1 バイトより長いため、末尾のみを読み取りました。</translation>
     </message>
 </context>
 <context>
@@ -303,6 +392,10 @@
         <source>&amp;Copy all</source>
         <translation>すべてコピー(&amp;C)</translation>
     </message>
+    <message>
+        <source>The file is too large to be shown in full: this is its end.</source>
+        <translation>ファイルが大きすぎるため、末尾のみを表示しています。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CViewer</name>
@@ -376,6 +469,14 @@
         <source>Search for cameras (F5)</source>
         <translation>カメラを検索 (F5)</translation>
     </message>
+    <message>
+        <source>&amp;Logs...</source>
+        <translation>ログ(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>%1 Then the viewer closes by itself.</source>
+        <translation>%1 その後、ビューアーは自動的に終了します。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
@@ -410,10 +511,6 @@
     <message>
         <source>Camera %1 is in use by another application.</source>
         <translation>カメラ %1 は別のアプリケーションで使用中です。</translation>
-    </message>
-    <message>
-        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
-        <translation type="vanished">データ %1 の SHA-256 を計算できません。このコンピューターの OpenSSL の設定を確認してください</translation>
     </message>
 </context>
 <context>
@@ -626,6 +723,17 @@ Update %1
     </message>
 </context>
 <context>
+    <name>Viewer::PluginSystem::CPathTrust</name>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>ユーザー %1 の所有物です</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>所有者以外のユーザーが書き込めます</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
@@ -677,6 +785,14 @@ Update %1
     <message>
         <source>The file is damaged or is not a library.</source>
         <translation>ファイルが破損しているか、ライブラリではありません。</translation>
+    </message>
+    <message>
+        <source>Its folder &quot;%1&quot; is not safe: %2.</source>
+        <translation>フォルダー「%1」は安全ではありません: %2。</translation>
+    </message>
+    <message>
+        <source>Its file is not safe: %1.</source>
+        <translation>ファイルは安全ではありません: %1。</translation>
     </message>
 </context>
 <context>

@@ -177,6 +177,21 @@
         <source>This viewer was built without the library for real cameras.</source>
         <translation>이 뷰어는 실제 카메라용 라이브러리 없이 빌드되었습니다.</translation>
     </message>
+    <message>
+        <source>No folder is given for the plug-ins.</source>
+        <translation>플러그인 폴더가 지정되지 않았습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CFileEnd</name>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>일반 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>파일을 읽을 수 없습니다: %1.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -192,16 +207,90 @@
         <translation>폴더</translation>
     </message>
     <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>파일을 읽을 수 없습니다: %1.</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>주소</translation>
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
         <translation>이 데스크톱에는 웹 페이지를 여는 프로그램이 없습니다. 다른 곳에서 열려면 주소를 복사하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogFolder</name>
+    <message>
+        <source>Logs of firmware updates are not kept: there is no home folder.</source>
+        <translation>홈 폴더가 없어 펌웨어 업데이트 로그가 보관되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Logs of firmware updates are not kept, the folder &quot;%1&quot; cannot be used: %2.</source>
+        <translation>폴더 &quot;%1&quot;을(를) 사용할 수 없어 펌웨어 업데이트 로그가 보관되지 않습니다: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogListDialog</name>
+    <message>
+        <source>Logs of firmware updates</source>
+        <translation>펌웨어 업데이트 로그</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>카메라</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>There are no logs yet.</source>
+        <translation>아직 로그가 없습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>열기(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open &amp;folder</source>
+        <translation>폴더 열기(&amp;F)</translation>
+    </message>
+    <message>
+        <source>No update</source>
+        <translation>업데이트 없음</translation>
+    </message>
+    <message>
+        <source>Successful</source>
+        <translation>성공</translation>
+    </message>
+    <message>
+        <source>Failed (%1 of %2 updated)</source>
+        <translation>실패(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Canceled (%1 of %2 updated)</source>
+        <translation>취소됨(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Running (%1 of %2 updated)</source>
+        <translation>진행 중(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Interrupted (%1 of %2 updated)</source>
+        <translation>중단됨(%2대 중 %1대 업데이트됨)</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>The log is longer than %1 bytes; only its end was read.</source>
+        <translation>로그가 %1바이트보다 길어 끝부분만 읽었습니다.</translation>
     </message>
 </context>
 <context>
@@ -303,6 +392,10 @@
         <source>&amp;Copy all</source>
         <translation>모두 복사(&amp;C)</translation>
     </message>
+    <message>
+        <source>The file is too large to be shown in full: this is its end.</source>
+        <translation>파일이 너무 커서 끝부분만 표시합니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CViewer</name>
@@ -376,6 +469,14 @@
         <source>Search for cameras (F5)</source>
         <translation>카메라 검색(F5)</translation>
     </message>
+    <message>
+        <source>&amp;Logs...</source>
+        <translation>로그(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>%1 Then the viewer closes by itself.</source>
+        <translation>%1 그 후 뷰어가 자동으로 종료됩니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
@@ -410,10 +511,6 @@
     <message>
         <source>Camera %1 is in use by another application.</source>
         <translation>카메라 %1을(를) 다른 응용 프로그램에서 사용 중입니다.</translation>
-    </message>
-    <message>
-        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
-        <translation type="vanished">데이터 %1의 SHA-256을 계산할 수 없습니다. 이 컴퓨터의 OpenSSL 설정을 확인하십시오</translation>
     </message>
 </context>
 <context>
@@ -626,6 +723,17 @@ Update %1
     </message>
 </context>
 <context>
+    <name>Viewer::PluginSystem::CPathTrust</name>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>사용자 %1의 소유입니다</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>소유자가 아닌 사용자가 쓸 수 있습니다</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
@@ -677,6 +785,14 @@ Update %1
     <message>
         <source>The file is damaged or is not a library.</source>
         <translation>파일이 손상되었거나 라이브러리가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Its folder &quot;%1&quot; is not safe: %2.</source>
+        <translation>폴더 &quot;%1&quot;이(가) 안전하지 않습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Its file is not safe: %1.</source>
+        <translation>파일이 안전하지 않습니다: %1.</translation>
     </message>
 </context>
 <context>

@@ -177,6 +177,21 @@
         <source>This viewer was built without the library for real cameras.</source>
         <translation>此查看器在构建时未包含真实相机所需的库。</translation>
     </message>
+    <message>
+        <source>No folder is given for the plug-ins.</source>
+        <translation>未指定插件的文件夹。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CFileEnd</name>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>不是普通文件。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>无法读取文件：%1。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -192,16 +207,90 @@
         <translation>文件夹</translation>
     </message>
     <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>无法读取文件：%1。</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>地址</translation>
     </message>
     <message>
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
         <translation>此桌面环境没有可打开网页的程序。请复制该地址，然后在其他地方打开。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogFolder</name>
+    <message>
+        <source>Logs of firmware updates are not kept: there is no home folder.</source>
+        <translation>没有主文件夹，固件更新日志将不会保存。</translation>
+    </message>
+    <message>
+        <source>Logs of firmware updates are not kept, the folder &quot;%1&quot; cannot be used: %2.</source>
+        <translation>无法使用文件夹“%1”，固件更新日志将不会保存：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CLogListDialog</name>
+    <message>
+        <source>Logs of firmware updates</source>
+        <translation>固件更新日志</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Cameras</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>There are no logs yet.</source>
+        <translation>尚无日志。</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>打开(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Open &amp;folder</source>
+        <translation>打开文件夹(&amp;F)</translation>
+    </message>
+    <message>
+        <source>No update</source>
+        <translation>未更新</translation>
+    </message>
+    <message>
+        <source>Successful</source>
+        <translation>成功</translation>
+    </message>
+    <message>
+        <source>Failed (%1 of %2 updated)</source>
+        <translation>失败（%2 台中已更新 %1 台）</translation>
+    </message>
+    <message>
+        <source>Canceled (%1 of %2 updated)</source>
+        <translation>已取消（%2 台中已更新 %1 台）</translation>
+    </message>
+    <message>
+        <source>Running (%1 of %2 updated)</source>
+        <translation>进行中（%2 台中已更新 %1 台）</translation>
+    </message>
+    <message>
+        <source>Interrupted (%1 of %2 updated)</source>
+        <translation>已中断（%2 台中已更新 %1 台）</translation>
+    </message>
+    <message>
+        <source>Cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>The log is longer than %1 bytes; only its end was read.</source>
+        <translation>日志超过 %1 字节，仅读取了其末尾部分。</translation>
     </message>
 </context>
 <context>
@@ -303,6 +392,10 @@
         <source>&amp;Copy all</source>
         <translation>全部复制(&amp;C)</translation>
     </message>
+    <message>
+        <source>The file is too large to be shown in full: this is its end.</source>
+        <translation>文件过大，仅显示其末尾部分。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CViewer</name>
@@ -376,6 +469,14 @@
         <source>Search for cameras (F5)</source>
         <translation>搜索相机 (F5)</translation>
     </message>
+    <message>
+        <source>&amp;Logs...</source>
+        <translation>日志(&amp;L)...</translation>
+    </message>
+    <message>
+        <source>%1 Then the viewer closes by itself.</source>
+        <translation>%1 之后查看器将自动关闭。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraPool::CCameraPool</name>
@@ -410,10 +511,6 @@
     <message>
         <source>Camera %1 is in use by another application.</source>
         <translation>相机 %1 正被另一个应用程序使用。</translation>
-    </message>
-    <message>
-        <source>the SHA-256 of the payload %1 cannot be computed; check the settings of OpenSSL on this computer</source>
-        <translation type="vanished">无法计算数据 %1 的 SHA-256；请检查此计算机的 OpenSSL 设置</translation>
     </message>
 </context>
 <context>
@@ -626,6 +723,17 @@ Update %1
     </message>
 </context>
 <context>
+    <name>Viewer::PluginSystem::CPathTrust</name>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>属于用户 %1</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>所有者以外的用户可以写入</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::PluginSystem::CPluginManager</name>
     <message>
         <source>an unknown exception</source>
@@ -677,6 +785,14 @@ Update %1
     <message>
         <source>The file is damaged or is not a library.</source>
         <translation>文件已损坏或不是库文件。</translation>
+    </message>
+    <message>
+        <source>Its folder &quot;%1&quot; is not safe: %2.</source>
+        <translation>文件夹“%1”不安全：%2。</translation>
+    </message>
+    <message>
+        <source>Its file is not safe: %1.</source>
+        <translation>文件不安全：%1。</translation>
     </message>
 </context>
 <context>

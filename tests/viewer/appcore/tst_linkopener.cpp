@@ -62,9 +62,16 @@ void CLinkOpenerTest::showsWhatNoProgramShows()
 
 void CLinkOpenerTest::desktopProgramGetsTheLink()
 {
-    const CLinkOpener opener(makeFile("open-link", "#!/bin/sh\nln -s \"$1\" ${0%/*}/received\n"));
+    CLinkOpener opener(makeFile("open-link",
+                                "#!/bin/sh\nln -s \"$TMPDIR\" ${0%/*}/temporary\n"
+                                "ln -s \"$1\" ${0%/*}/received\n"));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("TMPDIR", "/outside");
+    opener.setEnvironment(environment);
     clickLink("/tmp/with space.log");
     QTRY_COMPARE(QFile::symLinkTarget(m_folder.filePath("received")), "/tmp/with space.log");
+    // Programs of the desktop do not write where the viewer's logs lie.
+    QCOMPARE(QFile::symLinkTarget(m_folder.filePath("temporary")), "/outside");
 }
 
 QTEST_MAIN(CLinkOpenerTest)

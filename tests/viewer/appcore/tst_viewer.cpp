@@ -1,4 +1,5 @@
 #include "viewer/appcore/imageview.h"
+#include "viewer/appcore/logfolder.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
@@ -36,6 +37,7 @@ private slots:
     void wizardLocksStartsAndClosing();
     void runningUpdateKeepsTheWindowOpen();
     void closingEndsTheApplication();
+    void tellsWhyNoLogsAreKept();
 
 private:
     enum EButton { Start, Stop, Record, StopRecording };
@@ -136,9 +138,12 @@ void CViewerTest::wizardLocksStartsAndClosing()
     nextPage.show();
     QCoreApplication::processEvents();
     QVERIFY(!startsCamera());
+    QSignalSpy deferred(m_viewer.get(), &CViewer::closeDeferred);
+    m_viewer->requestClose();
+    QCOMPARE(deferred.size(), 1);
     nextPage.hide();
     QTRY_VERIFY(startsCamera());
-    QVERIFY(m_window->close());
+    QTRY_VERIFY(!m_window->isVisible());
 }
 
 void CViewerTest::runningUpdateKeepsTheWindowOpen()
@@ -150,11 +155,37 @@ void CViewerTest::runningUpdateKeepsTheWindowOpen()
     const bool running = QTest::qWaitFor([this] { return m_pool->isUpdateRunning(); });
     const bool closed = m_window->close();
     const QString message = m_window->statusBar()->currentMessage();
+    QSignalSpy deferred(m_viewer.get(), &CViewer::closeDeferred);
+    m_viewer->requestClose();
+    m_viewer->requestClose();
+    const bool visible = m_window->isVisible();
     worker.join();
-    QVERIFY(running && !closed);
+    QVERIFY(running && !closed && visible);
     QVERIFY2(message.contains("update"), qPrintable(message));
-    QTRY_VERIFY(!m_pool->isUpdateRunning());
-    QVERIFY(m_window->close());
+    QCOMPARE(deferred.size(), 2);
+    QVERIFY(deferred.value(0).value(0).toString().startsWith(message));
+    // Nobody has to ask once more.
+    QTRY_VERIFY(!m_window->isVisible());
+    QVERIFY(!m_pool->isUpdateRunning());
+}
+
+void CViewerTest::tellsWhyNoLogsAreKept()
+{
+    qputenv("XDG_STATE_HOME", "/dev/null");
+    CLogFolder logs;
+    QVERIFY(!logs.open());
+    m_viewer.reset();
+    CViewer viewer({}, "en", &logs);
+    QStringList failures;
+    QVERIFY(viewer.start(failures));
+    QCOMPARE(failures, QStringList(logs.getFault()));
+    CMainWindow &window = viewer.getMainWindow();
+    QVERIFY(window.statusBar()->currentMessage().contains(logs.getFault()));
+    window.findChild<QAction *>("logs")->trigger();
+    auto *const dialog = window.findChild<QDialog *>("logListDialog");
+    QVERIFY(dialog && dialog->isVisible());
+    // It is the viewer's own and keeps nothing from being closed.
+    QVERIFY(window.close());
 }
 
 void CViewerTest::closingEndsTheApplication()

@@ -1,8 +1,16 @@
+#include "viewer/appcore/logsummary.h"
+
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <csignal>
+
+using Viewer::AppCore::CLogSummary;
 
 static constexpr int ProgramTime = 90000; // milliseconds; far more than it needs
 
@@ -18,11 +26,16 @@ private slots:
     void demonstrationFailsWithTheUpdate();
     void refusesToStart();
     void answersInTheLanguageAskedFor();
+    void signalsCloseTheViewer_data();
+    void signalsCloseTheViewer();
+    void signalsWaitForTheUpdate();
+    void worksWithoutAFolderForLogs();
 
 private:
     /// Writes the default cameras to "cameras.json", with @p after in place of @p before.
     void writeCameras(const QByteArray &before, const QByteArray &after) const;
     void run(const QStringList &arguments, int exitCode, const QString &sentence);
+    QStringList findLogs() const;
 
     const QStringList m_demonstration{"--samples=" SAMPLES, "--speed=100", "--demo=pictures"};
     QTemporaryDir m_folder;
@@ -34,7 +47,8 @@ void CNuvexViewerTest::init()
 {
     m_home.setPath(m_folder.filePath(QTest::currentTestFunction()));
     QVERIFY(m_home.mkpath("."));
-    for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "TMPDIR"})
+    for (const char *variable :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "TMPDIR"})
         qputenv(variable, m_home.path().toUtf8());
     // The wizard's state machine lives until the process ends, which a leak checker takes for a
     // leak; the test of the viewer without a plug-in looks for leaks of the viewer's own.
@@ -64,6 +78,23 @@ void CNuvexViewerTest::run(const QStringList &arguments, int exitCode, const QSt
     QVERIFY2(m_output.contains(sentence), qPrintable(m_output));
 }
 
+static QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// In the folders of viewers.
+QStringList CNuvexViewerTest::findLogs() const
+{
+    QStringList logs;
+    QDirIterator entries(m_home.filePath("nuvexviewer/logs"), {"NuvexFirmwareUpdaterGUI_*.log"},
+                         QDir::Files, QDirIterator::Subdirectories);
+    while (entries.hasNext())
+        logs.append(entries.next());
+    return logs;
+}
+
 void CNuvexViewerTest::demonstrationUpdatesThenReinstalls()
 {
     run(m_demonstration, 0, "Successful updates: 6");
@@ -71,8 +102,11 @@ void CNuvexViewerTest::demonstrationUpdatesThenReinstalls()
         QVERIFY(QFile::exists(m_home.filePath("pictures/%1.png").arg(picture)));
     QCOMPARE(m_output.count("1.2.0 -> 2."), 6);
     QVERIFY(!m_output.contains("reinstalled"));
-    const QString log = m_output.section("Log: ", 1).section('\n', 0, 0);
-    QVERIFY2(QFile::exists(log), qPrintable(log));
+    QCOMPARE(findLogs(), QStringList(m_output.section("Log: ", 1).section('\n', 0, 0)));
+    const CLogSummary summary = CLogSummary::parse(readFile(findLogs().constFirst()));
+    QCOMPARE(summary.outcome, CLogSummary::EOutcome::Successful);
+    QCOMPARE(summary.updatedCount, 6);
+    QCOMPARE(summary.cameraNames.size(), 6);
 
     // A plug-in that is not required and fails does not end the start.
     run(m_demonstration + QStringList{"--plugins", OTHER_PLUGIN_FOLDER}, 0, "\"wrong_interface\"");
@@ -94,8 +128,11 @@ void CNuvexViewerTest::demonstrationFailsWithTheUpdate()
     // The first camera of the model comes back with the firmware that it had before.
     const QByteArray serial("\"serialNumber\": \"40012345\",");
     writeCameras(serial, serial + " \"faults\": {\"returnsWithOldVersion\": true},");
-    run(m_demonstration + QStringList{"--cameras", "cameras.json"}, 1, "Failed updates: 1");
-    QVERIFY(m_output.contains("Skipped updates: 5"));
+    run(m_demonstration + QStringList{"--cameras", "cameras.json", "--language", "ko"}, 1, "5");
+    const CLogSummary summary = CLogSummary::parse(readFile(findLogs().value(0)));
+    QCOMPARE(summary.outcome, CLogSummary::EOutcome::Failed);
+    QCOMPARE(summary.updatedCount, 0);
+    QCOMPARE(summary.cameraCount, 6);
 }
 
 void CNuvexViewerTest::refusesToStart()
@@ -105,10 +142,86 @@ void CNuvexViewerTest::refusesToStart()
     run({"--demo", "pictures"}, 1, "no update file");
     run({"--nothing"}, 2, "nothing");
     run({"--cameras"}, 2, "cameras");
+    run({"--plugins", ""}, 2, "plug-ins");
     run({"file.guf"}, 2, "file.guf");
     run({"--language=de"}, 2, "\"de\"");
     for (const char *speed : {"fast", "0", "nan"})
         run({"--speed", speed}, 2, QString("\"%1\"").arg(speed));
+    // Without Qt's abort.
+    run({"-platform", "%s%n"}, 2, "\"%s%n\"");
+    run({"-stylesheet", "/dev/zero"}, 2, "/dev/zero");
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("DISPLAY", ":nowhere");
+    run({}, 1, "could not connect to display :nowhere");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QVERIFY2(QDir(m_home.filePath("nuvexviewer/logs")).isEmpty(), "a folder without a log is left");
+}
+
+void CNuvexViewerTest::signalsCloseTheViewer_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGHUP") << SIGHUP;
+    QTest::newRow("SIGINT") << SIGINT;
+}
+
+void CNuvexViewerTest::signalsCloseTheViewer()
+{
+    QFETCH(int, signal);
+    QProcess viewer;
+    viewer.start(VIEWER, {"--no-simulation"});
+    const QDir logs(m_home.filePath("nuvexviewer/logs"));
+    QTRY_VERIFY_WITH_TIMEOUT(!logs.isEmpty(QDir::Dirs | QDir::NoDotAndDotDot), ProgramTime);
+    kill(static_cast<pid_t>(viewer.processId()), signal);
+    QVERIFY(viewer.waitForFinished(ProgramTime));
+    QCOMPARE(viewer.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(viewer.exitCode(), 0);
+    QVERIFY2(logs.isEmpty(), "a folder without a log is left");
+}
+
+void CNuvexViewerTest::signalsWaitForTheUpdate()
+{
+    QProcess viewer;
+    viewer.setProcessChannelMode(QProcess::MergedChannels);
+    viewer.setWorkingDirectory(m_home.path());
+    viewer.start(VIEWER, {"--samples=" SAMPLES, "--speed=10", "--demo=pictures"});
+    QByteArray output;
+    const auto waitFor = [&viewer, &output](const char *text, int count) {
+        while (output.count(text) < count && viewer.waitForReadyRead(ProgramTime))
+            output += viewer.readAll();
+        return output.count(text) == count;
+    };
+    QVERIFY2(waitFor("Step 4", 1), output);
+    const auto process = static_cast<pid_t>(viewer.processId());
+    int count = 0;
+    for (const int signal : {SIGTERM, SIGTERM, SIGHUP, SIGINT}) {
+        kill(process, signal);
+        QVERIFY2(waitFor("closes by itself", ++count), output);
+    }
+    QVERIFY2(output.contains("nuvexviewer: A firmware update is running."), output);
+    // As with a terminal that is closed: nobody reads on.
+    viewer.closeReadChannel(QProcess::StandardOutput);
+    kill(process, SIGTERM);
+    QVERIFY(viewer.waitForFinished(ProgramTime));
+    QCOMPARE(viewer.exitStatus(), QProcess::NormalExit);
+    // The update of all cameras went on, the demonstration behind it did not.
+    QCOMPARE(viewer.exitCode(), 1);
+    const CLogSummary summary = CLogSummary::parse(readFile(findLogs().value(0)));
+    QCOMPARE(summary.outcome, CLogSummary::EOutcome::Successful);
+    QCOMPARE(summary.updatedCount, 6);
+}
+
+void CNuvexViewerTest::worksWithoutAFolderForLogs()
+{
+    QFile file(m_home.filePath("nuvexviewer"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    run(m_demonstration, 0, "Logs of firmware updates are not kept");
+    QVERIFY2(m_output.contains("nuvexviewer/logs\" cannot be used: Not a directory."),
+             qPrintable(m_output));
+    const QString log = m_output.section("Log: ", 1).section('\n', 0, 0);
+    QVERIFY2(!log.isEmpty() && !QFile::exists(log), qPrintable(log));
+    QVERIFY(!QFile::exists('/' + QFileInfo(log).fileName()));
+    QVERIFY(m_home.entryList({"*.log"}).isEmpty());
 }
 
 void CNuvexViewerTest::answersInTheLanguageAskedFor()

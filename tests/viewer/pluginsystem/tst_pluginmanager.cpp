@@ -7,10 +7,12 @@
 #include <QDir>
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <memory>
+#include <sys/stat.h>
 
 using namespace Viewer::PluginSystem;
 
@@ -40,6 +42,8 @@ private slots:
     void leadsPluginsThroughTheirLife();
     void namesEachFailure();
     void reportsDamagedAndDoubleLibraries();
+    void loadsNothingThatOthersCanWrite_data();
+    void loadsNothingThatOthersCanWrite();
     void endsOrLeavesOutWhatDependsOnAFailure();
     void ordersByDependencies();
     void refusesFaultyMetaData();
@@ -122,6 +126,55 @@ void CPluginManagerTest::reportsDamagedAndDoubleLibraries()
     QCOMPARE(m_manager->getFailures().filter("copy.so").size(), 1);
     QCOMPARE(m_manager->getFailures().size(), 2);
     QCOMPARE(calls().count("required_good.postInitialize"), 1);
+}
+
+void CPluginManagerTest::loadsNothingThatOthersCanWrite_data()
+{
+    QTest::addColumn<int>("folderMode");
+    QTest::addColumn<int>("fileMode");
+    QTest::addColumn<QString>("owner");
+    QTest::addColumn<QString>("reason");
+    const QString others = "other than its owner can write";
+    QTest::newRow("its own") << 0700 << 0755 << ""
+                             << "";
+    QTest::newRow("anybody's file") << 0700 << 0646 << ""
+                                    << "file is not safe: users " + others;
+    QTest::newRow("anybody's folder") << 0757 << 0644 << ""
+                                      << "\" is not safe: users " + others;
+    QTest::newRow("a folder like /tmp") << 01777 << 0644 << "" << others;
+    QTest::newRow("a group's file") << 0700 << 0664 << ":100" << others;
+    QTest::newRow("a group's folder") << 0775 << 0644 << ":100" << others;
+    QTest::newRow("a private group's") << 0770 << 0770 << "0:0"
+                                       << "";
+    QTest::newRow("another user's file") << 0700 << 0644 << "1"
+                                         << "belongs to the user";
+}
+
+void CPluginManagerTest::loadsNothingThatOthersCanWrite()
+{
+    QFETCH(QString, owner);
+    QFETCH(QString, reason);
+    const QTemporaryDir folder;
+    const QTemporaryDir linkFolder;
+    const QString path = folder.filePath("good.so");
+    QVERIFY(QFile::copy(m_root.filePath("good/good.so"), path));
+    QVERIFY(QFile::link(path, linkFolder.filePath("link.so")));
+    const QByteArray name = QFile::encodeName(path);
+    const QByteArray folderName = QFile::encodeName(folder.path());
+    if (!owner.isEmpty()
+        && QProcess::execute("chown", {owner, owner.startsWith(':') ? folder.path() : path, path}))
+        QSKIP("Only root can give files away.");
+    QFETCH(int, fileMode);
+    QFETCH(int, folderMode);
+    QCOMPARE(chmod(name, fileMode) + chmod(folderName, folderMode), 0);
+    for (const QString &given : {folder.path(), linkFolder.path()}) {
+        init();
+        QVERIFY(m_manager->start({given}, "ko"));
+        const QString failure = m_manager->getFailures().value(0);
+        QVERIFY2(failure.contains(reason) && failure.isEmpty() == reason.isEmpty(),
+                 qPrintable(failure));
+        QCOMPARE(calls().contains("good.construct"), reason.isEmpty());
+    }
 }
 
 void CPluginManagerTest::endsOrLeavesOutWhatDependsOnAFailure()

@@ -2,9 +2,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLockFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <thread>
 
 using Viewer::CameraPool::Simulation::CFirmwareStateFile;
 
@@ -15,6 +20,8 @@ class CFirmwareStateFileTest : public QObject
 private slots:
     void remembersAndForgets();
     void putsDamagedFileAside();
+    void severalViewersLoseNothing();
+    void makesUpForWhatALockKeptOut();
     void keepsOldFileWhenWritingFails();
 
 private:
@@ -57,16 +64,69 @@ void CFirmwareStateFileTest::putsDamagedFileAside()
     }
 }
 
+void CFirmwareStateFileTest::severalViewersLoseNothing()
+{
+    const QString path = m_folder.filePath("shared.json");
+    const auto write = [&path](const QString &camera, const QString &version) {
+        CFirmwareStateFile state(path);
+        for (int i = 0; i < 10; ++i)
+            state.setVersion(camera + QString::number(i), version);
+    };
+    CFirmwareStateFile early(path);
+    std::thread other(write, "x", "1.0");
+    write("y", "2.0");
+    other.join();
+    early.setVersion("z", "3.0");
+    early.setVersion("x0", "3.0"); // the last one to write a camera has written it
+    const CFirmwareStateFile all(path);
+    QCOMPARE(all.getVersion("x0"), QString("3.0"));
+    QCOMPARE(all.getVersion("z"), QString("3.0"));
+    for (int i = 1; i < 10; ++i) {
+        QCOMPARE(all.getVersion("x" + QString::number(i)), QString("1.0"));
+        QCOMPARE(all.getVersion("y" + QString::number(i)), QString("2.0"));
+    }
+
+    // What another viewer has forgotten does not come back with the next camera.
+    CFirmwareStateFile(path).clear();
+    early.setVersion("w", "4.0");
+    QCOMPARE(CFirmwareStateFile(path).getVersion("z"), QString());
+}
+
+void CFirmwareStateFileTest::makesUpForWhatALockKeptOut()
+{
+    const QString path = m_folder.filePath("locked.json");
+    CFirmwareStateFile state(path, std::chrono::milliseconds(1));
+    state.setVersion("a", "1.0");
+    QLockFile lock(path + ".lock");
+    QVERIFY(lock.lock());
+    const QString holder = QString("process %1").arg(QCoreApplication::applicationPid());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be written to .*" + holder));
+    state.setVersion("a", "2.0");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be forgotten: .*" + holder));
+    CFirmwareStateFile(path).clear();
+    QCOMPARE(CFirmwareStateFile(path).getVersion("a"), QString("1.0"));
+    lock.unlock();
+    state.setVersion("b", "3.0");
+    QCOMPARE(CFirmwareStateFile(path).getVersion("a"), QString("2.0"));
+}
+
 void CFirmwareStateFileTest::keepsOldFileWhenWritingFails()
 {
-    // A folder in the file's place cannot be replaced, not even by root.
-    const QString path = m_folder.filePath("taken");
+    const QString path = m_folder.filePath("full.json");
     CFirmwareStateFile state(path);
-    QVERIFY(QDir().mkpath(path + "/inner"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be written to .*taken"));
     state.setVersion("a", "1.0");
-    QCOMPARE(state.getVersion("a"), QString("1.0"));
-    QVERIFY(QDir(path + "/inner").exists());
+    // As if the disk were full; the lock file has room.
+    signal(SIGXFSZ, SIG_IGN);
+    rlimit old{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &old), 0);
+    const rlimit small{1000, old.rlim_max};
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("cannot be written to .*full.json"));
+    state.setVersion(QString(2000, 'b'), "2.0");
+    setrlimit(RLIMIT_FSIZE, &old);
+    QCOMPARE(CFirmwareStateFile(path).getVersion("a"), QString("1.0"));
+    state.setVersion("c", "3.0");
+    QCOMPARE(CFirmwareStateFile(path).getVersion(QString(2000, 'b')), QString("2.0"));
 }
 
 QTEST_GUILESS_MAIN(CFirmwareStateFileTest)

@@ -1,0 +1,30 @@
+#include "fileend.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace Viewer::AppCore {
+
+CFileEnd CFileEnd::read(const QString &path, qint64 maximumSize)
+{
+    CFileEnd end;
+    const QFileInfo info(path);
+    QFile file(path);
+    if (info.exists() && !info.isFile()) {
+        end.error = tr("It is not a regular file.");
+        return end;
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        end.error = tr("The file cannot be read: %1.").arg(file.errorString());
+        return end;
+    }
+    end.isPartial = file.size() > maximumSize;
+    if (end.isPartial)
+        file.seek(file.size() - maximumSize);
+    end.text = file.read(maximumSize);
+    if (end.isPartial)
+        end.text.remove(0, end.text.indexOf('\n') + 1);
+    return end;
+}
+
+} // namespace Viewer::AppCore
