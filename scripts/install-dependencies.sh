@@ -18,6 +18,7 @@ run_packages=(
   qttools5-dev
   qttools5-dev-tools
   qttranslations5-l10n
+  zlib1g-dev
   # A display where there is none, and letters to put on it.
   fonts-dejavu-core
   fonts-liberation
