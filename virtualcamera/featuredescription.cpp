@@ -2,7 +2,7 @@
 
 #include "camerasettings.h"
 #include "memorymap.h"
-#include "ziparchive.h"
+#include "zipwriter.h"
 
 #include <QFile>
 #include <QList>
@@ -10,6 +10,8 @@
 #include <utility>
 
 namespace VirtualCamera {
+
+static const QByteArray XmlName = "camera.xml";
 
 static constexpr std::pair<const char *, EDescription> Names[] = {
     {"sound", EDescription::Sound},
@@ -92,38 +94,43 @@ static CFeatureDescription makeLocal(const QByteArray &name, QByteArray bytes)
     return {url, bytes};
 }
 
+static CFeatureDescription makeZipped(const QByteArray &xml, qint64 size = 0)
+{
+    CZipWriter writer;
+    writer.add(XmlName, xml, size);
+    return makeLocal("camera.zip", writer.getArchive());
+}
+
 CFeatureDescription makeFeatureDescription(const CCameraSettings &settings)
 {
     constexpr qint64 bombUnit = 1'000'000;
     constexpr int mebibyte = 1024 * 1024;
-    const QByteArray name = "camera.xml";
-    const QByteArray zipName = "camera.zip";
     const QByteArray sound = readSound(settings);
     switch (settings.description) {
     case EDescription::Sound:
         break;
     case EDescription::Zipped:
-        return makeLocal(zipName, makeZip(name, sound, sound.size()));
+        return makeZipped(sound);
     case EDescription::SelfValue:
     case EDescription::SelfAddress:
     case EDescription::SelfFeature:
-        return makeLocal(name, tieKnot(sound, settings.description));
+        return makeLocal(XmlName, tieKnot(sound, settings.description));
     case EDescription::File:
         return {"File:///dev/zero", {}};
     case EDescription::Http:
         return {"http://127.0.0.1:9/camera.xml", {}};
     case EDescription::Bomb100:
-        return makeLocal(zipName, makeZip(name, sound, 100 * bombUnit));
+        return makeZipped(sound, 100 * bombUnit);
     case EDescription::Bomb1000:
-        return makeLocal(zipName, makeZip(name, sound, 1000 * bombUnit));
+        return makeZipped(sound, 1000 * bombUnit);
     case EDescription::Large:
-        return makeLocal(name, sound.leftJustified(16 * mebibyte + 4, ' '));
+        return makeLocal(XmlName, sound.leftJustified(16 * mebibyte + 4, ' '));
     case EDescription::Broken:
-        return makeLocal(name, sound.left(sound.size() / 2));
+        return makeLocal(XmlName, sound.left(sound.size() / 2));
     case EDescription::Given:
         return makeLocal(settings.descriptionName, settings.descriptionContent);
     }
-    return makeLocal(name, sound);
+    return makeLocal(XmlName, sound);
 }
 
 } // namespace VirtualCamera

@@ -1,4 +1,4 @@
-#include "ziparchive.h"
+#include "zipwriter.h"
 
 #include <QtEndian>
 
@@ -60,15 +60,22 @@ struct CStream
     qint64 size = 0;
 };
 
+CPiece makeBlanks(qint64 size)
+{
+    return CPiece(QByteArray(static_cast<int>(size), ' '));
+}
+
 CStream pack(const QByteArray &content, qint64 size)
 {
     CStream stream;
     stream.append(CPiece(content));
-    const CPiece blanks(QByteArray(BLANK_SIZE, ' '));
-    while (size - stream.size >= blanks.size)
-        stream.append(blanks);
+    if (size - stream.size >= BLANK_SIZE) {
+        const CPiece blanks = makeBlanks(BLANK_SIZE);
+        while (size - stream.size >= blanks.size)
+            stream.append(blanks);
+    }
     if (size > stream.size)
-        stream.append(CPiece(QByteArray(static_cast<int>(size - stream.size), ' ')));
+        stream.append(makeBlanks(size - stream.size));
     // An empty block that is the last one.
     stream.packed.append("\x03\x00", 2);
     return stream;
@@ -76,7 +83,7 @@ CStream pack(const QByteArray &content, qint64 size)
 
 } // namespace
 
-QByteArray makeZip(const QByteArray &name, const QByteArray &content, qint64 size)
+void CZipWriter::add(const QByteArray &name, const QByteArray &content, qint64 size)
 {
     const CStream stream = pack(content, size);
 
@@ -92,18 +99,25 @@ QByteArray makeZip(const QByteArray &name, const QByteArray &content, qint64 siz
     append<quint16>(header, static_cast<quint16>(name.size()));
     append<quint16>(header, 0);
 
-    const QByteArray begin = "PK\x03\x04" + header + name + stream.packed;
-    QByteArray directory("PK\x01\x02\x14\0", 6);
-    directory += header + QByteArray(14, '\0') + name; // the file lies at the beginning
+    m_directory += QByteArray("PK\x01\x02\x14\0", 6) + header + QByteArray(10, '\0');
+    append<quint32>(m_directory, static_cast<quint32>(m_files.size()));
+    m_directory += name;
+    m_files += "PK\x03\x04" + header + name + stream.packed;
+    ++m_count;
+}
 
-    QByteArray end("PK\x05\x06\0\0\0\0\x01\0\x01\0", 12);
-    append<quint32>(end, static_cast<quint32>(directory.size()));
-    append<quint32>(end, static_cast<quint32>(begin.size()));
+QByteArray CZipWriter::getArchive() const
+{
+    QByteArray end("PK\x05\x06\0\0\0\0", 8);
+    append<quint16>(end, static_cast<quint16>(m_count));
+    append<quint16>(end, static_cast<quint16>(m_count));
+    append<quint32>(end, static_cast<quint32>(m_directory.size()));
+    append<quint32>(end, static_cast<quint32>(m_files.size()));
     constexpr int commentLengthSize = 2;
-    const int length = begin.size() + directory.size() + end.size() + commentLengthSize;
+    const int length = m_files.size() + m_directory.size() + end.size() + commentLengthSize;
     const int comment = (4 - length % 4) % 4;
     append<quint16>(end, static_cast<quint16>(comment));
-    return begin + directory + end + QByteArray(comment, ' ');
+    return m_files + m_directory + end + QByteArray(comment, ' ');
 }
 
 } // namespace VirtualCamera
