@@ -3,6 +3,7 @@
 #include "core/baseexception.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonscanner.h"
+#include "viewer/json/messagetext.h"
 
 #include <QDir>
 #include <QFile>
@@ -215,9 +216,8 @@ private:
         const QString id = readText();
         const auto other = m_idPositions.constFind(id);
         if (other != m_idPositions.constEnd())
-            m_scanner.fail(QStringLiteral("the id \"%1\" is already used in line %2")
-                               .arg(id)
-                               .arg(m_scanner.getLine(*other)));
+            m_scanner.fail(QStringLiteral("the id %1 is already used in line %2")
+                               .arg(Json::quote(id), QString::number(m_scanner.getLine(*other))));
         m_idPositions.insert(id, m_scanner.getPosition());
         return id;
     }

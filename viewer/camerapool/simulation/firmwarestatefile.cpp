@@ -1,6 +1,7 @@
 #include "firmwarestatefile.h"
 
 #include "viewer/camerapool/logging.h"
+#include "viewer/json/messagetext.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,9 +36,9 @@ static QHash<QString, QString> parse(const QByteArray &text, QString &fault)
     for (auto it = firmware.constBegin(); it != firmware.constEnd(); ++it) {
         const QString version = it.value().toString();
         if (version.isEmpty() || version.size() > MaximumVersionLength
-            || version != version.simplified()) {
-            fault = QStringLiteral("the version of camera \"%1\" is not a text of one line")
-                        .arg(it.key().left(MaximumVersionLength).simplified());
+            || version != version.simplified() || Json::hasUnprintable(version)) {
+            fault = QStringLiteral("the version of camera %1 is not a text of one line")
+                        .arg(Json::quote(it.key()));
             return {};
         }
         versions.insert(it.key(), version);
