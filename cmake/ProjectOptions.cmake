@@ -21,7 +21,7 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
 endif()
 
 option(WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
-set(SANITIZER "" CACHE STRING "Sanitizers to build with: empty, address or thread")
+set(SANITIZER "" CACHE STRING "Sanitizers to build with: empty, address, thread or fuzzer")
 
 # Tests may write plain literals where products say how a text is encoded.
 add_library(test_options INTERFACE)
@@ -42,8 +42,14 @@ if(SANITIZER STREQUAL "address")
 elseif(SANITIZER STREQUAL "thread")
   add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
   add_link_options(-fsanitize=thread)
+elseif(SANITIZER STREQUAL "fuzzer")
+  # Libraries as well as programs: a fuzzer follows only code that tells it where it is.
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer
+    -fno-sanitize-recover=undefined)
+  add_link_options(-fsanitize=address,undefined)
 elseif(SANITIZER)
-  message(FATAL_ERROR "SANITIZER is '${SANITIZER}'; it can be empty, address or thread")
+  message(FATAL_ERROR
+    "SANITIZER is '${SANITIZER}'; it can be empty, address, thread or fuzzer")
 endif()
 
 # Builds the tests that are worth a run under ThreadSanitizer.

@@ -3,6 +3,7 @@
 #
 #   scripts/install-dependencies.sh run       to build and to start the viewer
 #   scripts/install-dependencies.sh test      to build, to test and to check the format as well
+#   scripts/install-dependencies.sh fuzz      to build and to run the fuzzers
 #   scripts/install-dependencies.sh pictures  to renew the pictures of the README
 set -euo pipefail
 
@@ -19,6 +20,7 @@ run_packages=(
   qttools5-dev
   qttools5-dev-tools
   qttranslations5-l10n
+  zlib1g-dev
   # A display where there is none, and letters to put on it.
   fonts-dejavu-core
   fonts-liberation
@@ -35,6 +37,13 @@ test_packages=(
   # The address and thread sanitizers' libraries come with the compiler.
 )
 
+fuzz_packages=(
+  ccache
+  clang
+  # The fuzzer's and the sanitizers' libraries, and what puts names to addresses.
+  libclang-rt-14-dev
+  llvm
+)
 picture_packages=(
   imagemagick
 )
@@ -42,9 +51,10 @@ picture_packages=(
 case "${1:-}" in
   run) packages=("${run_packages[@]}") ;;
   test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
+  fuzz) packages=("${run_packages[@]}" "${fuzz_packages[@]}") ;;
   pictures) packages=("${run_packages[@]}" "${picture_packages[@]}") ;;
   *)
-    echo "usage: $0 run|test|pictures" >&2
+    echo "usage: $0 run|test|fuzz|pictures" >&2
     exit 2
     ;;
 esac

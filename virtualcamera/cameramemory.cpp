@@ -1,6 +1,6 @@
 #include "cameramemory.h"
 
-#include "featuredescription.h"
+#include "featurelimits.h"
 #include "icameraobserver.h"
 #include "memorymap.h"
 
@@ -18,10 +18,12 @@ static constexpr quint32 FileFailure = 1;
 CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer)
     : m_settings(settings)
     , m_observer(observer)
+    , m_description(makeFeatureDescription(settings))
     , m_bootstrap(MemoryMap::BOOTSTRAP_SIZE, '\0')
-    , m_description(makeFeatureDescription(settings.bufferLength))
     , m_features(MemoryMap::FEATURES_SIZE, '\0')
-    , m_buffer(settings.bufferLength, '\0')
+    , m_buffer((settings.bufferLength + 3) / 4 * 4, '\0')
+    , m_model(settings.model)
+    , m_serialNumber(settings.serialNumber)
     , m_firmwareVersion(settings.firmwareVersion)
 {
     setUpBootstrap();
@@ -40,15 +42,12 @@ void CCameraMemory::setUpBootstrap()
     setWord(MemoryMap::CURRENT_ADDRESS, m_settings.address);
     setWord(MemoryMap::CURRENT_SUBNET_MASK, 0xff000000);
     setText(MemoryMap::VENDOR_NAME, m_settings.vendor, 32);
-    setText(MemoryMap::MODEL_NAME, m_settings.model, 32);
+    setText(MemoryMap::MODEL_NAME, m_model, 32);
     setText(MemoryMap::DEVICE_VERSION, m_firmwareVersion, 32);
     setText(MemoryMap::VENDOR_INFORMATION, "virtual camera", 48);
-    setText(MemoryMap::SERIAL_NUMBER, m_settings.serialNumber, 16);
+    setText(MemoryMap::SERIAL_NUMBER, m_serialNumber, 16);
     setText(MemoryMap::USER_NAME, m_settings.userName, 16);
-    setText(MemoryMap::FIRST_URL,
-            "Local:camera.xml;" + QByteArray::number(MemoryMap::DESCRIPTION, 16) + ';'
-                + QByteArray::number(m_description.size(), 16),
-            MemoryMap::URL_SIZE);
+    setText(MemoryMap::FIRST_URL, m_description.url, MemoryMap::URL_SIZE);
     setWord(MemoryMap::INTERFACE_COUNT, 1);
     setWord(MemoryMap::CAPABILITY, 0xc0000007); // user name, serial number, writes, many registers
     setWord(MemoryMap::HEARTBEAT_TIMEOUT,
@@ -101,9 +100,9 @@ const QByteArray *CCameraMemory::findArea(quint32 address, int size, int &offset
 {
     const std::pair<quint32, const QByteArray *> areas[] = {
         {0, &m_bootstrap},
-        {MemoryMap::DESCRIPTION, &m_description},
         {MemoryMap::FEATURES, &m_features},
         {MemoryMap::FILE_ACCESS_BUFFER, &m_buffer},
+        {MemoryMap::DESCRIPTION, &m_description.bytes},
     };
     for (const auto &[begin, bytes] : areas) {
         if (address >= begin && address - begin + static_cast<qint64>(size) <= bytes->size()) {
@@ -114,22 +113,44 @@ const QByteArray *CCameraMemory::findArea(quint32 address, int size, int &offset
     return nullptr;
 }
 
-EStatus CCameraMemory::read(quint32 address, int size, Time now, QByteArray &bytes) const
+EStatus CCameraMemory::read(quint32 address, int size, Time now, QByteArray &bytes)
 {
     int offset = 0;
     const QByteArray *const area = findArea(address, size, offset);
     if (!area)
         return EStatus::InvalidAddress;
-    bytes = area->mid(offset, size);
-
-    // A command reads as not yet done for as long as it takes.
-    const qint64 command = static_cast<qint64>(MemoryMap::FIRMWARE_ACTIVATE) - address;
-    if (now < m_activationEnd && command >= 0 && command < size) {
-        QByteArray running;
-        Gvcp::appendWord(running, 1);
-        bytes.replace(static_cast<int>(command), running.size(), running);
+    if (area != &m_features) {
+        bytes = area->mid(offset, size);
+        return EStatus::Success;
     }
+    bytes.clear();
+    for (quint32 i = 0; i < static_cast<quint32>(size); i += 4)
+        Gvcp::appendWord(bytes, readFeatureWord(address + i, now));
     return EStatus::Success;
+}
+
+quint32 CCameraMemory::readFeatureWord(quint32 address, Time now)
+{
+    switch (address) {
+    case MemoryMap::FIRMWARE_ACTIVATE:
+        return findRunning(m_activation, now) ? 1 : 0;
+    case MemoryMap::FILE_OPERATION_EXECUTE:
+        return findRunning(m_operation, now) ? 1 : 0;
+    case MemoryMap::FILE_OPERATION_STATUS:
+        return findRunning(m_operation, now) ? FileFailure : getWord(address);
+    case MemoryMap::FILE_OPERATION_RESULT:
+        return findRunning(m_operation, now) ? 0 : getWord(address);
+    default:
+        return getWord(address);
+    }
+}
+
+bool CCameraMemory::findRunning(CRunning &running, Time now)
+{
+    const bool isRunning = !running.hasEnded(now);
+    if (running.reads > 0)
+        --running.reads;
+    return isRunning;
 }
 
 bool CCameraMemory::isWritable(quint32 address)
@@ -156,13 +177,19 @@ CCameraMemory::CWriteResult CCameraMemory::write(quint32 address, const QByteArr
     const QByteArray *const area = findArea(address, bytes.size(), offset);
     if (!area)
         return {EStatus::InvalidAddress, {}};
+    if (area == &m_description.bytes)
+        return {EStatus::WriteProtect, {}};
     if (area == &m_buffer) {
+        if (!m_operation.hasEnded(now))
+            return {EStatus::Busy, {}};
         m_buffer.replace(offset, bytes.size(), bytes);
         return {};
     }
     for (int i = 0; i < bytes.size(); i += 4) {
-        if (!isWritable(address + static_cast<quint32>(i)))
-            return {EStatus::WriteProtect, {}};
+        const EStatus status
+            = checkWord(address + static_cast<quint32>(i), Gvcp::readWord(bytes, i), now);
+        if (status != EStatus::Success)
+            return {status, {}};
     }
     CWriteResult result;
     for (int i = 0; i < bytes.size() && result.status == EStatus::Success; i += 4) {
@@ -173,6 +200,18 @@ CCameraMemory::CWriteResult CCameraMemory::write(quint32 address, const QByteArr
     return result;
 }
 
+EStatus CCameraMemory::checkWord(quint32 address, quint32 value, Time now) const
+{
+    if (!isWritable(address))
+        return EStatus::WriteProtect;
+    if (address >= MemoryMap::FILE_SELECTOR && !m_operation.hasEnded(now))
+        return EStatus::Busy;
+    const bool isLength = address == MemoryMap::FILE_ACCESS_LENGTH;
+    if (isLength && (value == 0 || value > static_cast<quint32>(m_settings.bufferLength)))
+        return EStatus::InvalidParameter;
+    return isWithinLimits(address, value) ? EStatus::Success : EStatus::InvalidParameter;
+}
+
 CCameraMemory::CWriteResult CCameraMemory::writeWord(quint32 address, quint32 value, Time now)
 {
     switch (address) {
@@ -180,10 +219,6 @@ CCameraMemory::CWriteResult CCameraMemory::writeWord(quint32 address, quint32 va
     case MemoryMap::FIRMWARE_ACTIVATE:
     case MemoryMap::FILE_OPERATION_EXECUTE:
         return value == 0 ? CWriteResult() : executeCommand(address, now);
-    case MemoryMap::FILE_ACCESS_LENGTH:
-        if (value == 0 || value > static_cast<quint32>(m_settings.bufferLength))
-            return {EStatus::InvalidParameter, {}};
-        break;
     case MemoryMap::HEARTBEAT_TIMEOUT:
         // Shorter ones are of no use: a camera rounds them up.
         value = qMax<quint32>(value, 500);
@@ -201,13 +236,16 @@ CCameraMemory::CWriteResult CCameraMemory::executeCommand(quint32 address, Time 
     case MemoryMap::DEVICE_RESET:
         if (isRefused("DeviceReset"))
             return {EStatus::Error, {}};
-        m_resetRequested = true;
+        if (m_settings.ignoresReset)
+            m_observer.onEvent("ignore DeviceReset");
+        else
+            m_resetRequested = true;
         return {};
     case MemoryMap::FIRMWARE_ACTIVATE:
         if (isRefused("FirmwareActivate") || m_file.getVersion().isEmpty())
             return {EStatus::Error, {}};
         m_activatedVersion = m_file.getVersion();
-        m_activationEnd = now + m_settings.activationDuration;
+        m_activation = {now + m_settings.activationDuration, m_settings.activationReads};
         m_observer.onEvent("activate " + m_activatedVersion);
         return {};
     default:
@@ -221,6 +259,7 @@ CCameraMemory::CWriteResult CCameraMemory::executeFileOperation()
 {
     quint32 result = 0;
     const bool succeeded = runFileOperation(result);
+    m_operation.reads = m_settings.operationReads;
     setWord(MemoryMap::FILE_OPERATION_STATUS, succeeded ? FileSuccess : FileFailure);
     setWord(MemoryMap::FILE_OPERATION_RESULT, result);
     setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
@@ -295,6 +334,7 @@ void CCameraMemory::abandonFile()
     if (!m_file.isOpen())
         return;
     m_file.abandon();
+    m_operation = {};
     m_observer.onEvent("abandon FirmwareImage");
 }
 
@@ -303,13 +343,24 @@ bool CCameraMemory::isResetRequested() const
     return m_resetRequested;
 }
 
-void CCameraMemory::restart()
+void CCameraMemory::breakOff(Time now)
 {
     m_resetRequested = false;
-    m_activationEnd = Time(0);
+    if (!m_activation.hasEnded(now))
+        m_activatedVersion.clear();
+    m_activation = {};
+    m_operation = {};
+}
+
+void CCameraMemory::restart()
+{
     if (!m_activatedVersion.isEmpty() && !m_settings.returnsWithOldVersion)
         m_firmwareVersion = m_activatedVersion;
     m_activatedVersion.clear();
+    if (!m_settings.returnsWithModel.isEmpty())
+        m_model = m_settings.returnsWithModel;
+    if (!m_settings.returnsWithSerialNumber.isEmpty())
+        m_serialNumber = m_settings.returnsWithSerialNumber;
     m_file.abandon();
     m_buffer.fill('\0');
     setUpBootstrap();

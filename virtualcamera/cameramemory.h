@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camerasettings.h"
+#include "featuredescription.h"
 #include "firmwarefile.h"
 #include "gvcp.h"
 
@@ -30,10 +31,11 @@ public:
     CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer);
 
     /// Reads @p size bytes; both numbers are multiples of 4. On any other status than Success
-    /// @p bytes is left alone.
-    Gvcp::EStatus read(quint32 address, int size, Time now, QByteArray &bytes) const;
+    /// @p bytes is left alone. To read may change something: commands count who asks for their end.
+    Gvcp::EStatus read(quint32 address, int size, Time now, QByteArray &bytes);
 
-    /// Writes @p bytes, a multiple of 4 of them, all or nothing.
+    /// Writes @p bytes, a multiple of 4 of them, all or nothing: only a command that fails comes
+    /// too late for what was written in front of it.
     CWriteResult write(quint32 address, const QByteArray &bytes, Time now);
 
     /// The part of the memory that answers a discovery.
@@ -49,6 +51,9 @@ public:
     /// True once a reset has been asked for.
     [[nodiscard]] bool isResetRequested() const;
 
+    /// The camera goes away: firmware whose activation has not ended is not activated.
+    void breakOff(Time now);
+
     /// The camera comes back from a reset: activated firmware takes effect, settings are lost.
     void restart();
 
@@ -58,6 +63,15 @@ public:
     [[nodiscard]] QByteArray getFirmwareVersion() const;
 
 private:
+    /// Something that has been started and reads as running until it has ended.
+    struct CRunning
+    {
+        Time end{0};
+        int reads = 0; ///< that still find it running
+
+        [[nodiscard]] bool hasEnded(Time now) const { return now >= end && reads == 0; }
+    };
+
     void setUpBootstrap();
     void setUpFeatures();
     void setWord(quint32 address, quint32 value);
@@ -65,7 +79,10 @@ private:
     void setText(quint32 address, const QByteArray &text, int size);
     [[nodiscard]] const QByteArray *findArea(quint32 address, int size, int &offset) const;
     void setRegister(quint32 address, const QByteArray &bytes);
+    [[nodiscard]] quint32 readFeatureWord(quint32 address, Time now);
+    [[nodiscard]] static bool findRunning(CRunning &running, Time now);
     [[nodiscard]] static bool isWritable(quint32 address);
+    [[nodiscard]] Gvcp::EStatus checkWord(quint32 address, quint32 value, Time now) const;
 
     CWriteResult writeWord(quint32 address, quint32 value, Time now);
     CWriteResult executeCommand(quint32 address, Time now);
@@ -75,14 +92,17 @@ private:
 
     const CCameraSettings m_settings;
     ICameraObserver &m_observer;
+    const CFeatureDescription m_description;
     QByteArray m_bootstrap;
-    QByteArray m_description;
     QByteArray m_features;
     QByteArray m_buffer;
     CFirmwareFile m_file;
+    CRunning m_operation; ///< of the file
+    QByteArray m_model;
+    QByteArray m_serialNumber;
     QByteArray m_firmwareVersion;
     QByteArray m_activatedVersion; ///< takes effect at the next reset; empty: none
-    Time m_activationEnd{0};
+    CRunning m_activation;
     qint64 m_uploadedBytes = 0;
     bool m_resetRequested = false;
 };

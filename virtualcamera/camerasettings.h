@@ -1,5 +1,7 @@
 #pragma once
 
+#include "edescription.h"
+
 #include <QByteArray>
 #include <QtGlobal>
 
@@ -20,18 +22,30 @@ struct CCameraSettings
     quint32 address = 0x7f000002; ///< IPv4, 127.0.0.2; also the end of the hardware address
     quint32 status = 0; ///< 0: the camera can be updated
 
-    int bufferLength = 4096; ///< of the file access buffer in bytes, 512 to 65536, a multiple of 4
+    int bufferLength = 4096; ///< of the file access buffer in bytes, 512 to 65536
 
-    std::chrono::milliseconds resetDuration{2000};
+    EDescription description = EDescription::Sound;
+    QByteArray descriptionName; ///< of the file that is given out as the description
+    QByteArray descriptionContent; ///< of this file
+
+    std::chrono::milliseconds resetDelay{0}; ///< from the command to the silence
+    std::chrono::milliseconds resetDuration{2000}; ///< of the silence
     std::chrono::milliseconds activationDuration{200};
+    int activationReads = 0; ///< so often the activation reads as running, whatever its duration
+    int operationReads = 0; ///< the same for each file operation; 0: nobody can tell that it runs
     std::chrono::milliseconds openDuration{0}; ///< of the file; above 0 it is announced as pending
     std::chrono::milliseconds heartbeatTimeout{3000};
 
     // Faults.
     std::optional<qint64> diesAfterBytes; ///< falls silent for ever when so much has been uploaded
     std::optional<qint64> losesControlAfterBytes; ///< somebody else takes it
+    bool neverOpens = false; ///< the file: announced as pending again and again
+    bool ignoresReset = false; ///< but says that it has done it
     bool neverReturns = false; ///< from a reset
     bool returnsWithOldVersion = false;
+    QByteArray returnsWithModel; ///< from a reset; empty: with the same one
+    QByteArray returnsWithSerialNumber; ///< the same
+    quint32 restartsToo = 0; ///< IPv4 address of a camera that restarts with this one; 0: none
     QByteArray refusedCommand; ///< name of a command feature
     int losesEvery = 0; ///< each n-th datagram is lost before it is read; 0: none
     int losesAcknowledge = 0; ///< the answer to the n-th write of memory is lost; 0: none

@@ -1,6 +1,10 @@
 #include "commandline.h"
 
+#include "featuredescription.h"
+
 #include <QCommandLineParser>
+#include <QFile>
+#include <QFileInfo>
 #include <QHostAddress>
 
 #include <functional>
@@ -16,7 +20,7 @@ struct COption
 {
     const char *name;
     const char *valueName; ///< null: a switch
-    const char *description;
+    QByteArray description;
     std::function<bool(const QString &)> take;
 };
 
@@ -61,16 +65,27 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
 {
     constexpr qint64 longest = 3'600'000; // an hour
     constexpr qint64 largest = std::numeric_limits<int>::max();
-    const auto takeAddress = [this](const QString &text) {
-        bool isAddress = false;
-        settings.address = QHostAddress(text).toIPv4Address(&isAddress);
-        return isAddress && settings.address >> 24 == 127;
+    const auto takeAddress = [](quint32 &target) {
+        return [&target](const QString &text) {
+            bool isAddress = false;
+            target = QHostAddress(text).toIPv4Address(&isAddress);
+            return isAddress && target >> 24 == 127;
+        };
     };
-    const auto takeBufferLength = [this](const QString &text) {
-        qint64 length = 0;
-        const bool isGood = readNumber(text, 512, 65536, length) && length % 4 == 0;
-        settings.bufferLength = static_cast<int>(length);
-        return isGood;
+    const auto takeDescription = [this](const QString &text) {
+        if (const auto description = findDescription(text.toUtf8())) {
+            settings.description = *description;
+            return true;
+        }
+        constexpr qint64 longestDescription = 64 * 1024 * 1024;
+        QFile file(text);
+        if (!QFileInfo(text).isFile() || !file.open(QIODevice::ReadOnly)
+            || file.size() > longestDescription)
+            return false;
+        settings.description = EDescription::Given;
+        settings.descriptionName = QFileInfo(text).fileName().toUtf8();
+        settings.descriptionContent = file.readAll();
+        return true;
     };
     const auto takeRefusedCommand = [this](const QString &text) {
         settings.refusedCommand = text.toUtf8();
@@ -89,25 +104,45 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     };
 
     const std::vector<COption> options = {
-        {"address", "A.B.C.D", "Loopback address to answer at.", takeAddress},
+        {"address", "A.B.C.D", "Loopback address to answer at.", takeAddress(settings.address)},
         {"vendor", "TEXT", "Vendor name.", takeText(settings.vendor, 31)},
         {"model", "TEXT", "Model name.", takeText(settings.model, 31)},
         {"serial", "TEXT", "Serial number.", takeText(settings.serialNumber, 15)},
         {"user-name", "TEXT", "Name given by the user.", takeText(settings.userName, 15)},
         {"firmware", "VERSION", "Firmware version.", takeText(settings.firmwareVersion, 31)},
         {"status", "NUMBER", "Status; 0: can be updated.", takeNumber(settings.status, 0, largest)},
-        {"buffer", "BYTES", "File access buffer, 512 to 65536, a multiple of 4.", takeBufferLength},
+        {"buffer", "BYTES", "File access buffer, 512 to 65536.",
+         takeNumber(settings.bufferLength, 512, 65536)},
         {"flash", "FILE", "Keep what was uploaded in FILE.", takeFlashFile},
+        {"description", "KIND",
+         "Description of the features: " + getDescriptionNames() + ", or the path of a file.",
+         takeDescription},
+        {"reset-delay-ms", "MS", "Answer on for so long after the command for a reset.",
+         takeNumber(settings.resetDelay, 0, longest)},
         {"reset-ms", "MS", "Silence during a reset.",
          takeNumber(settings.resetDuration, 0, longest)},
         {"activate-ms", "MS", "Duration of the command FirmwareActivate.",
          takeNumber(settings.activationDuration, 0, longest)},
+        {"activate-reads", "N", "Let FirmwareActivate read as running N times.",
+         takeNumber(settings.activationReads, 0, largest)},
+        {"operation-reads", "N", "Let each file operation read as running N times.",
+         takeNumber(settings.operationReads, 0, largest)},
         {"open-ms", "MS", "Announce the opening of the file as pending for so long.",
          takeNumber(settings.openDuration, 0, 65535)},
         {"die-after", "BYTES", "Fall silent for ever after so many uploaded bytes.",
          takeBytes(settings.diesAfterBytes)},
         {"lose-control", "BYTES", "Somebody else takes control after so many uploaded bytes.",
          takeBytes(settings.losesControlAfterBytes)},
+        {"never-open", nullptr, "Announce the opening as pending again and again, without end.",
+         takeSwitch(settings.neverOpens)},
+        {"ignore-reset", nullptr, "Say that a reset is done, and go on as before.",
+         takeSwitch(settings.ignoresReset)},
+        {"restart-too", "A.B.C.D", "Restart the virtual camera at this address with this one.",
+         takeAddress(settings.restartsToo)},
+        {"return-model", "TEXT", "Return from a reset as this model.",
+         takeText(settings.returnsWithModel, 31)},
+        {"return-serial", "TEXT", "Return from a reset with this serial number.",
+         takeText(settings.returnsWithSerialNumber, 15)},
         {"never-return", nullptr, "Stay away after a reset.", takeSwitch(settings.neverReturns)},
         {"old-version", nullptr, "Return from a reset with the old firmware.",
          takeSwitch(settings.returnsWithOldVersion)},
@@ -152,6 +187,9 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         message = QStringLiteral("\"%1\" is no good value for --%2.").arg(parser.value(name), name);
         return EResult::Error;
     }
+    // What is announced must take some time.
+    if (settings.neverOpens && settings.openDuration.count() == 0)
+        settings.openDuration = std::chrono::seconds(1);
     return EResult::Start;
 }
 

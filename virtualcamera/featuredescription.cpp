@@ -1,18 +1,136 @@
 #include "featuredescription.h"
 
+#include "camerasettings.h"
+#include "memorymap.h"
+#include "zipwriter.h"
+
 #include <QFile>
+#include <QList>
+
+#include <utility>
 
 namespace VirtualCamera {
 
-QByteArray makeFeatureDescription(int bufferLength)
+static const QByteArray XmlName = "camera.xml";
+
+static constexpr std::pair<const char *, EDescription> Names[] = {
+    {"sound", EDescription::Sound},
+    {"zip", EDescription::Zipped},
+    {"self-value", EDescription::SelfValue},
+    {"self-address", EDescription::SelfAddress},
+    {"self-feature", EDescription::SelfFeature},
+    {"file", EDescription::File},
+    {"http", EDescription::Http},
+    {"bomb-100", EDescription::Bomb100},
+    {"bomb-1000", EDescription::Bomb1000},
+    {"large", EDescription::Large},
+    {"broken", EDescription::Broken},
+};
+
+std::optional<EDescription> findDescription(const QByteArray &name)
+{
+    for (const auto &[known, description] : Names) {
+        if (name == known)
+            return description;
+    }
+    return {};
+}
+
+QByteArray getDescriptionNames()
+{
+    QList<QByteArray> names;
+    for (const auto &[name, description] : Names)
+        names.append(name);
+    return names.join(", ");
+}
+
+static QByteArray readSound(const CCameraSettings &settings)
 {
     QFile file(QStringLiteral(":/virtualcamera/camera.xml"));
     if (!file.open(QIODevice::ReadOnly))
         qFatal("The description of the features is not part of the program.");
-    QByteArray description = file.readAll();
-    description.replace("@BUFFER_LENGTH@", QByteArray::number(bufferLength));
-    const int whole = (description.size() + 3) / 4 * 4;
-    return description.leftJustified(whole, ' ');
+    QByteArray xml = file.readAll();
+    xml.replace("@BUFFER_LENGTH@", QByteArray::number(settings.bufferLength));
+    // Who can read it can wait for its end.
+    xml.replace("@EXECUTE_ACCESS@", settings.operationReads > 0 ? "RW" : "WO");
+    return xml;
+}
+
+static QByteArray replaceOnce(QByteArray xml, const QByteArray &before, const QByteArray &after)
+{
+    if (xml.count(before) != 1)
+        qFatal("\"%s\" is not once in the description of the features.", before.constData());
+    return xml.replace(before, after);
+}
+
+// The feature is one that is read before every update.
+static QByteArray tieKnot(const QByteArray &xml, EDescription kind)
+{
+    switch (kind) {
+    case EDescription::SelfValue:
+        return replaceOnce(xml, "<IntReg Name=\"DeviceStatus\">",
+                           "<Integer Name=\"DeviceStatus\">\n"
+                           "    <pValue>DeviceStatusAgain</pValue>\n"
+                           "  </Integer>\n\n"
+                           "  <Integer Name=\"DeviceStatusAgain\">\n"
+                           "    <pValue>DeviceStatus</pValue>\n"
+                           "  </Integer>\n\n"
+                           "  <IntReg Name=\"DeviceStatusRegister\">");
+    case EDescription::SelfAddress:
+        return replaceOnce(xml, "<Address>0x100020</Address>", "<pAddress>DeviceStatus</pAddress>");
+    case EDescription::SelfFeature:
+        return replaceOnce(xml, "<Category Name=\"DeviceControl\">",
+                           "<Category Name=\"DeviceControl\">\n    <pFeature>Root</pFeature>");
+    default:
+        return xml;
+    }
+}
+
+static CFeatureDescription makeLocal(const QByteArray &name, QByteArray bytes)
+{
+    const QByteArray url = "Local:" + name + ';' + QByteArray::number(MemoryMap::DESCRIPTION, 16)
+        + ';' + QByteArray::number(bytes.size(), 16);
+    bytes.append((4 - bytes.size() % 4) % 4, '\0');
+    return {url, bytes};
+}
+
+static CFeatureDescription makeZipped(const QByteArray &xml, qint64 size = 0)
+{
+    CZipWriter writer;
+    writer.add(XmlName, xml, size);
+    return makeLocal("camera.zip", writer.getArchive());
+}
+
+CFeatureDescription makeFeatureDescription(const CCameraSettings &settings)
+{
+    constexpr qint64 bombUnit = 1'000'000;
+    constexpr int mebibyte = 1024 * 1024;
+    const QByteArray sound = readSound(settings);
+    switch (settings.description) {
+    case EDescription::Sound:
+        break;
+    case EDescription::Zipped:
+        return makeZipped(sound);
+    case EDescription::SelfValue:
+    case EDescription::SelfAddress:
+    case EDescription::SelfFeature:
+        return makeLocal(XmlName, tieKnot(sound, settings.description));
+    case EDescription::File:
+        return {"File:///dev/zero", {}};
+    case EDescription::Http:
+        return {"http://127.0.0.1:9/camera.xml", {}};
+    case EDescription::Bomb100:
+        return makeZipped(sound, 100 * bombUnit);
+    case EDescription::Bomb1000:
+        return makeZipped(sound, 1000 * bombUnit);
+    case EDescription::Large:
+        return makeLocal(XmlName, sound.leftJustified(16 * mebibyte + 4, ' '));
+    case EDescription::Broken:
+        return makeLocal(XmlName, sound.left(sound.size() / 2));
+    case EDescription::Given:
+        return makeLocal(settings.descriptionName, settings.descriptionContent);
+    }
+    return makeLocal(XmlName, sound);
 }
 
 } // namespace VirtualCamera

@@ -1,11 +1,30 @@
 #pragma once
 
+#include "edescription.h"
+
 #include <QByteArray>
+
+#include <optional>
 
 namespace VirtualCamera {
 
-/// The description of the camera's features for a file access buffer of @p bufferLength bytes: XML
-/// by the schema of GenICam, filled up with blanks to a whole word.
-[[nodiscard]] QByteArray makeFeatureDescription(int bufferLength);
+struct CCameraSettings;
+
+/// The description of a camera's features, and where the camera says that it is.
+struct CFeatureDescription
+{
+    QByteArray url;
+    QByteArray bytes; ///< filled up to a whole word
+};
+
+/// The description that @p settings ask for: XML by the schema of GenICam unless it is a faulty
+/// one.
+[[nodiscard]] CFeatureDescription makeFeatureDescription(const CCameraSettings &settings);
+
+/// The kind of description that the command line calls @p name.
+[[nodiscard]] std::optional<EDescription> findDescription(const QByteArray &name);
+
+/// The names of all kinds, with a comma between two.
+[[nodiscard]] QByteArray getDescriptionNames();
 
 } // namespace VirtualCamera

@@ -79,11 +79,15 @@ const QByteArray &CFirmwareFile::getContent() const
 
 QByteArray CFirmwareFile::getVersion() const
 {
-    if (isOpen())
-        return {};
+    const QByteArray size = readHeader("size:");
+    const bool isWhole = size.isEmpty() || size.toLongLong() == m_content.size();
+    return isOpen() || !isWhole ? QByteArray() : readHeader("version:");
+}
+
+QByteArray CFirmwareFile::readHeader(const QByteArray &name) const
+{
     constexpr int maximumHeaderSize = 4096;
     const QList<QByteArray> lines = m_content.left(maximumHeaderSize).split('\n');
-    const QByteArray name("version:");
     for (const QByteArray &line : lines) {
         if (line.trimmed().isEmpty())
             break;

@@ -51,10 +51,13 @@ public:
     [[nodiscard]] const QByteArray &getContent() const;
 
     /// The version that the image names in a line "version: <text>" of the header it begins with;
-    /// empty when there is none, or the file is open.
+    /// empty when there is none, the file is open, or a line "size: <number>" tells another number
+    /// of bytes than there are.
     [[nodiscard]] QByteArray getVersion() const;
 
 private:
+    [[nodiscard]] QByteArray readHeader(const QByteArray &name) const;
+
     enum class EState {
         Closed,
         Reading,

@@ -27,6 +27,16 @@ std::optional<CRequest> parseRequest(const QByteArray &datagram)
     return request;
 }
 
+QByteArray makeOrder(ECommand command)
+{
+    QByteArray order;
+    appendHalfWord(order, Key << 8);
+    appendHalfWord(order, static_cast<quint16>(command));
+    appendHalfWord(order, 0);
+    appendHalfWord(order, 1);
+    return order;
+}
+
 QByteArray makeAnswer(EStatus status, quint16 command, quint16 id, const QByteArray &payload)
 {
     QByteArray answer;

@@ -26,6 +26,7 @@ enum class ECommand : quint16 {
     ReadMemory = 0x0084,
     WriteMemory = 0x0086,
     Pending = 0x0088, ///< only its acknowledge exists
+    Restart = 0xC000, ///< no command of the standard: from one virtual camera to another
 };
 
 enum class EStatus : quint16 {
@@ -54,6 +55,9 @@ struct CRequest
 /// The request in @p datagram; nothing when it is too short for a header, of another protocol, or
 /// an answer.
 [[nodiscard]] std::optional<CRequest> parseRequest(const QByteArray &datagram);
+
+/// A datagram that asks for something without a payload and wants no answer.
+[[nodiscard]] QByteArray makeOrder(ECommand command);
 
 /// The answer to @p command with @p id.
 [[nodiscard]] QByteArray makeAnswer(EStatus status, quint16 command, quint16 id,

@@ -34,9 +34,6 @@ inline constexpr quint32 TICK_FREQUENCY_LOW = 0x0940;
 inline constexpr quint32 CONTROL_PRIVILEGE = 0x0A00;
 inline constexpr int BOOTSTRAP_SIZE = 0x0B00;
 
-/// The description of the features, padded to a whole word.
-inline constexpr quint32 DESCRIPTION = 0x00010000;
-
 // Features.
 inline constexpr quint32 FEATURES = 0x00100000;
 inline constexpr quint32 FIRMWARE_VERSION = FEATURES + 0x00; ///< 32 bytes of text
@@ -46,6 +43,7 @@ inline constexpr quint32 FIRMWARE_UPDATE_MODE = FEATURES + 0x28;
 inline constexpr quint32 FIRMWARE_ACTIVATE = FEATURES + 0x2C;
 inline constexpr quint32 EXPOSURE_TIME = FEATURES + 0x30;
 inline constexpr quint32 REVERSE_X = FEATURES + 0x34;
+inline constexpr quint32 GAIN = FEATURES + 0x38;
 
 // File access.
 inline constexpr quint32 FILE_SELECTOR = FEATURES + 0x40;
@@ -59,6 +57,11 @@ inline constexpr quint32 FILE_OPERATION_RESULT = FEATURES + 0x5C;
 inline constexpr quint32 FILE_SIZE = FEATURES + 0x60;
 inline constexpr int FEATURES_SIZE = 0x64;
 
+/// Whole words, also where the buffer's length is none.
 inline constexpr quint32 FILE_ACCESS_BUFFER = 0x00200000;
+
+/// The description of the features, filled up to a whole word. Behind everything else, since it may
+/// be of any size.
+inline constexpr quint32 DESCRIPTION = 0x10000000;
 
 } // namespace VirtualCamera::MemoryMap

@@ -80,17 +80,21 @@ QVector<CDatagram> CVirtualCamera::answer(const QByteArray &datagram, const Gvcp
         ++m_statistics.discoveries;
         return makeAnswers(EStatus::Success, m_memory.getDiscoveryData());
     }
+    if (request.command == static_cast<quint16>(ECommand::Restart)) {
+        m_leaves = now;
+        return leaveInTime(now);
+    }
     for (const CLastRequest &last : qAsConst(m_last)) {
         if (last.sender != sender || last.datagram != datagram)
             continue;
-        return m_pending && m_pending->answer.receiver == sender ? announcePending(request.id, now)
+        return m_pending && m_pending->answer.receiver == sender ? announcePending(now)
                                                                  : repeatAnswer(last);
     }
     if (m_pending)
         return makeAnswers(EStatus::Busy);
 
     const CReply reply = execute(request, sender, now);
-    const QVector<CDatagram> answers = makeAnswers(reply.status, reply.payload);
+    QVector<CDatagram> answers = makeAnswers(reply.status, reply.payload);
     remember({sender, datagram, answers.isEmpty() ? QByteArray() : answers[0].bytes});
 
     if (m_settings.diesAfterBytes && m_memory.getUploadedBytes() >= *m_settings.diesAfterBytes) {
@@ -101,12 +105,13 @@ QVector<CDatagram> CVirtualCamera::answer(const QByteArray &datagram, const Gvcp
     if (m_settings.losesControlAfterBytes && !m_hasLostControl
         && m_memory.getUploadedBytes() >= *m_settings.losesControlAfterBytes)
         handControlToSomebodyElse(now);
-    if (m_memory.isResetRequested())
-        startReset(now);
-    if (reply.duration.count() > 0 && !answers.isEmpty()) {
-        m_pending = CPendingAnswer{now + reply.duration, answers[0]};
+    if (m_memory.isResetRequested() && !m_leaves) {
+        m_leaves = now + m_settings.resetDelay;
+        answers = leaveInTime(now) + answers;
+    }
+    if (reply.duration.count() > 0 && !answers.isEmpty() && !isAway()) {
         m_observer.onEvent("pending " + QByteArray::number(qint64(reply.duration.count())));
-        return announcePending(request.id, now);
+        return setPending(request.id, reply.duration, answers.last(), now);
     }
     const bool isWrite = request.command == static_cast<quint16>(ECommand::WriteMemory);
     if (isWrite && m_statistics.memoryWrites == m_settings.losesAcknowledge) {
@@ -129,15 +134,35 @@ void CVirtualCamera::remember(const CLastRequest &request)
     m_last.append(request);
 }
 
-QVector<CDatagram> CVirtualCamera::announcePending(quint16 id, Time now) const
+QVector<CDatagram> CVirtualCamera::setPending(quint16 id, std::chrono::milliseconds duration,
+                                              const CDatagram &answer, Time now)
+{
+    const Time due = now + duration;
+    // In time, so that nobody gives up before.
+    const Time again = now + std::max(duration / 2, Time(1));
+    m_pending = CPendingAnswer{id, due, m_settings.neverOpens ? again : due, answer};
+    return announcePending(now);
+}
+
+QVector<CDatagram> CVirtualCamera::announcePending(Time now) const
 {
     const qint64 remaining = std::clamp<qint64>((m_pending->due - now).count(), 0, 0xffff);
     QByteArray payload;
     Gvcp::appendHalfWord(payload, 0);
     Gvcp::appendHalfWord(payload, static_cast<quint16>(remaining));
-    return {
-        {m_pending->answer.receiver,
-         Gvcp::makeAnswer(EStatus::Success, static_cast<quint16>(ECommand::Pending), id, payload)}};
+    return {{m_pending->answer.receiver,
+             Gvcp::makeAnswer(EStatus::Success, static_cast<quint16>(ECommand::Pending),
+                              m_pending->id, payload)}};
+}
+
+QVector<CDatagram> CVirtualCamera::endPending(Time now)
+{
+    m_lastHeard = now;
+    if (m_settings.neverOpens)
+        return setPending(m_pending->id, m_settings.openDuration, m_pending->answer, now);
+    const CDatagram answer = m_pending->answer;
+    m_pending.reset();
+    return {answer};
 }
 
 QVector<CDatagram> CVirtualCamera::repeatAnswer(const CLastRequest &last)
@@ -167,6 +192,7 @@ CVirtualCamera::CReply CVirtualCamera::execute(const Gvcp::CRequest &request, co
     case ECommand::Discovery:
     case ECommand::PacketResend:
     case ECommand::Pending:
+    case ECommand::Restart:
         break;
     }
     ++m_statistics.dropped;
@@ -257,8 +283,10 @@ bool CVirtualCamera::mayRead(quint32 address, const CPeer &sender) const
 CCameraMemory::CWriteResult CVirtualCamera::write(quint32 address, const QByteArray &bytes,
                                                   const CPeer &sender, Time now)
 {
-    if (!isAligned(address) || !isAligned(static_cast<quint32>(bytes.size())))
+    if (!isAligned(address) || !isAligned(static_cast<quint32>(bytes.size()))) {
+        m_observer.onEvent("refuse unaligned " + QByteArray::number(bytes.size()));
         return {EStatus::BadAlignment, {}};
+    }
     if (address == MemoryMap::CONTROL_PRIVILEGE && bytes.size() == 4)
         return {setPrivilege(Gvcp::readWord(bytes, 0), sender, now), {}};
     if (m_controller != sender)
@@ -302,13 +330,21 @@ void CVirtualCamera::handControlToSomebodyElse(Time now)
     static_cast<void>(setPrivilege(ControlBit, somebody, now));
 }
 
-void CVirtualCamera::startReset(Time now)
+QVector<CDatagram> CVirtualCamera::leaveInTime(Time now)
 {
+    if (!m_leaves || now < *m_leaves)
+        return {};
+    m_leaves.reset();
+    m_pending.reset();
     if (m_controller)
         loseControl("reset");
     m_observer.onEvent("reset");
+    m_memory.breakOff(now);
     m_returns = now + m_settings.resetDuration;
     m_isGone = m_settings.neverReturns;
+    if (m_settings.restartsToo == 0)
+        return {};
+    return {{{m_settings.restartsToo, Gvcp::PORT}, Gvcp::makeOrder(ECommand::Restart)}};
 }
 
 QVector<CDatagram> CVirtualCamera::tick(Time now)
@@ -316,11 +352,9 @@ QVector<CDatagram> CVirtualCamera::tick(Time now)
     QVector<CDatagram> answers;
     if (m_isGone)
         return answers;
-    if (m_pending && now >= m_pending->due) {
-        answers.append(m_pending->answer);
-        m_pending.reset();
-        m_lastHeard = now;
-    }
+    if (m_pending && now >= m_pending->next)
+        answers += endPending(now);
+    answers += leaveInTime(now);
     if (m_returns && now >= *m_returns) {
         m_returns.reset();
         m_last.clear();
@@ -337,11 +371,14 @@ std::optional<Time> CVirtualCamera::getNextDeadline() const
         return {};
     if (m_returns)
         return m_returns;
+    std::optional<Time> next = m_leaves;
+    const auto consider
+        = [&next](Time deadline) { next = next ? std::min(*next, deadline) : deadline; };
     if (m_pending)
-        return m_pending->due;
-    if (m_controller)
-        return m_lastHeard + m_memory.getHeartbeatTimeout();
-    return {};
+        consider(m_pending->next);
+    else if (m_controller)
+        consider(m_lastHeard + m_memory.getHeartbeatTimeout());
+    return next;
 }
 
 const CStatistics &CVirtualCamera::getStatistics() const

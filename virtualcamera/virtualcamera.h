@@ -52,7 +52,9 @@ private:
     /// An answer that is sent only when the camera has done what was asked.
     struct CPendingAnswer
     {
-        Time due;
+        quint16 id; ///< of the request
+        Time due; ///< as it is announced
+        Time next; ///< when something is sent: the answer, or one more announcement
         CDatagram answer;
     };
 
@@ -69,7 +71,12 @@ private:
                                             const Gvcp::CRequest &request, const CPeer &sender,
                                             Time now);
     [[nodiscard]] QVector<CDatagram> repeatAnswer(const CLastRequest &last);
-    [[nodiscard]] QVector<CDatagram> announcePending(quint16 id, Time now) const;
+    /// Keeps @p answer back for @p duration, and announces that.
+    [[nodiscard]] QVector<CDatagram> setPending(quint16 id, std::chrono::milliseconds duration,
+                                                const CDatagram &answer, Time now);
+    [[nodiscard]] QVector<CDatagram> announcePending(Time now) const;
+    /// What is to be sent at the time that the pending answer has set.
+    [[nodiscard]] QVector<CDatagram> endPending(Time now);
     void remember(const CLastRequest &request);
     [[nodiscard]] CReply execute(const Gvcp::CRequest &request, const CPeer &sender, Time now);
     [[nodiscard]] CReply readRegisters(const QByteArray &payload, const CPeer &sender, Time now);
@@ -82,7 +89,9 @@ private:
     [[nodiscard]] Gvcp::EStatus setPrivilege(quint32 value, const CPeer &sender, Time now);
     void loseControl(const char *cause);
     void handControlToSomebodyElse(Time now);
-    void startReset(Time now);
+
+    /// Goes away when a reset is due, and gives what is to be sent at that.
+    [[nodiscard]] QVector<CDatagram> leaveInTime(Time now);
 
     const CCameraSettings m_settings;
     ICameraObserver &m_observer;
@@ -97,6 +106,7 @@ private:
     std::optional<CPendingAnswer> m_pending;
     QVector<CLastRequest> m_last; ///< one of each sender, the latest sender's last
 
+    std::optional<Time> m_leaves; ///< a reset has been asked for
     std::optional<Time> m_returns; ///< end of the reset
     bool m_isGone = false; ///< for ever
 };

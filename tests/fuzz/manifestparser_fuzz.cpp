@@ -1,21 +1,14 @@
+#include "fuzztarget.h"
 #include "viewer/camerapool/updatefile/manifestparser.h"
-#include "viewer/json/messagetext.h"
-
-#include <cstdint>
-#include <cstdlib>
 
 using namespace Viewer::CameraPool::UpdateFile;
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 /// Whatever the bytes are, there is either a manifest that can be used or one line that says why
 /// not.
 static bool isSound(const CManifestResult &result)
 {
     if (!result.fault.isEmpty())
-        return result.manifest.updates.isEmpty()
-            && !Viewer::Json::hasUnprintable(result.fault.getEnglish())
-            && result.fault.getEnglish().size() < 1000;
+        return result.manifest.updates.isEmpty() && Fuzz::isReadable(result.fault.getEnglish());
     for (const CUpdateEntry &update : result.manifest.updates) {
         if (update.models.isEmpty() || update.steps.isEmpty() || update.version.isEmpty())
             return false;
@@ -25,8 +18,6 @@ static bool isSound(const CManifestResult &result)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const QByteArray json(reinterpret_cast<const char *>(data), static_cast<int>(size));
-    if (!isSound(parseManifest(json)))
-        std::abort();
+    Fuzz::require(isSound(parseManifest(Fuzz::toBytes(data, size))));
     return 0;
 }

@@ -1,11 +1,9 @@
+#include "fuzztarget.h"
+
 #include <QDir>
 #include <QFile>
 
-#include <cstddef>
-#include <cstdint>
 #include <random>
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 /// Plays the seed, also cut off everywhere, and with single bytes changed, doubled and taken out.
 static void play(const QByteArray &seed)

@@ -1,12 +1,8 @@
+#include "fuzztarget.h"
 #include "virtualcamera/icameraobserver.h"
 #include "virtualcamera/virtualcamera.h"
 
-#include <cstdint>
-#include <cstdlib>
-
 using namespace VirtualCamera;
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size);
 
 namespace {
 
@@ -16,7 +12,7 @@ class CSilentObserver : public ICameraObserver
     void onFileClosed(const QByteArray &content) override { Q_UNUSED(content) }
 };
 
-/// Whatever was asked, an answer goes to who asked, and says as much as its header promises.
+/// Whatever was asked, what is sent stays on this machine, and says as much as its header promises.
 bool isSound(const CDatagram &answer)
 {
     const QByteArray &bytes = answer.bytes;
@@ -25,34 +21,66 @@ bool isSound(const CDatagram &answer)
         && static_cast<int>(Gvcp::readWord(bytes, 4) >> 16) == bytes.size() - Gvcp::HEADER_SIZE;
 }
 
+/// A camera that does what it is told, and one that makes it hard.
+QVector<CCameraSettings> getKinds()
+{
+    CCameraSettings kind;
+    kind.bufferLength = 512;
+    kind.openDuration = std::chrono::milliseconds(100);
+    CCameraSettings unkind = kind;
+    unkind.bufferLength = 515;
+    unkind.openDuration = std::chrono::milliseconds(0);
+    unkind.resetDelay = std::chrono::milliseconds(100);
+    unkind.activationReads = 1;
+    unkind.operationReads = 2;
+    unkind.returnsWithSerialNumber = "7";
+    unkind.restartsToo = 0x7f000003;
+    unkind.losesEvery = 5;
+    return {kind, unkind};
+}
+
 } // namespace
 
-/// The input is a row of datagrams, each behind three bytes: who sends it and how much later than
-/// the one before, and its length.
-int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+/// Makes the header of @p datagram tell how long it is: few random changes would hit that.
+static void repair(QByteArray &datagram)
 {
-    CCameraSettings settings;
-    settings.bufferLength = 512;
-    settings.openDuration = std::chrono::milliseconds(100);
+    if (datagram.size() < Gvcp::HEADER_SIZE)
+        return;
+    QByteArray length;
+    Gvcp::appendHalfWord(length, static_cast<quint16>(datagram.size() - Gvcp::HEADER_SIZE));
+    datagram.replace(4, 2, length);
+}
+
+/// Plays @p input, a row of datagrams, each behind three bytes: who sends it and how much later
+/// than the one before, and its length.
+static void play(const QByteArray &input, const CCameraSettings &settings, bool repairs)
+{
     CSilentObserver observer;
     CVirtualCamera camera(settings, observer);
-
-    const QByteArray input(reinterpret_cast<const char *>(data), static_cast<int>(size));
     Time now(0);
     for (int position = 0; position + 3 <= input.size();) {
         const auto control = static_cast<quint8>(input.at(position));
         const int length = static_cast<quint8>(input.at(position + 1)) * 256
             + static_cast<quint8>(input.at(position + 2));
-        const QByteArray datagram = input.mid(position + 3, length);
+        QByteArray datagram = input.mid(position + 3, length);
         position += 3 + length;
+        if (repairs)
+            repair(datagram);
 
         now += Time((control >> 1) * 50);
         const CPeer sender{0x7f000001U + (control & 1U), 4000};
         const QVector<CDatagram> answers = camera.handle(datagram, sender, now);
-        for (const CDatagram &answer : answers) {
-            if (!isSound(answer))
-                std::abort();
-        }
+        for (const CDatagram &answer : answers)
+            Fuzz::require(isSound(answer));
+    }
+}
+
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    static const QVector<CCameraSettings> kinds = getKinds();
+    for (const CCameraSettings &settings : kinds) {
+        for (const bool repairs : {false, true})
+            play(Fuzz::toBytes(data, size), settings, repairs);
     }
     return 0;
 }

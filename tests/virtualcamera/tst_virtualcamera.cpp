@@ -1,8 +1,12 @@
+#include "virtualcamera/commandline.h"
 #include "virtualcamera/icameraobserver.h"
 #include "virtualcamera/memorymap.h"
 #include "virtualcamera/virtualcamera.h"
 
 #include <QtTest>
+
+#include <cstring>
+#include <zip.h>
 
 using namespace VirtualCamera;
 using namespace std::chrono_literals;
@@ -42,6 +46,38 @@ int statusOf(const QByteArray &answer)
                                              : static_cast<int>(Gvcp::readWord(answer, 0) >> 16);
 }
 
+quint32 toBits(float number)
+{
+    quint32 bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
+/// The content of an archive's only file without the blanks at its end; null when it cannot be
+/// unpacked. @p size is the unpacked one. Of what is larger than @p enough only the beginning is
+/// unpacked.
+QByteArray unpack(const QByteArray &archive, qint64 enough, qint64 &size)
+{
+    zip_error_t error;
+    zip_source_t *const source
+        = zip_source_buffer_create(archive.constData(), zip_uint64_t(archive.size()), 0, &error);
+    zip_t *const zip = zip_open_from_source(source, ZIP_RDONLY | ZIP_CHECKCONS, &error);
+    if (!zip)
+        return {};
+    zip_stat_t status{};
+    zip_stat_index(zip, 0, 0, &status);
+    size = static_cast<qint64>(status.size);
+    zip_file_t *const file = zip_fopen_index(zip, 0, 0);
+    QByteArray content(1024 * 1024, '\0'), rest = content;
+    content.resize(static_cast<int>(zip_fread(file, content.data(), zip_uint64_t(content.size()))));
+    zip_int64_t length = size <= enough ? 1 : 0;
+    while (length > 0)
+        length = zip_fread(file, rest.data(), zip_uint64_t(rest.size()));
+    zip_fclose(file);
+    zip_discard(zip);
+    return length == 0 ? content.trimmed() : QByteArray();
+}
+
 constexpr CPeer Owner{0x7f000001, 4000};
 constexpr CPeer Stranger{0x7f000001, 4001};
 
@@ -62,21 +98,40 @@ private slots:
     void givesControlToOneAtATime();
     void takesControlFromASilentApplication();
     void executesARepeatedRequestOnce();
+    void announcesWhatTakesLong_data();
     void announcesWhatTakesLong();
+    void announcesForEver();
     void resetEndsControl();
+    void goesThroughAReset_data();
+    void goesThroughAReset();
+    void restartsAnotherCamera();
     void checksFileOperations();
+    void wantsItsOperationsAwaited();
+    void wantsItsActivationAwaited_data();
+    void wantsItsActivationAwaited();
+    void noticesWhatIsNotPadded();
+    void keepsItsLimits_data();
+    void keepsItsLimits();
+    void describesItself_data();
+    void describesItself();
+    void givesOutAFile();
 
 private:
     QByteArray ask(const QByteArray &datagram, const CPeer &sender = Owner);
     QByteArray ask(ECommand command, const QByteArray &payload, const CPeer &sender = Owner);
     int write(quint32 address, quint32 value, const CPeer &sender = Owner);
     quint32 read(quint32 address, const CPeer &sender = Owner);
+    int writeMemory(quint32 address, const QByteArray &bytes);
+    QByteArray readMemory(quint32 address, int size);
     bool operate(EFileOperation operation);
+    void upload(const QByteArray &image);
 
     /// A new camera that nobody controls, with a buffer for 512 bytes.
-    void make(CCameraSettings settings = {});
+    void make(const CCameraSettings &settings = parse({}));
     /// The same, but Owner has control.
-    void makeControlled(const CCameraSettings &settings = {});
+    void makeControlled(const CCameraSettings &settings = parse({}));
+    /// The settings of a command line, after --buffer 512.
+    static CCameraSettings parse(const QStringList &arguments);
 
     CRecorder m_recorder;
     std::unique_ptr<CVirtualCamera> m_camera;
@@ -84,9 +139,8 @@ private:
     quint16 m_id = 0;
 };
 
-void CVirtualCameraTest::make(CCameraSettings settings)
+void CVirtualCameraTest::make(const CCameraSettings &settings)
 {
-    settings.bufferLength = 512;
     m_recorder = {};
     m_now = Time(0);
     m_camera = std::make_unique<CVirtualCamera>(settings, m_recorder);
@@ -96,6 +150,16 @@ void CVirtualCameraTest::makeControlled(const CCameraSettings &settings)
 {
     make(settings);
     QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2), 0);
+}
+
+CCameraSettings CVirtualCameraTest::parse(const QStringList &arguments)
+{
+    CCommandLine commandLine;
+    const auto result
+        = commandLine.parse(QStringList{"virtualcamera", "--buffer", "512"} + arguments);
+    if (result != CCommandLine::EResult::Start)
+        qFatal("%s", qPrintable(commandLine.message));
+    return commandLine.settings;
 }
 
 QByteArray CVirtualCameraTest::ask(const QByteArray &datagram, const CPeer &sender)
@@ -119,6 +183,36 @@ quint32 CVirtualCameraTest::read(quint32 address, const CPeer &sender)
 {
     const QByteArray answer = ask(ECommand::ReadRegister, words({address}), sender);
     return answer.size() == 12 ? Gvcp::readWord(answer, 8) : 0xdeadbeef;
+}
+
+int CVirtualCameraTest::writeMemory(quint32 address, const QByteArray &bytes)
+{
+    return statusOf(ask(ECommand::WriteMemory, words({address}) + bytes));
+}
+
+QByteArray CVirtualCameraTest::readMemory(quint32 address, int size)
+{
+    QByteArray bytes;
+    while (bytes.size() < size) {
+        const int length = qMin(Gvcp::MAXIMUM_BLOCK, (size - bytes.size() + 3) / 4 * 4);
+        const QByteArray answer
+            = ask(ECommand::ReadMemory,
+                  words({address + quint32(bytes.size()), static_cast<quint32>(length)}));
+        if (answer.size() != length + 12)
+            return {};
+        bytes += answer.mid(12);
+    }
+    return bytes;
+}
+
+void CVirtualCameraTest::upload(const QByteArray &image)
+{
+    write(MemoryMap::FILE_OPEN_MODE, 1);
+    QVERIFY(operate(EFileOperation::Open));
+    QCOMPARE(writeMemory(MemoryMap::FILE_ACCESS_BUFFER, image.leftJustified(512, '\0')), 0);
+    QCOMPARE(write(MemoryMap::FILE_ACCESS_LENGTH, quint32(image.size())), 0);
+    QVERIFY(operate(EFileOperation::Write));
+    QVERIFY(operate(EFileOperation::Close));
 }
 
 bool CVirtualCameraTest::operate(EFileOperation operation)
@@ -215,9 +309,7 @@ void CVirtualCameraTest::takesControlFromASilentApplication()
 
 void CVirtualCameraTest::executesARepeatedRequestOnce()
 {
-    CCameraSettings settings;
-    settings.losesAcknowledge = 1;
-    makeControlled(settings);
+    makeControlled(parse({"--lose-ack", "1"}));
     write(MemoryMap::FILE_OPEN_MODE, 1);
     const QByteArray first = ask(OPEN);
     QCOMPARE(statusOf(first), 0);
@@ -236,23 +328,51 @@ void CVirtualCameraTest::executesARepeatedRequestOnce()
     QCOMPARE(m_camera->getStatistics().memoryWrites, 1);
 }
 
+void CVirtualCameraTest::announcesWhatTakesLong_data()
+{
+    QTest::addColumn<int>("duration");
+    QTest::addColumn<QByteArray>("announcement");
+    QTest::addColumn<QByteArray>("aSecondLater");
+    QTest::newRow("4 s") << 4000 << QByteArray("00000fa0") << QByteArray("00000bb8");
+    QTest::newRow("65 s") << 65000 << QByteArray("0000fde8") << QByteArray("0000fa00");
+}
+
 void CVirtualCameraTest::announcesWhatTakesLong()
 {
-    CCameraSettings settings;
-    settings.openDuration = 4000ms;
-    makeControlled(settings);
+    QFETCH(int, duration);
+    QFETCH(QByteArray, announcement);
+    QFETCH(QByteArray, aSecondLater);
+    const QByteArray header = "0000008900040063";
+    makeControlled(parse({"--open-ms", QString::number(duration)}));
     write(MemoryMap::FILE_OPEN_MODE, 1);
-    QCOMPARE(ask(OPEN).toHex(), QByteArray("000000890004006300000fa0"));
+    QCOMPARE(ask(OPEN).toHex(), header + announcement);
     m_now += 1000ms;
-    QCOMPARE(ask(OPEN).toHex(), QByteArray("000000890004006300000bb8"));
+    QCOMPARE(ask(OPEN).toHex(), header + aSecondLater);
     QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
-    m_now += 3000ms;
+    m_now = *m_camera->getNextDeadline();
+    QCOMPARE(m_now, Time(duration));
     const QVector<CDatagram> answers = m_camera->tick(m_now);
     QCOMPARE(answers.size(), 1);
     QCOMPARE(answers[0].bytes.toHex(), QByteArray("000000830004006300000001"));
     // The wait does not count as silence.
     QCOMPARE(read(MemoryMap::CONTROL_PRIVILEGE), 2U);
     QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
+}
+
+void CVirtualCameraTest::announcesForEver()
+{
+    makeControlled(parse({"--never-open", "--open-ms", "4000"}));
+    write(MemoryMap::FILE_OPEN_MODE, 1);
+    const QByteArray announcement = "000000890004006300000fa0";
+    QCOMPARE(ask(OPEN).toHex(), announcement);
+    for (int i = 1; i <= 1000; ++i) {
+        m_now = *m_camera->getNextDeadline();
+        QCOMPARE(m_now, i * Time(2000)); // before anybody gives up
+        const QVector<CDatagram> answers = m_camera->tick(m_now);
+        QCOMPARE(answers.size(), 1);
+        QCOMPARE(answers[0].bytes.toHex(), announcement);
+    }
+    QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
 }
 
 void CVirtualCameraTest::resetEndsControl()
@@ -267,6 +387,246 @@ void CVirtualCameraTest::resetEndsControl()
     QCOMPARE(write(MemoryMap::REVERSE_X, 1), 0x8006);
 }
 
+void CVirtualCameraTest::goesThroughAReset_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("seen"); // 0, 499, 500, 1999, 2000, 2499 and 2500 ms after it
+    const QString same = "GV-1400M 50000001";
+    const QString none;
+    QTest::newRow("at once") << QStringList()
+                             << QStringList{none, none, none, none, same, same, same};
+    QTest::newRow("answers for a while") << QStringList{"--reset-delay-ms", "500"}
+                                         << QStringList{same, same, none, none, none, none, same};
+    QTest::newRow("ignored") << QStringList{"--ignore-reset"}
+                             << QStringList{same, same, same, same, same, same, same};
+    QTest::newRow("another serial number")
+        << QStringList{"--return-serial", "7"}
+        << QStringList{none, none, none, none, "GV-1400M 7", "GV-1400M 7", "GV-1400M 7"};
+    QTest::newRow("another model, after a while")
+        << QStringList{"--return-model", "X", "--reset-delay-ms", "500"}
+        << QStringList{same, same, none, none, none, none, "X 50000001"};
+}
+
+void CVirtualCameraTest::goesThroughAReset()
+{
+    QFETCH(QStringList, arguments);
+    makeControlled(parse(arguments));
+    QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
+    const Time begin = m_now;
+    QStringList seen;
+    for (const int after : {0, 499, 500, 1999, 2000, 2499, 2500}) {
+        m_now = begin + Time(after);
+        const QByteArray answer = ask(ECommand::Discovery, {});
+        seen.append(answer.isEmpty() ? QString()
+                                     : QString::fromLatin1(answer.constData() + 8 + 0x68) + ' '
+                            + QString::fromLatin1(answer.constData() + 8 + 0xd8));
+    }
+    QTEST(seen, "seen");
+    // Whoever had control keeps it as long as the camera is there.
+    const bool stays = arguments.contains("--ignore-reset");
+    QCOMPARE(write(MemoryMap::REVERSE_X, 1), stays ? 0 : 0x8006);
+}
+
+void CVirtualCameraTest::restartsAnotherCamera()
+{
+    make(parse({"--serial", "2", "--return-serial", "1"}));
+    CVirtualCamera first(
+        parse({"--serial", "1", "--return-serial", "2", "--restart-too", "127.0.0.3"}), m_recorder);
+    const auto tell = [&](quint32 address, quint32 value) {
+        return first.handle(makeRequest(ECommand::WriteRegister, ++m_id, words({address, value})),
+                            Owner, m_now);
+    };
+    tell(MemoryMap::CONTROL_PRIVILEGE, 2);
+    const QVector<CDatagram> sent = tell(MemoryMap::DEVICE_RESET, 1);
+    QCOMPARE(sent.size(), 2);
+    QCOMPARE(sent[0].receiver, (CPeer{0x7f000003, 3956}));
+    QCOMPARE(sent[0].bytes.toHex(), QByteArray("4200c00000000001"));
+    QVERIFY(ask(sent[0].bytes, Stranger).isEmpty());
+    QVERIFY(ask(ECommand::Discovery, {}).isEmpty());
+    m_now += CCameraSettings().resetDuration;
+    QCOMPARE(ask(ECommand::Discovery, {}).mid(8 + 0xd8, 2), QByteArray("1\0", 2));
+}
+
+void CVirtualCameraTest::wantsItsOperationsAwaited()
+{
+    makeControlled(parse({"--operation-reads", "3"}));
+    write(MemoryMap::FILE_OPEN_MODE, 1);
+    QCOMPARE(statusOf(ask(OPEN)), 0);
+    QCOMPARE(writeMemory(MemoryMap::FILE_ACCESS_BUFFER, "abcd"), 0x8007);
+    QCOMPARE(write(MemoryMap::FILE_OPERATION_EXECUTE, 1), 0x8007);
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_STATUS), 1U); // not yet the true one
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_EXECUTE), 1U);
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_EXECUTE), 1U);
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_EXECUTE), 0U);
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_STATUS), 0U);
+    QCOMPARE(writeMemory(MemoryMap::FILE_ACCESS_BUFFER, "abcd"), 0);
+    write(MemoryMap::FILE_ACCESS_LENGTH, 4);
+    QVERIFY(!operate(EFileOperation::Write)); // asks for the status at once
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_RESULT), 0U);
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_RESULT), 0U);
+    QCOMPARE(read(MemoryMap::FILE_OPERATION_RESULT), 4U);
+}
+
+void CVirtualCameraTest::wantsItsActivationAwaited_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("reads");
+    QTest::addColumn<QByteArray>("version");
+    const QByteArray old = "1.2.0", updated = "2.0.0";
+    const QStringList counting{"--activate-ms", "0", "--activate-reads", "2"};
+    QTest::newRow("not asked for") << counting << 0 << old;
+    QTest::newRow("asked for too rarely") << counting << 1 << old;
+    QTest::newRow("asked for until the end") << counting << 2 << updated;
+    QTest::newRow("too early") << QStringList{"--activate-ms", "200"} << 2 << old;
+    QTest::newRow("done at once") << QStringList{"--activate-ms", "0"} << 0 << updated;
+}
+
+void CVirtualCameraTest::wantsItsActivationAwaited()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, reads);
+    makeControlled(parse(arguments));
+    upload("version: 2.0.0\n");
+    QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), 0);
+    for (int i = 0; i < reads; ++i)
+        QCOMPARE(read(MemoryMap::FIRMWARE_ACTIVATE), 1U);
+    QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
+    m_now += CCameraSettings().resetDuration;
+    QTEST(readMemory(MemoryMap::FIRMWARE_VERSION, 32).left(5), "version");
+}
+
+void CVirtualCameraTest::noticesWhatIsNotPadded()
+{
+    makeControlled(parse({"--buffer", "513"}));
+    const QByteArray image = "version: 2.0.0\nsize: 25\n\n";
+    QCOMPARE(image.size(), 25);
+    QCOMPARE(writeMemory(MemoryMap::FILE_ACCESS_BUFFER, image), 0x8005);
+    QCOMPARE(m_recorder.events.last(), QByteArray("refuse unaligned 25"));
+    // The buffer's last byte has a whole word, and nothing lies behind it.
+    QCOMPARE(writeMemory(MemoryMap::FILE_ACCESS_BUFFER + 512, words({0x61000000})), 0);
+    QCOMPARE(writeMemory(MemoryMap::FILE_ACCESS_BUFFER + 516, "abcd"), 0x8003);
+    QCOMPARE(write(MemoryMap::FILE_ACCESS_LENGTH, 513), 0);
+    QCOMPARE(write(MemoryMap::FILE_ACCESS_LENGTH, 514), 0x8002);
+    // Bytes that only fill up a word do not belong to the file.
+    upload(image + QByteArray(3, '\0'));
+    QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), 0x8fff);
+    upload(image);
+    QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), 0);
+}
+
+void CVirtualCameraTest::keepsItsLimits_data()
+{
+    QTest::addColumn<quint32>("address");
+    QTest::addColumn<quint32>("value");
+    QTest::addColumn<bool>("isGood");
+    const auto row = [](const char *name, quint32 address, quint32 value, bool isGood) {
+        QTest::newRow(name) << address << value << isGood;
+    };
+    constexpr quint32 exposure = MemoryMap::EXPOSURE_TIME, gain = MemoryMap::GAIN;
+    row("shortest exposure", exposure, toBits(10), true);
+    row("too short", exposure, toBits(9.99F), false);
+    row("longest exposure", exposure, toBits(1e6F), true);
+    row("too long", exposure, toBits(1e30F), false);
+    row("no number", exposure, 0x7fc00000, false);
+    row("smallest gain", gain, toBits(0), true);
+    row("too small", gain, toBits(-0.1F), false);
+    row("largest gain", gain, toBits(24), true);
+    row("infinite", gain, 0x7f800000, false);
+    row("entry", MemoryMap::FIRMWARE_UPDATE_MODE, 1, true);
+    row("no entry", MemoryMap::FIRMWARE_UPDATE_MODE, 2, false);
+    row("neither true nor false", MemoryMap::REVERSE_X, 2, false);
+    row("unknown file", MemoryMap::FILE_SELECTOR, 1, false);
+    row("behind every file", MemoryMap::FILE_ACCESS_OFFSET, 0x4000001, false);
+}
+
+void CVirtualCameraTest::keepsItsLimits()
+{
+    QFETCH(quint32, address);
+    QFETCH(quint32, value);
+    QFETCH(bool, isGood);
+    makeControlled();
+    const quint32 before = read(address);
+    QCOMPARE(write(address, value), isGood ? 0 : 0x8002);
+    QCOMPARE(read(address), isGood ? value : before);
+    // What stands in front of a bad value is not written either.
+    if (!isGood) {
+        QCOMPARE(writeMemory(address - 4, words({1, value})) != 0, true);
+        QCOMPARE(read(address), before);
+    }
+}
+
+void CVirtualCameraTest::describesItself_data()
+{
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QByteArray>("url");
+    QTest::addColumn<qint64>("size"); // unpacked; 0: whatever it takes
+    QTest::addColumn<bool>("isWellFormed");
+    QTest::addColumn<QByteArray>("part");
+    const QByteArray xml = "Local:camera.xml;10000000;", zip = "Local:camera.zip;10000000;";
+    QTest::newRow("sound") << "sound" << xml << 0LL << true << QByteArray("<Address>0x100020<");
+    QTest::newRow("zipped") << "zip" << zip << 0LL << true << QByteArray("<Address>0x100020<");
+    QTest::newRow("values") << "self-value" << xml << 0LL << true
+                            << QByteArray("<Integer Name=\"DeviceStatusAgain\">\n    "
+                                          "<pValue>DeviceStatus</pValue>");
+    QTest::newRow("address") << "self-address" << xml << 0LL << true
+                             << QByteArray("<pAddress>DeviceStatus</pAddress>");
+    QTest::newRow("categories") << "self-feature" << xml << 0LL << true
+                                << QByteArray("<pFeature>Root</pFeature>");
+    QTest::newRow("100 MB") << "bomb-100" << zip << 100'000'000LL << true << QByteArray();
+    QTest::newRow("1 GB") << "bomb-1000" << zip << 1'000'000'000LL << true << QByteArray();
+    QTest::newRow("large") << "large" << xml << 16 * 1024 * 1024 + 4LL << true << QByteArray();
+    QTest::newRow("broken") << "broken" << xml << 0LL << false << QByteArray();
+    QTest::newRow("file") << "file" << QByteArray("File:///dev/zero") << -1LL << false
+                          << QByteArray();
+    QTest::newRow("web server") << "http" << QByteArray("http://127.0.0.1:9/camera.xml") << -1LL
+                                << false << QByteArray();
+}
+
+void CVirtualCameraTest::describesItself()
+{
+    QFETCH(QString, kind);
+    QFETCH(QByteArray, url);
+    QFETCH(qint64, size);
+    QFETCH(bool, isWellFormed);
+    QFETCH(QByteArray, part);
+    makeControlled(parse({"--description", kind}));
+    const QByteArray given(readMemory(MemoryMap::FIRST_URL, MemoryMap::URL_SIZE).constData());
+    QCOMPARE(given.left(url.size()), url);
+    if (size < 0) {
+        QCOMPARE(given, url);
+        return;
+    }
+    QCOMPARE(write(MemoryMap::DESCRIPTION, 0), 0x8004);
+    const int packedSize = given.mid(url.size()).toInt(nullptr, 16);
+    QByteArray description = readMemory(MemoryMap::DESCRIPTION, packedSize).left(packedSize);
+    qint64 unpackedSize = description.size();
+    if (url.contains(".zip")) {
+        QVERIFY(packedSize < 2 * 1024 * 1024);
+        description = unpack(description, 100'000'000, unpackedSize);
+    }
+    QVERIFY(size == 0 || unpackedSize == size);
+    QVERIFY(description.contains(part));
+    QXmlStreamReader reader(description);
+    while (!reader.atEnd())
+        reader.readNext();
+    QCOMPARE(!reader.hasError(), isWellFormed);
+}
+
+void CVirtualCameraTest::givesOutAFile()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("hello");
+    file.close();
+    make(parse({"--description", file.fileName()}));
+    const QByteArray url = "Local:" + QFileInfo(file).fileName().toUtf8() + ";10000000;5";
+    QCOMPARE(QByteArray(readMemory(MemoryMap::FIRST_URL, MemoryMap::URL_SIZE).constData()), url);
+    QCOMPARE(readMemory(MemoryMap::DESCRIPTION, 5), QByteArray("hello\0\0\0", 8));
+    CCommandLine commandLine;
+    QCOMPARE(commandLine.parse({"virtualcamera", "--description", "/dev/null"}),
+             CCommandLine::EResult::Error);
+}
+
 void CVirtualCameraTest::checksFileOperations()
 {
     makeControlled();
@@ -278,7 +638,7 @@ void CVirtualCameraTest::checksFileOperations()
     write(MemoryMap::FILE_ACCESS_OFFSET, 1); // behind the end of an empty file
     QVERIFY(!operate(EFileOperation::Write));
     QCOMPARE(write(MemoryMap::FILE_ACCESS_LENGTH, 513), 0x8002);
-    QVERIFY(!operate(static_cast<EFileOperation>(7)));
+    QVERIFY(!operate(static_cast<EFileOperation>(7))); // there is no such operation
 }
 
 QTEST_GUILESS_MAIN(CVirtualCameraTest)

@@ -23,10 +23,15 @@ static QString readText(const QByteArray &payload, int offset, int size)
         field.constData(), static_cast<int>(qstrnlen(field.constData(), uint(field.size())))));
 }
 
-static CFoundCamera readAnswer(const QByteArray &payload, const QString &address)
+std::optional<CFoundCamera> readDiscoveryAnswer(const QByteArray &datagram,
+                                                const QHostAddress &sender)
 {
+    if (datagram.size() != HeaderSize + DiscoverySize
+        || !datagram.startsWith(DiscoveryAnswerHeader))
+        return {};
+    const QByteArray payload = datagram.mid(HeaderSize);
     CFoundCamera camera;
-    camera.address = address;
+    camera.address = sender.toString();
     camera.vendor = readText(payload, 0x48, 32);
     camera.model = readText(payload, 0x68, 32);
     camera.version = readText(payload, 0x88, 32);
@@ -58,12 +63,9 @@ QVector<CFoundCamera> discoverUnicast(const QVector<QHostAddress> &addresses,
                    || socket.waitForReadyRead(static_cast<int>(deadline.remainingTime())))) {
             const QNetworkDatagram datagram = socket.receiveDatagram();
             const QHostAddress sender(datagram.senderAddress().toIPv4Address());
-            const QByteArray answer = datagram.data();
-            const bool isAnswer = answer.size() == HeaderSize + DiscoverySize
-                && answer.startsWith(DiscoveryAnswerHeader);
-            if (isAnswer && missing.remove(sender.toIPv4Address()))
-                found.insert(sender.toIPv4Address(),
-                             readAnswer(answer.mid(HeaderSize), sender.toString()));
+            const std::optional<CFoundCamera> camera = readDiscoveryAnswer(datagram.data(), sender);
+            if (camera && missing.remove(sender.toIPv4Address()))
+                found.insert(sender.toIPv4Address(), *camera);
         }
     }
 

@@ -3,6 +3,7 @@
 #include "core/baseexception.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonscanner.h"
+#include "viewer/json/messagetext.h"
 
 #include <QDir>
 #include <QFile>
@@ -219,7 +220,7 @@ private:
         const auto other = m_idPositions.constFind(id);
         if (other != m_idPositions.constEnd())
             m_scanner.fail(CErrorText::tr("the id \"%1\" is already used in line %2")
-                               .arg(id, QString::number(m_scanner.getLine(*other))));
+                               .arg(Json::shorten(id), QString::number(m_scanner.getLine(*other))));
         m_idPositions.insert(id, m_scanner.getPosition());
         return id;
     }

@@ -1,6 +1,7 @@
 #include "firmwarestatefile.h"
 
 #include "viewer/camerapool/logging.h"
+#include "viewer/json/messagetext.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,9 +39,9 @@ static QHash<QString, QString> parse(const QByteArray &text, QString &fault)
     for (auto it = firmware.constBegin(); it != firmware.constEnd(); ++it) {
         const QString version = it.value().toString();
         if (version.isEmpty() || version.size() > MaximumVersionLength
-            || version != version.simplified()) {
+            || version != version.simplified() || Json::hasUnprintable(version)) {
             fault = QStringLiteral("the version of camera \"%1\" is not a text of one line")
-                        .arg(it.key().left(MaximumVersionLength).simplified());
+                        .arg(Json::shorten(it.key()));
             return {};
         }
         versions.insert(it.key(), version);
