@@ -142,8 +142,8 @@ void CViewerTest::wizardLocksStartsAndClosing()
     m_viewer->requestClose();
     QCOMPARE(deferred.size(), 1);
     nextPage.hide();
-    QTRY_VERIFY(startsCamera());
     QTRY_VERIFY(!m_window->isVisible());
+    QTRY_VERIFY(startsCamera());
 }
 
 void CViewerTest::runningUpdateKeepsTheWindowOpen()
