@@ -4,8 +4,20 @@
 
 namespace Plugin::FirmwareUpdater::Internal::Entity {
 
+quint64 CFirmwareUpdateEntity::s_treeRevision = 0;
+
 CFirmwareUpdateEntity::CFirmwareUpdateEntity(QPointer<CFirmwareUpdateEntity> parent)
-    : QObject(parent.data())
+    : CFirmwareUpdateEntity(EFirmwareUpdateEntityType::TransportLayer, {}, {}, parent)
+{
+}
+
+CFirmwareUpdateEntity::CFirmwareUpdateEntity(
+    EFirmwareUpdateEntityType type, const Plugin::CameraPool::TransportLayerInfoPtr &transportLayer,
+    const Plugin::CameraPool::CameraInfoPtr &camera, CFirmwareUpdateEntity *parent)
+    : QObject(parent)
+    , m_ptrCameraInfo(camera)
+    , m_entityType(type)
+    , m_ptrTransportLayerInfo(transportLayer)
 {
     [[maybe_unused]] static const bool registered = [] {
         registerMetaTypes();
@@ -33,11 +45,13 @@ CFirmwareUpdateEntity &CFirmwareUpdateEntity::operator=(const CFirmwareUpdateEnt
     m_entityType = other.m_entityType;
     m_ptrTransportLayerInfo = other.m_ptrTransportLayerInfo;
     m_enabled = other.m_enabled;
+    ++s_treeRevision;
     return *this;
 }
 
 CFirmwareUpdateEntity::~CFirmwareUpdateEntity()
 {
+    ++s_treeRevision;
     // Own children die with this object. Only a listed child that has moved to another parent would
     // survive it, and that one is sent after its list. One posted event for each own child as well
     // would make the destruction of a large tree quadratic, for Qt searches every posted event when
@@ -74,6 +88,11 @@ void CFirmwareUpdateEntity::registerMetaTypes()
         "Plugin::CameraPool::EFirmwareUpdateDirection");
 }
 
+quint64 CFirmwareUpdateEntity::getTreeRevision()
+{
+    return s_treeRevision;
+}
+
 void CFirmwareUpdateEntity::addChildEntity(QPointer<CFirmwareUpdateEntity> child)
 {
     if (!child || findRow(child) >= 0)
@@ -84,6 +103,7 @@ void CFirmwareUpdateEntity::addChildEntity(QPointer<CFirmwareUpdateEntity> child
     if (!m_rows.isEmpty())
         m_rows.insert(child, child->m_row);
     m_children.append(child);
+    ++s_treeRevision;
 }
 
 QPointer<CFirmwareUpdateEntity> CFirmwareUpdateEntity::getChildEntity(int row) const
@@ -157,11 +177,11 @@ QVariant CFirmwareUpdateEntity::getDisplayName() const
 {
     switch (m_entityType) {
     case EFirmwareUpdateEntityType::TransportLayer:
-        return m_ptrTransportLayerInfo->getDisplayName();
+        return m_ptrTransportLayerInfo ? m_ptrTransportLayerInfo->getDisplayName() : QVariant();
     case EFirmwareUpdateEntityType::CameraType:
-        return m_ptrCameraInfo->getModelName();
+        return m_ptrCameraInfo ? m_ptrCameraInfo->getModelName() : QVariant();
     case EFirmwareUpdateEntityType::CameraDevice:
-        return m_ptrCameraInfo->getDisplayName();
+        return m_ptrCameraInfo ? m_ptrCameraInfo->getDisplayName() : QVariant();
     }
     return {};
 }
@@ -170,10 +190,10 @@ QVariant CFirmwareUpdateEntity::getId() const
 {
     switch (m_entityType) {
     case EFirmwareUpdateEntityType::TransportLayer:
-        return m_ptrTransportLayerInfo->getId();
+        return m_ptrTransportLayerInfo ? m_ptrTransportLayerInfo->getId() : QVariant();
     case EFirmwareUpdateEntityType::CameraType:
     case EFirmwareUpdateEntityType::CameraDevice:
-        return m_ptrCameraInfo->getId();
+        return m_ptrCameraInfo ? m_ptrCameraInfo->getId() : QVariant();
     }
     return {};
 }
@@ -183,11 +203,12 @@ QVariant CFirmwareUpdateEntity::getCurrentFirmware() const
     if (m_entityType != EFirmwareUpdateEntityType::CameraDevice)
         return {};
     // The job knows the version that the camera reports after the update, the snapshot does not.
-    return m_ptrDeviceFirmwareUpdate ? m_ptrDeviceFirmwareUpdate->getFirmwareVersion()
-                                     : m_ptrCameraInfo->getFirmwareVersion();
+    if (m_ptrDeviceFirmwareUpdate)
+        return m_ptrDeviceFirmwareUpdate->getFirmwareVersion();
+    return m_ptrCameraInfo ? m_ptrCameraInfo->getFirmwareVersion() : QVariant();
 }
 
-Plugin::CameraPool::CameraInfoPtr CFirmwareUpdateEntity::getCameraInfo() const
+const Plugin::CameraPool::CameraInfoPtr &CFirmwareUpdateEntity::getCameraInfo() const
 {
     return m_ptrCameraInfo;
 }
@@ -222,7 +243,8 @@ CFirmwareUpdateEntity::EFirmwareUpdateEntityType CFirmwareUpdateEntity::getEntit
     return m_entityType;
 }
 
-Plugin::CameraPool::TransportLayerInfoPtr CFirmwareUpdateEntity::getTransportLayerInfo() const
+const Plugin::CameraPool::TransportLayerInfoPtr &
+CFirmwareUpdateEntity::getTransportLayerInfo() const
 {
     return m_ptrTransportLayerInfo;
 }
@@ -237,7 +259,7 @@ Plugin::CameraPool::DeviceFirmwareUpdatePtr CFirmwareUpdateEntity::getDeviceFirm
     return m_ptrDeviceFirmwareUpdate;
 }
 
-QVector<QPointer<CFirmwareUpdateEntity>> CFirmwareUpdateEntity::getChildren() const
+const QVector<QPointer<CFirmwareUpdateEntity>> &CFirmwareUpdateEntity::getChildren() const
 {
     return m_children;
 }
@@ -247,6 +269,7 @@ void CFirmwareUpdateEntity::setCameraInfo(Plugin::CameraPool::CameraInfoPtr ptrC
     if (m_ptrCameraInfo == ptrCameraInfo)
         return;
     m_ptrCameraInfo = ptrCameraInfo;
+    ++s_treeRevision;
     emit cameraInfoChanged(m_ptrCameraInfo);
 }
 
@@ -296,6 +319,7 @@ void CFirmwareUpdateEntity::setEntityType(EFirmwareUpdateEntityType entityType)
     if (m_entityType == entityType)
         return;
     m_entityType = entityType;
+    ++s_treeRevision;
     emit entityTypeChanged(m_entityType);
 }
 
@@ -305,6 +329,7 @@ void CFirmwareUpdateEntity::setTransportLayerInfo(
     if (m_ptrTransportLayerInfo == ptrTransportLayerInfo)
         return;
     m_ptrTransportLayerInfo = ptrTransportLayerInfo;
+    ++s_treeRevision;
     emit transportLayerInfoChanged(m_ptrTransportLayerInfo);
 }
 
@@ -330,6 +355,7 @@ void CFirmwareUpdateEntity::setChildren(QVector<QPointer<CFirmwareUpdateEntity>>
     if (m_children == children)
         return;
     m_children = std::move(children);
+    ++s_treeRevision;
 
     m_rows.clear();
     for (int row = m_children.size() - 1; row >= 0; --row) {

@@ -87,6 +87,13 @@ public:
     /// node but does not list it among its children: addChildEntity() does.
     explicit CFirmwareUpdateEntity(QPointer<CFirmwareUpdateEntity> parent = {});
 
+    /// A node of kind @p type below @p parent, which may be null, like the one above. What it
+    /// stands for, @p transportLayer and @p camera, may be null as well.
+    CFirmwareUpdateEntity(EFirmwareUpdateEntityType type,
+                          const Plugin::CameraPool::TransportLayerInfoPtr &transportLayer,
+                          const Plugin::CameraPool::CameraInfoPtr &camera,
+                          CFirmwareUpdateEntity *parent);
+
     /// A parentless node with @p other's values, but without its children and its update job.
     CFirmwareUpdateEntity(const CFirmwareUpdateEntity &other);
 
@@ -104,6 +111,10 @@ public:
 
     /// Makes the types that travel in the properties known to Qt. Every node does so by itself.
     static void registerMetaTypes();
+
+    /// A number that grows with every change, in whatever tree, of what a search for a camera looks
+    /// at: kind, camera, transport layer and children of the nodes. A node's death counts as well.
+    [[nodiscard]] static quint64 getTreeRevision();
 
     /// Appends @p child and becomes its parent; does nothing when it is listed already.
     void addChildEntity(QPointer<CFirmwareUpdateEntity> child);
@@ -123,17 +134,17 @@ public:
     /// The value that column @p column shows; invalid where the kind of node has none.
     [[nodiscard]] QVariant getData(int column) const;
 
-    [[nodiscard]] Plugin::CameraPool::CameraInfoPtr getCameraInfo() const;
+    [[nodiscard]] const Plugin::CameraPool::CameraInfoPtr &getCameraInfo() const;
     [[nodiscard]] bool isSelected() const;
     [[nodiscard]] Plugin::CameraPool::EFirmwareUpdateDirection getUpdateDetails() const;
     [[nodiscard]] EFirmwareUpdateStatus getUpdateStatus() const;
     [[nodiscard]] EFirmwareUpdateResult getUpdateResult() const;
     [[nodiscard]] QString getSelectedFirmware() const;
     [[nodiscard]] EFirmwareUpdateEntityType getEntityType() const;
-    [[nodiscard]] Plugin::CameraPool::TransportLayerInfoPtr getTransportLayerInfo() const;
+    [[nodiscard]] const Plugin::CameraPool::TransportLayerInfoPtr &getTransportLayerInfo() const;
     [[nodiscard]] bool isEnabled() const;
     [[nodiscard]] Plugin::CameraPool::DeviceFirmwareUpdatePtr getDeviceFirmwareUpdate() const;
-    [[nodiscard]] QVector<QPointer<CFirmwareUpdateEntity>> getChildren() const;
+    [[nodiscard]] const QVector<QPointer<CFirmwareUpdateEntity>> &getChildren() const;
 
 signals:
     // The enumerations are spelt in full: under these names Qt knows their types.
@@ -191,15 +202,18 @@ private:
     Plugin::CameraPool::TransportLayerInfoPtr m_ptrTransportLayerInfo;
     QVector<QPointer<CFirmwareUpdateEntity>> m_children;
     bool m_enabled = true;
-    Plugin::CameraPool::DeviceFirmwareUpdatePtr m_ptrDeviceFirmwareUpdate;
 
     /// Where this node stood when it was last listed as a child; -1 for one that never was. Finding
-    /// a row so needs no search.
+    /// a row so needs no search. It fills a gap here: nodes are many.
     int m_row = -1;
+
+    Plugin::CameraPool::DeviceFirmwareUpdatePtr m_ptrDeviceFirmwareUpdate;
 
     /// Rows of the listed children, filled only once a child's own m_row turns out to be of another
     /// list. The address of a dead child may have been taken by another node.
     mutable QHash<const CFirmwareUpdateEntity *, int> m_rows;
+
+    static quint64 s_treeRevision;
 };
 
 } // namespace Plugin::FirmwareUpdater::Internal::Entity

@@ -39,60 +39,54 @@ void CFirmwareUpdateTreeModel::beginRebuild()
 {
     beginResetModel();
     clearSelectedCamerasMap();
-    m_camerasById.clear();
+    m_cameraIndex.clear();
     delete m_root;
     m_root = new CFirmwareUpdateEntity;
-}
-
-void CFirmwareUpdateTreeModel::endRebuild()
-{
-    indexCamerasById();
-    endResetModel();
 }
 
 void CFirmwareUpdateTreeModel::setTransportLayerInfoVector(
     const QVector<QSharedPointer<Plugin::CameraPool::ITransportLayerInfo>> &transportLayers)
 {
     beginRebuild();
-    for (const Plugin::CameraPool::TransportLayerInfoPtr &transportLayer : transportLayers)
-        addTransportLayer(transportLayer);
-    endRebuild();
+    for (const Plugin::CameraPool::TransportLayerInfoPtr &transportLayer : transportLayers) {
+        if (transportLayer)
+            addTransportLayer(transportLayer);
+    }
+    endResetModel();
 }
 
 void CFirmwareUpdateTreeModel::addTransportLayer(
     const Plugin::CameraPool::TransportLayerInfoPtr &transportLayer)
 {
     const QVector<Plugin::CameraPool::CameraInfoPtr> cameras = transportLayer->getCameraInfoList();
-    if (cameras.isEmpty())
+    QVector<QString> modelNames;
+    QHash<QString, QVector<const Plugin::CameraPool::CameraInfoPtr *>> camerasByModel;
+    for (const Plugin::CameraPool::CameraInfoPtr &camera : cameras) {
+        if (!camera)
+            continue;
+        const QString modelName = camera->getModelName();
+        auto &group = camerasByModel[modelName];
+        if (group.isEmpty())
+            modelNames.append(modelName);
+        group.append(&camera);
+    }
+    if (modelNames.isEmpty())
         return;
 
-    QVector<QString> modelNames;
-    QHash<QString, QVector<Plugin::CameraPool::CameraInfoPtr>> camerasByModel;
-    for (const Plugin::CameraPool::CameraInfoPtr &camera : cameras) {
-        QVector<Plugin::CameraPool::CameraInfoPtr> &group = camerasByModel[camera->getModelName()];
-        if (group.isEmpty())
-            modelNames.append(camera->getModelName());
-        group.append(camera);
-    }
-
-    auto *const layerNode = new CFirmwareUpdateEntity;
-    layerNode->setTransportLayerInfo(transportLayer);
+    auto *const layerNode
+        = new CFirmwareUpdateEntity(EntityType::TransportLayer, transportLayer, {}, nullptr);
     for (const QString &modelName : std::as_const(modelNames)) {
-        const QVector<Plugin::CameraPool::CameraInfoPtr> &group = camerasByModel[modelName];
-
-        auto *const groupNode = new CFirmwareUpdateEntity;
-        groupNode->setEntityType(EntityType::CameraType);
-        groupNode->setCameraInfo(group.constLast());
-        groupNode->setTransportLayerInfo(transportLayer);
-
+        const auto &group = camerasByModel[modelName];
+        auto *const groupNode = new CFirmwareUpdateEntity(EntityType::CameraType, transportLayer,
+                                                          *group.constLast(), nullptr);
         // Users know the cameras of a group from last found to first found.
+        QVector<EntityPtr> cameraNodes;
+        cameraNodes.reserve(group.size());
         for (auto camera = group.crbegin(); camera != group.crend(); ++camera) {
-            auto *const cameraNode = new CFirmwareUpdateEntity;
-            cameraNode->setEntityType(EntityType::CameraDevice);
-            cameraNode->setCameraInfo(*camera);
-            cameraNode->setTransportLayerInfo(transportLayer);
-            groupNode->addChildEntity(cameraNode);
+            cameraNodes.append(new CFirmwareUpdateEntity(EntityType::CameraDevice, transportLayer,
+                                                         **camera, groupNode));
         }
+        groupNode->setChildren(std::move(cameraNodes));
         layerNode->addChildEntity(groupNode);
     }
     m_root->addChildEntity(layerNode);
@@ -100,62 +94,26 @@ void CFirmwareUpdateTreeModel::addTransportLayer(
 
 void CFirmwareUpdateTreeModel::setCameraDeviceList(QList<CFirmwareUpdateEntity *> cameras)
 {
+    // Those of the old tree die with it.
+    const QVector<EntityPtr> nodes(cameras.cbegin(), cameras.cend());
     beginRebuild();
-    for (CFirmwareUpdateEntity *const camera : std::as_const(cameras)) {
+    for (const EntityPtr &camera : nodes) {
+        if (!camera)
+            continue;
         m_root->addChildEntity(camera);
         updateSelectedCamerasMap(camera->isSelected(), camera);
     }
-    endRebuild();
-}
-
-void CFirmwareUpdateTreeModel::indexCamerasById()
-{
-    QVector<CFirmwareUpdateEntity *> cameras;
-    QVector<CFirmwareUpdateEntity *> pending = {m_root};
-    while (!pending.isEmpty()) {
-        CFirmwareUpdateEntity *const node = pending.takeLast();
-        if (node->getEntityType() == EntityType::CameraDevice)
-            cameras.append(node);
-        for (int row = node->getChildCount() - 1; row >= 0; --row)
-            pending.append(node->getChildEntity(row));
-    }
-
-    // The hash hands out the latest of equal keys first.
-    m_camerasById.reserve(cameras.size());
-    for (auto camera = cameras.crbegin(); camera != cameras.crend(); ++camera)
-        m_camerasById.insert((*camera)->getCameraInfo()->getId(), *camera);
+    endResetModel();
 }
 
 QModelIndex CFirmwareUpdateTreeModel::getModelIndexForCameraId(const QString &transportLayerId,
                                                                const QString &cameraId,
                                                                int column) const
 {
-    if (column >= 0 && column < columnCount()) {
-        for (auto it = m_camerasById.constFind(cameraId);
-             it != m_camerasById.constEnd() && it.key() == cameraId; ++it) {
-            const EntityPtr &camera = it.value();
-            if (camera && camera->getCameraInfo()->getId() == cameraId
-                && isReachable(camera, transportLayerId))
-                return createIndex(camera->getRow(), column, camera.data());
-        }
-    }
-    // Nodes that somebody changed after the rebuild are found the slow way.
-    return getModelIndexForCameraId(m_root, transportLayerId, cameraId, column);
-}
-
-bool CFirmwareUpdateTreeModel::isReachable(const CFirmwareUpdateEntity *camera,
-                                           const QString &transportLayerId) const
-{
-    const CFirmwareUpdateEntity *node = camera;
-    while (node && node != m_root) {
-        const Plugin::CameraPool::TransportLayerInfoPtr layer = node->getTransportLayerInfo();
-        if (node != camera && layer && layer->getId() != transportLayerId)
-            return false;
-        if (node->getRow() < 0)
-            return false;
-        node = qobject_cast<const CFirmwareUpdateEntity *>(node->parent());
-    }
-    return node;
+    if (!m_root || column < 0 || column >= m_root->getColumnCount())
+        return {};
+    const CCameraIndex::CPlace place = m_cameraIndex.find(m_root, transportLayerId, cameraId);
+    return place.camera ? createIndex(place.row, column, place.camera) : QModelIndex();
 }
 
 QModelIndex CFirmwareUpdateTreeModel::getModelIndexForCameraId(EntityPtr node,
@@ -167,7 +125,7 @@ QModelIndex CFirmwareUpdateTreeModel::getModelIndexForCameraId(EntityPtr node,
         return {};
 
     if (node->getChildCount() == 0) {
-        if (node->getEntityType() == EntityType::CameraDevice
+        if (node->getEntityType() == EntityType::CameraDevice && node->getCameraInfo()
             && node->getCameraInfo()->getId() == cameraId)
             return createIndex(node->getRow(), column, node.data());
         return {};
@@ -192,8 +150,9 @@ void CFirmwareUpdateTreeModel::updateSelectedCamerasMap(bool selected, EntityPtr
         return;
 
     const QString id = node->getCameraInfo()->getId();
+    // The hint makes a list that comes in the order of the ids cheaper.
     if (selected)
-        m_selectedCameras.insert(id, node);
+        m_selectedCameras.insert(m_selectedCameras.cend(), id, node);
     else
         m_selectedCameras.remove(id);
 }
@@ -201,7 +160,8 @@ void CFirmwareUpdateTreeModel::updateSelectedCamerasMap(bool selected, EntityPtr
 void CFirmwareUpdateTreeModel::updateAllNodesBySelection(const QModelIndex &index)
 {
     CFirmwareUpdateEntity *const node = getNode(index);
-    if (!node)
+    // A node without a camera has no model that its tick could spread to.
+    if (!node || !node->getCameraInfo())
         return;
 
     switch (node->getEntityType()) {
@@ -261,25 +221,33 @@ void CFirmwareUpdateTreeModel::setDataRecursivelyByModelName(EntityPtr node,
                                                              const QString &modelName, int column,
                                                              const QVariant &value)
 {
+    if (column == CFirmwareUpdateEntity::Enabled
+        || column == CFirmwareUpdateEntity::SelectionStatus)
+        writeByModelName(node, modelName, column, value.toBool());
+}
+
+void CFirmwareUpdateTreeModel::writeByModelName(const EntityPtr &node, const QString &modelName,
+                                                int column, bool value)
+{
     if (!node)
         return;
 
-    const bool takesPart = column >= 0 && column <= CFirmwareUpdateEntity::COLUMN_COUNT
-        && node->parent() && node->getEntityType() != EntityType::TransportLayer
-        && node->getCameraInfo();
-    if (takesPart) {
+    // Whoever hears of the change may take the tree apart.
+    const QVector<EntityPtr> children = node->getChildren();
+    if (node->parent() && node->getEntityType() != EntityType::TransportLayer
+        && node->getCameraInfo()) {
         const bool sameModel = node->getCameraInfo()->getModelName() == modelName;
         if (!sameModel && column == CFirmwareUpdateEntity::Enabled) {
-            node->setEnabled(!value.toBool());
+            node->setEnabled(!value);
         } else if (sameModel && column == CFirmwareUpdateEntity::SelectionStatus
-                   && node->isSelected() != value.toBool()) {
-            node->setSelected(value.toBool());
-            updateSelectedCamerasMap(value.toBool(), node);
+                   && node->isSelected() != value) {
+            node->setSelected(value);
+            updateSelectedCamerasMap(value, node);
         }
     }
 
-    for (int row = 0; row < node->getChildCount(); ++row)
-        setDataRecursivelyByModelName(node->getChildEntity(row), modelName, column, value);
+    for (const EntityPtr &child : children)
+        writeByModelName(child, modelName, column, value);
 }
 
 QList<EntityPtr> CFirmwareUpdateTreeModel::getSelectedCameraList() const
@@ -334,15 +302,21 @@ void CFirmwareUpdateTreeModel::getModelStatisticsRecursively(EntityPtr node, Ent
 
 void CFirmwareUpdateTreeModel::updateModelIndices(const QModelIndex &index, QVector<int> roles)
 {
+    announceRows(index, roles);
+}
+
+void CFirmwareUpdateTreeModel::announceRows(const QModelIndex &index, const QVector<int> &roles)
+{
+    // Whoever hears of the change may take the tree apart.
+    const EntityPtr node = getNode(index);
     if (index.isValid())
         emit dataChanged(index, index, roles);
 
-    const EntityPtr node = getNode(index);
-    if (!node)
-        return;
-
-    for (int row = 0; node && row < node->getChildCount(); ++row)
-        updateModelIndices(this->index(row, 0, index), roles);
+    for (int row = 0; node && row < node->getChildCount(); ++row) {
+        const QModelIndex child = this->index(row, 0, index);
+        if (child.isValid())
+            announceRows(child, roles);
+    }
 }
 
 int CFirmwareUpdateTreeModel::columnCount(const QModelIndex &parent) const
@@ -363,8 +337,8 @@ QModelIndex CFirmwareUpdateTreeModel::index(int row, int column, const QModelInd
 {
     if (!hasIndex(row, column, parent))
         return {};
-    const EntityPtr child = getNode(parent)->getChildEntity(row);
-    return child ? createIndex(row, column, child.data()) : QModelIndex();
+    CFirmwareUpdateEntity *const child = getNode(parent)->getChildEntity(row);
+    return child ? createIndex(row, column, child) : QModelIndex();
 }
 
 QModelIndex CFirmwareUpdateTreeModel::parent(const QModelIndex &child) const

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "cameraindex.h"
 #include "firmwareupdateentity.h"
 
 #include <QAbstractItemModel>
-#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QPointer>
@@ -27,13 +27,15 @@ public:
     explicit CFirmwareUpdateTreeModel(QObject *parent = nullptr);
     ~CFirmwareUpdateTreeModel() override;
 
-    /// Rebuilds the whole tree; no tick survives. Layers without cameras get no row. Within a model
-    /// group the cameras stand in the reverse of the layer's order, and the group shows the last
-    /// camera's information.
+    /// Rebuilds the whole tree; no tick survives. Layers without cameras and null entries get no
+    /// row. Within a model group the cameras stand in the reverse of the layer's order, and the
+    /// group shows the last camera's information.
     void setTransportLayerInfoVector(
         const QVector<QSharedPointer<Plugin::CameraPool::ITransportLayerInfo>> &transportLayers);
 
     /// Rebuilds the model as a flat list of @p cameras, which the model takes over as they are.
+    /// Null entries are left out, and so are nodes of the tree that the model had, which die with
+    /// it.
     void setCameraDeviceList(QList<Entity::CFirmwareUpdateEntity *> cameras);
 
     /// The first camera with the id @p cameraId, below the transport layer @p transportLayerId
@@ -99,21 +101,18 @@ public:
 private:
     void initializeModel();
     void beginRebuild();
-    void endRebuild();
     void addTransportLayer(const Plugin::CameraPool::TransportLayerInfoPtr &transportLayer);
     void spreadCameraSelection(Entity::CFirmwareUpdateEntity *camera);
     void spreadGroupSelection(Entity::CFirmwareUpdateEntity *group);
-    void indexCamerasById();
-    [[nodiscard]] bool isReachable(const Entity::CFirmwareUpdateEntity *camera,
-                                   const QString &transportLayerId) const;
+    void writeByModelName(const QPointer<Entity::CFirmwareUpdateEntity> &node,
+                          const QString &modelName, int column, bool value);
+    void announceRows(const QModelIndex &index, const QVector<int> &roles);
     [[nodiscard]] Entity::CFirmwareUpdateEntity *getNode(const QModelIndex &index) const;
 
     QPointer<Entity::CFirmwareUpdateEntity> m_root;
     QList<QVariant> m_headerList;
     QMap<QString, QPointer<Entity::CFirmwareUpdateEntity>> m_selectedCameras;
-
-    /// All cameras of the last rebuild, the first in tree order first among those of equal id.
-    QMultiHash<QString, QPointer<Entity::CFirmwareUpdateEntity>> m_camerasById;
+    mutable CCameraIndex m_cameraIndex;
 };
 
 } // namespace Plugin::FirmwareUpdater::Internal::Model

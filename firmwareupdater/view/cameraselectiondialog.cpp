@@ -30,6 +30,8 @@ void CCameraSelectionDialog::setModel(QSharedPointer<Model::CFirmwareUpdateTreeM
     auto *treeView = m_ui->cameraTreeView;
     if (!treeView->model()) {
         auto *proxy = new QSortFilterProxyModel(treeView);
+        // Names do not change while a tree stands: a rebuild sorts its rows, a tick moves none.
+        proxy->setDynamicSortFilter(false);
         proxy->setSourceModel(model.data());
         showColumns(proxy, {{CFirmwareUpdateEntity::DisplayName, 512}});
         treeView->setItemDelegateForColumn(CFirmwareUpdateEntity::DisplayName,

@@ -1,8 +1,11 @@
 #include "support/updaterfixture.h"
 
 #include <QAbstractItemModelTester>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QtTest>
+
+#include <algorithm>
 
 using TestSupport::CUpdaterFixture;
 using TestSupport::makeLayer;
@@ -27,8 +30,10 @@ private slots:
     void buildsLayersGroupsAndCameras();
     void allowsEditingOfCheckBoxesOnly();
     void findsCamerasById();
-    void findsCamerasWhoseNodesChanged();
+    void findsWhatASearchFinds();
     void takesOverAFlatList();
+    void copesWithIncompleteNodes();
+    void copesWithIncompleteEnumerations();
     void announcesRowsParentsFirst();
     void writesEditableColumns();
     void isAProperItemModel();
@@ -120,17 +125,80 @@ void CFirmwareUpdateTreeModelTest::findsCamerasById()
     QCOMPARE(find("l1", "a", 8), nothing);
 }
 
-void CFirmwareUpdateTreeModelTest::findsCamerasWhoseNodesChanged()
+void CFirmwareUpdateTreeModelTest::findsWhatASearchFinds()
 {
-    m_model->setTransportLayerInfoVector({makeLayer("l", {m_a, m_b})});
-    const QModelIndex index = findCamera("l", "a");
-    static_cast<Entity *>(index.internalPointer())
-        ->setCameraInfo(TestSupport::makeCamera({"renamed"}));
-    QVERIFY(!findCamera("l", "a").isValid());
-    QCOMPARE(findCamera("l", "renamed"), index);
-
-    delete static_cast<Entity *>(findCamera("l", "b").internalPointer());
-    QVERIFY(!findCamera("l", "b").isValid());
+    // Few ids, so that they meet again and again.
+    const Plugin::CameraPool::CameraInfoPtr cameras[]
+        = {{}, TestSupport::makeCamera({"a"}), TestSupport::makeCamera({"b"})};
+    const Plugin::CameraPool::TransportLayerInfoPtr layers[]
+        = {{}, {}, {}, makeLayer("l1", {}), makeLayer("l2", {})};
+    QRandomGenerator random(1);
+    const auto pick
+        = [&random](const auto &values) { return values[random.bounded(int(std::size(values)))]; };
+    const auto makeNode = [&] {
+        auto *const node = new Entity;
+        node->setEntityType(Entity::EFirmwareUpdateEntityType(random.bounded(3)));
+        node->setCameraInfo(pick(cameras));
+        node->setTransportLayerInfo(pick(layers));
+        return node;
+    };
+    const auto change = [&](Entity *node, Entity *other) {
+        QVector<QPointer<Entity>> children = node->getChildren();
+        switch (random.bounded(8)) {
+        case 0:
+            node->setEntityType(Entity::EFirmwareUpdateEntityType(random.bounded(3)));
+            break;
+        case 1:
+            node->setCameraInfo(pick(cameras));
+            break;
+        case 2:
+            node->setTransportLayerInfo(pick(layers));
+            break;
+        case 3:
+            *node = *other;
+            break;
+        case 4:
+            std::reverse(children.begin(), children.end());
+            node->setChildren(children);
+            break;
+        case 5:
+            node->addChildEntity(makeNode());
+            break;
+        case 6:
+            // Listed by a node whose child it is not.
+            node->setParent(m_model.get());
+            break;
+        default:
+            delete node;
+        }
+    };
+    int hits = 0;
+    int misses = 0;
+    for (int round = 0; round < 200; ++round) {
+        // Nodes of all kinds in all places.
+        QVector<QPointer<Entity>> nodes{makeNode(), makeNode()};
+        m_model->setCameraDeviceList({nodes.at(0), nodes.at(1)});
+        for (int i = 0; i < 15; ++i) {
+            const QPointer<Entity> parent = pick(nodes);
+            nodes.append(makeNode());
+            parent->addChildEntity(nodes.last());
+        }
+        auto *const root = static_cast<Entity *>(nodes.first()->parent());
+        for (int i = 0; i < 15; ++i) {
+            for (const char *const layer : {"l1", "l2"}) {
+                for (const char *const id : {"a", "b", "c"}) {
+                    const QModelIndex found = findCamera(layer, id);
+                    QCOMPARE(found, m_model->getModelIndexForCameraId(root, layer, id, 0));
+                    ++(found.isValid() ? hits : misses);
+                }
+            }
+            nodes.removeAll(nullptr);
+            if (!nodes.isEmpty())
+                change(pick(nodes), pick(nodes));
+        }
+    }
+    QVERIFY(hits > 1000);
+    QVERIFY(misses > 1000);
 }
 
 void CFirmwareUpdateTreeModelTest::takesOverAFlatList()
@@ -148,10 +216,74 @@ void CFirmwareUpdateTreeModelTest::takesOverAFlatList()
     QCOMPARE(m_model->index(0, 7).data().toInt(), 1);
     QCOMPARE(m_model->getSelectedCameraList(), QList<QPointer<Entity>>({ticked}));
 
-    m_model->setCameraDeviceList({});
+    // A node of the old list does not survive it.
+    m_model->setCameraDeviceList({ticked});
     QVERIFY(!ticked);
     QCOMPARE(m_model->rowCount(), 0);
     QVERIFY(!m_model->hasSelectedCameras());
+}
+
+void CFirmwareUpdateTreeModelTest::copesWithIncompleteNodes()
+{
+    // Below the root: a camera with a camera, a node of each kind without infos, a dead node.
+    QList<Entity *> nodes{CUpdaterFixture::makeTickedCamera(m_a)};
+    nodes.first()->addChildEntity(CUpdaterFixture::makeTickedCamera(m_b));
+    for (int type = 0; type < 3; ++type) {
+        nodes.append(new Entity);
+        nodes.last()->setEntityType(Entity::EFirmwareUpdateEntityType(type));
+    }
+    auto *const dead = new Entity;
+    m_model->setCameraDeviceList(QList<Entity *>{nullptr, dead} + nodes);
+    delete dead;
+
+    QCOMPARE(m_model->rowCount(), 5);
+    QVERIFY(!m_model->index(0, 0).isValid());
+    const QModelIndex camera = m_model->index(1, 0);
+    const QModelIndex inner = m_model->index(0, 0, camera);
+    QVERIFY(!findCamera("l", "a").isValid());
+    QCOMPARE(findCamera("l", "b"), inner);
+    for (int row = 2; row < 5; ++row)
+        for (int column : {0, 1, 3})
+            QVERIFY(!m_model->index(row, column).data().isValid());
+
+    QVector<QPair<int, QModelIndex>> announced;
+    connect(m_model.get(), &QAbstractItemModel::dataChanged, this,
+            [&announced](const QModelIndex &index) {
+                announced.append({index.row(), index.parent()});
+            });
+    const QVector<QPair<int, QModelIndex>> all{{1, {}}, {0, camera}, {2, {}}, {3, {}}, {4, {}}};
+    m_model->updateModelIndices({}, {0});
+    QCOMPARE(announced, all);
+
+    // A node without a model spreads no tick and takes none.
+    announced.clear();
+    for (int row = 2; row < 5; ++row)
+        m_model->updateAllNodesBySelection(m_model->index(row, 0));
+    QVERIFY(announced.isEmpty());
+    CUpdaterFixture::tick(*m_model, camera, false);
+    CUpdaterFixture::tick(*m_model, inner, false);
+    QVERIFY(m_model->getSelectedCameraList().isEmpty());
+    for (const Entity *const node : qAsConst(nodes))
+        QVERIFY(node->isEnabled());
+
+    int failed = 0;
+    int successful = 0;
+    int skipped = 0;
+    m_model->getModelStatistics(failed, successful, skipped);
+    QCOMPARE(skipped, 2);
+}
+
+void CFirmwareUpdateTreeModelTest::copesWithIncompleteEnumerations()
+{
+    const auto layer = [](const TestSupport::CFakeTransportLayerInfo::Cameras &cameras) {
+        return Plugin::CameraPool::TransportLayerInfoPtr(
+            new TestSupport::CFakeTransportLayerInfo("l", cameras));
+    };
+    m_model->setTransportLayerInfoVector(
+        {{}, layer({{}}), layer({TestSupport::makeCamera(m_a), {}})});
+    QCOMPARE(m_model->rowCount(), 1);
+    const QModelIndex group = m_model->index(0, 0, m_model->index(0, 0));
+    QCOMPARE(columnTexts(*m_model, group), QStringList({"Camera a"}));
 }
 
 void CFirmwareUpdateTreeModelTest::announcesRowsParentsFirst()

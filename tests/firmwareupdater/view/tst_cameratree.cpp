@@ -7,6 +7,7 @@
 #include "view/treeviewstatusdelegate.h"
 #include "viewfixture.h"
 
+#include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QLabel>
 #include <QScrollBar>
@@ -40,6 +41,7 @@ private slots:
     void clicksReachTheModel();
     void disabledRowsCannotBeToggled();
     void spaceTogglesTheCurrentRow();
+    void rowsAreSortedAfterEachRefresh();
     void rowsTellTheirState();
     void cellsAreNumberedAsInEvents();
     void scrollBarBeginsBelowTheHeader();
@@ -295,6 +297,39 @@ void CCameraTreeTest::spaceTogglesTheCurrentRow()
     getTree(*m_summary)->setCurrentIndex(m_list->index(1, 3));
     QTest::keyClick(getTree(*m_summary), Qt::Key_Space);
     QCOMPARE(m_list->getSelectedCameraList().count(), 1);
+}
+
+void CCameraTreeTest::rowsAreSortedAfterEachRefresh()
+{
+    using ModelTester = QAbstractItemModelTester;
+    const auto reporting = ModelTester::FailureReportingMode::QtTest;
+    const ModelTester tester(m_model.data(), reporting);
+    const ModelTester proxyTester(m_tree->model(), reporting);
+    const auto read = [this] {
+        QStringList rows;
+        for (QModelIndex row = m_tree->model()->index(0, 0); row.isValid();
+             row = m_tree->indexBelow(row))
+            rows.append(row.data().toString().remove("Camera "));
+        return rows.join(' ');
+    };
+    const auto clickHeader = [this] {
+        QTest::mouseClick(m_tree->header()->viewport(), Qt::LeftButton, {}, QPoint(20, 10));
+    };
+    QCOMPARE(read(), "Layer l A a1 a2 B b1");
+    rebuild({{"5", "B"}, {"7", "A"}, {"8", "A"}, {"6", "A"}, {"9", "C"}});
+    QCOMPARE(read(), "Layer l A 6 7 8 B 5 C 9");
+    clickHeader();
+    QCOMPARE(read(), "Layer l C 9 B 5 A 8 7 6");
+    click("Camera 8", 80);
+    QCOMPARE(read(), "Layer l C 9 B 5 A 8 7 6");
+    // The user's order ends with the tree that it was chosen for.
+    rebuild({{"2", "B"}, {"4", "A"}, {"1", "A"}, {"3", "A"}});
+    QCOMPARE(read(), "Layer l A 1 3 4 B 2");
+    clickHeader();
+    rebuild({});
+    QCOMPARE(read(), "");
+    rebuild({{"1", "B"}, {"3", "A"}, {"2", "A"}});
+    QCOMPARE(read(), "Layer l A 2 3 B 1");
 }
 
 void CCameraTreeTest::rowsTellTheirState()
