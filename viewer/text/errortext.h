@@ -12,7 +12,7 @@ public:
     CErrorText() = default;
 
     /// A text that is the same in both: a name, or what a library says.
-    CErrorText(const QString &text);
+    explicit CErrorText(const QString &text);
 
     /// @p source is English; its translation comes from the application's catalogues. Any thread.
     [[nodiscard]] static CErrorText tr(const char *source);

@@ -1580,5 +1580,9 @@ Update %1
         <source>the SHA-256 of the payload &quot;%1&quot; cannot be computed; check the settings of OpenSSL on this computer</source>
         <translation>データファイル「%1」の SHA-256 を計算できません。このコンピューターの OpenSSL の設定を確認してください</translation>
     </message>
+    <message>
+        <source>the version is not a text of one line</source>
+        <translation>バージョンが 1 行のテキストではありません</translation>
+    </message>
 </context>
 </TS>

@@ -1580,5 +1580,9 @@ Update %1
         <source>the SHA-256 of the payload &quot;%1&quot; cannot be computed; check the settings of OpenSSL on this computer</source>
         <translation>데이터 파일 &quot;%1&quot;의 SHA-256을 계산할 수 없습니다. 이 컴퓨터의 OpenSSL 설정을 확인하십시오</translation>
     </message>
+    <message>
+        <source>the version is not a text of one line</source>
+        <translation>버전이 한 줄의 텍스트가 아닙니다</translation>
+    </message>
 </context>
 </TS>

@@ -1580,5 +1580,9 @@ Update %1
         <source>the SHA-256 of the payload &quot;%1&quot; cannot be computed; check the settings of OpenSSL on this computer</source>
         <translation>无法计算数据文件“%1”的 SHA-256，请检查此计算机上 OpenSSL 的设置</translation>
     </message>
+    <message>
+        <source>the version is not a text of one line</source>
+        <translation>版本不是单行文本</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,8 @@
 #include "firmwarestatefile.h"
 
 #include "viewer/camerapool/logging.h"
+#include "viewer/json/jsonfault.h"
+#include "viewer/json/jsonscanner.h"
 #include "viewer/json/messagetext.h"
 
 #include <QDir>
@@ -13,40 +15,60 @@
 
 namespace Viewer::CameraPool::Simulation {
 
+using Text::CErrorText;
+
 // 200,000 cameras with long ids fit; anything larger is not ours.
 static constexpr qint64 MaximumSize = 64 * 1024 * 1024;
 static constexpr int MaximumVersionLength = 200;
 // At the start, where somebody waits for the window.
 static constexpr std::chrono::milliseconds StartPatience(1000);
 
+static QHash<QString, QString> readVersions(Json::CJsonScanner &scanner)
+{
+    QHash<QString, QString> versions;
+    QString camera;
+    scanner.beginObject();
+    while (scanner.nextMember(camera)) {
+        const QString version = scanner.readText();
+        if (version.isEmpty() || version.size() > MaximumVersionLength
+            || version != version.simplified() || Json::hasUnprintable(version))
+            scanner.fail(CErrorText::tr("the version is not a text of one line"));
+        versions.insert(camera, version);
+    }
+    return versions;
+}
+
 /// The versions that the text holds, or a sentence in @p fault.
 static QHash<QString, QString> parse(const QByteArray &text, QString &fault)
 {
-    QJsonParseError error;
-    const QJsonObject root = QJsonDocument::fromJson(text, &error).object();
-    if (error.error != QJsonParseError::NoError) {
-        fault = QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset);
-        return {};
-    }
-    if (root.value(QLatin1String("format")).toInt() != 1
-        || !root.value(QLatin1String("firmware")).isObject()) {
-        fault = QStringLiteral("it is not a list of firmware versions of format 1");
-        return {};
-    }
-    const QJsonObject firmware = root.value(QLatin1String("firmware")).toObject();
     QHash<QString, QString> versions;
-    versions.reserve(firmware.size());
-    for (auto it = firmware.constBegin(); it != firmware.constEnd(); ++it) {
-        const QString version = it.value().toString();
-        if (version.isEmpty() || version.size() > MaximumVersionLength
-            || version != version.simplified() || Json::hasUnprintable(version)) {
-            fault = QStringLiteral("the version of camera \"%1\" is not a text of one line")
-                        .arg(Json::shorten(it.key()));
-            return {};
+    bool hasFormat = false;
+    bool hasVersions = false;
+    try {
+        Json::CJsonScanner scanner(text);
+        QString name;
+        scanner.beginObject();
+        while (scanner.nextMember(name)) {
+            if (name == QLatin1String("format")) {
+                hasFormat = scanner.readInteger(1, 1) == 1;
+            } else if (name == QLatin1String("firmware")) {
+                versions = readVersions(scanner);
+                hasVersions = true;
+            } else {
+                scanner.fail(CErrorText::tr("unknown field"));
+            }
         }
-        versions.insert(it.key(), version);
+        scanner.expectEnd();
+    } catch (const Json::CJsonFault &found) {
+        fault = QStringLiteral("line %1, column %2: %3")
+                    .arg(QString::number(found.line), QString::number(found.column),
+                         found.problem.getEnglish());
+        return {};
     }
-    return versions;
+    if (hasFormat && hasVersions)
+        return versions;
+    fault = QStringLiteral("it is not a list of firmware versions of format 1");
+    return {};
 }
 
 namespace {
