@@ -128,9 +128,9 @@ CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
     } catch (const CCameraError &error) {
         return getErrorText(error.getText(), run.hasWritten());
     } catch (const Core::Exception::BaseException &exception) {
-        return getErrorText(exception.getMessage(), run.hasWritten());
+        return getErrorText(CErrorText(exception.getMessage()), run.hasWritten());
     } catch (const std::exception &exception) {
-        return getErrorText(QString::fromLocal8Bit(exception.what()), run.hasWritten());
+        return getErrorText(CErrorText(QString::fromLocal8Bit(exception.what())), run.hasWritten());
     } catch (...) {
         return getErrorText({}, run.hasWritten());
     }

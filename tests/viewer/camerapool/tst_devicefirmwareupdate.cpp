@@ -207,7 +207,7 @@ void CDeviceFirmwareUpdateTest::everyFailingOperationGivesOneError()
         init();
         m_script->before = [this, failing](const QString &call) {
             if (m_script->calls.size() == failing)
-                throw CCameraError(CameraName, "no " + call);
+                throw CCameraError(CameraName, Viewer::Text::CErrorText("no " + call));
         };
         const QString call = calls.at(failing);
         verifyFailure("no " + call, calls.indexOf("write FirmwareUpdateMode=On") <= failing);
