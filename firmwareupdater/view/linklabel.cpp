@@ -1,8 +1,12 @@
 #include "linklabel.h"
 
+#include "core/richtext.h"
+
 #include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QScrollArea>
+#include <QStatusTipEvent>
 #include <QTextBlock>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
@@ -10,6 +14,23 @@ namespace Plugin::FirmwareUpdater::Internal::View {
 CLinkLabel::CLinkLabel(QWidget *parent)
     : QLabel(parent)
 {
+    connect(this, &QLabel::linkHovered, this, &CLinkLabel::showTarget);
+}
+
+void CLinkLabel::setTarget(const QString &target)
+{
+    m_target = target;
+}
+
+void CLinkLabel::showTarget(const QString &link)
+{
+    const QString target = link.isEmpty() || m_target.isEmpty() ? link : m_target;
+    setToolTip(Core::Text::toToolTip(target));
+    // The pages have no status bar, and Qt asks nobody beyond a window for one.
+    if (QWidget *const parent = window()->parentWidget()) {
+        QStatusTipEvent event(target);
+        QCoreApplication::sendEvent(parent, &event);
+    }
 }
 
 QVariant CLinkLabel::inputMethodQuery(Qt::InputMethodQuery query) const

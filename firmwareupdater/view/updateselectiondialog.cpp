@@ -5,18 +5,31 @@
 #include "readablepalette.h"
 #include "ui_updateselectiondialog.h"
 
+#include "core/richtext.h"
+
+#include <QDesktopServices>
 #include <QDir>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTextDocument>
+#include <QUrl>
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 
-/// Text with markup stays as it is; of any other the lines and signs are kept.
+/// Of text with markup what is harmless stays; of any other the lines and signs are kept.
 static QString toRichText(const QString &text)
 {
     if (Qt::mightBeRichText(text))
-        return text;
+        return Core::Text::toSafeRichText(text);
     return text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>"));
+}
+
+/// An address that no browser opens, like that of a file: shown, but never followed.
+static bool isForeignAddress(const QString &text)
+{
+    static const QRegularExpression scheme(
+        QStringLiteral("^\\s*[A-Za-z][A-Za-z0-9+.-]*:\\S+\\s*$"));
+    return scheme.match(text).hasMatch() && !Core::Text::isWebLink(text.trimmed());
 }
 
 /// Makes large texts small enough for @p widget, whose size is fixed: they would be cut off.
@@ -59,6 +72,9 @@ CUpdateSelectionDialog::CUpdateSelectionDialog(QWidget *parent)
             &CUpdateSelectionDialog::browseClicked);
     connect(m_ui->updateFileLineEdit, &QLineEdit::textEdited, this,
             &CUpdateSelectionDialog::pathChanged);
+    // Only of links that the label does not open by itself.
+    connect(m_ui->updateNotesTextLabel, &QLabel::linkActivated, this,
+            &CUpdateSelectionDialog::openNotes);
     // The keyboard goes to the details only when they can be scrolled.
     m_ui->scrollArea->setFocusPolicy(Qt::NoFocus);
     connect(m_ui->scrollArea->verticalScrollBar(), &QScrollBar::rangeChanged, this,
@@ -150,15 +166,31 @@ void CUpdateSelectionDialog::showVersion(const QString &version)
 
 void CUpdateSelectionDialog::showReleaseNotes(const QString &notes)
 {
+    m_notes = notes;
+    CLinkLabel *const label = m_ui->updateNotesTextLabel;
     // Notes that mention an address anywhere are taken for one as a whole; quotes and ampersands
     // are escaped, so that the link leads to exactly this text.
-    const bool isLink = notes.contains(QLatin1String("http"), Qt::CaseInsensitive);
-    showTextWithLinks(m_ui->updateNotesTextLabel,
+    const bool isLink
+        = notes.contains(QLatin1String("http"), Qt::CaseInsensitive) && !isForeignAddress(notes);
+    const bool isAddress = Core::Text::isWebLink(notes);
+    // What is no address must not go to the desktop, which would take it for the name of a file.
+    label->setOpenExternalLinks(!isLink || isAddress);
+    label->setTarget(isLink ? notes : QString());
+    showTextWithLinks(label,
                       isLink ? QStringLiteral("<a href=\"%1\">%2</a>")
                                    .arg(notes.toHtmlEscaped(), tr("Firmware Release Notes"))
                              : toRichText(notes));
     m_ui->updateNotesLabel->setVisible(!notes.isEmpty());
-    m_ui->updateNotesTextLabel->setVisible(!notes.isEmpty());
+    label->setVisible(!notes.isEmpty());
+}
+
+void CUpdateSelectionDialog::openNotes()
+{
+    static const QRegularExpression address(QStringLiteral("https?://[^\\s\"'<>()]+"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    const QString target = address.match(m_notes).captured();
+    if (Core::Text::isWebLink(target))
+        QDesktopServices::openUrl(QUrl(target));
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -53,8 +53,12 @@ private:
     void showVersion(const QString &version);
     void showReleaseNotes(const QString &notes);
 
+    /// Opens the first address that the notes mention.
+    void openNotes();
+
     const std::unique_ptr<Ui::UpdateSelectionDialogUi> m_ui;
     QPointer<QPushButton> m_nextButton;
+    QString m_notes; ///< of the update that is shown
 };
 
 } // namespace Plugin::FirmwareUpdater::Internal::View

@@ -286,6 +286,14 @@ QString toSafeRichText(const QString &text)
     return CFilter(text).run();
 }
 
+QString toToolTip(const QString &text)
+{
+    return text.isEmpty()
+        ? QString()
+        : QStringLiteral("<qt>%1</qt>")
+              .arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")));
+}
+
 bool isWebLink(const QString &target)
 {
     static const QRegularExpression WEB_LINK(

@@ -14,6 +14,10 @@ namespace Core::Text {
 /// its markup. Text that names nothing of the kind comes back as it is. Any thread.
 [[nodiscard]] HOSTAPI_EXPORT QString toSafeRichText(const QString &text);
 
+/// @p text as a tool tip that shows it as it stands, in its lines: of a plain text Qt guesses
+/// whether it is markup. Any thread.
+[[nodiscard]] HOSTAPI_EXPORT QString toToolTip(const QString &text);
+
 /// True for an http, https or mailto address without blanks: what the desktop may be asked to open
 /// for a link from outside.
 [[nodiscard]] HOSTAPI_EXPORT bool isWebLink(const QString &target);

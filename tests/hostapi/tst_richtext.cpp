@@ -1,41 +1,12 @@
 #include "core/richtext.h"
+#include "support/watcheddocument.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QTest>
 #include <QTextBlock>
-#include <QTextDocument>
 
 using Core::Text::isWebLink;
 using Core::Text::toSafeRichText;
-
-namespace {
-
-/// Notes what Qt asks for while it reads and lays out a text, and gives nothing.
-class CWatchedDocument : public QTextDocument
-{
-public:
-    explicit CWatchedDocument(const QString &html)
-    {
-        setHtml(html);
-        setTextWidth(400);
-        static_cast<void>(documentLayout()->documentSize());
-    }
-
-    QStringList takeRequests() { return std::exchange(m_requests, {}); }
-
-protected:
-    QVariant loadResource(int type, const QUrl &name) override
-    {
-        Q_UNUSED(type)
-        m_requests.append(name.toString());
-        return {};
-    }
-
-private:
-    QStringList m_requests;
-};
-
-} // namespace
+using TestSupport::CWatchedDocument;
 
 /// What rich text from outside may show, judged by what Qt makes of it.
 class CRichTextTest : public QObject
@@ -51,6 +22,7 @@ private slots:
     void foreignLinksAreText();
     void deepTextIsLaidOut_data();
     void deepTextIsLaidOut();
+    void toolTipsAreText();
     void webLinks_data();
     void webLinks();
 };
@@ -106,10 +78,9 @@ void CRichTextTest::nothingIsReadForText_data()
 void CRichTextTest::nothingIsReadForText()
 {
     QFETCH(QString, markup);
-    CWatchedDocument document(toSafeRichText("<b>Before</b> " + markup));
+    const CWatchedDocument document(toSafeRichText("<b>Before</b> " + markup));
 
-    QCOMPARE(document.takeRequests(), QStringList());
-    QVERIFY(!document.toPlainText().contains(QChar::ObjectReplacementCharacter));
+    QVERIFY(document.isWordsAlone());
     QVERIFY2(document.toPlainText().startsWith("Before"), qUtf8Printable(document.toPlainText()));
 }
 
@@ -127,10 +98,9 @@ void CRichTextTest::foreignLinksAreText_data()
 void CRichTextTest::foreignLinksAreText()
 {
     QFETCH(QString, link);
-    const QTextDocument *document = new CWatchedDocument(toSafeRichText(link));
-    const QScopedPointer<const QTextDocument> guard(document);
-    QCOMPARE(document->toPlainText(), "Notes");
-    for (auto it = document->firstBlock().begin(); !it.atEnd(); ++it) {
+    const CWatchedDocument document(toSafeRichText(link));
+    QCOMPARE(document.toPlainText(), "Notes");
+    for (auto it = document.firstBlock().begin(); !it.atEnd(); ++it) {
         const QString target = it.fragment().charFormat().anchorHref();
         QVERIFY2(target.isEmpty() || isWebLink(target), qUtf8Printable(target));
     }
@@ -154,9 +124,20 @@ void CRichTextTest::deepTextIsLaidOut_data()
 void CRichTextTest::deepTextIsLaidOut()
 {
     QFETCH(QString, unit);
-    CWatchedDocument document(toSafeRichText("x" + unit.repeated(30000 / unit.size())));
+    const CWatchedDocument document(toSafeRichText("x" + unit.repeated(30000 / unit.size())));
     QVERIFY(document.size().width() < 100000);
     QVERIFY(document.toPlainText().startsWith('x'));
+}
+
+void CRichTextTest::toolTipsAreText()
+{
+    const QString text("Model: <img src=/dev/zero>\n& more");
+    const QString toolTip = Core::Text::toToolTip(text);
+    QVERIFY(Qt::mightBeRichText(toolTip));
+    const CWatchedDocument document(toolTip);
+    QVERIFY(document.isWordsAlone());
+    QCOMPARE(document.toPlainText(), text);
+    QCOMPARE(Core::Text::toToolTip({}), QString());
 }
 
 void CRichTextTest::webLinks_data()

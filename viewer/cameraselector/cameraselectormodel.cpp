@@ -1,5 +1,7 @@
 #include "cameraselectormodel.h"
 
+#include "core/richtext.h"
+
 namespace Viewer::CameraSelector {
 
 using Plugin::CameraPool::CameraInfoPtr;
@@ -127,11 +129,12 @@ QVariant CCameraSelectorModel::getCameraData(const CameraInfoPtr &camera, int co
     if (role == Qt::DecorationRole && column == NameColumn)
         return m_cameraIcon;
     if (role == Qt::ToolTipRole && column == StateColumn)
-        return getStateText(*camera);
+        return Core::Text::toToolTip(getStateText(*camera));
     if (role == Qt::ToolTipRole) {
-        return tr("%1\nModel: %2\nSerial number: %3\nDevice version: %4\nFirmware: %5")
-            .arg(camera->getDisplayName(), camera->getModelName(), camera->getSerialNumber(),
-                 camera->getDeviceVersion(), camera->getFirmwareVersion());
+        return Core::Text::toToolTip(
+            tr("%1\nModel: %2\nSerial number: %3\nDevice version: %4\nFirmware: %5")
+                .arg(camera->getDisplayName(), camera->getModelName(), camera->getSerialNumber(),
+                     camera->getDeviceVersion(), camera->getFirmwareVersion()));
     }
     if (role != Qt::DisplayRole)
         return {};

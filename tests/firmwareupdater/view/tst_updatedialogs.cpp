@@ -39,6 +39,8 @@ private slots:
     void showEverythingAtEverySize_data();
     void showEverythingAtEverySize();
     void showsTheFirstUpdate();
+    void linksTellWhereTheyLead_data();
+    void linksTellWhereTheyLead();
     void announcesThePathOfTheUser();
     void pathCanBeRead();
     void warningsCloseTheirGap();
@@ -75,9 +77,8 @@ void CUpdateDialogsTest::init()
     m_dialogs = std::make_unique<CPages>();
     for (CUpdateDialogBase *const dialog : m_dialogs->all)
         dialog->setModel(makeList(3));
-    QDesktopServices::setUrlHandler("https", this, "open");
-    QDesktopServices::setUrlHandler("mailto", this, "open");
-    QDesktopServices::setUrlHandler("", this, "open");
+    for (const char *scheme : {"http", "https", "mailto", "file", ""})
+        QDesktopServices::setUrlHandler(scheme, this, "open");
 }
 
 template <typename TAct>
@@ -482,8 +483,49 @@ void CUpdateDialogsTest::showsTheFirstUpdate()
              "Fixes|2.0|<a href=\"HTTPS://a.example/n\">Firmware Release Notes</a>|++++");
     QCOMPARE(show("", "Fixes", "\"see\" http %2"),
              "Fixes||<a href=\"&quot;see&quot; http %2\">Firmware Release Notes</a>|--++");
+    // Nothing is read for notes, and what no browser opens is no link.
+    QCOMPARE(show("", "Fixes", "<b>a</b><img src=/dev/zero>"), "Fixes||<b>a</b>|--++");
+    QCOMPARE(show("", "Fixes", "file:///http"), "Fixes||file:///http|--++");
+    QCOMPARE(show("", "Fixes", "<a href='file:///x'>x</a>"), "Fixes||<a>x</a>|--++");
     dialog.updateFirmwareUpdateInfo({}, true);
     QCOMPARE(getShown(dialog, {"updateVersionLabel", "updateNotesLabel"}), "--");
+}
+
+void CUpdateDialogsTest::linksTellWhereTheyLead_data()
+{
+    QTest::addColumn<QString>("notes");
+    QTest::addColumn<QString>("toolTip");
+    QTest::addColumn<QString>("opened");
+    QTest::newRow("address") << "https://a.example/n"
+                             << "<qt>https://a.example/n</qt>"
+                             << "https://a.example/n";
+    QTest::newRow("prose") << "<b>See</b> http://a.example/n (or not)"
+                           << "<qt>&lt;b&gt;See&lt;/b&gt; http://a.example/n (or not)</qt>"
+                           << "http://a.example/n";
+    QTest::newRow("mention") << "Fewer http faults"
+                             << "<qt>Fewer http faults</qt>"
+                             << "";
+    QTest::newRow("path") << "/tmp/http.desktop"
+                          << "<qt>/tmp/http.desktop</qt>"
+                          << "";
+}
+
+void CUpdateDialogsTest::linksTellWhereTheyLead()
+{
+    QFETCH(QString, notes);
+    CUpdateSelectionDialog &dialog = m_dialogs->file;
+    dialog.show();
+    dialog.updateFirmwareUpdateInfo(
+        {QSharedPointer<TestSupport::CFakeUpdateInfo>::create("2.0", "Fixes", notes)}, false);
+    QLabel *const label = find<QLabel>(dialog, "updateNotesTextLabel");
+    dialog.grab();
+    for (const QPoint &place : {QPoint(-5, 5), QPoint(10, 5)})
+        QTest::mouseMove(dialog.windowHandle(), label->mapTo(&dialog, place));
+    QFETCH(QString, toolTip);
+    QTRY_COMPARE(label->toolTip(), toolTip);
+    m_opened.clear();
+    QTest::mouseClick(label, Qt::LeftButton, {}, {10, 5});
+    QTEST(m_opened.join(' '), "opened");
 }
 
 void CUpdateDialogsTest::announcesThePathOfTheUser()

@@ -1,4 +1,5 @@
 #include "support/fakehost.h"
+#include "support/watcheddocument.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
@@ -15,6 +16,7 @@ class CCameraSelectorViewTest : public QObject
 
 private slots:
     void announcesEachSelection();
+    void namesOfCamerasAreText();
 };
 
 void CCameraSelectorViewTest::announcesEachSelection()
@@ -65,6 +67,19 @@ void CCameraSelectorViewTest::announcesEachSelection()
     QCOMPARE(takeIds(), "null");
     enumeration->announce({makeLayer("gev", {{"a"}, {"b"}})});
     QCOMPARE(takeIds(), "");
+}
+
+void CCameraSelectorViewTest::namesOfCamerasAreText()
+{
+    CCameraSelectorModel model;
+    model.setTransportLayers({makeLayer("gev", {{"a", "<img src=/dev/zero>"}})});
+    const QModelIndex camera = model.findId("a");
+    for (int column = 0; column < model.columnCount(); ++column) {
+        const QString toolTip = camera.siblingAtColumn(column).data(Qt::ToolTipRole).toString();
+        QVERIFY(Qt::mightBeRichText(toolTip));
+        QVERIFY2(CWatchedDocument(toolTip).isWordsAlone(), qPrintable(toolTip));
+    }
+    QVERIFY(camera.data(Qt::ToolTipRole).toString().contains("&lt;img"));
 }
 
 QTEST_MAIN(CCameraSelectorViewTest)

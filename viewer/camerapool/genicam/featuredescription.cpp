@@ -1,5 +1,7 @@
 #include "featuredescription.h"
 
+#include "viewer/json/messagetext.h"
+
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
@@ -25,9 +27,6 @@ constexpr int MAXIMUM_CHAIN = 200;
 
 /// Nodes that it looks at for one value, each as often as it is referred to.
 constexpr double MAXIMUM_COST = 1e7;
-
-/// A name of a feature as a message shows it.
-constexpr int SHOWN_NAME_LENGTH = 80;
 
 /// The elements that name a node whose value is needed for that of the node around them, or one
 /// that stands in its category. The others may well lead in circles: limits that depend on each
@@ -137,10 +136,7 @@ private:
             .arg(getShownName(node));
     }
 
-    [[nodiscard]] QString getShownName(int node) const
-    {
-        return m_names.at(node).left(SHOWN_NAME_LENGTH);
-    }
+    [[nodiscard]] QString getShownName(int node) const { return Json::shorten(m_names.at(node)); }
 
     QHash<QString, int> m_numbers;
     QVector<QString> m_names;

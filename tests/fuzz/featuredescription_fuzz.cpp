@@ -1,0 +1,18 @@
+#include "fuzztarget.h"
+#include "viewer/camerapool/genicam/featuredescription.h"
+
+using namespace Viewer::CameraPool::GenICam;
+
+/// Whatever a camera has for a description, it is judged in one line.
+int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArray bytes = Fuzz::toBytes(data, size);
+    const CDescriptionPlace place = readDescriptionPlace(bytes);
+    Fuzz::require(place.fault.isEmpty() ? place.size > 0 && place.size <= MAXIMUM_PACKED_DESCRIPTION
+                                        : Fuzz::isReadable(place.fault.getEnglish()));
+    for (const bool isPacked : {false, true}) {
+        const Viewer::Text::CErrorText fault = findDescriptionFault(bytes, isPacked);
+        Fuzz::require(fault.isEmpty() || Fuzz::isReadable(fault.getEnglish()));
+    }
+    return 0;
+}
