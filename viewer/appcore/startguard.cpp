@@ -9,6 +9,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 #include <optional>
 
 namespace Viewer::AppCore {
@@ -26,10 +27,17 @@ struct CHeldMessages
     QStringList lines; ///< as they would have been printed
 };
 
+std::mutex mutex; // threads of the window system may have something to say as well
 std::optional<CHeldMessages> heldMessages;
 
 void holdMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
+    const std::lock_guard lock(mutex);
+    if (!heldMessages) {
+        // It came while the guard went.
+        std::fprintf(stderr, "%s\n", qUtf8Printable(qFormatLogMessage(type, context, text)));
+        return;
+    }
     CHeldMessages &held = *heldMessages;
     if (type != QtFatalMsg) {
         if (held.reason.isEmpty() && QLatin1String(context.category).startsWith(u"qt.qpa"))
@@ -70,6 +78,7 @@ CStartGuard::CStartGuard(int argc, char **argv, int usageError)
 
 CStartGuard::~CStartGuard()
 {
+    const std::lock_guard lock(mutex);
     qInstallMessageHandler(heldMessages->handler);
     for (const QString &line : qAsConst(heldMessages->lines))
         std::fprintf(stderr, "%s\n", qUtf8Printable(line));

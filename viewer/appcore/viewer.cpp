@@ -57,6 +57,7 @@ static QString withoutMnemonic(QString text)
 }
 
 static const QLatin1String SearchNetworkKey("searchNetwork");
+static constexpr int NextReasonTime = 1000; // milliseconds
 
 // A search by broadcast reaches devices of others: it is asked for, now or once for all.
 static CameraPool::CCameraPoolOptions getPoolOptions(const CCommandLineOptions &options)
@@ -95,6 +96,13 @@ CViewer::CViewer(const CCommandLineOptions &options, const QString &language,
     // Tells of every update, also of one that began and ended while the event loop was busy.
     connect(m_pool.get(), &CameraPool::CCameraPool::activityChanged, this,
             &CViewer::closeIfRequested, Qt::QueuedConnection);
+    // Between two cameras of a series no update runs either; only what lasts is told.
+    m_nextReasonTimer.setSingleShot(true);
+    m_nextReasonTimer.setInterval(NextReasonTime);
+    connect(&m_nextReasonTimer, &QTimer::timeout, this, [this] {
+        if (getReasonToStayOpen() != m_toldReason)
+            requestClose();
+    });
     connect(m_window.get(), &CMainWindow::closed, qApp, &QCoreApplication::quit,
             Qt::QueuedConnection);
     connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager &session) {
@@ -262,6 +270,7 @@ void CViewer::requestClose()
         m_window->close();
         return;
     }
+    m_toldReason = reason;
     const QString sentence = tr("%1 Then the viewer closes by itself.").arg(reason);
     m_window->showMessage(sentence);
     emit closeDeferred(sentence);
@@ -269,8 +278,12 @@ void CViewer::requestClose()
 
 void CViewer::closeIfRequested()
 {
-    if (m_closeRequested && getReasonToStayOpen().isEmpty())
+    if (!m_closeRequested)
+        return;
+    if (getReasonToStayOpen().isEmpty())
         m_window->close();
+    else
+        m_nextReasonTimer.start();
 }
 
 void CViewer::onEnumerationChanged()

@@ -3,6 +3,7 @@
 #include "commandline.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <memory>
 
@@ -73,7 +74,8 @@ public slots:
     void requestClose();
 
 signals:
-    /// requestClose() has to wait. @p sentence says what for; the status bar shows it, too.
+    /// requestClose() has to wait, or waits for something else now. @p sentence says what for; the
+    /// status bar shows it, too.
     void closeDeferred(const QString &sentence);
 
 private:
@@ -105,6 +107,8 @@ private:
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;
     CameraSelector::CCameraSelectorView *m_selectorView = nullptr; ///< the window's child
     bool m_closeRequested = false;
+    QString m_toldReason; ///< why it was not closed, as last told
+    QTimer m_nextReasonTimer;
 };
 
 } // namespace Viewer::AppCore

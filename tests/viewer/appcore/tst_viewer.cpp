@@ -35,6 +35,7 @@ private slots:
     void init();
     void acquiresAndRecords();
     void wizardLocksStartsAndClosing();
+    void runningUpdateKeepsTheWindowOpen_data();
     void runningUpdateKeepsTheWindowOpen();
     void closingEndsTheApplication();
     void tellsWhyNoLogsAreKept();
@@ -146,8 +147,19 @@ void CViewerTest::wizardLocksStartsAndClosing()
     QTRY_VERIFY(startsCamera());
 }
 
+void CViewerTest::runningUpdateKeepsTheWindowOpen_data()
+{
+    QTest::addColumn<bool>("withDialog");
+    QTest::newRow("without a dialog") << false;
+    QTest::newRow("behind a dialog") << true;
+}
+
 void CViewerTest::runningUpdateKeepsTheWindowOpen()
 {
+    QFETCH(bool, withDialog);
+    QDialog page(m_window);
+    page.setModal(true);
+    page.setVisible(withDialog);
     const auto updates = m_viewer->getUpdateService();
     const auto infos = updates->getFirmwareUpdateInfos(SAMPLE_FILE, {});
     const auto job = updates->createDeviceFirmwareUpdate(camera(), infos.constFirst());
@@ -164,6 +176,11 @@ void CViewerTest::runningUpdateKeepsTheWindowOpen()
     QVERIFY2(message.contains("update"), qPrintable(message));
     QCOMPARE(deferred.size(), 2);
     QVERIFY(deferred.value(0).value(0).toString().startsWith(message));
+    if (withDialog) {
+        QTRY_COMPARE(deferred.size(), 3);
+        QVERIFY(deferred.value(2).value(0).toString().contains("dialog"));
+        page.hide();
+    }
     // Nobody has to ask once more.
     QTRY_VERIFY(!m_window->isVisible());
     QVERIFY(!m_pool->isUpdateRunning());
