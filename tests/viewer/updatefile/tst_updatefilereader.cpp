@@ -115,8 +115,20 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
         "\"../evil.img\" has an empty");
     row(patch(packAlso("evilPimg"), "evilPimg", "evil\nimg"),
         "\"evil?img\" has a control character");
+    // The library takes this one for a blank.
+    row(patch(packAlso("nulPimg"), "nulPimg", QByteArray("nul\0img", 7)),
+        "\"nul?img\" has a control character");
     row(packAlso(QByteArray(201, 'n')), "nnn...\" is longer than 200 characters");
     row(patch(packAlso("evil!.img"), "evil!", "evil\xff"), "entry 3 of the archive has no name");
+    // What the library would read before it could be asked for the number.
+    const QByteArray end("PK\x05\x06");
+    QByteArray crowded = valid;
+    crowded[crowded.lastIndexOf(end) + 11] = 0x10;
+    row(crowded, "the archive has 4099 entries; at most 256 are allowed");
+    QByteArray locator = QByteArray("PK\x06\x07").leftJustified(20, '\0');
+    locator[10] = 1;
+    row(QByteArray(valid).insert(valid.lastIndexOf(end), locator), "the archive is damaged; copy");
+    row(valid + end.leftJustified(22, '\0').repeated(100), "the archive is damaged; copy");
     QVector<CEntry> crowd;
     for (int index = 0; index < 257; ++index)
         crowd.append({QString::number(index), "x"});

@@ -1,5 +1,6 @@
 #include "updatearchive.h"
 
+#include "archivedirectory.h"
 #include "entryname.h"
 #include "payloaddevice.h"
 #include "updatefileerror.h"
@@ -24,6 +25,11 @@ constexpr int BLOCK_SIZE = 64 * 1024;
 /// What the first bytes of an archive that is not empty are.
 const QByteArray ARCHIVE_BEGIN = QByteArrayLiteral("PK\x03\x04");
 
+CErrorText getDamageText()
+{
+    return CErrorText::tr("the archive is damaged; copy the file again");
+}
+
 CErrorText describeOpenFault(int zipError, const QByteArray &firstBytes)
 {
     switch (zipError) {
@@ -40,18 +46,8 @@ CErrorText describeOpenFault(int zipError, const QByteArray &firstBytes)
     case ZIP_ER_OPEN:
         return CErrorText::tr("the file cannot be read from the disk");
     default:
-        return CErrorText::tr("the archive is damaged; copy the file again");
+        return getDamageText();
     }
-}
-
-/// Names are taken as they are stored and have to be UTF-8, as guessing another encoding would hide
-/// control characters behind harmless ones.
-QString readEntryName(zip *archive, quint64 index)
-{
-    const char *stored = zip_get_name(archive, index, ZIP_FL_ENC_RAW);
-    const QByteArray bytes(stored ? stored : "");
-    const QString name = QString::fromUtf8(bytes);
-    return name.toUtf8() == bytes ? name : QString();
 }
 
 } // namespace
@@ -138,6 +134,7 @@ void CUpdateArchive::openFile()
         fail(CErrorText::tr("the file has %1 bytes; at most %2 are allowed")
                  .arg(QString::number(file.size()), QString::number(Limits::ARCHIVE_SIZE)));
     const QByteArray firstBytes = file.read(ARCHIVE_BEGIN.size());
+    checkDirectory(file);
 
     // A second descriptor of the same open file, which the library closes with the archive.
     const int descriptor = dup(file.handle());
@@ -152,13 +149,35 @@ void CUpdateArchive::openFile()
     m_zip = std::shared_ptr<zip>(archive, zip_discard);
 }
 
+void CUpdateArchive::checkDirectory(QIODevice &file) const
+{
+    const CArchiveDirectory directory = readArchiveDirectory(file, Limits::ENTRIES);
+    if (directory.entryCount > static_cast<quint64>(Limits::ENTRIES))
+        fail(CErrorText::tr("the archive has %1 entries; at most %2 are allowed")
+                 .arg(QString::number(directory.entryCount), QString::number(Limits::ENTRIES)));
+    if (directory.isDamaged)
+        fail(getDamageText());
+    for (int index = 0; index < directory.names.size(); ++index)
+        static_cast<void>(readName(directory.names.at(index), static_cast<quint64>(index)));
+}
+
+QString CUpdateArchive::readName(const QByteArray &stored, quint64 index) const
+{
+    // Guessing another encoding would hide control characters behind harmless ones.
+    const QString name = QString::fromUtf8(stored.constData(), stored.size());
+    if (name.isEmpty() || name.toUtf8() != stored)
+        fail(CErrorText::tr("entry %1 of the archive has no name, or one that is not UTF-8")
+                 .arg(QString::number(index + 1)));
+    const bool isFolder = name.endsWith(QLatin1Char('/')) && name.size() > 1;
+    const CErrorText fault = findEntryNameFault(isFolder ? name.chopped(1) : name);
+    if (!fault.isEmpty())
+        fail(CErrorText::tr("the entry name \"%1\" %2").arg(Json::shorten(name), fault));
+    return name;
+}
+
 void CUpdateArchive::readDirectory()
 {
     const qint64 entryCount = zip_get_num_entries(m_zip.get(), 0);
-    if (entryCount > Limits::ENTRIES)
-        fail(CErrorText::tr("the archive has %1 entries; at most %2 are allowed")
-                 .arg(QString::number(entryCount), QString::number(Limits::ENTRIES)));
-
     QSet<QString> names;
     qint64 unpackedSize = 0;
     for (qint64 index = 0; index < entryCount; ++index) {
@@ -181,16 +200,10 @@ CUpdateArchive::CEntry CUpdateArchive::readEntry(quint64 index) const
 {
     CEntry entry;
     entry.index = index;
-    entry.name = readEntryName(m_zip.get(), index);
-    if (entry.name.isEmpty())
-        fail(CErrorText::tr("entry %1 of the archive has no name, or one that is not UTF-8")
-                 .arg(QString::number(index + 1)));
-    entry.isFolder = entry.name.endsWith(QLatin1Char('/')) && entry.name.size() > 1;
+    entry.name = readName(zip_get_name(m_zip.get(), index, ZIP_FL_ENC_RAW), index);
+    entry.isFolder = entry.name.endsWith(QLatin1Char('/'));
     if (entry.isFolder)
         entry.name.chop(1);
-    const CErrorText nameFault = findEntryNameFault(entry.name);
-    if (!nameFault.isEmpty())
-        fail(CErrorText::tr("the entry name \"%1\" %2").arg(Json::shorten(entry.name), nameFault));
 
     constexpr zip_uint64_t NEEDED
         = ZIP_STAT_SIZE | ZIP_STAT_COMP_METHOD | ZIP_STAT_ENCRYPTION_METHOD;

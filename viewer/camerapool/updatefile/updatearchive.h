@@ -63,7 +63,11 @@ private:
     };
 
     void openFile();
+    /// Finds what the library would not tell, or not in time.
+    void checkDirectory(QIODevice &file) const;
+
     void readDirectory();
+    [[nodiscard]] QString readName(const QByteArray &stored, quint64 index) const;
     [[nodiscard]] CEntry readEntry(quint64 index) const;
     [[nodiscard]] const CEntry *findFile(const QString &name) const;
     [[nodiscard]] const CEntry &getPayloadEntry(const CPayload &payload) const;
