@@ -1,7 +1,6 @@
 #include "updatefilepacker.h"
 
 #include "viewer/camerapool/updatefile/entryname.h"
-#include "viewer/camerapool/updatefile/jsontext.h"
 #include "viewer/camerapool/updatefile/manifestparser.h"
 #include "viewer/camerapool/updatefile/sha256.h"
 #include "viewer/camerapool/updatefile/updatefileerror.h"
@@ -31,6 +30,9 @@ namespace {
 /// 2 January 1980, the first whole day that an archive can tell, so that the time of packing does
 /// not show in the bytes.
 constexpr zip_uint16_t ENTRY_DATE = (1 << 5) | 2;
+
+const QString UPDATES = QStringLiteral("updates");
+const QString STEPS = QStringLiteral("steps");
 
 using CZipPointer = std::unique_ptr<zip_t, void (*)(zip_t *)>;
 
@@ -106,18 +108,14 @@ CUpdateFilePacker::CUpdateFilePacker(const QString &folder)
 
 CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
 {
-    const QByteArray json = completeManifest(readSource());
-    const CManifestResult result = parseManifest(json);
+    // The author's own text, so that a fault is told with the line in which it stands there.
+    const QByteArray source = readSource();
+    const CManifestResult result = parseManifest(source, EPayloadFacts::Optional);
     if (!result.fault.isEmpty())
         fail(result.fault);
-
-    const QDir folder(m_folder);
     const QStringList payloadNames = collectPayloadNames(result.manifest);
-    for (const QString &name : payloadNames) {
-        if (!QFileInfo(folder.filePath(name)).isFile())
-            fail(CErrorText::tr("the payload \"%1\" is missing in the folder")
-                     .arg(Json::shorten(name)));
-    }
+    checkPayloads(payloadNames);
+    const QByteArray json = completeManifest(source);
 
     // Beside the file, as only a rename within one file system replaces it in one go.
     const QFileInfo target(file);
@@ -126,7 +124,7 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
     if (!workFolder.isValid())
         throw CUpdateFileError(file, CErrorText::tr("its folder does not exist or is read-only"));
     const QString draft = workFolder.filePath(QStringLiteral("draft.guf"));
-    const CErrorText writeFault = writeArchive(draft, json, folder, payloadNames);
+    const CErrorText writeFault = writeArchive(draft, json, QDir(m_folder), payloadNames);
     if (!writeFault.isEmpty())
         throw CUpdateFileError(file, writeFault);
 
@@ -140,6 +138,25 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
     } catch (const CUpdateFileError &error) {
         throw CUpdateFileError(file, error.getCause());
     }
+}
+
+void CUpdateFilePacker::checkPayloads(const QStringList &names) const
+{
+    qint64 totalSize = 0;
+    for (const QString &name : names) {
+        const QFileInfo info(QDir(m_folder).filePath(name));
+        if (!info.isFile())
+            fail(CErrorText::tr("the payload \"%1\" is missing in the folder")
+                     .arg(Json::shorten(name)));
+        if (info.size() == 0)
+            fail(CErrorText::tr("the payload \"%1\" is empty").arg(Json::shorten(name)));
+        totalSize += info.size();
+    }
+    // The manifest and the payloads are all that the archive will hold.
+    constexpr qint64 LARGEST = Limits::UNPACKED_SIZE - Limits::MANIFEST_SIZE;
+    if (totalSize > LARGEST)
+        fail(CErrorText::tr("the payloads have %1 bytes together; at most %2 are allowed")
+                 .arg(QString::number(totalSize), QString::number(LARGEST)));
 }
 
 QByteArray CUpdateFilePacker::readSource() const
@@ -160,31 +177,19 @@ QByteArray CUpdateFilePacker::readSource() const
 
 QByteArray CUpdateFilePacker::completeManifest(const QByteArray &source) const
 {
-    CJsonResult text = parseJsonObject(source, Limits::NESTING);
-    if (!text.fault.isEmpty())
-        fail(CErrorText::tr("update.json %1").arg(text.fault));
-
-    // Whatever is not as the format wants it is left alone here and refused when the result is
-    // parsed.
-    const QString updatesField = QStringLiteral("updates");
-    const QString stepsField = QStringLiteral("steps");
-    if (!text.object.value(updatesField).isArray())
-        return source;
-    QJsonArray updates = text.object.value(updatesField).toArray();
+    // Known to be faultless here, so that every field is of its type.
+    QJsonObject manifest = QJsonDocument::fromJson(source).object();
+    QJsonArray updates = manifest.value(UPDATES).toArray();
     for (QJsonValueRef updateValue : updates) {
         QJsonObject update = updateValue.toObject();
-        if (!update.value(stepsField).isArray())
-            continue;
-        QJsonArray steps = update.value(stepsField).toArray();
-        for (QJsonValueRef step : steps) {
-            if (step.isObject())
-                step = completeStep(step.toObject());
-        }
-        update.insert(stepsField, steps);
+        QJsonArray steps = update.value(STEPS).toArray();
+        for (QJsonValueRef step : steps)
+            step = completeStep(step.toObject());
+        update.insert(STEPS, steps);
         updateValue = update;
     }
-    text.object.insert(updatesField, updates);
-    return QJsonDocument(text.object).toJson();
+    manifest.insert(UPDATES, updates);
+    return QJsonDocument(manifest).toJson();
 }
 
 QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
@@ -192,19 +197,13 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
     const QString sizeField = QStringLiteral("size");
     const QString digestField = QStringLiteral("sha256");
     const QString name = step.value(QStringLiteral("payload")).toString();
-    const bool isComplete = step.contains(sizeField) && step.contains(digestField);
-    if (isComplete || !findEntryNameFault(name).isEmpty()
-        || step.value(QStringLiteral("kind")).toString()
-            != getStepKindName(EFirmwareUpdateStep::FileUpload))
+    if (name.isEmpty())
         return step;
-
-    const QFileInfo info(QDir(m_folder).filePath(name));
-    if (!info.isFile())
-        fail(
-            CErrorText::tr("the payload \"%1\" is missing in the folder").arg(Json::shorten(name)));
-    if (info.size() == 0)
-        fail(CErrorText::tr("the payload \"%1\" is empty").arg(Json::shorten(name)));
-    QFile payload(info.filePath());
+    QFile payload(QDir(m_folder).filePath(name));
+    if (!step.contains(sizeField))
+        step.insert(sizeField, payload.size());
+    if (step.contains(digestField))
+        return step;
     CSha256 hash;
     if (!payload.open(QIODevice::ReadOnly) || !addFileTo(hash, payload))
         fail(CErrorText::tr("the payload \"%1\" cannot be read").arg(Json::shorten(name)));
@@ -213,10 +212,7 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
         fail(CErrorText::tr("the SHA-256 of the payload \"%1\" cannot be computed; check the "
                             "settings of OpenSSL on this computer")
                  .arg(Json::shorten(name)));
-    if (!step.contains(sizeField))
-        step.insert(sizeField, info.size());
-    if (!step.contains(digestField))
-        step.insert(digestField, QString::fromLatin1(digest.toHex()));
+    step.insert(digestField, QString::fromLatin1(digest.toHex()));
     return step;
 }
 

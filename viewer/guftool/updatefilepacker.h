@@ -22,6 +22,8 @@ public:
 
 private:
     [[nodiscard]] QByteArray readSource() const;
+    /// Each is there, and together they are not too large.
+    void checkPayloads(const QStringList &names) const;
     [[nodiscard]] QByteArray completeManifest(const QByteArray &source) const;
     [[nodiscard]] QJsonObject completeStep(QJsonObject step) const;
     [[noreturn]] void fail(const Text::CErrorText &cause) const;

@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QTextCodec>
 
+#include <cmath>
+
 namespace Viewer::Json {
 
 using Text::CErrorText;
@@ -14,6 +16,13 @@ using Text::CErrorText;
 static constexpr int FOUND_LENGTH = 40;
 /// Characters of a name that a sentence shows.
 static constexpr int NAME_LENGTH = 60;
+
+static bool isNumber(const QByteArray &text)
+{
+    static const QRegularExpression GRAMMAR(
+        QStringLiteral("^-?(0|[1-9][0-9]*)(\\.[0-9]+)?([eE][+-]?[0-9]+)?\\z"));
+    return GRAMMAR.match(QString::fromLatin1(text)).hasMatch();
+}
 
 static bool hasLoneSurrogate(const QString &text)
 {
@@ -35,39 +44,6 @@ CJsonScanner::CJsonScanner(const QByteArray &text)
         m_offset = 3;
 }
 
-CJsonScanner::EKind CJsonScanner::getKind()
-{
-    skipSpace();
-    m_valueOffset = m_offset;
-    switch (m_offset < m_text.size() ? m_text.at(m_offset) : '\0') {
-    case '{':
-        return EKind::Object;
-    case '[':
-        return EKind::Array;
-    case '"':
-        return EKind::Text;
-    case 't':
-    case 'f':
-        return EKind::Boolean;
-    case 'n':
-        return EKind::Null;
-    case '-':
-    case '0':
-    case '1':
-    case '2':
-    case '3':
-    case '4':
-    case '5':
-    case '6':
-    case '7':
-    case '8':
-    case '9':
-        return EKind::Number;
-    default:
-        return EKind::None;
-    }
-}
-
 void CJsonScanner::beginObject()
 {
     begin('{', false);
@@ -79,7 +55,6 @@ bool CJsonScanner::nextMember(QString &name)
         return false;
     m_levels.last().name.clear();
     m_valueOffset = m_offset;
-    m_levels.last().nameOffset = m_offset;
     if (!isAt('"'))
         failExpected(CErrorText::tr("the name of a field in double quotes"));
     name = readString();
@@ -116,18 +91,21 @@ QString CJsonScanner::readText()
     return readString();
 }
 
-double CJsonScanner::readNumber()
+QString CJsonScanner::readText(const CTextRule &rule)
 {
-    m_valueOffset = m_offset;
-    static const QRegularExpression GRAMMAR(
-        QStringLiteral("^-?(0|[1-9][0-9]*)(\\.[0-9]+)?([eE][+-]?[0-9]+)?\\z"));
-    const QByteArray digits = takeNumber();
-    bool readable = GRAMMAR.match(QString::fromLatin1(digits)).hasMatch();
-    const double value = readable ? digits.toDouble(&readable) : 0;
-    if (!readable)
-        fail(CErrorText::tr("expected a number, found %1")
-                 .arg(QString::fromLatin1(digits.left(FOUND_LENGTH))));
-    return value;
+    const QString text = readText();
+    if (!rule.mayBeEmpty && text.trimmed().isEmpty())
+        fail(CErrorText::tr("the text must not be empty"));
+    if (text.size() > rule.maximumLength)
+        fail(CErrorText::tr("the text has %1 characters; at most %2 are allowed")
+                 .arg(QString::number(text.size()), QString::number(rule.maximumLength)));
+    if (hasUnprintable(text, rule.hasSeveralLines))
+        fail(rule.hasSeveralLines
+                 ? CErrorText::tr("the text must not contain control characters")
+                 : CErrorText::tr("the text must not contain line breaks or control characters"));
+    if (!rule.mayHaveSpaceAround && text != text.trimmed())
+        fail(CErrorText::tr("the text must not begin or end with white space"));
+    return text;
 }
 
 qint64 CJsonScanner::readInteger(qint64 minimum, qint64 maximum)
@@ -140,13 +118,15 @@ qint64 CJsonScanner::readInteger(qint64 minimum, qint64 maximum)
     const QByteArray digits = takeNumber();
     if (digits.isEmpty())
         failExpected(describeWanted());
-    bool readable = false;
-    const qint64 value = digits.toLongLong(&readable);
-    // The strict form: no plus sign, no leading zeros.
-    if (!readable || QByteArray::number(value) != digits || value < minimum || value > maximum)
+    // A whole number may also be written as 5.0 or 5e3, as some programs do. Those that a double
+    // does not hold exactly are far outside all ranges.
+    bool readable = isNumber(digits);
+    const double value = readable ? digits.toDouble(&readable) : 0;
+    if (!readable || value != std::floor(value) || value < static_cast<double>(minimum)
+        || value > static_cast<double>(maximum))
         fail(CErrorText::tr("expected %1, found %2")
                  .arg(describeWanted(), QString::fromLatin1(digits.left(FOUND_LENGTH))));
-    return value;
+    return static_cast<qint64>(value);
 }
 
 bool CJsonScanner::readBoolean()
@@ -159,11 +139,37 @@ bool CJsonScanner::readBoolean()
     failExpected(CErrorText::tr("true or false"));
 }
 
-void CJsonScanner::readNull()
+void CJsonScanner::skipValue()
 {
+    skipSpace();
     m_valueOffset = m_offset;
-    if (!takeWord("null"))
-        failExpected(CErrorText::tr("null"));
+    const char first = m_offset < m_text.size() ? m_text.at(m_offset) : '\0';
+    QString name;
+    switch (first) {
+    case '{':
+        beginObject();
+        while (nextMember(name))
+            skipValue();
+        return;
+    case '[':
+        beginArray();
+        while (nextElement())
+            skipValue();
+        return;
+    case '"':
+        readString();
+        return;
+    case 't':
+    case 'f':
+        static_cast<void>(readBoolean());
+        return;
+    case 'n':
+        if (!takeWord("null"))
+            failExpected(CErrorText::tr("null"));
+        return;
+    default:
+        skipNumber();
+    }
 }
 
 void CJsonScanner::expectEnd()
@@ -173,19 +179,9 @@ void CJsonScanner::expectEnd()
         failAt(m_offset, CErrorText::tr("expected the end of the text, found %1").arg(getFound()));
 }
 
-int CJsonScanner::getDepth() const
-{
-    return m_levels.size();
-}
-
 int CJsonScanner::getPosition() const
 {
     return m_valueOffset;
-}
-
-int CJsonScanner::getNamePosition() const
-{
-    return m_levels.last().nameOffset;
 }
 
 int CJsonScanner::getLine(int position) const
@@ -193,20 +189,16 @@ int CJsonScanner::getLine(int position) const
     return m_text.left(position).count('\n') + 1;
 }
 
-int CJsonScanner::getColumn(int position) const
-{
-    const QByteArray before = m_text.left(position);
-    return QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1)).toUcs4().size() + 1;
-}
-
 void CJsonScanner::fail(const CErrorText &problem) const
 {
     failAt(m_valueOffset, problem);
 }
 
-void CJsonScanner::failAt(int position, const CErrorText &problem) const
+void CJsonScanner::failAt(int position, const CErrorText &problem, const QString &member) const
 {
-    throw CJsonFault{getLine(position), getColumn(position), getField(), problem};
+    const QByteArray before = m_text.left(position);
+    const QString line = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1));
+    throw CJsonFault{getLine(position), line.toUcs4().size() + 1, getField(member), problem};
 }
 
 void CJsonScanner::failExpected(const CErrorText &expected) const
@@ -231,6 +223,10 @@ void CJsonScanner::begin(char bracket, bool isArray)
     if (!isAt(bracket))
         failExpected(isArray ? CErrorText::tr("a list that begins with \"[\"")
                              : CErrorText::tr("an object that begins with \"{\""));
+    // Keeps the recursion of skipValue() short, too.
+    if (m_levels.size() == MaximumNesting)
+        fail(CErrorText::tr("lists and objects stand in each other more than %1 deep")
+                 .arg(QString::number(MaximumNesting)));
     ++m_offset;
     CLevel level;
     level.isArray = isArray;
@@ -265,6 +261,17 @@ bool CJsonScanner::takeWord(const char *word)
     if (isThere)
         m_offset += length;
     return isThere;
+}
+
+void CJsonScanner::skipNumber()
+{
+    m_valueOffset = m_offset;
+    const QByteArray digits = takeNumber();
+    if (digits.isEmpty())
+        failExpected(CErrorText::tr("a value"));
+    if (!isNumber(digits))
+        fail(CErrorText::tr("expected a number, found %1")
+                 .arg(QString::fromLatin1(digits.left(FOUND_LENGTH))));
 }
 
 /// All characters that a number can be made of.
@@ -373,19 +380,24 @@ CErrorText CJsonScanner::getFound() const
                          : CErrorText::tr("\"%1\"").arg(QString::fromLatin1(found));
 }
 
-QString CJsonScanner::getField() const
+QString CJsonScanner::getField(const QString &member) const
 {
     QString field;
+    const auto append = [&field](const QString &name) {
+        if (!field.isEmpty())
+            field += QLatin1Char('.');
+        field += toSingleLine(name.left(NAME_LENGTH));
+    };
     for (const CLevel &level : m_levels) {
         if (level.isArray) {
             if (level.count > 0)
                 field += QStringLiteral("[%1]").arg(level.count - 1);
         } else if (!level.name.isEmpty()) {
-            if (!field.isEmpty())
-                field += QLatin1Char('.');
-            field += toSingleLine(level.name.left(NAME_LENGTH));
+            append(level.name);
         }
     }
+    if (!member.isEmpty())
+        append(member);
     return field;
 }
 

@@ -1109,10 +1109,6 @@ Update %1
         <translation>フィールドが 2 回指定されています</translation>
     </message>
     <message>
-        <source>unknown field</source>
-        <translation>不明なフィールドです</translation>
-    </message>
-    <message>
         <source>the field &quot;%1&quot; is missing</source>
         <translation>フィールド「%1」がありません</translation>
     </message>
@@ -1157,14 +1153,6 @@ Update %1
         <translation>カメラ記述ファイル「%1」が %2 バイトを超えています</translation>
     </message>
     <message>
-        <source>Camera description &quot;%1&quot;, line %2, column %3: %4</source>
-        <translation>カメラ記述ファイル「%1」、%2 行 %3 列: %4</translation>
-    </message>
-    <message>
-        <source>Camera description &quot;%1&quot;, line %2, column %3, field &quot;%4&quot;: %5</source>
-        <translation>カメラ記述ファイル「%1」、%2 行 %3 列、フィールド「%4」: %5</translation>
-    </message>
-    <message>
         <source>is empty</source>
         <translation>空です</translation>
     </message>
@@ -1197,116 +1185,8 @@ Update %1
         <translation>true または false の値</translation>
     </message>
     <message>
-        <source>a number</source>
-        <translation>数値</translation>
-    </message>
-    <message>
-        <source>a text</source>
-        <translation>文字列</translation>
-    </message>
-    <message>
-        <source>a list</source>
-        <translation>リスト</translation>
-    </message>
-    <message>
-        <source>an object</source>
-        <translation>オブジェクト</translation>
-    </message>
-    <message>
-        <source>is %1 where %2 is wanted</source>
-        <translation>%2が必要ですが、%1です</translation>
-    </message>
-    <message>
-        <source>is unknown; known here are %1</source>
-        <translation>不明なフィールドです。ここで使用できるフィールド: %1</translation>
-    </message>
-    <message>
-        <source>has to be a whole number from %1 to %2</source>
-        <translation>%1 から %2 までの整数である必要があります</translation>
-    </message>
-    <message>
-        <source>is an empty list</source>
-        <translation>空のリストです</translation>
-    </message>
-    <message>
-        <source>has %1 items; at most %2 are allowed</source>
-        <translation>項目数 (%1) が上限の %2 を超えています</translation>
-    </message>
-    <message>
-        <source>repeats &quot;%1&quot;</source>
-        <translation>「%1」が重複しています</translation>
-    </message>
-    <message>
-        <source>the field &quot;%1&quot; %2</source>
-        <translation>フィールド「%1」: %2</translation>
-    </message>
-    <message>
-        <source>is missing</source>
-        <translation>ありません</translation>
-    </message>
-    <message>
-        <source>has a line break or a control character</source>
-        <translation>改行または制御文字が含まれています</translation>
-    </message>
-    <message>
-        <source>begins or ends with white space</source>
-        <translation>先頭または末尾に空白があります</translation>
-    </message>
-    <message>
-        <source>line %1, column %2</source>
-        <translation>%1 行 %2 列</translation>
-    </message>
-    <message>
-        <source>has to be an object in braces at its top level</source>
-        <translation>最上位は波括弧で囲まれたオブジェクトである必要があります</translation>
-    </message>
-    <message>
         <source>a value</source>
         <translation>値</translation>
-    </message>
-    <message>
-        <source>has the name &quot;%1&quot; twice in one object, again at %2</source>
-        <translation>1 つのオブジェクトに名前「%1」が 2 回あります (2 回目: %2)</translation>
-    </message>
-    <message>
-        <source>is nested more than %1 levels deep at %2</source>
-        <translation>%2で %1 階層より深くネストされています</translation>
-    </message>
-    <message>
-        <source>is not JSON at %1: %2</source>
-        <translation>%1が JSON として正しくありません: %2</translation>
-    </message>
-    <message>
-        <source>is &quot;%1&quot;; known kinds are %2</source>
-        <translation>「%1」は不明な種類です。使用できる種類: %2</translation>
-    </message>
-    <message>
-        <source>has to be %1 hexadecimal digits</source>
-        <translation>%1 桁の 16 進数である必要があります</translation>
-    </message>
-    <message>
-        <source>names the manifest itself</source>
-        <translation>マニフェスト自体を指しています</translation>
-    </message>
-    <message>
-        <source>is a second %1; one is allowed</source>
-        <translation>2 つ目の %1 です。使用できるのは 1 つだけです</translation>
-    </message>
-    <message>
-        <source>checks preconditions after a step that changes the camera</source>
-        <translation>カメラを変更する手順の後に前提条件を確認しています</translation>
-    </message>
-    <message>
-        <source>acquires the update data after a FileUpload</source>
-        <translation>FileUpload の後に更新データを取得しています</translation>
-    </message>
-    <message>
-        <source>takes %1 ms by its estimates; at most %2 are allowed</source>
-        <translation>推定時間の合計 (%1 ms) が上限の %2 ms を超えています</translation>
-    </message>
-    <message>
-        <source>is &quot;%1&quot;, which is not a version like 2.0.0 or 2.0.0-rc1</source>
-        <translation>「%1」は 2.0.0 や 2.0.0-rc1 のようなバージョンではありません</translation>
     </message>
     <message>
         <source>the format version is %1, but this program reads version %2 only</source>
@@ -1315,10 +1195,6 @@ Update %1
     <message>
         <source>update.json has %1 bytes; at most %2 are allowed</source>
         <translation>update.json のサイズ (%1 バイト) が上限の %2 バイトを超えています</translation>
-    </message>
-    <message>
-        <source>update.json %1</source>
-        <translation>update.json: %1</translation>
     </message>
     <message>
         <source>the file &quot;%1&quot; cannot be read; the archive is damaged</source>
@@ -1331,10 +1207,6 @@ Update %1
     <message>
         <source>the file &quot;%1&quot; unpacks to more bytes than the archive declares</source>
         <translation>ファイル「%1」の展開後のサイズが、アーカイブの記載より大きくなっています</translation>
-    </message>
-    <message>
-        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json</source>
-        <translation>データファイル「%1」が update.json の SHA-256 と一致しません</translation>
     </message>
     <message>
         <source>update.json is in a folder of the archive (&quot;%1&quot;); it must be at the top level</source>
@@ -1581,8 +1453,88 @@ Update %1
         <translation>データファイル「%1」の SHA-256 を計算できません。このコンピューターの OpenSSL の設定を確認してください</translation>
     </message>
     <message>
-        <source>the version is not a text of one line</source>
-        <translation>バージョンが 1 行のテキストではありません</translation>
+        <source>Camera description &quot;%1&quot;, %2</source>
+        <translation>カメラ記述ファイル「%1」、%2</translation>
+    </message>
+    <message>
+        <source>a second %1; one is allowed</source>
+        <translation>2 つ目の %1 です。使用できるのは 1 つだけです</translation>
+    </message>
+    <message>
+        <source>preconditions are checked after a step that changes the camera</source>
+        <translation>カメラを変更する手順の後に前提条件を確認しています</translation>
+    </message>
+    <message>
+        <source>the update data is acquired after a FileUpload</source>
+        <translation>FileUpload の後に更新データを取得しています</translation>
+    </message>
+    <message>
+        <source>the list has more than %1 items</source>
+        <translation>リストの項目数が上限の %1 を超えています</translation>
+    </message>
+    <message>
+        <source>the list must not be empty</source>
+        <translation>リストを空にすることはできません</translation>
+    </message>
+    <message>
+        <source>the list has &quot;%1&quot; twice</source>
+        <translation>リスト内で「%1」が重複しています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a version like 2.0.0 or 2.0.0-rc1</source>
+        <translation>「%1」は 2.0.0 や 2.0.0-rc1 のようなバージョンではありません</translation>
+    </message>
+    <message>
+        <source>the steps take %1 ms by their estimates; at most %2 are allowed</source>
+        <translation>手順の推定時間の合計 (%1 ms) が上限の %2 ms を超えています</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a kind of step; known kinds are %2</source>
+        <translation>「%1」は不明な種類の手順です。使用できる種類: %2</translation>
+    </message>
+    <message>
+        <source>the payload is the manifest itself</source>
+        <translation>データファイルとしてマニフェスト自体が指定されています</translation>
+    </message>
+    <message>
+        <source>the text has to be %1 hexadecimal digits</source>
+        <translation>文字列は %1 桁の 16 進数である必要があります</translation>
+    </message>
+    <message>
+        <source>update.json, %1</source>
+        <translation>update.json、%1</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json; one of the two was replaced</source>
+        <translation>データファイル「%1」が update.json の SHA-256 と一致しません。どちらかが差し替えられています</translation>
+    </message>
+    <message>
+        <source>the payloads have %1 bytes together; at most %2 are allowed</source>
+        <translation>データファイルの合計サイズ (%1 バイト) が上限の %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>%1 行 %2 列: %3</translation>
+    </message>
+    <message>
+        <source>line %1, column %2, field &quot;%3&quot;: %4</source>
+        <translation>%1 行 %2 列、フィールド「%3」: %4</translation>
+    </message>
+    <message>
+        <source>unknown field; known here are %1</source>
+        <translation>不明なフィールドです。ここで使用できるフィールド: %1</translation>
+    </message>
+    <message>
+        <source>the text must not contain control characters</source>
+        <translation>文字列に制御文字を含めることはできません</translation>
+    </message>
+    <message>
+        <source>the text must not begin or end with white space</source>
+        <translation>文字列の先頭や末尾に空白を含めることはできません</translation>
+    </message>
+    <message>
+        <source>lists and objects stand in each other more than %1 deep</source>
+        <translation>リストとオブジェクトが %1 階層より深く入れ子になっています</translation>
     </message>
 </context>
 </TS>

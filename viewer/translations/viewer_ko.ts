@@ -1109,10 +1109,6 @@ Update %1
         <translation>필드가 두 번 지정되었습니다</translation>
     </message>
     <message>
-        <source>unknown field</source>
-        <translation>알 수 없는 필드입니다</translation>
-    </message>
-    <message>
         <source>the field &quot;%1&quot; is missing</source>
         <translation>필드 &quot;%1&quot;이(가) 없습니다</translation>
     </message>
@@ -1157,14 +1153,6 @@ Update %1
         <translation>카메라 기술 파일 &quot;%1&quot;이(가) %2바이트보다 큽니다</translation>
     </message>
     <message>
-        <source>Camera description &quot;%1&quot;, line %2, column %3: %4</source>
-        <translation>카메라 기술 파일 &quot;%1&quot;, %2행 %3열: %4</translation>
-    </message>
-    <message>
-        <source>Camera description &quot;%1&quot;, line %2, column %3, field &quot;%4&quot;: %5</source>
-        <translation>카메라 기술 파일 &quot;%1&quot;, %2행 %3열, 필드 &quot;%4&quot;: %5</translation>
-    </message>
-    <message>
         <source>is empty</source>
         <translation>비어 있습니다</translation>
     </message>
@@ -1197,116 +1185,8 @@ Update %1
         <translation>true 또는 false</translation>
     </message>
     <message>
-        <source>a number</source>
-        <translation>숫자</translation>
-    </message>
-    <message>
-        <source>a text</source>
-        <translation>문자열</translation>
-    </message>
-    <message>
-        <source>a list</source>
-        <translation>목록</translation>
-    </message>
-    <message>
-        <source>an object</source>
-        <translation>개체</translation>
-    </message>
-    <message>
-        <source>is %1 where %2 is wanted</source>
-        <translation>%2이(가) 필요하지만 %1입니다</translation>
-    </message>
-    <message>
-        <source>is unknown; known here are %1</source>
-        <translation>알 수 없는 필드입니다. 여기에서 사용할 수 있는 필드: %1</translation>
-    </message>
-    <message>
-        <source>has to be a whole number from %1 to %2</source>
-        <translation>%1에서 %2 사이의 정수여야 합니다</translation>
-    </message>
-    <message>
-        <source>is an empty list</source>
-        <translation>빈 목록입니다</translation>
-    </message>
-    <message>
-        <source>has %1 items; at most %2 are allowed</source>
-        <translation>항목이 %1개 있습니다. 최대 %2개까지 허용됩니다</translation>
-    </message>
-    <message>
-        <source>repeats &quot;%1&quot;</source>
-        <translation>&quot;%1&quot;이(가) 중복되었습니다</translation>
-    </message>
-    <message>
-        <source>the field &quot;%1&quot; %2</source>
-        <translation>필드 &quot;%1&quot;: %2</translation>
-    </message>
-    <message>
-        <source>is missing</source>
-        <translation>없습니다</translation>
-    </message>
-    <message>
-        <source>has a line break or a control character</source>
-        <translation>줄 바꿈 또는 제어 문자가 있습니다</translation>
-    </message>
-    <message>
-        <source>begins or ends with white space</source>
-        <translation>앞이나 뒤에 공백이 있습니다</translation>
-    </message>
-    <message>
-        <source>line %1, column %2</source>
-        <translation>%1행 %2열</translation>
-    </message>
-    <message>
-        <source>has to be an object in braces at its top level</source>
-        <translation>최상위는 중괄호로 묶은 개체여야 합니다</translation>
-    </message>
-    <message>
         <source>a value</source>
         <translation>값</translation>
-    </message>
-    <message>
-        <source>has the name &quot;%1&quot; twice in one object, again at %2</source>
-        <translation>한 개체에 이름 &quot;%1&quot;이(가) 두 번 있습니다(두 번째: %2)</translation>
-    </message>
-    <message>
-        <source>is nested more than %1 levels deep at %2</source>
-        <translation>%2에서 %1단계보다 깊게 중첩되어 있습니다</translation>
-    </message>
-    <message>
-        <source>is not JSON at %1: %2</source>
-        <translation>%1에서 JSON 형식이 올바르지 않습니다: %2</translation>
-    </message>
-    <message>
-        <source>is &quot;%1&quot;; known kinds are %2</source>
-        <translation>&quot;%1&quot;은(는) 알 수 없는 종류입니다. 사용할 수 있는 종류: %2</translation>
-    </message>
-    <message>
-        <source>has to be %1 hexadecimal digits</source>
-        <translation>16진수 %1자리여야 합니다</translation>
-    </message>
-    <message>
-        <source>names the manifest itself</source>
-        <translation>매니페스트 자체를 가리킵니다</translation>
-    </message>
-    <message>
-        <source>is a second %1; one is allowed</source>
-        <translation>두 번째 %1입니다. 하나만 허용됩니다</translation>
-    </message>
-    <message>
-        <source>checks preconditions after a step that changes the camera</source>
-        <translation>카메라를 변경하는 단계 이후에 사전 조건을 확인합니다</translation>
-    </message>
-    <message>
-        <source>acquires the update data after a FileUpload</source>
-        <translation>FileUpload 이후에 업데이트 데이터를 가져옵니다</translation>
-    </message>
-    <message>
-        <source>takes %1 ms by its estimates; at most %2 are allowed</source>
-        <translation>예상 시간의 합계가 %1ms입니다. 최대 %2ms까지 허용됩니다</translation>
-    </message>
-    <message>
-        <source>is &quot;%1&quot;, which is not a version like 2.0.0 or 2.0.0-rc1</source>
-        <translation>&quot;%1&quot;은(는) 2.0.0 또는 2.0.0-rc1과 같은 버전이 아닙니다</translation>
     </message>
     <message>
         <source>the format version is %1, but this program reads version %2 only</source>
@@ -1315,10 +1195,6 @@ Update %1
     <message>
         <source>update.json has %1 bytes; at most %2 are allowed</source>
         <translation>update.json의 크기가 %1바이트입니다. 최대 %2바이트까지 허용됩니다</translation>
-    </message>
-    <message>
-        <source>update.json %1</source>
-        <translation>update.json: %1</translation>
     </message>
     <message>
         <source>the file &quot;%1&quot; cannot be read; the archive is damaged</source>
@@ -1331,10 +1207,6 @@ Update %1
     <message>
         <source>the file &quot;%1&quot; unpacks to more bytes than the archive declares</source>
         <translation>파일 &quot;%1&quot;의 압축을 푼 크기가 압축 파일에 기록된 크기보다 큽니다</translation>
-    </message>
-    <message>
-        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json</source>
-        <translation>데이터 파일 &quot;%1&quot;이(가) update.json의 SHA-256과 일치하지 않습니다</translation>
     </message>
     <message>
         <source>update.json is in a folder of the archive (&quot;%1&quot;); it must be at the top level</source>
@@ -1581,8 +1453,88 @@ Update %1
         <translation>데이터 파일 &quot;%1&quot;의 SHA-256을 계산할 수 없습니다. 이 컴퓨터의 OpenSSL 설정을 확인하십시오</translation>
     </message>
     <message>
-        <source>the version is not a text of one line</source>
-        <translation>버전이 한 줄의 텍스트가 아닙니다</translation>
+        <source>Camera description &quot;%1&quot;, %2</source>
+        <translation>카메라 기술 파일 &quot;%1&quot;, %2</translation>
+    </message>
+    <message>
+        <source>a second %1; one is allowed</source>
+        <translation>두 번째 %1입니다. 하나만 허용됩니다</translation>
+    </message>
+    <message>
+        <source>preconditions are checked after a step that changes the camera</source>
+        <translation>카메라를 변경하는 단계 이후에 사전 조건을 확인합니다</translation>
+    </message>
+    <message>
+        <source>the update data is acquired after a FileUpload</source>
+        <translation>FileUpload 이후에 업데이트 데이터를 가져옵니다</translation>
+    </message>
+    <message>
+        <source>the list has more than %1 items</source>
+        <translation>목록의 항목이 %1개를 초과합니다</translation>
+    </message>
+    <message>
+        <source>the list must not be empty</source>
+        <translation>목록이 비어 있으면 안 됩니다</translation>
+    </message>
+    <message>
+        <source>the list has &quot;%1&quot; twice</source>
+        <translation>목록에서 &quot;%1&quot;이(가) 중복되었습니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a version like 2.0.0 or 2.0.0-rc1</source>
+        <translation>&quot;%1&quot;은(는) 2.0.0 또는 2.0.0-rc1과 같은 버전이 아닙니다</translation>
+    </message>
+    <message>
+        <source>the steps take %1 ms by their estimates; at most %2 are allowed</source>
+        <translation>단계의 예상 시간 합계가 %1ms입니다. 최대 %2ms까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a kind of step; known kinds are %2</source>
+        <translation>&quot;%1&quot;은(는) 알 수 없는 종류의 단계입니다. 사용할 수 있는 종류: %2</translation>
+    </message>
+    <message>
+        <source>the payload is the manifest itself</source>
+        <translation>데이터 파일로 매니페스트 자체를 지정했습니다</translation>
+    </message>
+    <message>
+        <source>the text has to be %1 hexadecimal digits</source>
+        <translation>문자열은 16진수 %1자리여야 합니다</translation>
+    </message>
+    <message>
+        <source>update.json, %1</source>
+        <translation>update.json의 %1</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json; one of the two was replaced</source>
+        <translation>데이터 파일 &quot;%1&quot;이(가) update.json의 SHA-256과 일치하지 않습니다. 둘 중 하나가 바뀌었습니다</translation>
+    </message>
+    <message>
+        <source>the payloads have %1 bytes together; at most %2 are allowed</source>
+        <translation>데이터 파일의 크기가 모두 %1바이트입니다. 최대 %2바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>%1행 %2열: %3</translation>
+    </message>
+    <message>
+        <source>line %1, column %2, field &quot;%3&quot;: %4</source>
+        <translation>%1행 %2열, 필드 &quot;%3&quot;: %4</translation>
+    </message>
+    <message>
+        <source>unknown field; known here are %1</source>
+        <translation>알 수 없는 필드입니다. 여기에서 사용할 수 있는 필드: %1</translation>
+    </message>
+    <message>
+        <source>the text must not contain control characters</source>
+        <translation>문자열에 제어 문자가 있으면 안 됩니다</translation>
+    </message>
+    <message>
+        <source>the text must not begin or end with white space</source>
+        <translation>문자열 앞이나 뒤에 공백이 있으면 안 됩니다</translation>
+    </message>
+    <message>
+        <source>lists and objects stand in each other more than %1 deep</source>
+        <translation>목록과 개체가 %1단계보다 깊게 중첩되어 있습니다</translation>
     </message>
 </context>
 </TS>

@@ -1109,10 +1109,6 @@ Update %1
         <translation>字段重复指定</translation>
     </message>
     <message>
-        <source>unknown field</source>
-        <translation>未知字段</translation>
-    </message>
-    <message>
         <source>the field &quot;%1&quot; is missing</source>
         <translation>缺少字段“%1”</translation>
     </message>
@@ -1157,14 +1153,6 @@ Update %1
         <translation>相机描述文件“%1”大于 %2 字节</translation>
     </message>
     <message>
-        <source>Camera description &quot;%1&quot;, line %2, column %3: %4</source>
-        <translation>相机描述文件“%1”，第 %2 行第 %3 列：%4</translation>
-    </message>
-    <message>
-        <source>Camera description &quot;%1&quot;, line %2, column %3, field &quot;%4&quot;: %5</source>
-        <translation>相机描述文件“%1”，第 %2 行第 %3 列，字段“%4”：%5</translation>
-    </message>
-    <message>
         <source>is empty</source>
         <translation>为空</translation>
     </message>
@@ -1197,116 +1185,8 @@ Update %1
         <translation>布尔值 true 或 false</translation>
     </message>
     <message>
-        <source>a number</source>
-        <translation>数字</translation>
-    </message>
-    <message>
-        <source>a text</source>
-        <translation>字符串</translation>
-    </message>
-    <message>
-        <source>a list</source>
-        <translation>列表</translation>
-    </message>
-    <message>
-        <source>an object</source>
-        <translation>对象</translation>
-    </message>
-    <message>
-        <source>is %1 where %2 is wanted</source>
-        <translation>是%1，但需要%2</translation>
-    </message>
-    <message>
-        <source>is unknown; known here are %1</source>
-        <translation>是未知字段，此处可用的字段：%1</translation>
-    </message>
-    <message>
-        <source>has to be a whole number from %1 to %2</source>
-        <translation>必须是 %1 到 %2 之间的整数</translation>
-    </message>
-    <message>
-        <source>is an empty list</source>
-        <translation>是空列表</translation>
-    </message>
-    <message>
-        <source>has %1 items; at most %2 are allowed</source>
-        <translation>有 %1 项，最多允许 %2 项</translation>
-    </message>
-    <message>
-        <source>repeats &quot;%1&quot;</source>
-        <translation>重复了“%1”</translation>
-    </message>
-    <message>
-        <source>the field &quot;%1&quot; %2</source>
-        <translation>字段“%1”：%2</translation>
-    </message>
-    <message>
-        <source>is missing</source>
-        <translation>缺失</translation>
-    </message>
-    <message>
-        <source>has a line break or a control character</source>
-        <translation>包含换行符或控制字符</translation>
-    </message>
-    <message>
-        <source>begins or ends with white space</source>
-        <translation>开头或结尾有空白字符</translation>
-    </message>
-    <message>
-        <source>line %1, column %2</source>
-        <translation>第 %1 行第 %2 列</translation>
-    </message>
-    <message>
-        <source>has to be an object in braces at its top level</source>
-        <translation>顶层必须是用花括号括起来的对象</translation>
-    </message>
-    <message>
         <source>a value</source>
         <translation>值</translation>
-    </message>
-    <message>
-        <source>has the name &quot;%1&quot; twice in one object, again at %2</source>
-        <translation>同一对象中名称“%1”出现两次（第二次：%2）</translation>
-    </message>
-    <message>
-        <source>is nested more than %1 levels deep at %2</source>
-        <translation>在%2处嵌套超过 %1 层</translation>
-    </message>
-    <message>
-        <source>is not JSON at %1: %2</source>
-        <translation>%1处不是有效的 JSON：%2</translation>
-    </message>
-    <message>
-        <source>is &quot;%1&quot;; known kinds are %2</source>
-        <translation>“%1”是未知的类型，可用的类型：%2</translation>
-    </message>
-    <message>
-        <source>has to be %1 hexadecimal digits</source>
-        <translation>必须是 %1 位十六进制数字</translation>
-    </message>
-    <message>
-        <source>names the manifest itself</source>
-        <translation>指向清单文件自身</translation>
-    </message>
-    <message>
-        <source>is a second %1; one is allowed</source>
-        <translation>是第二个 %1，只允许一个</translation>
-    </message>
-    <message>
-        <source>checks preconditions after a step that changes the camera</source>
-        <translation>在更改相机的步骤之后才检查前提条件</translation>
-    </message>
-    <message>
-        <source>acquires the update data after a FileUpload</source>
-        <translation>在 FileUpload 之后才获取更新数据</translation>
-    </message>
-    <message>
-        <source>takes %1 ms by its estimates; at most %2 are allowed</source>
-        <translation>预计共需 %1 毫秒，最多允许 %2 毫秒</translation>
-    </message>
-    <message>
-        <source>is &quot;%1&quot;, which is not a version like 2.0.0 or 2.0.0-rc1</source>
-        <translation>“%1”不是 2.0.0 或 2.0.0-rc1 这样的版本号</translation>
     </message>
     <message>
         <source>the format version is %1, but this program reads version %2 only</source>
@@ -1315,10 +1195,6 @@ Update %1
     <message>
         <source>update.json has %1 bytes; at most %2 are allowed</source>
         <translation>update.json 有 %1 字节，最多允许 %2 字节</translation>
-    </message>
-    <message>
-        <source>update.json %1</source>
-        <translation>update.json：%1</translation>
     </message>
     <message>
         <source>the file &quot;%1&quot; cannot be read; the archive is damaged</source>
@@ -1331,10 +1207,6 @@ Update %1
     <message>
         <source>the file &quot;%1&quot; unpacks to more bytes than the archive declares</source>
         <translation>文件“%1”解压后的大小超过压缩文件中声明的大小</translation>
-    </message>
-    <message>
-        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json</source>
-        <translation>数据文件“%1”与 update.json 中的 SHA-256 不一致</translation>
     </message>
     <message>
         <source>update.json is in a folder of the archive (&quot;%1&quot;); it must be at the top level</source>
@@ -1581,8 +1453,88 @@ Update %1
         <translation>无法计算数据文件“%1”的 SHA-256，请检查此计算机上 OpenSSL 的设置</translation>
     </message>
     <message>
-        <source>the version is not a text of one line</source>
-        <translation>版本不是单行文本</translation>
+        <source>Camera description &quot;%1&quot;, %2</source>
+        <translation>相机描述文件“%1”，%2</translation>
+    </message>
+    <message>
+        <source>a second %1; one is allowed</source>
+        <translation>这是第二个 %1，只允许一个</translation>
+    </message>
+    <message>
+        <source>preconditions are checked after a step that changes the camera</source>
+        <translation>在更改相机的步骤之后才检查前提条件</translation>
+    </message>
+    <message>
+        <source>the update data is acquired after a FileUpload</source>
+        <translation>在 FileUpload 之后才获取更新数据</translation>
+    </message>
+    <message>
+        <source>the list has more than %1 items</source>
+        <translation>列表超过 %1 项</translation>
+    </message>
+    <message>
+        <source>the list must not be empty</source>
+        <translation>列表不能为空</translation>
+    </message>
+    <message>
+        <source>the list has &quot;%1&quot; twice</source>
+        <translation>列表中“%1”重复出现</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a version like 2.0.0 or 2.0.0-rc1</source>
+        <translation>“%1”不是 2.0.0 或 2.0.0-rc1 这样的版本号</translation>
+    </message>
+    <message>
+        <source>the steps take %1 ms by their estimates; at most %2 are allowed</source>
+        <translation>各步骤预计共需 %1 毫秒，最多允许 %2 毫秒</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a kind of step; known kinds are %2</source>
+        <translation>“%1”是未知的步骤类型，可用的类型：%2</translation>
+    </message>
+    <message>
+        <source>the payload is the manifest itself</source>
+        <translation>数据文件指向清单文件自身</translation>
+    </message>
+    <message>
+        <source>the text has to be %1 hexadecimal digits</source>
+        <translation>字符串必须是 %1 位十六进制数字</translation>
+    </message>
+    <message>
+        <source>update.json, %1</source>
+        <translation>update.json，%1</translation>
+    </message>
+    <message>
+        <source>the payload &quot;%1&quot; does not match its SHA-256 in update.json; one of the two was replaced</source>
+        <translation>数据文件“%1”与 update.json 中的 SHA-256 不一致，两者之一已被替换</translation>
+    </message>
+    <message>
+        <source>the payloads have %1 bytes together; at most %2 are allowed</source>
+        <translation>数据文件总共有 %1 字节，最多允许 %2 字节</translation>
+    </message>
+    <message>
+        <source>line %1, column %2: %3</source>
+        <translation>第 %1 行第 %2 列：%3</translation>
+    </message>
+    <message>
+        <source>line %1, column %2, field &quot;%3&quot;: %4</source>
+        <translation>第 %1 行第 %2 列，字段“%3”：%4</translation>
+    </message>
+    <message>
+        <source>unknown field; known here are %1</source>
+        <translation>未知字段，此处可用的字段：%1</translation>
+    </message>
+    <message>
+        <source>the text must not contain control characters</source>
+        <translation>字符串不能包含控制字符</translation>
+    </message>
+    <message>
+        <source>the text must not begin or end with white space</source>
+        <translation>字符串开头和结尾不能有空白字符</translation>
+    </message>
+    <message>
+        <source>lists and objects stand in each other more than %1 deep</source>
+        <translation>列表和对象嵌套超过 %1 层</translation>
     </message>
 </context>
 </TS>

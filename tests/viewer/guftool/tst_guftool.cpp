@@ -92,7 +92,14 @@ void CGufToolTest::refusesFaultySources()
     refuse("images/a.img", "../a.img", "has an empty part or one of dots only; use a plain path");
     refuse("\"targetFile\"", "\"size\": 99999, \"targetFile\"", "where update.json says 99999");
     refuse("\"targetFile\"", "\"sha256\": \"" + QByteArray(64, '0') + "\", \"targetFile\"",
-           "does not match its SHA-256 in update.json");
+           "does not match its SHA-256 in update.json; one of the two was replaced");
+    // Refused before anything is packed. The file has no blocks on the disk.
+    const qint64 largest = 511 * 1024 * 1024;
+    QVERIFY(QFile::resize("source/images/a.img", largest + 1));
+    refuse("", "",
+           QString("the payloads have %1 bytes together; at most %2 are allowed")
+               .arg(largest + 1)
+               .arg(largest));
     for (const char *command : {"verify a.guf", "inspect a.guf", "inspect --json a.guf"})
         QCOMPARE(run(command), "1 Update file " + m_folder->path() + "/a.guf: " + noZip);
     QVERIFY(run("unpack a.guf").startsWith("2 "));
@@ -110,13 +117,13 @@ void CGufToolTest::speaksTheUsersLanguage()
     writeFile("faulty/update.json", "{ \"a\": tru }");
     const QMap<QByteArray, QString> faults{
         {"ko",
-         "업데이트 파일 faulty: update.json: 1행 8열에서 JSON 형식이 올바르지 않습니다: "
+         "업데이트 파일 faulty: update.json의 1행 8열, 필드 \"a\": "
          "true 또는 false이(가) 필요하지만 \"tru\"이(가) 있습니다"},
         {"ja",
-         "更新ファイル faulty: update.json: 1 行 8 列が JSON として正しくありません: "
+         "更新ファイル faulty: update.json、1 行 8 列、フィールド「a」: "
          "true または false の値が必要ですが、「tru」があります"},
         {"zh",
-         "更新文件 faulty：update.json：第 1 行第 8 列处不是有效的 JSON："
+         "更新文件 faulty：update.json，第 1 行第 8 列，字段“a”："
          "应为布尔值 true 或 false，但实际为“tru”"}};
     for (const QByteArray &language : faults.keys()) {
         qputenv("LANGUAGE", language);

@@ -43,7 +43,7 @@ void CManifestParserTest::tellsFaults_data()
     }
     QTest::newRow("not UTF-8")
         << QByteArray("{ \"a\": \"\xff\" }")
-        << "update.json is not JSON at line 1, column 8: the text is not valid UTF-8";
+        << "update.json, line 1, column 8, field \"a\": the text is not valid UTF-8";
 }
 
 void CManifestParserTest::tellsFaults()

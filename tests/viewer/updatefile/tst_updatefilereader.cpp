@@ -153,9 +153,9 @@ void CUpdateFileReaderTest::refusesWhatIsNoFile()
     QCOMPARE(readCause(path), QString("this is not a regular file"));
     QVERIFY(QFile::remove(path));
     writeFile(path, "");
-    QVERIFY(QFile::resize(path, 256 * 1024 * 1024 + 1));
+    QVERIFY(QFile::resize(path, 513 * 1024 * 1024 + 1));
     QCOMPARE(readCause(path),
-             QString("the file has 268435457 bytes; at most 268435456 are allowed"));
+             QString("the file has 537919489 bytes; at most 537919488 are allowed"));
 }
 
 void CUpdateFileReaderTest::refusesTruncatedAndDamagedFiles()
@@ -214,7 +214,7 @@ void CUpdateFileReaderTest::withholdsEndOfPayloadWithOtherDigest()
     const auto device = CUpdateArchive(m_path).openPayload(expected);
     QCOMPARE(device->read(3199), payload.left(3199));
     QCOMPARE(device->read(1), QByteArray());
-    QVERIFY(device->errorString().endsWith("does not match its SHA-256 in update.json"));
+    QVERIFY(device->errorString().contains("does not match its SHA-256 in update.json"));
     QVERIFY(device->atEnd());
 }
 

@@ -2,7 +2,7 @@
 
 #include "core/baseexception.h"
 #include "viewer/json/jsonfault.h"
-#include "viewer/json/jsonscanner.h"
+#include "viewer/json/jsonmembers.h"
 #include "viewer/json/messagetext.h"
 
 #include <QDir>
@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QHash>
 
-#include <algorithm>
 #include <limits>
 
 // Not inside a namespace: the macro declares a function of the global one. Without this call a
@@ -23,58 +22,13 @@ static void initResources()
 namespace Viewer::CameraPool::Simulation {
 
 using Core::Exception::BaseException;
+using Json::CJsonFields;
+using Json::CJsonMembers;
 using Json::CJsonScanner;
+using Json::CTextRule;
 using Text::CErrorText;
 
 namespace {
-
-bool isControlCharacter(QChar character)
-{
-    return character.category() == QChar::Other_Control
-        || character.category() == QChar::Separator_Line
-        || character.category() == QChar::Separator_Paragraph;
-}
-
-/// The members of one object: each at most once, and the required ones at least once.
-class CMembers
-{
-public:
-    explicit CMembers(CJsonScanner &scanner)
-        : m_scanner(scanner)
-        , m_begin(0)
-    {
-        m_scanner.beginObject();
-        m_begin = m_scanner.getPosition();
-    }
-
-    bool next(QString &name)
-    {
-        if (!m_scanner.nextMember(name))
-            return false;
-        if (m_names.contains(name))
-            m_scanner.fail(CErrorText::tr("the field is given twice"));
-        m_names.append(name);
-        return true;
-    }
-
-    [[noreturn]] void failUnknown() { m_scanner.fail(CErrorText::tr("unknown field")); }
-
-    /// Call it after the last member. Reported where the object begins.
-    void require(std::initializer_list<const char *> names) const
-    {
-        for (const char *name : names) {
-            if (!m_names.contains(QLatin1String(name)))
-                m_scanner.failAt(
-                    m_begin,
-                    CErrorText::tr("the field \"%1\" is missing").arg(QString::fromLatin1(name)));
-        }
-    }
-
-private:
-    CJsonScanner &m_scanner;
-    int m_begin;
-    QStringList m_names; // an object has a dozen fields at most
-};
 
 class CReader
 {
@@ -87,7 +41,8 @@ public:
     CCameraDescription read()
     {
         CCameraDescription description;
-        CMembers members(m_scanner);
+        static const CJsonFields FIELDS{{QStringLiteral("format"), QStringLiteral("layers")}, {}};
+        CJsonMembers members(m_scanner, FIELDS);
         QString name;
         while (members.next(name)) {
             if (name == QLatin1String("format")) {
@@ -97,11 +52,8 @@ public:
                                        .arg(QString::number(format)));
             } else if (name == QLatin1String("layers")) {
                 readLayers(description);
-            } else {
-                members.failUnknown();
             }
         }
-        members.require({"format", "layers"});
         m_scanner.expectEnd();
         return description;
     }
@@ -122,7 +74,9 @@ private:
     CLayerDescription readLayer()
     {
         CLayerDescription layer;
-        CMembers members(m_scanner);
+        static const CJsonFields FIELDS{
+            {QStringLiteral("id"), QStringLiteral("displayName"), QStringLiteral("cameras")}, {}};
+        CJsonMembers members(m_scanner, FIELDS);
         QString name;
         while (members.next(name)) {
             if (name == QLatin1String("id"))
@@ -131,10 +85,7 @@ private:
                 layer.displayName = readText();
             else if (name == QLatin1String("cameras"))
                 readCameras(layer);
-            else
-                members.failUnknown();
         }
-        members.require({"id", "displayName", "cameras"});
         return layer;
     }
 
@@ -155,7 +106,13 @@ private:
         CCameraDescriptionEntry entry;
         CCameraSnapshot &camera = entry.camera;
         entry.uploadSpeed = CCameraDescriptionReader::DefaultUploadSpeed;
-        CMembers members(m_scanner);
+        static const CJsonFields FIELDS{{QStringLiteral("id"), QStringLiteral("displayName"),
+                                         QStringLiteral("model"), QStringLiteral("serialNumber"),
+                                         QStringLiteral("deviceVersion"),
+                                         QStringLiteral("firmwareVersion")},
+                                        {QStringLiteral("statusCode"),
+                                         QStringLiteral("uploadSpeed"), QStringLiteral("faults")}};
+        CJsonMembers members(m_scanner, FIELDS);
         QString name;
         while (members.next(name)) {
             if (name == QLatin1String("id"))
@@ -178,18 +135,20 @@ private:
                     = m_scanner.readInteger(1, CCameraDescriptionReader::MaximumUploadSpeed);
             else if (name == QLatin1String("faults"))
                 entry.faults = readFaults();
-            else
-                members.failUnknown();
         }
-        members.require(
-            {"id", "displayName", "model", "serialNumber", "deviceVersion", "firmwareVersion"});
         return entry;
     }
 
     CScriptedFaults readFaults()
     {
         CScriptedFaults faults;
-        CMembers members(m_scanner);
+        static const CJsonFields FIELDS{
+            {},
+            {QStringLiteral("preconditionNotMet"), QStringLiteral("writeRefused"),
+             QStringLiteral("uploadFailsAtByte"), QStringLiteral("vanishesAtByte"),
+             QStringLiteral("assertFails"), QStringLiteral("neverReturnsFromReset"),
+             QStringLiteral("returnsLate"), QStringLiteral("returnsWithOldVersion")}};
+        CJsonMembers members(m_scanner, FIELDS);
         QString name;
         while (members.next(name)) {
             if (name == QLatin1String("preconditionNotMet"))
@@ -208,8 +167,6 @@ private:
                 faults.returnsLate = m_scanner.readBoolean();
             else if (name == QLatin1String("returnsWithOldVersion"))
                 faults.returnsWithOldVersion = m_scanner.readBoolean();
-            else
-                members.failUnknown();
         }
         return faults;
     }
@@ -227,17 +184,10 @@ private:
 
     QString readText()
     {
-        constexpr int MAXIMUM = CCameraDescriptionReader::MaximumTextLength;
-        const QString text = m_scanner.readText();
-        if (text.trimmed().isEmpty())
-            m_scanner.fail(CErrorText::tr("the text must not be empty"));
-        if (text.size() > MAXIMUM)
-            m_scanner.fail(CErrorText::tr("the text has %1 characters; at most %2 are allowed")
-                               .arg(QString::number(text.size()), QString::number(MAXIMUM)));
-        if (std::any_of(text.cbegin(), text.cend(), isControlCharacter))
-            m_scanner.fail(
-                CErrorText::tr("the text must not contain line breaks or control characters"));
-        return text;
+        CTextRule rule;
+        rule.maximumLength = CCameraDescriptionReader::MaximumTextLength;
+        rule.mayHaveSpaceAround = true;
+        return m_scanner.readText(rule);
     }
 
     qint64 readByteCount() { return m_scanner.readInteger(0, std::numeric_limits<qint32>::max()); }
@@ -287,13 +237,7 @@ CCameraDescription CCameraDescriptionReader::read(const QByteArray &text, const 
     try {
         return CReader(text).read();
     } catch (const Json::CJsonFault &fault) {
-        const QString line = QString::number(fault.line);
-        const QString column = QString::number(fault.column);
-        fail(fault.field.isEmpty()
-                 ? CErrorText::tr("Camera description \"%1\", line %2, column %3: %4")
-                       .arg(name, line, column, fault.problem)
-                 : CErrorText::tr("Camera description \"%1\", line %2, column %3, field \"%4\": %5")
-                       .arg(name, line, column, fault.field, fault.problem));
+        fail(CErrorText::tr("Camera description \"%1\", %2").arg(name, fault.describe()));
     }
 }
 

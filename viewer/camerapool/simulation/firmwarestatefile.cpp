@@ -2,8 +2,7 @@
 
 #include "viewer/camerapool/logging.h"
 #include "viewer/json/jsonfault.h"
-#include "viewer/json/jsonscanner.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/json/jsonmembers.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,8 +13,6 @@
 #include <QSaveFile>
 
 namespace Viewer::CameraPool::Simulation {
-
-using Text::CErrorText;
 
 // 200,000 cameras with long ids fit; anything larger is not ours.
 static constexpr qint64 MaximumSize = 64 * 1024 * 1024;
@@ -28,47 +25,28 @@ static QHash<QString, QString> readVersions(Json::CJsonScanner &scanner)
     QHash<QString, QString> versions;
     QString camera;
     scanner.beginObject();
-    while (scanner.nextMember(camera)) {
-        const QString version = scanner.readText();
-        if (version.isEmpty() || version.size() > MaximumVersionLength
-            || version != version.simplified() || Json::hasUnprintable(version))
-            scanner.fail(CErrorText::tr("the version is not a text of one line"));
-        versions.insert(camera, version);
-    }
+    while (scanner.nextMember(camera))
+        versions.insert(camera, scanner.readText({MaximumVersionLength}));
     return versions;
 }
 
-/// The versions that the text holds, or a sentence in @p fault.
-static QHash<QString, QString> parse(const QByteArray &text, QString &fault)
+/// The versions that the text holds. Throws CJsonFault.
+static QHash<QString, QString> parse(const QByteArray &text)
 {
+    static const Json::CJsonFields FIELDS{{QStringLiteral("format"), QStringLiteral("firmware")},
+                                          {}};
     QHash<QString, QString> versions;
-    bool hasFormat = false;
-    bool hasVersions = false;
-    try {
-        Json::CJsonScanner scanner(text);
-        QString name;
-        scanner.beginObject();
-        while (scanner.nextMember(name)) {
-            if (name == QLatin1String("format")) {
-                hasFormat = scanner.readInteger(1, 1) == 1;
-            } else if (name == QLatin1String("firmware")) {
-                versions = readVersions(scanner);
-                hasVersions = true;
-            } else {
-                scanner.fail(CErrorText::tr("unknown field"));
-            }
-        }
-        scanner.expectEnd();
-    } catch (const Json::CJsonFault &found) {
-        fault = QStringLiteral("line %1, column %2: %3")
-                    .arg(QString::number(found.line), QString::number(found.column),
-                         found.problem.getEnglish());
-        return {};
+    Json::CJsonScanner scanner(text);
+    Json::CJsonMembers members(scanner, FIELDS);
+    QString name;
+    while (members.next(name)) {
+        if (name == QLatin1String("format"))
+            static_cast<void>(scanner.readInteger(1, 1));
+        else
+            versions = readVersions(scanner);
     }
-    if (hasFormat && hasVersions)
-        return versions;
-    fault = QStringLiteral("it is not a list of firmware versions of format 1");
-    return {};
+    scanner.expectEnd();
+    return versions;
 }
 
 namespace {
@@ -151,16 +129,18 @@ QString CFirmwareStateFile::read(Versions &versions) const
     if (!QFileInfo::exists(m_path))
         return {};
     QFile file(m_path);
-    QString fault;
     if (!QFileInfo(m_path).isFile())
-        fault = QStringLiteral("it is not a regular file");
-    else if (!file.open(QIODevice::ReadOnly))
-        fault = file.errorString();
-    else if (file.size() > MaximumSize)
-        fault = QStringLiteral("it is larger than %1 bytes").arg(MaximumSize);
-    else
-        versions = parse(file.readAll(), fault);
-    return fault;
+        return QStringLiteral("it is not a regular file");
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    if (file.size() > MaximumSize)
+        return QStringLiteral("it is larger than %1 bytes").arg(MaximumSize);
+    try {
+        versions = parse(file.readAll());
+        return {};
+    } catch (const Json::CJsonFault &fault) {
+        return fault.describe().getEnglish();
+    }
 }
 
 void CFirmwareStateFile::load()

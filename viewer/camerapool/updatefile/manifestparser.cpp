@@ -1,27 +1,37 @@
 #include "manifestparser.h"
 
 #include "entryname.h"
-#include "jsonobjectreader.h"
-#include "jsontext.h"
 #include "updatefilelimits.h"
 #include "viewer/camerapool/firmwareversion.h"
+#include "viewer/json/jsonfault.h"
+#include "viewer/json/jsonmembers.h"
 #include "viewer/json/messagetext.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace Viewer::CameraPool::UpdateFile {
 
+using Json::CJsonFields;
+using Json::CJsonMembers;
+using Json::CJsonScanner;
+using Json::CTextRule;
 using Plugin::CameraPool::EFirmwareUpdateStep;
 using Text::CErrorText;
 
 namespace {
 
 constexpr int SHA256_HEX_LENGTH = 64;
+/// Far above all that will ever be, and exact in JSON.
+constexpr int LARGEST_FORMAT_VERSION = 1000000;
 
-/// A kind of step with the fields that it has besides kind, estimatedMs and description.
+/// A kind of step with its name and the fields that it has besides those of every step.
 struct CStepKind
 {
     EFirmwareUpdateStep kind;
     QString name;
-    QStringList fieldNames;
+    CJsonFields fields;
 };
 
 const QVector<CStepKind> &getStepKinds()
@@ -31,121 +41,48 @@ const QVector<CStepKind> &getStepKinds()
     static const QVector<CStepKind> KINDS{
         {EFirmwareUpdateStep::CheckPreconditions,
          QStringLiteral("CheckPreconditions"),
-         {QStringLiteral("preconditions")}},
+         {{}, {QStringLiteral("preconditions")}}},
         {EFirmwareUpdateStep::AcquireUpdateData, QStringLiteral("AcquireUpdateData"), {}},
-        {EFirmwareUpdateStep::FeatureWrite, QStringLiteral("FeatureWrite"), {FEATURE, VALUE}},
-        {EFirmwareUpdateStep::FeatureExecute, QStringLiteral("FeatureExecute"), {FEATURE}},
-        {EFirmwareUpdateStep::FeatureAssert, QStringLiteral("FeatureAssert"), {FEATURE, VALUE}},
+        {EFirmwareUpdateStep::FeatureWrite, QStringLiteral("FeatureWrite"), {{FEATURE, VALUE}, {}}},
+        {EFirmwareUpdateStep::FeatureExecute, QStringLiteral("FeatureExecute"), {{FEATURE}, {}}},
+        {EFirmwareUpdateStep::FeatureAssert,
+         QStringLiteral("FeatureAssert"),
+         {{FEATURE, VALUE}, {}}},
         {EFirmwareUpdateStep::FileUpload,
          QStringLiteral("FileUpload"),
-         {QStringLiteral("payload"), QStringLiteral("size"), QStringLiteral("sha256"),
-          QStringLiteral("targetFile")}},
+         {{QStringLiteral("payload"), QStringLiteral("targetFile")},
+          {QStringLiteral("size"), QStringLiteral("sha256")}}},
         {EFirmwareUpdateStep::DeviceReset, QStringLiteral("DeviceReset"), {}},
     };
     return KINDS;
 }
 
-const CStepKind &readKind(const CJsonObjectReader &step)
+/// All fields that a step of one kind or another has: the kind may stand behind them.
+CJsonFields getFieldsOfAnyStep()
 {
-    const QString field = QStringLiteral("kind");
-    const QString name = step.readText(field, {Limits::VALUE_LENGTH});
-    QStringList knownNames;
-    for (const CStepKind &kind : getStepKinds()) {
-        if (kind.name == name)
-            return kind;
-        knownNames.append(kind.name);
-    }
-    step.fail(field,
-              CErrorText::tr("is \"%1\"; known kinds are %2")
-                  .arg(Json::shorten(name), knownNames.join(QStringLiteral(", "))));
+    CJsonFields fields{{QStringLiteral("kind")},
+                       {QStringLiteral("estimatedMs"), QStringLiteral("description")}};
+    for (const CStepKind &kind : getStepKinds())
+        fields.optional += kind.fields.required + kind.fields.optional;
+    fields.optional.removeDuplicates();
+    return fields;
 }
 
-CFeatureValue readFeatureValue(const CJsonObjectReader &object)
+/// The fields of a step of the @p kind. Only an upload's duration can be told without the file,
+/// from its size and the camera's speed.
+CJsonFields getFields(EFirmwareUpdateStep kind, EPayloadFacts payloadFacts)
 {
-    return {object.readText(QStringLiteral("feature"), {Limits::FEATURE_LENGTH}),
-            object.readText(QStringLiteral("value"), {Limits::VALUE_LENGTH, true})};
-}
-
-QVector<CFeatureValue> readPreconditions(const CJsonObjectReader &step)
-{
-    const QString field = QStringLiteral("preconditions");
-    QVector<CFeatureValue> preconditions;
-    if (!step.has(field))
-        return preconditions;
-    const QJsonArray list = step.readList(field, 0, Limits::PRECONDITIONS);
-    for (int index = 0; index < list.size(); ++index) {
-        const CJsonObjectReader precondition = step.getObject(list, field, index);
-        precondition.checkNames({QStringLiteral("feature"), QStringLiteral("value")});
-        preconditions.append(readFeatureValue(precondition));
-    }
-    return preconditions;
-}
-
-QByteArray readSha256(const CJsonObjectReader &step)
-{
-    const QString field = QStringLiteral("sha256");
-    const QByteArray text = step.readText(field, {Limits::VALUE_LENGTH}).toLower().toUtf8();
-    const QByteArray digest = QByteArray::fromHex(text);
-    if (text.size() != SHA256_HEX_LENGTH || digest.toHex() != text)
-        step.fail(field,
-                  CErrorText::tr("has to be %1 hexadecimal digits")
-                      .arg(QString::number(SHA256_HEX_LENGTH)));
-    return digest;
-}
-
-CPayload readPayload(const CJsonObjectReader &step)
-{
-    const QString field = QStringLiteral("payload");
-    CPayload payload;
-    payload.name = step.readText(field, {Limits::ENTRY_NAME_LENGTH});
-    const CErrorText nameFault = findEntryNameFault(payload.name);
-    if (!nameFault.isEmpty())
-        step.fail(field, nameFault);
-    if (payload.name == getManifestName())
-        step.fail(field, CErrorText::tr("names the manifest itself"));
-    payload.size = step.readInteger(QStringLiteral("size"), 1, Limits::UNPACKED_SIZE);
-    payload.sha256 = readSha256(step);
-    return payload;
-}
-
-CUpdateStep readStep(const CJsonObjectReader &object)
-{
-    const CStepKind &kind = readKind(object);
-    const QString estimateField = QStringLiteral("estimatedMs");
-    object.checkNames(
-        QStringList{QStringLiteral("kind"), estimateField, QStringLiteral("description")}
-        + kind.fieldNames);
-
-    CUpdateStep step;
-    step.kind = kind.kind;
-    step.description = object.readOptionalText(QStringLiteral("description"),
-                                               {Limits::DESCRIPTION_LENGTH, true});
-    // Only an upload's duration can be told without the file, from its size and the camera's speed.
-    if (step.kind != EFirmwareUpdateStep::FileUpload || object.has(estimateField))
-        step.estimatedMs
-            = static_cast<int>(object.readInteger(estimateField, 1, Limits::ESTIMATE_MS));
-
-    switch (step.kind) {
-    case EFirmwareUpdateStep::CheckPreconditions:
-        step.preconditions = readPreconditions(object);
-        break;
-    case EFirmwareUpdateStep::FeatureWrite:
-    case EFirmwareUpdateStep::FeatureAssert:
-        step.feature = readFeatureValue(object);
-        break;
-    case EFirmwareUpdateStep::FeatureExecute:
-        step.feature.feature = object.readText(QStringLiteral("feature"), {Limits::FEATURE_LENGTH});
-        break;
-    case EFirmwareUpdateStep::FileUpload:
-        step.payload = readPayload(object);
-        step.targetFile = object.readText(QStringLiteral("targetFile"), {Limits::FEATURE_LENGTH});
-        break;
-    case EFirmwareUpdateStep::AcquireUpdateData:
-    case EFirmwareUpdateStep::DeviceReset:
-    case EFirmwareUpdateStep::Invalid:
-        break;
-    }
-    return step;
+    const auto known
+        = std::find_if(getStepKinds().cbegin(), getStepKinds().cend(),
+                       [kind](const CStepKind &candidate) { return candidate.kind == kind; });
+    CJsonFields fields = known->fields;
+    const bool isUpload = kind == EFirmwareUpdateStep::FileUpload;
+    if (isUpload && payloadFacts == EPayloadFacts::Required)
+        fields.required += std::exchange(fields.optional, {});
+    (isUpload ? fields.optional : fields.required).append(QStringLiteral("estimatedMs"));
+    fields.required.prepend(QStringLiteral("kind"));
+    fields.optional.append(QStringLiteral("description"));
+    return fields;
 }
 
 bool changesCamera(EFirmwareUpdateStep kind)
@@ -164,15 +101,16 @@ public:
     {
         if (kind == EFirmwareUpdateStep::CheckPreconditions) {
             if (m_hasCheck)
-                return CErrorText::tr("is a second %1; one is allowed").arg(getStepKindName(kind));
+                return CErrorText::tr("a second %1; one is allowed").arg(getStepKindName(kind));
             if (m_hasChange)
-                return CErrorText::tr("checks preconditions after a step that changes the camera");
+                return CErrorText::tr(
+                    "preconditions are checked after a step that changes the camera");
             m_hasCheck = true;
         } else if (kind == EFirmwareUpdateStep::AcquireUpdateData) {
             if (m_hasAcquisition)
-                return CErrorText::tr("is a second %1; one is allowed").arg(getStepKindName(kind));
+                return CErrorText::tr("a second %1; one is allowed").arg(getStepKindName(kind));
             if (m_hasUpload)
-                return CErrorText::tr("acquires the update data after a FileUpload");
+                return CErrorText::tr("the update data is acquired after a FileUpload");
             m_hasAcquisition = true;
         }
         m_hasChange = m_hasChange || changesCamera(kind);
@@ -187,104 +125,242 @@ private:
     bool m_hasUpload = false;
 };
 
-QVector<CUpdateStep> readSteps(const CJsonObjectReader &update)
+/// Reads the manifest in the order in which it stands there. All functions throw CJsonFault.
+class CReader
 {
-    const QString field = QStringLiteral("steps");
-    const QJsonArray list = update.readList(field, 1, Limits::STEPS);
-    QVector<CUpdateStep> steps;
-    CStepOrder order;
-    qint64 totalMs = 0;
-    for (int index = 0; index < list.size(); ++index) {
-        const CJsonObjectReader object = update.getObject(list, field, index);
-        steps.append(readStep(object));
-        const CErrorText orderFault = order.findFault(steps.constLast().kind);
-        if (!orderFault.isEmpty())
-            object.fail(QStringLiteral("kind"), orderFault);
-        totalMs += steps.constLast().estimatedMs.value_or(0);
+public:
+    CReader(const QByteArray &json, EPayloadFacts payloadFacts)
+        : m_scanner(json)
+        , m_payloadFacts(payloadFacts)
+    {
     }
-    if (totalMs > Limits::ESTIMATE_MS)
-        update.fail(field,
-                    CErrorText::tr("takes %1 ms by its estimates; at most %2 are allowed")
-                        .arg(QString::number(totalMs), QString::number(Limits::ESTIMATE_MS)));
-    return steps;
-}
 
-QString readVersion(const CJsonObjectReader &update, const QString &field)
+    CUpdateManifest read()
+    {
+        CUpdateManifest manifest;
+        static const CJsonFields FIELDS{
+            {QStringLiteral("formatVersion"), QStringLiteral("updates")}, {}};
+        CJsonMembers members(m_scanner, FIELDS);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("formatVersion"))
+                static_cast<void>(m_scanner.readInteger(1, LARGEST_FORMAT_VERSION));
+            else if (name == QLatin1String("updates"))
+                readList(1, Limits::UPDATES, [&] { manifest.updates.append(readUpdate()); });
+        }
+        m_scanner.expectEnd();
+        return manifest;
+    }
+
+private:
+    template <typename ReadElement>
+    void readList(int minimumSize, int maximumSize, const ReadElement &readElement)
+    {
+        m_scanner.beginArray();
+        const int begin = m_scanner.getPosition();
+        int size = 0;
+        while (m_scanner.nextElement()) {
+            if (++size > maximumSize)
+                m_scanner.fail(CErrorText::tr("the list has more than %1 items")
+                                   .arg(QString::number(maximumSize)));
+            readElement();
+        }
+        if (size < minimumSize)
+            m_scanner.failAt(begin, CErrorText::tr("the list must not be empty"));
+    }
+
+    /// A list of texts, none of them twice.
+    QStringList readTexts(int minimumSize, int maximumSize, const CTextRule &rule)
+    {
+        QStringList texts;
+        readList(minimumSize, maximumSize, [&] {
+            const QString text = m_scanner.readText(rule);
+            if (texts.contains(text))
+                m_scanner.fail(
+                    CErrorText::tr("the list has \"%1\" twice").arg(Json::shorten(text)));
+            texts.append(text);
+        });
+        return texts;
+    }
+
+    QString readVersion()
+    {
+        const QString version = m_scanner.readText({Limits::VERSION_LENGTH});
+        if (!CFirmwareVersion::parse(version))
+            m_scanner.fail(CErrorText::tr("\"%1\" is not a version like 2.0.0 or 2.0.0-rc1")
+                               .arg(Json::shorten(version)));
+        return version;
+    }
+
+    CUpdateEntry readUpdate()
+    {
+        CUpdateEntry update;
+        static const CJsonFields FIELDS{
+            {QStringLiteral("version"), QStringLiteral("models"), QStringLiteral("steps")},
+            {QStringLiteral("description"), QStringLiteral("releaseNotes"),
+             QStringLiteral("deviceVersions"), QStringLiteral("minimumVersion")}};
+        CJsonMembers members(m_scanner, FIELDS);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("version"))
+                update.version = readVersion();
+            else if (name == QLatin1String("description"))
+                update.description = m_scanner.readText({Limits::DESCRIPTION_LENGTH, true});
+            else if (name == QLatin1String("releaseNotes"))
+                update.releaseNotes
+                    = m_scanner.readText({Limits::RELEASE_NOTES_LENGTH, true, true, true});
+            else if (name == QLatin1String("models"))
+                update.models = readTexts(1, Limits::MODELS, {Limits::MODEL_LENGTH});
+            else if (name == QLatin1String("deviceVersions"))
+                update.deviceVersions
+                    = readTexts(0, Limits::DEVICE_VERSIONS, {Limits::MODEL_LENGTH});
+            else if (name == QLatin1String("minimumVersion"))
+                update.minimumVersion = readVersion();
+            else if (name == QLatin1String("steps"))
+                update.steps = readSteps();
+        }
+        const qint64 totalMs = std::accumulate(
+            update.steps.cbegin(), update.steps.cend(), qint64(0),
+            [](qint64 sum, const CUpdateStep &step) { return sum + step.estimatedMs.value_or(0); });
+        if (totalMs > Limits::ESTIMATE_MS)
+            members.failAt(
+                QStringLiteral("steps"),
+                CErrorText::tr("the steps take %1 ms by their estimates; at most %2 are allowed")
+                    .arg(QString::number(totalMs), QString::number(Limits::ESTIMATE_MS)));
+        return update;
+    }
+
+    QVector<CUpdateStep> readSteps()
+    {
+        QVector<CUpdateStep> steps;
+        CStepOrder order;
+        readList(1, Limits::STEPS, [&] { steps.append(readStep(order)); });
+        return steps;
+    }
+
+    CUpdateStep readStep(CStepOrder &order)
+    {
+        CUpdateStep step;
+        static const CJsonFields FIELDS = getFieldsOfAnyStep();
+        CJsonMembers members(m_scanner, FIELDS);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("kind"))
+                step.kind = readKind();
+            else if (name == QLatin1String("estimatedMs"))
+                step.estimatedMs = static_cast<int>(m_scanner.readInteger(1, Limits::ESTIMATE_MS));
+            else if (name == QLatin1String("description"))
+                step.description = m_scanner.readText({Limits::DESCRIPTION_LENGTH, true});
+            else if (name == QLatin1String("preconditions"))
+                readList(0, Limits::PRECONDITIONS,
+                         [&] { step.preconditions.append(readPrecondition()); });
+            else if (name == QLatin1String("feature"))
+                step.feature.feature = m_scanner.readText({Limits::FEATURE_LENGTH});
+            else if (name == QLatin1String("value"))
+                step.feature.value = m_scanner.readText({Limits::VALUE_LENGTH, true});
+            else if (name == QLatin1String("payload"))
+                step.payload.name = readPayloadName();
+            else if (name == QLatin1String("size"))
+                step.payload.size = m_scanner.readInteger(1, Limits::UNPACKED_SIZE);
+            else if (name == QLatin1String("sha256"))
+                step.payload.sha256 = readSha256();
+            else if (name == QLatin1String("targetFile"))
+                step.targetFile = m_scanner.readText({Limits::FEATURE_LENGTH});
+        }
+        members.check(getFields(step.kind, m_payloadFacts));
+        const CErrorText orderFault = order.findFault(step.kind);
+        if (!orderFault.isEmpty())
+            members.failAt(QStringLiteral("kind"), orderFault);
+        return step;
+    }
+
+    EFirmwareUpdateStep readKind()
+    {
+        const QString name = m_scanner.readText({Limits::VALUE_LENGTH});
+        QStringList knownNames;
+        for (const CStepKind &kind : getStepKinds()) {
+            if (kind.name == name)
+                return kind.kind;
+            knownNames.append(kind.name);
+        }
+        m_scanner.fail(CErrorText::tr("\"%1\" is not a kind of step; known kinds are %2")
+                           .arg(Json::shorten(name), knownNames.join(QStringLiteral(", "))));
+    }
+
+    CFeatureValue readPrecondition()
+    {
+        CFeatureValue precondition;
+        static const CJsonFields FIELDS{{QStringLiteral("feature"), QStringLiteral("value")}, {}};
+        CJsonMembers members(m_scanner, FIELDS);
+        QString name;
+        while (members.next(name)) {
+            if (name == QLatin1String("feature"))
+                precondition.feature = m_scanner.readText({Limits::FEATURE_LENGTH});
+            else
+                precondition.value = m_scanner.readText({Limits::VALUE_LENGTH, true});
+        }
+        return precondition;
+    }
+
+    QString readPayloadName()
+    {
+        const QString name = m_scanner.readText({Limits::ENTRY_NAME_LENGTH});
+        const CErrorText fault = findEntryNameFault(name);
+        if (!fault.isEmpty())
+            m_scanner.fail(
+                CErrorText::tr("the entry name \"%1\" %2").arg(Json::shorten(name), fault));
+        if (name == getManifestName())
+            m_scanner.fail(CErrorText::tr("the payload is the manifest itself"));
+        return name;
+    }
+
+    QByteArray readSha256()
+    {
+        const QByteArray text = m_scanner.readText({Limits::VALUE_LENGTH}).toLower().toUtf8();
+        const QByteArray digest = QByteArray::fromHex(text);
+        if (text.size() != SHA256_HEX_LENGTH || digest.toHex() != text)
+            m_scanner.fail(CErrorText::tr("the text has to be %1 hexadecimal digits")
+                               .arg(QString::number(SHA256_HEX_LENGTH)));
+        return digest;
+    }
+
+    CJsonScanner m_scanner;
+    const EPayloadFacts m_payloadFacts;
+};
+
+/// Before anything else, as a newer format may have fields that are unknown here.
+void checkFormatVersion(const QByteArray &json)
 {
-    const QString version = update.readText(field, {Limits::VERSION_LENGTH});
-    if (!CFirmwareVersion::parse(version))
-        update.fail(field,
-                    CErrorText::tr("is \"%1\", which is not a version like 2.0.0 or 2.0.0-rc1")
-                        .arg(Json::shorten(version)));
-    return version;
-}
-
-CUpdateEntry readUpdate(const CJsonObjectReader &object)
-{
-    const QString version = QStringLiteral("version");
-    const QString description = QStringLiteral("description");
-    const QString releaseNotes = QStringLiteral("releaseNotes");
-    const QString models = QStringLiteral("models");
-    const QString deviceVersions = QStringLiteral("deviceVersions");
-    const QString minimumVersion = QStringLiteral("minimumVersion");
-    object.checkNames({version, description, releaseNotes, models, deviceVersions, minimumVersion,
-                       QStringLiteral("steps")});
-
-    CUpdateEntry update;
-    update.version = readVersion(object, version);
-    update.description = object.readOptionalText(description, {Limits::DESCRIPTION_LENGTH, true});
-    update.releaseNotes
-        = object.readOptionalText(releaseNotes, {Limits::RELEASE_NOTES_LENGTH, true, true});
-    update.models = object.readTexts(models, 1, Limits::MODELS, {Limits::MODEL_LENGTH});
-    if (object.has(deviceVersions))
-        update.deviceVersions
-            = object.readTexts(deviceVersions, 0, Limits::DEVICE_VERSIONS, {Limits::MODEL_LENGTH});
-    if (object.has(minimumVersion))
-        update.minimumVersion = readVersion(object, minimumVersion);
-    update.steps = readSteps(object);
-    return update;
-}
-
-/// The format version comes first: a newer format may have fields that are unknown here.
-void checkFormatVersion(const CJsonObjectReader &top)
-{
-    constexpr int LARGEST = 1000000;
-    const qint64 version = top.readInteger(QStringLiteral("formatVersion"), 1, LARGEST);
-    if (version != FORMAT_VERSION)
-        throw CFieldFault{
-            CErrorText::tr("the format version is %1, but this program reads version %2 only")
-                .arg(QString::number(version), QString::number(FORMAT_VERSION))};
-}
-
-CUpdateManifest readManifest(const QJsonObject &object)
-{
-    const CJsonObjectReader top(object, QString());
-    checkFormatVersion(top);
-    const QString field = QStringLiteral("updates");
-    top.checkNames({QStringLiteral("formatVersion"), field});
-
-    CUpdateManifest manifest;
-    const QJsonArray list = top.readList(field, 1, Limits::UPDATES);
-    for (int index = 0; index < list.size(); ++index)
-        manifest.updates.append(readUpdate(top.getObject(list, field, index)));
-    return manifest;
+    CJsonScanner scanner(json);
+    QString name;
+    scanner.beginObject();
+    while (scanner.nextMember(name)) {
+        if (name != QLatin1String("formatVersion")) {
+            scanner.skipValue();
+            continue;
+        }
+        const qint64 version = scanner.readInteger(1, LARGEST_FORMAT_VERSION);
+        if (version != FORMAT_VERSION)
+            scanner.fail(
+                CErrorText::tr("the format version is %1, but this program reads version %2 only")
+                    .arg(QString::number(version), QString::number(FORMAT_VERSION)));
+    }
+    scanner.expectEnd();
 }
 
 } // namespace
 
-CManifestResult parseManifest(const QByteArray &json)
+CManifestResult parseManifest(const QByteArray &json, EPayloadFacts payloadFacts)
 {
     if (json.size() > Limits::MANIFEST_SIZE)
         return {CUpdateManifest(),
                 CErrorText::tr("update.json has %1 bytes; at most %2 are allowed")
                     .arg(QString::number(json.size()), QString::number(Limits::MANIFEST_SIZE))};
-    const CJsonResult text = parseJsonObject(json, Limits::NESTING);
-    if (!text.fault.isEmpty())
-        return {CUpdateManifest(), CErrorText::tr("update.json %1").arg(text.fault)};
     try {
-        return {readManifest(text.object), {}};
-    } catch (const CFieldFault &fault) {
-        return {CUpdateManifest(), CErrorText::tr("%1: %2").arg(getManifestName(), fault.sentence)};
+        checkFormatVersion(json);
+        return {CReader(json, payloadFacts).read(), {}};
+    } catch (const Json::CJsonFault &fault) {
+        return {CUpdateManifest(), CErrorText::tr("update.json, %1").arg(fault.describe())};
     }
 }
 

@@ -93,7 +93,8 @@ bool CPayloadDevice::checkEnd()
             sha256.isEmpty()
                 ? CErrorText::tr("the SHA-256 of the payload \"%1\" cannot be computed; check the "
                                  "settings of OpenSSL on this computer")
-                : CErrorText::tr("the payload \"%1\" does not match its SHA-256 in update.json"));
+                : CErrorText::tr("the payload \"%1\" does not match its SHA-256 in update.json; "
+                                 "one of the two was replaced"));
         return false;
     }
     return true;

@@ -8,13 +8,14 @@ namespace Viewer::CameraPool::UpdateFile::Limits {
 
 constexpr qint64 MEBIBYTE = 1024 * 1024;
 
-constexpr qint64 ARCHIVE_SIZE = 256 * MEBIBYTE;
 constexpr qint64 UNPACKED_SIZE = 512 * MEBIBYTE; ///< all files of the archive together
+/// Whatever may be unpacked can be packed, also where nothing of it can be compressed: the rest is
+/// for what the archive adds, the names and the frames of the blocks.
+constexpr qint64 ARCHIVE_SIZE = UNPACKED_SIZE + 1 * MEBIBYTE;
 constexpr qint64 MANIFEST_SIZE = 1 * MEBIBYTE;
 constexpr int ENTRIES = 256; ///< files and folders of the archive
 constexpr int ENTRY_NAME_LENGTH = 200;
 
-constexpr int NESTING = 16; ///< lists and objects of the manifest inside each other
 constexpr int UPDATES = 32;
 constexpr int STEPS = 64;
 constexpr int PRECONDITIONS = 32;
