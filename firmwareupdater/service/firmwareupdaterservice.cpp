@@ -1,27 +1,19 @@
 #include "firmwareupdaterservice.h"
 
+#include "updatefilecheck.h"
+
 #include "model/firmwareupdatetreemodel.h"
-#include "state/cameraselectionstep.h"
-#include "state/firmwareupdatedonestep.h"
-#include "state/firmwareupdatingstep.h"
-#include "state/resultsummarystep.h"
-#include "state/updateselectionstep.h"
-#include "state/updatesummarystep.h"
 #include "style/icons.h"
 #include "view/accessibletreeview.h"
 #include "view/cameraselectiondialog.h"
-#include "view/firmwareupdatedialog.h"
 #include "view/inputmonitor.h"
-#include "view/resultsummarydialog.h"
 #include "view/updateselectiondialog.h"
-#include "view/updatesummarydialog.h"
 
 #include "appcore/iwindowservice.h"
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/icamerastatusservice.h"
 #include "camerapool/icamerastreamcontrolservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
-#include "core/baseexception.h"
 
 #include <QApplication>
 #include <QDir>
@@ -29,7 +21,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QMessageBox>
-#include <QSignalTransition>
 
 namespace Plugin::FirmwareUpdater::Internal::Service {
 
@@ -39,7 +30,7 @@ using Model::CFirmwareUpdateTreeModel;
 using Plugin::CameraPool::ICameraEnumerationService;
 using Plugin::CameraPool::ICameraInfo;
 using Plugin::CameraPool::ICameraStatusService;
-using Plugin::CameraPool::IFirmwareUpdateInfo;
+using Plugin::CameraPool::IDeviceFirmwareUpdateService;
 using Plugin::CameraPool::ITransportLayerInfo;
 
 const QHash<int, const char *> CFirmwareUpdaterService::LOGLEVEL_TO_I18N_KEYS_MAP = {
@@ -52,29 +43,15 @@ const QHash<int, const char *> CFirmwareUpdaterService::LOGLEVEL_TO_I18N_KEYS_MA
 CFirmwareUpdaterService::CFirmwareUpdaterService(
     QPointer<Core::Plugin::IPluginInitializer> initializer, QObject *parent)
     : IFirmwareUpdaterService(parent)
-    , m_stateMachine(new QStateMachine)
     , m_initializer(initializer)
     , m_cameraSelectionModel(new CFirmwareUpdateTreeModel(nullptr))
-    , m_cameraUpdateModel(new CFirmwareUpdateTreeModel(nullptr))
+    , m_wizard(initializer, m_cameraSelectionModel,
+               QSharedPointer<CFirmwareUpdateTreeModel>(new CFirmwareUpdateTreeModel(nullptr)))
 {
 }
 
 CFirmwareUpdaterService::~CFirmwareUpdaterService()
 {
-    // The state machine is left alive on purpose: its steps share this service, which the plug-in
-    // owns as its child, and their release of it would delete it a second time. None of them may be
-    // entered or left any more.
-    if (m_stateMachine) {
-        QCoreApplication::removePostedEvents(m_stateMachine);
-        m_stateMachine->stop();
-    }
-    // Nobody is left to close a modal page.
-    for (QDialog *const dialog : std::initializer_list<QDialog *>{
-             m_cameraSelectionDialog, m_updateSelectionDialog, m_updateSummaryDialog,
-             m_firmwareUpdateDialog, m_resultSummaryDialog}) {
-        if (dialog)
-            dialog->hide();
-    }
     // The pages may live on, but nothing of them stays installed in the application.
     View::CInputMonitor::remove();
     View::CAccessibleTreeView::removeFactory();
@@ -90,99 +67,19 @@ bool CFirmwareUpdaterService::postInitialize()
 void CFirmwareUpdaterService::initializeDialogs()
 {
     const auto windowService = m_initializer->getService<Plugin::AppCore::IWindowService>();
-    QWidget *const parent = windowService ? windowService->getMainWindow() : nullptr;
+    m_wizard.createPages(windowService ? windowService->getMainWindow() : nullptr);
 
-    if (!m_cameraSelectionDialog) {
-        m_cameraSelectionDialog = new View::CCameraSelectionDialog(parent);
-        m_cameraSelectionDialog->setModel(m_cameraSelectionModel);
-        connect(m_cameraSelectionDialog, &View::CCameraSelectionDialog::refreshCamTreeClicked, this,
-                &CFirmwareUpdaterService::onRefreshCameraTreeClicked);
-    }
-    if (!m_updateSelectionDialog) {
-        m_updateSelectionDialog = new View::CUpdateSelectionDialog(parent);
-        m_updateSelectionDialog->setModel(m_cameraSelectionModel);
-        connect(m_updateSelectionDialog, &View::CUpdateSelectionDialog::browseClicked, this,
-                &CFirmwareUpdaterService::onBrowseClicked);
-        connect(m_updateSelectionDialog, &View::CUpdateSelectionDialog::pathChanged, this,
-                &CFirmwareUpdaterService::onPathChanged);
-    }
-    if (!m_updateSummaryDialog) {
-        m_updateSummaryDialog = new View::CUpdateSummaryDialog(parent);
-        m_updateSummaryDialog->setModel(m_cameraUpdateModel);
-    }
-    if (!m_firmwareUpdateDialog) {
-        m_firmwareUpdateDialog = new View::CFirmwareUpdateDialog(parent);
-        m_firmwareUpdateDialog->setModel(m_cameraUpdateModel);
-    }
-    if (!m_resultSummaryDialog) {
-        m_resultSummaryDialog = new View::CResultSummaryDialog(parent);
-        m_resultSummaryDialog->setModel(m_cameraUpdateModel);
-    }
-}
-
-/// Leads from @p from to @p to when @p dialog emits @p signal. The machine disconnects from a
-/// dialog when it leaves the step, so the transition must not remember one that is gone.
-template <typename TDialog, typename TSignal>
-static void addTransition(QState *from, const QPointer<TDialog> &dialog, TSignal signal,
-                          QAbstractState *to)
-{
-    QSignalTransition *const transition = from->addTransition(dialog.data(), signal, to);
-    QObject::connect(dialog, &QObject::destroyed, transition,
-                     [transition] { transition->setSenderObject(nullptr); });
+    connect(m_wizard.getCameraSelectionPage(), &View::CCameraSelectionDialog::refreshCamTreeClicked,
+            this, &CFirmwareUpdaterService::onRefreshCameraTreeClicked, Qt::UniqueConnection);
+    connect(m_wizard.getUpdateSelectionPage(), &View::CUpdateSelectionDialog::browseClicked, this,
+            &CFirmwareUpdaterService::onBrowseClicked, Qt::UniqueConnection);
+    connect(m_wizard.getUpdateSelectionPage(), &View::CUpdateSelectionDialog::pathChanged, this,
+            &CFirmwareUpdaterService::onPathChanged, Qt::UniqueConnection);
 }
 
 void CFirmwareUpdaterService::initializeStateMachine()
 {
-    auto *const done = new State::CFirmwareUpdateDoneStep(m_initializer, nullptr);
-    done->setCameraUpdateModel(m_cameraUpdateModel);
-    auto *const cameraSelection
-        = new State::CCameraSelectionStep(m_initializer, m_cameraSelectionDialog, nullptr);
-    cameraSelection->setCameraSelectionModel(m_cameraSelectionModel);
-    auto *const updateSelection
-        = new State::CUpdateSelectionStep(m_initializer, m_updateSelectionDialog, nullptr);
-    updateSelection->setCameraUpdateModel(m_cameraUpdateModel);
-    auto *const updateSummary
-        = new State::CUpdateSummaryStep(m_initializer, m_updateSummaryDialog, nullptr);
-    updateSummary->setCameraSelectionModel(m_cameraSelectionModel);
-    auto *const updating
-        = new State::CFirmwareUpdatingStep(m_initializer, m_firmwareUpdateDialog, nullptr);
-    auto *const resultSummary
-        = new State::CResultSummaryStep(m_initializer, m_resultSummaryDialog, nullptr);
-    resultSummary->setCameraUpdateModel(m_cameraUpdateModel);
-
-    using View::CUpdateDialogBase;
-    addTransition(cameraSelection, m_cameraSelectionDialog,
-                  &View::CCameraSelectionDialog::nextClicked, updateSelection);
-    addTransition(cameraSelection, m_cameraSelectionDialog, &CUpdateDialogBase::closeClicked, done);
-
-    addTransition(updateSelection, m_updateSelectionDialog,
-                  &View::CUpdateSelectionDialog::backClicked, cameraSelection);
-    addTransition(updateSelection, m_updateSelectionDialog,
-                  &View::CUpdateSelectionDialog::nextClicked, updateSummary);
-    addTransition(updateSelection, m_updateSelectionDialog, &CUpdateDialogBase::closeClicked, done);
-
-    addTransition(updateSummary, m_updateSummaryDialog, &View::CUpdateSummaryDialog::backClicked,
-                  updateSelection);
-    addTransition(updateSummary, m_updateSummaryDialog, &View::CUpdateSummaryDialog::nextClicked,
-                  updating);
-    addTransition(updateSummary, m_updateSummaryDialog, &CUpdateDialogBase::closeClicked, done);
-
-    updating->addTransition(updating, &State::CFirmwareUpdatingStep::firmwareUpdateDone,
-                            resultSummary);
-    // Closing the page while cameras are updated is a wish that the step weighs, no way out of it.
-    connect(m_firmwareUpdateDialog, SIGNAL(closeClicked()), updating, SLOT(onUpdatesCanceled()));
-
-    addTransition(resultSummary, m_resultSummaryDialog, &View::CResultSummaryDialog::nextClicked,
-                  cameraSelection);
-    addTransition(resultSummary, m_resultSummaryDialog, &CUpdateDialogBase::closeClicked, done);
-
-    m_stateMachine->addState(done);
-    m_stateMachine->addState(cameraSelection);
-    m_stateMachine->addState(updateSelection);
-    m_stateMachine->addState(updateSummary);
-    m_stateMachine->addState(updating);
-    m_stateMachine->addState(resultSummary);
-    m_stateMachine->setInitialState(cameraSelection);
+    m_wizard.createSteps();
 }
 
 static QVector<QSharedPointer<ITransportLayerInfo>>
@@ -214,7 +111,7 @@ void CFirmwareUpdaterService::startFirmwareUpdater()
 
     // Without a menu service in the host nothing of the wizard has been built, and with the host's
     // window it goes.
-    if (!m_cameraSelectionDialog)
+    if (!m_wizard.getCameraSelectionPage())
         return;
 
     const TransportLayers layers = getTransportLayers(enumeration);
@@ -227,7 +124,7 @@ void CFirmwareUpdaterService::startFirmwareUpdater()
 
     loadCameraTree(layers);
     openTemporaryLogFile();
-    m_stateMachine->start();
+    m_wizard.start();
 }
 
 bool CFirmwareUpdaterService::askToStopAllCameras() const
@@ -264,8 +161,8 @@ void CFirmwareUpdaterService::loadCameraTree(const TransportLayers &layers)
         m_cameraSelectionModel->setData(index, true, Qt::EditRole);
         m_cameraSelectionModel->updateAllNodesBySelection(index);
     }
-    if (m_cameraSelectionDialog)
-        m_cameraSelectionDialog->setModel(m_cameraSelectionModel);
+    if (View::CCameraSelectionDialog *const page = m_wizard.getCameraSelectionPage())
+        page->setModel(m_cameraSelectionModel);
 }
 
 void CFirmwareUpdaterService::onRefreshCameraTreeClicked()
@@ -276,7 +173,7 @@ void CFirmwareUpdaterService::onRefreshCameraTreeClicked()
 
 void CFirmwareUpdaterService::onEnumerationChanged()
 {
-    if (!m_stateMachine || !m_stateMachine->isRunning())
+    if (!m_wizard.isRunning())
         return;
     loadCameraTree(getTransportLayers(m_initializer->getService<ICameraEnumerationService>()));
 }
@@ -303,53 +200,27 @@ void CFirmwareUpdaterService::onPathChanged(QString filePath)
 
 void CFirmwareUpdaterService::selectUpdateFile(const QString &shownPath, const QFileInfo &fileInfo)
 {
-    m_updateSelectionDialog->updateFileSelection(QDir::toNativeSeparators(shownPath));
+    m_wizard.getUpdateSelectionPage()->updateFileSelection(QDir::toNativeSeparators(shownPath));
     m_selectedUpdatePath = QDir::toNativeSeparators(fileInfo.absoluteFilePath());
     checkCompatibility(fileInfo);
 }
 
 void CFirmwareUpdaterService::checkCompatibility(const QFileInfo &fileInfo)
 {
-    const auto show = [this](bool compatible, bool noFile,
-                             const QVector<QSharedPointer<IFirmwareUpdateInfo>> &infos) {
-        m_updateSelectionDialog->updateCompatibility(compatible, noFile);
-        m_updateSelectionDialog->updateFirmwareUpdateInfo(infos, noFile);
-    };
+    // One file serves one model, so the first ticked camera speaks for all of them.
+    const QPointer<CFirmwareUpdateEntity> camera
+        = m_cameraSelectionModel->getSelectedCameraList().value(0);
+    const CUpdateFileVerdict verdict
+        = checkUpdateFile(fileInfo, camera ? camera->getCameraInfo() : nullptr,
+                          m_initializer->getService<IDeviceFirmwareUpdateService>());
+    if (verdict.fault)
+        addTemporaryLogMessage(
+            ELogLevel::Critical,
+            QStringLiteral("Failed to check for compatible update: %1").arg(*verdict.fault));
 
-    if (!fileInfo.exists() || !fileInfo.isReadable() || !fileInfo.isFile()) {
-        show(false, true, {});
-        return;
-    }
-
-    const auto updateService
-        = m_initializer->getService<Plugin::CameraPool::IDeviceFirmwareUpdateService>();
-    if (!updateService) {
-        show(false, false, {});
-        return;
-    }
-
-    try {
-        const QVector<QSharedPointer<IFirmwareUpdateInfo>> all
-            = updateService->getFirmwareUpdateInfos(fileInfo.absoluteFilePath(), QString());
-        // One file serves one model, so the first ticked camera speaks for all of them.
-        const QPointer<CFirmwareUpdateEntity> camera
-            = m_cameraSelectionModel->getSelectedCameraList().value(0);
-        if (!camera) {
-            show(false, false, {});
-            return;
-        }
-
-        QVector<QSharedPointer<IFirmwareUpdateInfo>> compatible;
-        bool updatable = false;
-        const bool checked = updateService->getCompatibleFirmwareUpdates(
-            camera->getCameraInfo(), all, compatible, updatable);
-        show(checked && !compatible.isEmpty(), false, compatible);
-    } catch (const Core::Exception::BaseException &exception) {
-        addTemporaryLogMessage(ELogLevel::Critical,
-                               QStringLiteral("Failed to check for compatible update: %1")
-                                   .arg(exception.getMessage()));
-        show(false, false, {});
-    }
+    View::CUpdateSelectionDialog *const page = m_wizard.getUpdateSelectionPage();
+    page->updateCompatibility(verdict.isCompatible, !verdict.isFile);
+    page->updateFirmwareUpdateInfo(verdict.updates, !verdict.isFile);
 }
 
 QString CFirmwareUpdaterService::getKorvaneSupportUrl() const

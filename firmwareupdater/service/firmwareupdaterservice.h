@@ -2,12 +2,12 @@
 
 #include "ifirmwareupdaterservice.h"
 #include "temporarylog.h"
+#include "wizardassembly.h"
 
 #include "core/iplugininitializer.h"
 
 #include <QHash>
 #include <QPointer>
-#include <QStateMachine>
 
 class QFileInfo;
 
@@ -15,22 +15,9 @@ namespace Plugin::CameraPool {
 class ITransportLayerInfo;
 } // namespace Plugin::CameraPool
 
-namespace Plugin::FirmwareUpdater::Internal::Model {
-class CFirmwareUpdateTreeModel;
-} // namespace Plugin::FirmwareUpdater::Internal::Model
-
-namespace Plugin::FirmwareUpdater::Internal::View {
-class CCameraSelectionDialog;
-class CFirmwareUpdateDialog;
-class CResultSummaryDialog;
-class CUpdateSelectionDialog;
-class CUpdateSummaryDialog;
-} // namespace Plugin::FirmwareUpdater::Internal::View
-
 namespace Plugin::FirmwareUpdater::Internal::Service {
 
-/// The wizard's controller: owns the two models, the state machine and the log, makes the dialogs,
-/// and checks the update file that the user names. The dialogs belong to the host's main window.
+/// The wizard's controller: starts it, answers its pages, and keeps what its steps share.
 class CFirmwareUpdaterService : public IFirmwareUpdaterService
 {
     Q_OBJECT
@@ -82,23 +69,13 @@ private:
     /// Untranslated words of the levels in the log.
     static const QHash<int, const char *> LOGLEVEL_TO_I18N_KEYS_MAP;
 
-    // Not owned: children of the host's main window, which may die before or after this.
-    QPointer<View::CCameraSelectionDialog> m_cameraSelectionDialog;
-    QPointer<View::CUpdateSelectionDialog> m_updateSelectionDialog;
-    QPointer<View::CUpdateSummaryDialog> m_updateSummaryDialog;
-    QPointer<View::CFirmwareUpdateDialog> m_firmwareUpdateDialog;
-    QPointer<View::CResultSummaryDialog> m_resultSummaryDialog;
-
-    QPointer<QStateMachine> m_stateMachine;
     QPointer<Core::Plugin::IPluginInitializer> m_initializer;
     QSharedPointer<Plugin::CameraPool::ICameraInfo> m_selectedCamera;
 
     /// All enumerated cameras with their ticks.
     QSharedPointer<Model::CFirmwareUpdateTreeModel> m_cameraSelectionModel;
 
-    /// Copies of the cameras chosen for update, with their progress and results.
-    QSharedPointer<Model::CFirmwareUpdateTreeModel> m_cameraUpdateModel;
-
+    CWizardAssembly m_wizard;
     QString m_selectedUpdatePath;
     CTemporaryLog m_temporaryLog;
     QString m_updateFailureMessage;
