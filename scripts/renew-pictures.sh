@@ -14,7 +14,8 @@ trap 'rm -rf "$work"' EXIT
 # Without a desktop around it the viewer looks the same on every machine.
 unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM QT_SCALE_FACTOR
 mkdir "$work/home"
-for language in en ko ja zh; do
+languages=$(basename --suffix .ts --multiple viewer/translations/viewer_*.ts | sed s/viewer_//)
+for language in $languages; do
   HOME=$work/home ./run --demo "$work/$language" --language $language --reset-cameras
 done
 
@@ -28,7 +29,7 @@ shrink "$work/en/viewer.png" viewer.png 128
 for step in 1 2 3 4 5; do
   shrink "$work/en/step$step.png" step$step.png 64
 done
-for language in ko ja zh; do
+for language in ${languages/en/}; do
   shrink "$work/$language/step1.png" step1_$language.png 64
 done
 du --bytes --total $pictures/*.png | tail -1

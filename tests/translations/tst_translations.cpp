@@ -53,8 +53,8 @@ private:
 void CTranslationsTest::initTestCase_data()
 {
     QTest::addColumn<QString>("language");
-    for (const char *language : {"en", "ko", "ja", "zh"})
-        QTest::newRow(language) << language;
+    for (const Viewer::Text::CLanguageEntry &entry : CLanguage::getEntries())
+        QTest::newRow(qPrintable(entry.code)) << entry.code;
 }
 
 void CTranslationsTest::speak(const QString &language)

@@ -64,7 +64,8 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         QStringLiteral("plugins"),
         tr("Look for plug-ins in <dir>, too; can be given several times."), tr("dir"));
     const QCommandLineOption languageOption(
-        QStringLiteral("language"), tr("Use the language en, ko, ja or zh this time."), tr("code"));
+        QStringLiteral("language"),
+        tr("Use the language <code> this time: %1.").arg(CLanguage::getCodeList()), tr("code"));
     const QCommandLineOption samplesOption(QStringLiteral("samples"),
                                            tr("Use <dir> as the folder of sample update files."),
                                            tr("dir"));
@@ -83,8 +84,8 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
         return EResult::Error;
     }
     if (parser.isSet(languageOption) && !CLanguage::isKnown(m_options.language)) {
-        m_message = tr("The language \"%1\" is unknown; it can be en, ko, ja or zh.")
-                        .arg(m_options.language);
+        m_message = tr("The language \"%1\" is unknown; there are %2.")
+                        .arg(m_options.language, CLanguage::getCodeList());
         return EResult::Error;
     }
     if (parser.isSet(helpOption)) {

@@ -1,5 +1,7 @@
 #include "languagefont.h"
 
+#include "viewer/text/language.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QStringList>
@@ -19,12 +21,9 @@ void chooseLanguageFont(const QString &code)
     // In front, so that letters and digits come from the same font: two fonts in one row share
     // neither a base line nor a height. Unicode has one code for characters that China and Japan
     // write differently; which form is meant depends on the language.
-    if (code == QLatin1String("ja"))
-        families.prepend(QStringLiteral("Noto Sans CJK JP"));
-    else if (code == QLatin1String("ko"))
-        families.prepend(QStringLiteral("Noto Sans CJK KR"));
-    else if (code == QLatin1String("zh"))
-        families.prepend(QStringLiteral("Noto Sans CJK SC"));
+    const QString family = Text::CLanguage::getEntry(code).fontFamily;
+    if (!family.isEmpty())
+        families.prepend(family);
     font.setFamilies(families);
     QApplication::setFont(font);
 }

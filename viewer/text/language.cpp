@@ -4,8 +4,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QSettings>
-
-#include <algorithm>
+#include <QStringList>
 
 namespace Viewer::Text {
 
@@ -13,17 +12,32 @@ static const QLatin1String LanguageKey("language");
 
 QList<CLanguageEntry> CLanguage::getEntries()
 {
-    return {{QStringLiteral("en"), QStringLiteral("English")},
-            {QStringLiteral("ko"), QStringLiteral("한국어")},
-            {QStringLiteral("ja"), QStringLiteral("日本語")},
-            {QStringLiteral("zh"), QStringLiteral("中文")}};
+    static const QList<CLanguageEntry> ENTRIES{
+#include "languagetable.inc"
+    };
+    return ENTRIES;
 }
 
 bool CLanguage::isKnown(const QString &code)
 {
-    const QList<CLanguageEntry> entries = getEntries();
-    return std::any_of(entries.cbegin(), entries.cend(),
-                       [&code](const CLanguageEntry &entry) { return entry.code == code; });
+    return !code.isEmpty() && getEntry(code).code == code;
+}
+
+QString CLanguage::getCodeList()
+{
+    QStringList codes;
+    for (const CLanguageEntry &entry : getEntries())
+        codes.append(entry.code);
+    return codes.join(QStringLiteral(", "));
+}
+
+CLanguageEntry CLanguage::getEntry(const QString &code)
+{
+    for (const CLanguageEntry &entry : getEntries()) {
+        if (entry.code == code)
+            return entry;
+    }
+    return {};
 }
 
 QString CLanguage::choose(const QString &override)
@@ -53,11 +67,9 @@ void CLanguage::remember(const QString &code)
 
 CLanguage::CLanguage(const QString &code)
 {
-    // Qt names its Chinese catalogue by territory.
-    const QString qtCode = code == QLatin1String("zh") ? QStringLiteral("zh_CN") : code;
     const QString qtFolder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
     const QList<QPair<QString, QString>> catalogues
-        = {{QStringLiteral("qtbase_%1").arg(qtCode), qtFolder},
+        = {{QStringLiteral("qtbase_%1").arg(getEntry(code).qtCode), qtFolder},
            {QStringLiteral("viewer_%1").arg(code), QStringLiteral(":/viewer/translations")}};
     for (const auto &[name, folder] : catalogues) {
         auto translator = std::make_unique<QTranslator>();

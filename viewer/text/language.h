@@ -14,6 +14,8 @@ struct CLanguageEntry
 {
     QString code; ///< two letters
     QString nativeName; ///< as its speakers write it
+    QString qtCode; ///< that of Qt's own catalogues, which name some by territory
+    QString fontFamily; ///< to ask for where no desktop names a font; empty: any
 };
 
 /// The language of the programs: which there are, which is chosen, and its catalogues.
@@ -23,6 +25,12 @@ public:
     /// The languages in the order of the menu.
     [[nodiscard]] static QList<CLanguageEntry> getEntries();
     [[nodiscard]] static bool isKnown(const QString &code);
+
+    /// The codes of getEntries(), for a sentence.
+    [[nodiscard]] static QString getCodeList();
+
+    /// An unknown code has an empty entry.
+    [[nodiscard]] static CLanguageEntry getEntry(const QString &code);
 
     /// The language of this start: @p override if it is known, else the remembered one, else
     /// getSystem().

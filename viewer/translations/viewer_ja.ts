@@ -110,20 +110,12 @@
         <translation>フォルダー</translation>
     </message>
     <message>
-        <source>Use the language en, ko, ja or zh this time.</source>
-        <translation>今回使用する言語を en、ko、ja、zh から指定します。</translation>
-    </message>
-    <message>
         <source>code</source>
         <translation>コード</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>予期しない引数「%1」です。</translation>
-    </message>
-    <message>
-        <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
-        <translation>言語「%1」は使用できません。en、ko、ja、zh のいずれかを指定してください。</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
@@ -180,6 +172,14 @@
     <message>
         <source>No folder is given for the plug-ins.</source>
         <translation>プラグインのフォルダーが指定されていません。</translation>
+    </message>
+    <message>
+        <source>Use the language &lt;code&gt; this time: %1.</source>
+        <translation>今回使用する言語 &lt;コード&gt;: %1。</translation>
+    </message>
+    <message>
+        <source>The language &quot;%1&quot; is unknown; there are %2.</source>
+        <translation>言語「%1」は使用できません。使用できる言語: %2。</translation>
     </message>
 </context>
 <context>

@@ -110,20 +110,12 @@
         <translation>폴더</translation>
     </message>
     <message>
-        <source>Use the language en, ko, ja or zh this time.</source>
-        <translation>이번 실행에 사용할 언어를 en, ko, ja, zh 중에서 지정합니다.</translation>
-    </message>
-    <message>
         <source>code</source>
         <translation>코드</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>예기치 않은 인수 &quot;%1&quot;입니다.</translation>
-    </message>
-    <message>
-        <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
-        <translation>알 수 없는 언어 &quot;%1&quot;입니다. en, ko, ja, zh 중에서 지정하십시오.</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
@@ -180,6 +172,14 @@
     <message>
         <source>No folder is given for the plug-ins.</source>
         <translation>플러그인 폴더가 지정되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Use the language &lt;code&gt; this time: %1.</source>
+        <translation>이번에 사용할 언어 &lt;코드&gt;: %1.</translation>
+    </message>
+    <message>
+        <source>The language &quot;%1&quot; is unknown; there are %2.</source>
+        <translation>알 수 없는 언어 &quot;%1&quot;입니다. 사용할 수 있는 언어: %2.</translation>
     </message>
 </context>
 <context>

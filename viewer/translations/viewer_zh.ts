@@ -110,20 +110,12 @@
         <translation>文件夹</translation>
     </message>
     <message>
-        <source>Use the language en, ko, ja or zh this time.</source>
-        <translation>指定本次使用的语言：en、ko、ja 或 zh。</translation>
-    </message>
-    <message>
         <source>code</source>
         <translation>代码</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
         <translation>意外的参数“%1”。</translation>
-    </message>
-    <message>
-        <source>The language &quot;%1&quot; is unknown; it can be en, ko, ja or zh.</source>
-        <translation>未知的语言“%1”，请使用 en、ko、ja 或 zh。</translation>
     </message>
     <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
@@ -180,6 +172,14 @@
     <message>
         <source>No folder is given for the plug-ins.</source>
         <translation>未指定插件的文件夹。</translation>
+    </message>
+    <message>
+        <source>Use the language &lt;code&gt; this time: %1.</source>
+        <translation>指定本次使用的语言 &lt;代码&gt;：%1。</translation>
+    </message>
+    <message>
+        <source>The language &quot;%1&quot; is unknown; there are %2.</source>
+        <translation>未知的语言“%1”，可用的语言：%2。</translation>
     </message>
 </context>
 <context>
