@@ -4,7 +4,7 @@
 
 #include "model/firmwareupdatetreemodel.h"
 #include "style/icons.h"
-#include "view/accessibletreeview.h"
+#include "view/accessible/accessibletreeview.h"
 #include "view/cameraselectiondialog.h"
 #include "view/inputmonitor.h"
 #include "view/updateselectiondialog.h"

@@ -1,8 +1,8 @@
 #include "cameraselectiondialog.h"
 
 #include "model/firmwareupdatetreemodel.h"
-#include "treeviewcameraselectiondelegate.h"
 #include "ui_cameraselectiondialog.h"
+#include "view/delegate/treeviewcameraselectiondelegate.h"
 
 #include <QSortFilterProxyModel>
 

@@ -1,7 +1,7 @@
 #include "customtreeview.h"
 
-#include "accessibletreeview.h"
 #include "inputmonitor.h"
+#include "view/accessible/accessibletreeview.h"
 
 #include <QFocusEvent>
 #include <QHeaderView>

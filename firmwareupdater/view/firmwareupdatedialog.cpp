@@ -1,9 +1,9 @@
 #include "firmwareupdatedialog.h"
 
 #include "model/firmwareupdatetreemodel.h"
-#include "treeviewlabeldelegate.h"
-#include "treeviewstatusdelegate.h"
 #include "ui_firmwareupdatedialog.h"
+#include "view/delegate/treeviewlabeldelegate.h"
+#include "view/delegate/treeviewstatusdelegate.h"
 
 #include <QWindow>
 

@@ -2,9 +2,9 @@
 
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
-#include "treeviewlabeldelegate.h"
-#include "treeviewresultdelegate.h"
 #include "ui_resultsummarydialog.h"
+#include "view/delegate/treeviewlabeldelegate.h"
+#include "view/delegate/treeviewresultdelegate.h"
 
 #include <QRegularExpression>
 

@@ -1,6 +1,5 @@
 #include "updatedialogbase.h"
 
-#include "cellrendering.h"
 #include "linklabel.h"
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
@@ -8,6 +7,7 @@
 #include "style/icons.h"
 #include "surplusitem.h"
 #include "treeviewheaderview.h"
+#include "view/delegate/cellrendering.h"
 
 #include <QApplication>
 #include <QCloseEvent>

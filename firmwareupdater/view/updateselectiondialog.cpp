@@ -1,9 +1,9 @@
 #include "updateselectiondialog.h"
 
-#include "accessibletreeview.h"
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
 #include "ui_updateselectiondialog.h"
+#include "view/accessible/accessibletreeview.h"
 
 #include "core/richtext.h"
 

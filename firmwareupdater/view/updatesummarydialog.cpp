@@ -1,10 +1,10 @@
 #include "updatesummarydialog.h"
 
 #include "model/firmwareupdatetreemodel.h"
-#include "treeviewcameraselectiondelegate.h"
-#include "treeviewdetailsdelegate.h"
-#include "treeviewlabeldelegate.h"
 #include "ui_updatesummarydialog.h"
+#include "view/delegate/treeviewcameraselectiondelegate.h"
+#include "view/delegate/treeviewdetailsdelegate.h"
+#include "view/delegate/treeviewlabeldelegate.h"
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 

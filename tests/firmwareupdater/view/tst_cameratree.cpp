@@ -1,10 +1,10 @@
 #include "constants.h"
 #include "support/accessiblereader.h"
-#include "view/treeviewdetailsdelegate.h"
+#include "view/delegate/treeviewdetailsdelegate.h"
+#include "view/delegate/treeviewlabeldelegate.h"
+#include "view/delegate/treeviewresultdelegate.h"
+#include "view/delegate/treeviewstatusdelegate.h"
 #include "view/treeviewheaderview.h"
-#include "view/treeviewlabeldelegate.h"
-#include "view/treeviewresultdelegate.h"
-#include "view/treeviewstatusdelegate.h"
 #include "viewfixture.h"
 
 #include <QAbstractItemModelTester>

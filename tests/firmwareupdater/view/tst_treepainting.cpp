@@ -1,10 +1,10 @@
 #include "constants.h"
 #include "style/treeviewheaderstyle.h"
-#include "view/treeviewcameraselectiondelegate.h"
-#include "view/treeviewdetailsdelegate.h"
-#include "view/treeviewlabeldelegate.h"
-#include "view/treeviewresultdelegate.h"
-#include "view/treeviewstatusdelegate.h"
+#include "view/delegate/treeviewcameraselectiondelegate.h"
+#include "view/delegate/treeviewdetailsdelegate.h"
+#include "view/delegate/treeviewlabeldelegate.h"
+#include "view/delegate/treeviewresultdelegate.h"
+#include "view/delegate/treeviewstatusdelegate.h"
 #include "viewfixture.h"
 
 #include <QHeaderView>

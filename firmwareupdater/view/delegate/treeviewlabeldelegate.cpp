@@ -1,7 +1,7 @@
 #include "treeviewlabeldelegate.h"
 
 #include "model/firmwareupdateentity.h"
-#include "treerow.h"
+#include "view/treerow.h"
 
 namespace Plugin::FirmwareUpdater::Internal::View {
 

@@ -2,7 +2,7 @@
 
 #include "cellrendering.h"
 #include "style/icons.h"
-#include "treerow.h"
+#include "view/treerow.h"
 
 #include <QLabel>
 #include <QTextDocumentFragment>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "customtreeview.h"
+#include "view/customtreeview.h"
 
 #include <QAccessibleInterface>
 #include <QPointer>

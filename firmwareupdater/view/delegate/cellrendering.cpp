@@ -1,8 +1,8 @@
 #include "cellrendering.h"
 
 #include "constants.h"
-#include "readablepalette.h"
 #include "style/icons.h"
+#include "view/readablepalette.h"
 
 #include <cmath>
 

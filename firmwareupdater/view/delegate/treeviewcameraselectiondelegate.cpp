@@ -3,7 +3,7 @@
 #include "cellrendering.h"
 #include "model/firmwareupdatetreemodel.h"
 #include "rowcheckbox.h"
-#include "treerow.h"
+#include "view/treerow.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>

@@ -1,9 +1,9 @@
 #include "accessibletreecell.h"
 
-#include "abstractlabeldelegate.h"
 #include "accessibletreeview.h"
-#include "treerow.h"
-#include "treeviewcameraselectiondelegate.h"
+#include "view/delegate/abstractlabeldelegate.h"
+#include "view/delegate/treeviewcameraselectiondelegate.h"
+#include "view/treerow.h"
 
 #include <QKeySequence>
 

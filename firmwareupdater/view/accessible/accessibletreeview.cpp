@@ -3,8 +3,8 @@
 #include "accessiblepathfield.h"
 #include "accessibletreecell.h"
 #include "accessibletreetitle.h"
-#include "customtreeview.h"
-#include "updateselectiondialog.h"
+#include "view/customtreeview.h"
+#include "view/updateselectiondialog.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
