@@ -5,6 +5,7 @@
 namespace Plugin::FirmwareUpdater::Internal::View {
 
 using Entity::CFirmwareUpdateEntity;
+using Plugin::CameraPool::EFirmwareUpdateDirection;
 
 CTreeViewDetailsDelegate::CTreeViewDetailsDelegate(QObject *parent)
     : CAbstractLabelDelegate(parent)
@@ -17,14 +18,15 @@ CTreeViewDetailsDelegate::getContent(const CFirmwareUpdateEntity &entity, int co
     Q_UNUSED(column)
     CCellContent content;
     content.reservedWidth = 30;
-    switch (entity.getData(CFirmwareUpdateEntity::UpdateDetails).toInt()) {
-    case 0:
+    switch (static_cast<EFirmwareUpdateDirection>(
+        entity.getData(CFirmwareUpdateEntity::UpdateDetails).toInt())) {
+    case EFirmwareUpdateDirection::Upgrade:
         content.text = tr("Upgrade");
         break;
-    case 1:
+    case EFirmwareUpdateDirection::Downgrade:
         content.text = tr("Downgrade");
         break;
-    case 2:
+    case EFirmwareUpdateDirection::Reinstall:
         content.text = tr("Reinstall");
         break;
     default:

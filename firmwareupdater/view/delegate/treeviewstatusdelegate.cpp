@@ -15,19 +15,21 @@ CTreeViewStatusDelegate::CCellContent
 CTreeViewStatusDelegate::getContent(const CFirmwareUpdateEntity &entity, int column) const
 {
     Q_UNUSED(column)
+    using EFirmwareUpdateStatus = CFirmwareUpdateEntity::EFirmwareUpdateStatus;
     CCellContent content;
     content.reservedWidth = 37;
     content.hasIconPlace = true;
-    switch (entity.getData(CFirmwareUpdateEntity::UpdateStatus).toInt()) {
-    case 0:
+    switch (static_cast<EFirmwareUpdateStatus>(
+        entity.getData(CFirmwareUpdateEntity::UpdateStatus).toInt())) {
+    case EFirmwareUpdateStatus::Waiting:
         content.text = tr("Waiting");
         break;
-    case 1:
+    case EFirmwareUpdateStatus::Updating:
         content.text = tr("Updating");
         content.isBold = true;
         content.iconName = QStringLiteral("refresh_black_icon_14x12_en");
         break;
-    case 2:
+    case EFirmwareUpdateStatus::Complete:
         content.text = tr("Complete");
         content.iconName = QStringLiteral("update_ok_icon_12x8_en");
         break;
