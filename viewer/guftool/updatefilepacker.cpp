@@ -7,7 +7,7 @@
 #include "viewer/camerapool/updatefile/updatefileerror.h"
 #include "viewer/camerapool/updatefile/updatefilelimits.h"
 #include "viewer/camerapool/updatefile/updatefilereader.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QDir>
 #include <QFile>
@@ -116,7 +116,7 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
     for (const QString &name : payloadNames) {
         if (!QFileInfo(folder.filePath(name)).isFile())
             fail(CErrorText::tr("the payload \"%1\" is missing in the folder")
-                     .arg(Json::shorten(name)));
+                     .arg(Text::shorten(name)));
     }
 
     // Beside the file, as only a rename within one file system replaces it in one go.
@@ -201,18 +201,18 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
     const QFileInfo info(QDir(m_folder).filePath(name));
     if (!info.isFile())
         fail(
-            CErrorText::tr("the payload \"%1\" is missing in the folder").arg(Json::shorten(name)));
+            CErrorText::tr("the payload \"%1\" is missing in the folder").arg(Text::shorten(name)));
     if (info.size() == 0)
-        fail(CErrorText::tr("the payload \"%1\" is empty").arg(Json::shorten(name)));
+        fail(CErrorText::tr("the payload \"%1\" is empty").arg(Text::shorten(name)));
     QFile payload(info.filePath());
     CSha256 hash;
     if (!payload.open(QIODevice::ReadOnly) || !addFileTo(hash, payload))
-        fail(CErrorText::tr("the payload \"%1\" cannot be read").arg(Json::shorten(name)));
+        fail(CErrorText::tr("the payload \"%1\" cannot be read").arg(Text::shorten(name)));
     const QByteArray digest = hash.takeResult();
     if (digest.isEmpty())
         fail(CErrorText::tr("the SHA-256 of the payload \"%1\" cannot be computed; check the "
                             "settings of OpenSSL on this computer")
-                 .arg(Json::shorten(name)));
+                 .arg(Text::shorten(name)));
     if (!step.contains(sizeField))
         step.insert(sizeField, info.size());
     if (!step.contains(digestField))

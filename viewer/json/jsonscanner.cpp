@@ -1,7 +1,7 @@
 #include "jsonscanner.h"
 
 #include "jsonfault.h"
-#include "messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -87,7 +87,7 @@ bool CJsonScanner::nextMember(QString &name)
     if (!isAt(':'))
         failAt(m_offset,
                CErrorText::tr("expected a colon after \"%1\", found %2")
-                   .arg(toSingleLine(name.left(NAME_LENGTH)), getFound()));
+                   .arg(Text::toSingleLine(name.left(NAME_LENGTH)), getFound()));
     ++m_offset;
     skipSpace();
     m_levels.last().name = name;
@@ -383,7 +383,7 @@ QString CJsonScanner::getField() const
         } else if (!level.name.isEmpty()) {
             if (!field.isEmpty())
                 field += QLatin1Char('.');
-            field += toSingleLine(level.name.left(NAME_LENGTH));
+            field += Text::toSingleLine(level.name.left(NAME_LENGTH));
         }
     }
     return field;

@@ -9,6 +9,7 @@
 #include "viewer/camerapool/icameradevice.h"
 #include "viewer/camerapool/updateestimate.h"
 #include "viewer/camerapool/updatefile/updatefilereader.h"
+#include "viewer/text/visibletext.h"
 
 #include <QFile>
 #include <QIODevice>
@@ -118,6 +119,7 @@ private slots:
     void everyFailingOperationGivesOneError();
     void everyExceptionBecomesAnError();
     void refusesBeforeTheFirstWrite();
+    void showsWhatTheCameraSaysOnOneLine();
     void provesTheVersionWithoutSuchAStep();
     void touchesNeitherTwiceNorWhatIsInUse();
     void estimatesStayInTheirLimits();
@@ -167,7 +169,8 @@ void CDeviceFirmwareUpdateTest::verifyFailure(const QString &cause, bool written
     const QString text = recorder.getError();
     QVERIFY2(text.startsWith("Camera Scripted camera: "), qPrintable(text));
     QVERIFY2(text.contains(cause), qPrintable(text));
-    QVERIFY2(!text.contains('\n') && !text.endsWith('.'), qPrintable(text));
+    QVERIFY2(!Viewer::Text::hasUnprintable(text) && !text.endsWith('.'), qPrintable(text));
+    QVERIFY2(text.size() < 400, qPrintable(text));
     QVERIFY2(text.endsWith("repeat it before the camera is used") == written, qPrintable(text));
     QCOMPARE(recorder.getAll("begin").size(), 1);
     QVERIFY(written || m_script->calls.filter(QRegularExpression("^(write|up|ex|res)")).isEmpty());
@@ -264,6 +267,40 @@ void CDeviceFirmwareUpdateTest::refusesBeforeTheFirstWrite()
             m_script->features.insert("DeviceModelName", "Other");
     };
     verifyFailure("not for its model \"Other\"", false);
+}
+
+void CDeviceFirmwareUpdateTest::showsWhatTheCameraSaysOnOneLine()
+{
+    const QString hostile = QString::fromUtf8("1\x1b[31m\u202Eabc\n");
+    const QString shown = "1?[31m?abc";
+    const QString endless = QString(5000, 'x') + '\n';
+    for (const char *feature : {"DeviceStatus", "DeviceModelName", "DeviceVersion", "Ready"}) {
+        for (const QString &value : {hostile, endless}) {
+            init();
+            auto &entry = m_manifest.updates.first();
+            entry.deviceVersions = QStringList{"R2"};
+            entry.steps[0].preconditions.append(CFeatureValue{"Ready", "1"});
+            m_script->features.insert(feature, value);
+            verifyFailure(value == hostile ? shown : QString(80, 'x'), false);
+        }
+    }
+    for (const QString &value : {hostile, endless}) {
+        init();
+        m_script->versionAfterReset = value;
+        m_manifest.updates.first().steps.removeLast();
+        const auto job = makeJob();
+        const QString version = value == hostile ? shown + '?' : QString(80, 'x') + "...";
+        verifyFailure("firmware version \"" + version + "\" instead", true, job);
+        QCOMPARE(job->getFirmwareVersion(), version);
+    }
+    init();
+    m_script->before = [](const QString &) {
+        throw CCameraError(CameraName, Viewer::Text::CErrorText("a\u202Eb"));
+    };
+    verifyFailure("a?b", false);
+    init();
+    m_script->features.insert("DeviceStatus", "0\n"); // compared as it is
+    verifyFailure("reports status 0?", false);
 }
 
 void CDeviceFirmwareUpdateTest::provesTheVersionWithoutSuchAStep()

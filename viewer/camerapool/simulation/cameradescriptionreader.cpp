@@ -3,14 +3,13 @@
 #include "core/baseexception.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonscanner.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 
-#include <algorithm>
 #include <limits>
 
 // Not inside a namespace: the macro declares a function of the global one. Without this call a
@@ -27,13 +26,6 @@ using Json::CJsonScanner;
 using Text::CErrorText;
 
 namespace {
-
-bool isControlCharacter(QChar character)
-{
-    return character.category() == QChar::Other_Control
-        || character.category() == QChar::Separator_Line
-        || character.category() == QChar::Separator_Paragraph;
-}
 
 /// The members of one object: each at most once, and the required ones at least once.
 class CMembers
@@ -220,7 +212,7 @@ private:
         const auto other = m_idPositions.constFind(id);
         if (other != m_idPositions.constEnd())
             m_scanner.fail(CErrorText::tr("the id \"%1\" is already used in line %2")
-                               .arg(Json::shorten(id), QString::number(m_scanner.getLine(*other))));
+                               .arg(Text::shorten(id), QString::number(m_scanner.getLine(*other))));
         m_idPositions.insert(id, m_scanner.getPosition());
         return id;
     }
@@ -234,7 +226,7 @@ private:
         if (text.size() > MAXIMUM)
             m_scanner.fail(CErrorText::tr("the text has %1 characters; at most %2 are allowed")
                                .arg(QString::number(text.size()), QString::number(MAXIMUM)));
-        if (std::any_of(text.cbegin(), text.cend(), isControlCharacter))
+        if (Text::hasUnprintable(text))
             m_scanner.fail(
                 CErrorText::tr("the text must not contain line breaks or control characters"));
         return text;

@@ -3,7 +3,7 @@
 #include "viewer/camerapool/logging.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonscanner.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QDir>
 #include <QFile>
@@ -31,7 +31,7 @@ static QHash<QString, QString> readVersions(Json::CJsonScanner &scanner)
     while (scanner.nextMember(camera)) {
         const QString version = scanner.readText();
         if (version.isEmpty() || version.size() > MaximumVersionLength
-            || version != version.simplified() || Json::hasUnprintable(version))
+            || version != version.simplified() || Text::hasUnprintable(version))
             scanner.fail(CErrorText::tr("the version is not a text of one line"));
         versions.insert(camera, version);
     }

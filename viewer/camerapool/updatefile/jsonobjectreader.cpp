@@ -1,6 +1,6 @@
 #include "jsonobjectreader.h"
 
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <cmath>
 
@@ -110,7 +110,7 @@ QStringList CJsonObjectReader::readTexts(const QString &name, int minimumSize, i
                      .arg(describeType(list.at(index).type()), describeType(QJsonValue::String)));
         const QString text = checkText(itemName, list.at(index).toString(), rule);
         if (texts.contains(text))
-            fail(itemName, CErrorText::tr("repeats \"%1\"").arg(Json::shorten(text)));
+            fail(itemName, CErrorText::tr("repeats \"%1\"").arg(Text::shorten(text)));
         texts.append(text);
     }
     return texts;
@@ -119,7 +119,7 @@ QStringList CJsonObjectReader::readTexts(const QString &name, int minimumSize, i
 void CJsonObjectReader::fail(const QString &name, const CErrorText &cause) const
 {
     throw CFieldFault{
-        CErrorText::tr("the field \"%1\" %2").arg(Json::shorten(getPath(name)), cause)};
+        CErrorText::tr("the field \"%1\" %2").arg(Text::shorten(getPath(name)), cause)};
 }
 
 QString CJsonObjectReader::getPath(const QString &name) const
@@ -148,7 +148,7 @@ QString CJsonObjectReader::checkText(const QString &name, const QString &text,
         fail(name,
              CErrorText::tr("is longer than %1 characters")
                  .arg(QString::number(rule.maximumLength)));
-    if (Json::hasUnprintable(text, rule.hasSeveralLines))
+    if (Text::hasUnprintable(text, rule.hasSeveralLines))
         fail(name,
              rule.hasSeveralLines ? CErrorText::tr("has a control character")
                                   : CErrorText::tr("has a line break or a control character"));

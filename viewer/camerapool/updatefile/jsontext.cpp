@@ -2,7 +2,7 @@
 
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonscanner.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QJsonArray>
 #include <QMap>
@@ -80,7 +80,7 @@ private:
             if (members.contains(name))
                 throw CRuleFault{
                     CErrorText::tr("has the name \"%1\" twice in one object, again at %2")
-                        .arg(Json::shorten(name), describePlace(m_scanner.getNamePosition()))};
+                        .arg(Text::shorten(name), describePlace(m_scanner.getNamePosition()))};
             members.insert(name, readValue());
         }
         QJsonObject object;

@@ -5,7 +5,7 @@
 #include "jsontext.h"
 #include "updatefilelimits.h"
 #include "viewer/camerapool/firmwareversion.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 namespace Viewer::CameraPool::UpdateFile {
 
@@ -57,7 +57,7 @@ const CStepKind &readKind(const CJsonObjectReader &step)
     }
     step.fail(field,
               CErrorText::tr("is \"%1\"; known kinds are %2")
-                  .arg(Json::shorten(name), knownNames.join(QStringLiteral(", "))));
+                  .arg(Text::shorten(name), knownNames.join(QStringLiteral(", "))));
 }
 
 CFeatureValue readFeatureValue(const CJsonObjectReader &object)
@@ -215,7 +215,7 @@ QString readVersion(const CJsonObjectReader &update, const QString &field)
     if (!CFirmwareVersion::parse(version))
         update.fail(field,
                     CErrorText::tr("is \"%1\", which is not a version like 2.0.0 or 2.0.0-rc1")
-                        .arg(Json::shorten(version)));
+                        .arg(Text::shorten(version)));
     return version;
 }
 
