@@ -1,6 +1,7 @@
 #include "viewer/appcore/imageview.h"
 #include "viewer/appcore/logfolder.h"
 #include "viewer/appcore/mainwindow.h"
+#include "viewer/appcore/textdialog.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
@@ -10,8 +11,10 @@
 #include "camerapool/idevicefirmwareupdateservice.h"
 
 #include <QAction>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -38,6 +41,7 @@ private slots:
     void runningUpdateKeepsTheWindowOpen_data();
     void runningUpdateKeepsTheWindowOpen();
     void closingEndsTheApplication();
+    void opensItsOwnFoldersAndLogs();
     void tellsWhyNoLogsAreKept();
 
 private:
@@ -184,6 +188,34 @@ void CViewerTest::runningUpdateKeepsTheWindowOpen()
     // Nobody has to ask once more.
     QTRY_VERIFY(!m_window->isVisible());
     QVERIFY(!m_pool->isUpdateRunning());
+}
+
+void CViewerTest::opensItsOwnFoldersAndLogs()
+{
+    const QTemporaryDir folder;
+    const QString stateHome = QFileInfo(folder.path()).canonicalFilePath();
+    qputenv("XDG_STATE_HOME", stateHome.toUtf8());
+    qputenv("PATH", "/nowhere"); // no program of a desktop: everything is shown by the viewer
+    CLogFolder logs;
+    QVERIFY(logs.open());
+    QFile log(QDir::tempPath() + "/a.log");
+    QVERIFY(log.open(QIODevice::WriteOnly) && log.write("lines") == 5);
+    log.close();
+    CCommandLineOptions options;
+    options.samplesDirectory = stateHome;
+    m_viewer.reset();
+    const CViewer viewer(options, "en", &logs);
+    for (const QString &path : {stateHome, logs.getRoot(), log.fileName()}) {
+        QVERIFY(QDesktopServices::openUrl(QUrl::fromLocalFile(path)));
+        std::unique_ptr<CTextDialog> shown;
+        for (QWidget *const widget : QApplication::topLevelWidgets()) {
+            if (auto *const dialog = qobject_cast<CTextDialog *>(widget))
+                shown.reset(dialog);
+        }
+        QVERIFY(shown);
+        QCOMPARE(shown->getText(), path == log.fileName() ? "lines" : path);
+        QVERIFY(!shown->findChild<QLabel *>()->isVisible());
+    }
 }
 
 void CViewerTest::tellsWhyNoLogsAreKept()
