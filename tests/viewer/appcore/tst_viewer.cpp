@@ -4,6 +4,7 @@
 #include "viewer/appcore/textdialog.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
+#include "viewer/camerapool/simulation/simulation.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 
@@ -36,6 +37,7 @@ class CViewerTest : public QObject
 private slots:
     void initTestCase();
     void init();
+    void readsItsCommandLine();
     void acquiresAndRecords();
     void wizardLocksStartsAndClosing();
     void runningUpdateKeepsTheWindowOpen_data();
@@ -102,6 +104,39 @@ QString CViewerTest::enabledButtons() const
     for (const EButton place : {Start, Stop, Record, StopRecording})
         enabled += buttons.at(place)->isEnabled() ? QString::number(place) : QString();
     return enabled;
+}
+
+void CViewerTest::readsItsCommandLine()
+{
+    using Viewer::CameraPool::CCameraPool;
+    CCommandLineOptions options;
+    const auto read = [&options](const QString &arguments) {
+        CCommandLine commandLine;
+        const QStringList list = QString("nuvexviewer " + arguments).split(' ');
+        if (commandLine.parse(list) != CCommandLine::EResult::Start)
+            return commandLine.getMessage();
+        options = commandLine.getOptions();
+        QStringList found(options.pool.simulates ? "simulation" : "no simulation");
+        if (options.pool.searchesNetwork)
+            found.append("network");
+        for (const QHostAddress &address : qAsConst(options.pool.cameraAddresses))
+            found.append(address.toString());
+        return found.join(", ");
+    };
+    if (!CCameraPool::canSearchNetwork())
+        QSKIP("This viewer has no real cameras.");
+    QCOMPARE(read("--speed 2"), "simulation");
+    QCOMPARE(read("--camera-address 10.0.0.1 --camera-address=127.0.0.2"),
+             "simulation, 10.0.0.1, 127.0.0.2");
+    for (const QString address : {"255.255.255.255", "239.1.2.3", "0.0.0.0", "1.2.3", "::1", "x"})
+        QVERIFY(read("--camera-address 10.0.0.1 --camera-address " + address)
+                    .contains('"' + address + '"'));
+    QCOMPARE(read("--no-simulation --network"), "no simulation, network");
+    // Not started, so nothing is searched for.
+    const CViewer viewer(options, "en");
+    QVERIFY(viewer.getCameraPool().searchesNetwork());
+    QVERIFY(viewer.getCameraPool().getSimulation().getCameras().isEmpty());
+    QVERIFY(!m_pool->searchesNetwork());
 }
 
 void CViewerTest::acquiresAndRecords()

@@ -7,6 +7,7 @@
 #include "viewer/camerapool/cameraerror.h"
 #include "viewer/camerapool/firmwareupdateinfo.h"
 #include "viewer/camerapool/icameradevice.h"
+#include "viewer/camerapool/progressthrottle.h"
 #include "viewer/camerapool/updateestimate.h"
 #include "viewer/camerapool/updatefile/updatefilereader.h"
 #include "viewer/text/visibletext.h"
@@ -27,7 +28,8 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 using UpdateFile::CFeatureValue;
 
-static const QString CameraName = "Scripted camera";
+// Two blanks, of which messages show one.
+static const QString CameraName = "Scripted  camera";
 
 /// What a CScriptedDevice does and what was done to it; outlives the device, which a job owns.
 struct CDeviceScript
@@ -123,6 +125,7 @@ private slots:
     void provesTheVersionWithoutSuchAStep();
     void touchesNeitherTwiceNorWhatIsInUse();
     void estimatesStayInTheirLimits();
+    void passesProgressOnNowAndThen();
 
 private:
     [[nodiscard]] QSharedPointer<CDeviceFirmwareUpdate> makeJob() const;
@@ -167,7 +170,8 @@ void CDeviceFirmwareUpdateTest::verifyFailure(const QString &cause, bool written
     const CJobRecorder recorder(*job);
     executeOnThread(*job);
     const QString text = recorder.getError();
-    QVERIFY2(text.startsWith("Camera Scripted camera: "), qPrintable(text));
+    QVERIFY2(text.startsWith("Camera Scripted camera: ") && text.count("Camera") == 1,
+             qPrintable(text));
     QVERIFY2(text.contains(cause), qPrintable(text));
     QVERIFY2(!Viewer::Text::hasUnprintable(text) && !text.endsWith('.'), qPrintable(text));
     QVERIFY2(text.size() < 400, qPrintable(text));
@@ -190,7 +194,9 @@ void CDeviceFirmwareUpdateTest::announcesWhatItDoes()
                      "step FileUpload 1000, stepDone FileUpload 1000, step FeatureExecute 8, "
                      "stepDone FeatureExecute 8, step DeviceReset 16, stepDone DeviceReset 16, "
                      "step FeatureAssert 32, stepDone FeatureAssert 32, done"));
-    QCOMPARE(recorder.getAll("progress").constLast(), QString("FileUpload 100"));
+    const QStringList progress = recorder.getAll("progress");
+    QCOMPARE(progress.constLast(), QString("FileUpload 100"));
+    QVERIFY2(progress.size() < 50, "of each of the 100 blocks");
     QCOMPARE(m_script->calls.filter(QRegularExpression("^(?!read)")).join(", "),
              QString("open, write FirmwareUpdateMode=On, upload FirmwareImage 1000, "
                      "execute FirmwareActivate, reset"));
@@ -352,6 +358,24 @@ void CDeviceFirmwareUpdateTest::estimatesStayInTheirLimits()
     entry.steps = {step, step};
     QCOMPARE(estimateEntry(entry, 1).count(), longest.count());
     QVERIFY(getTimeLimit(longest) > longest && getTimeLimit(1ms) >= 30s);
+}
+
+void CDeviceFirmwareUpdateTest::passesProgressOnNowAndThen()
+{
+    const CProgressThrottle::Clock::time_point start;
+    CProgressThrottle throttle(start);
+    QStringList passed;
+    const auto report = [&](int time, double percent) {
+        if (throttle.passes(percent, start + milliseconds(time)))
+            passed.append(QString::number(percent));
+    };
+    for (int time = 0; time <= 500; time += 20) // a percent each
+        report(time, time / 20.0);
+    report(900, 25.9); // the same percent
+    report(901, 26);
+    report(950, 100);
+    report(2000, 100);
+    QCOMPARE(passed.join(' '), QString("5 10 15 20 25 26 100"));
 }
 
 QTEST_GUILESS_MAIN(CDeviceFirmwareUpdateTest)
