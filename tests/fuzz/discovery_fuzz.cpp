@@ -14,7 +14,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     Fuzz::require(size == 256 && camera->address == "127.0.0.1");
     for (const QString &text :
          {camera->vendor, camera->model, camera->version, camera->serialNumber, camera->userName})
-        Fuzz::require(text.size() <= 32 && !Viewer::Json::hasUnprintable(text));
+        Fuzz::require(text.size() <= 32 && !Viewer::Text::hasUnprintable(text));
     Fuzz::require(Fuzz::isReadable(camera->getFullName()) && Fuzz::isReadable(camera->getId()));
     return 0;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QByteArray>
 #include <QString>
@@ -27,7 +27,7 @@ inline void require(bool condition)
 /// Whether a user can read @p message: one line that says something and is not endless.
 inline bool isReadable(const QString &message)
 {
-    return !message.isEmpty() && message.size() < 1000 && !Viewer::Json::hasUnprintable(message);
+    return !message.isEmpty() && message.size() < 1000 && !Viewer::Text::hasUnprintable(message);
 }
 
 } // namespace Fuzz

@@ -1,6 +1,6 @@
 #include "logsummary.h"
 
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QRegularExpression>
 #include <QVector>
@@ -78,7 +78,7 @@ void CLogFollower::addCamera(const QRegularExpressionMatch &match)
     // A series ends with the first camera that fails.
     series.updated = number - 1;
     if (begins) {
-        const QString name = Json::toSingleLine(match.captured(5).left(MaximumNameLength));
+        const QString name = Text::toSingleLine(match.captured(5).left(MaximumNameLength));
         if (!m_cameraNames.contains(name))
             m_cameraNames.append(name);
     } else if (match.capturedLength(4) == 0) {

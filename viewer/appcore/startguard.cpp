@@ -1,6 +1,6 @@
 #include "startguard.h"
 
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -50,7 +50,7 @@ void holdMessage(QtMsgType type, const QMessageLogContext &context, const QStrin
     std::fprintf(stderr,
                  "nuvexviewer: The window system cannot be used (%s). Check DISPLAY, "
                  "WAYLAND_DISPLAY, QT_QPA_PLATFORM and the arguments -platform and -display.\n",
-                 qUtf8Printable(Json::toSingleLine(held.reason.trimmed())));
+                 qUtf8Printable(Text::toSingleLine(held.reason.trimmed())));
     // Without destructors: Qt is in the middle of making what they would take down.
     std::_Exit(held.exitCode);
 }
@@ -98,7 +98,7 @@ QString CStartGuard::findFault(int argc, char **argv)
         // Qt reads it whole: a device would never end.
         if (!file.isFile() || file.size() > MaximumStyleSheetSize)
             return QStringLiteral("The style sheet \"%1\" is not a file of at most %2 bytes.")
-                .arg(Json::toSingleLine(QDir::toNativeSeparators(path)))
+                .arg(Text::toSingleLine(QDir::toNativeSeparators(path)))
                 .arg(MaximumStyleSheetSize);
     }
     return {};

@@ -82,8 +82,12 @@ CViewer::CViewer(const CCommandLineOptions &options, const QString &language,
     , m_initializer(std::make_unique<PluginSystem::CPluginInitializer>())
     , m_pluginManager(std::make_unique<PluginSystem::CPluginManager>(m_initializer.get()))
 {
-    if (m_logs)
+    if (m_logs) {
         m_linkOpener->setEnvironment(m_logs->getOutsideEnvironment());
+        m_linkOpener->setLogFolder(m_logs->getRoot());
+        m_linkOpener->addFolder(m_logs->getRoot());
+    }
+    m_linkOpener->addFolder(options.samplesDirectory);
     createWindow();
     fillMenus();
     registerServices();

@@ -9,6 +9,8 @@
 #include "logging.h"
 #include "updateestimate.h"
 
+#include "viewer/text/visibletext.h"
+
 namespace Viewer::CameraPool {
 
 using Plugin::CameraPool::EFirmwareUpdateDirection;
@@ -102,7 +104,7 @@ CErrorText CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
     m_device->close();
     if (!run.getReportedVersion().isEmpty()) {
         const std::lock_guard lock(m_versionMutex);
-        m_firmwareVersion = run.getReportedVersion();
+        m_firmwareVersion = Text::shorten(run.getReportedVersion());
     }
     return error;
 }
@@ -160,7 +162,7 @@ CErrorText CDeviceFirmwareUpdate::getErrorText(const CErrorText &message, bool w
     CErrorText text = message.toClause();
     if (text.isEmpty())
         text = CErrorText::tr("the update failed for an unknown reason");
-    const QString prefix = CCameraError(m_camera.name, {}).getMessage().simplified();
+    const QString prefix = CCameraError(m_camera.name, {}).getText().toClause().getEnglish();
     if (!text.getEnglish().startsWith(prefix))
         text = CCameraError(m_camera.name, text).getText().toClause();
     return written

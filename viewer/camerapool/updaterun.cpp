@@ -8,6 +8,8 @@
 #include "updatefile/updatearchive.h"
 #include "updatefile/updatefileerror.h"
 
+#include "viewer/text/visibletext.h"
+
 #include "core/baseexception.h"
 
 #include <QIODevice>
@@ -100,18 +102,20 @@ void CUpdateRun::checkPreconditions(const CUpdateStep *step)
 {
     const QString status = readFeature(QStringLiteral("DeviceStatus"));
     if (status != QLatin1String("0"))
-        fail(CErrorText::tr("it cannot be updated now, since it reports status %1").arg(status));
+        fail(CErrorText::tr("it cannot be updated now, since it reports status %1")
+                 .arg(Text::shorten(status)));
     const QString model = readFeature(QStringLiteral("DeviceModelName"));
     if (!m_entry.models.contains(model))
-        fail(CErrorText::tr("the update is not for its model \"%1\"").arg(model));
+        fail(CErrorText::tr("the update is not for its model \"%1\"").arg(Text::shorten(model)));
     const QString deviceVersion = readFeature(QStringLiteral("DeviceVersion"));
     if (!m_entry.deviceVersions.isEmpty() && !m_entry.deviceVersions.contains(deviceVersion))
-        fail(CErrorText::tr("the update is not for its device version \"%1\"").arg(deviceVersion));
+        fail(CErrorText::tr("the update is not for its device version \"%1\"")
+                 .arg(Text::shorten(deviceVersion)));
     const QString version = readFirmwareVersion();
     if (isBelow(version, m_entry.minimumVersion))
         fail(CErrorText::tr("the update needs firmware version %1 or later, but the camera has "
                             "\"%2\"; install an older update first")
-                 .arg(m_entry.minimumVersion, version));
+                 .arg(m_entry.minimumVersion, Text::shorten(version)));
     if (!step)
         return;
     for (const CFeatureValue &precondition : step->preconditions) {
@@ -119,7 +123,8 @@ void CUpdateRun::checkPreconditions(const CUpdateStep *step)
         if (value != precondition.value)
             fail(CErrorText::tr("a precondition of the update is not met: its feature \"%1\" is "
                                 "\"%2\" instead of \"%3\"")
-                     .arg(precondition.feature, value, precondition.value));
+                     .arg(precondition.feature, Text::shorten(value),
+                          Text::shorten(precondition.value)));
     }
 }
 
@@ -165,7 +170,7 @@ void CUpdateRun::assertFeature(const CFeatureValue &expected)
         : readFeature(expected.feature);
     if (value != expected.value)
         fail(CErrorText::tr("its feature \"%1\" is \"%2\" instead of \"%3\"")
-                 .arg(expected.feature, value, expected.value));
+                 .arg(expected.feature, Text::shorten(value), Text::shorten(expected.value)));
 }
 
 void CUpdateRun::upload(const CUpdateStep &step)
@@ -197,7 +202,7 @@ void CUpdateRun::checkVersion()
     const QString version = readFirmwareVersion();
     if (!isSameVersion(version, m_entry.version))
         fail(CErrorText::tr("after the update it reports firmware version \"%1\" instead of %2")
-                 .arg(version, m_entry.version));
+                 .arg(Text::shorten(version), m_entry.version));
 }
 
 QString CUpdateRun::readFirmwareVersion()

@@ -6,7 +6,7 @@
 #include "viewer/camerapool/updatefile/updatefileerror.h"
 #include "viewer/camerapool/updatefile/updatefilelimits.h"
 #include "viewer/camerapool/updatefile/updatefilereader.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QDir>
 #include <QFile>
@@ -147,9 +147,9 @@ void CUpdateFilePacker::checkPayloads(const QStringList &names) const
         const QFileInfo info(QDir(m_folder).filePath(name));
         if (!info.isFile())
             fail(CErrorText::tr("the payload \"%1\" is missing in the folder")
-                     .arg(Json::shorten(name)));
+                     .arg(Text::shorten(name)));
         if (info.size() == 0)
-            fail(CErrorText::tr("the payload \"%1\" is empty").arg(Json::shorten(name)));
+            fail(CErrorText::tr("the payload \"%1\" is empty").arg(Text::shorten(name)));
         totalSize += info.size();
     }
     // The manifest and the payloads are all that the archive will hold.
@@ -206,12 +206,12 @@ QJsonObject CUpdateFilePacker::completeStep(QJsonObject step) const
         return step;
     CSha256 hash;
     if (!payload.open(QIODevice::ReadOnly) || !addFileTo(hash, payload))
-        fail(CErrorText::tr("the payload \"%1\" cannot be read").arg(Json::shorten(name)));
+        fail(CErrorText::tr("the payload \"%1\" cannot be read").arg(Text::shorten(name)));
     const QByteArray digest = hash.takeResult();
     if (digest.isEmpty())
         fail(CErrorText::tr("the SHA-256 of the payload \"%1\" cannot be computed; check the "
                             "settings of OpenSSL on this computer")
-                 .arg(Json::shorten(name)));
+                 .arg(Text::shorten(name)));
     step.insert(digestField, QString::fromLatin1(digest.toHex()));
     return step;
 }

@@ -1,7 +1,7 @@
 #include "jsonscanner.h"
 
 #include "jsonfault.h"
-#include "messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QRegularExpression>
 #include <QTextCodec>
@@ -62,7 +62,7 @@ bool CJsonScanner::nextMember(QString &name)
     if (!isAt(':'))
         failAt(m_offset,
                CErrorText::tr("expected a colon after \"%1\", found %2")
-                   .arg(toSingleLine(name.left(NAME_LENGTH)), getFound()));
+                   .arg(Text::toSingleLine(name.left(NAME_LENGTH)), getFound()));
     ++m_offset;
     skipSpace();
     m_levels.last().name = name;
@@ -99,7 +99,7 @@ QString CJsonScanner::readText(const CTextRule &rule)
     if (text.size() > rule.maximumLength)
         fail(CErrorText::tr("the text has %1 characters; at most %2 are allowed")
                  .arg(QString::number(text.size()), QString::number(rule.maximumLength)));
-    if (hasUnprintable(text, rule.hasSeveralLines))
+    if (Text::hasUnprintable(text, rule.hasSeveralLines))
         fail(rule.hasSeveralLines
                  ? CErrorText::tr("the text must not contain control characters")
                  : CErrorText::tr("the text must not contain line breaks or control characters"));
@@ -386,7 +386,7 @@ QString CJsonScanner::getField(const QString &member) const
     const auto append = [&field](const QString &name) {
         if (!field.isEmpty())
             field += QLatin1Char('.');
-        field += toSingleLine(name.left(NAME_LENGTH));
+        field += Text::toSingleLine(name.left(NAME_LENGTH));
     };
     for (const CLevel &level : m_levels) {
         if (level.isArray) {

@@ -1,12 +1,14 @@
 #include "errortext.h"
 
+#include "visibletext.h"
+
 #include <QCoreApplication>
 
 namespace Viewer::Text {
 
-static QString toClauseText(const QString &text)
+static QString withoutFullStops(const QString &text)
 {
-    QString clause = text.simplified();
+    QString clause = toSingleLine(text.simplified());
     while (clause.endsWith(QLatin1Char('.')) || clause.endsWith(QChar(0x3002)))
         clause.chop(1);
     return clause;
@@ -31,7 +33,7 @@ CErrorText CErrorText::tr(const char *source)
 
 CErrorText CErrorText::toClause() const
 {
-    return {toClauseText(m_english), toClauseText(m_localized)};
+    return {withoutFullStops(m_english), withoutFullStops(m_localized)};
 }
 
 bool CErrorText::isEmpty() const

@@ -214,6 +214,10 @@
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
         <translation>このデスクトップには Web ページを開くプログラムがありません。別の場所で開くには、アドレスをコピーしてください。</translation>
     </message>
+    <message>
+        <source>The viewer opens only web pages, mail addresses and its own logs. This link leads somewhere else, so it was not opened.</source>
+        <translation>ビューアーが開くのは Web ページ、メールアドレス、自身のログだけです。このリンクは別の場所を指しているため、開きませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLogFolder</name>

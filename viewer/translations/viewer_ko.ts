@@ -214,6 +214,10 @@
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
         <translation>이 데스크톱에는 웹 페이지를 여는 프로그램이 없습니다. 다른 곳에서 열려면 주소를 복사하십시오.</translation>
     </message>
+    <message>
+        <source>The viewer opens only web pages, mail addresses and its own logs. This link leads somewhere else, so it was not opened.</source>
+        <translation>뷰어는 웹 페이지, 메일 주소, 자체 로그만 엽니다. 이 링크는 다른 곳으로 연결되므로 열지 않았습니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLogFolder</name>

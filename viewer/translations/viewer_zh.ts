@@ -214,6 +214,10 @@
         <source>This desktop has no program for web pages. Copy the address to open it elsewhere.</source>
         <translation>此桌面环境没有可打开网页的程序。请复制该地址，然后在其他地方打开。</translation>
     </message>
+    <message>
+        <source>The viewer opens only web pages, mail addresses and its own logs. This link leads somewhere else, so it was not opened.</source>
+        <translation>查看器只打开网页、邮件地址和自身的日志。此链接指向别处，因此未打开。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CLogFolder</name>

@@ -1,8 +1,10 @@
 #include "viewer/appcore/imageview.h"
 #include "viewer/appcore/logfolder.h"
 #include "viewer/appcore/mainwindow.h"
+#include "viewer/appcore/textdialog.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
+#include "viewer/camerapool/simulation/simulation.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 
@@ -10,8 +12,10 @@
 #include "camerapool/idevicefirmwareupdateservice.h"
 
 #include <QAction>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QFileDialog>
+#include <QLabel>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -33,11 +37,13 @@ class CViewerTest : public QObject
 private slots:
     void initTestCase();
     void init();
+    void readsItsCommandLine();
     void acquiresAndRecords();
     void wizardLocksStartsAndClosing();
     void runningUpdateKeepsTheWindowOpen_data();
     void runningUpdateKeepsTheWindowOpen();
     void closingEndsTheApplication();
+    void opensItsOwnFoldersAndLogs();
     void tellsWhyNoLogsAreKept();
 
 private:
@@ -98,6 +104,39 @@ QString CViewerTest::enabledButtons() const
     for (const EButton place : {Start, Stop, Record, StopRecording})
         enabled += buttons.at(place)->isEnabled() ? QString::number(place) : QString();
     return enabled;
+}
+
+void CViewerTest::readsItsCommandLine()
+{
+    using Viewer::CameraPool::CCameraPool;
+    CCommandLineOptions options;
+    const auto read = [&options](const QString &arguments) {
+        CCommandLine commandLine;
+        const QStringList list = QString("nuvexviewer " + arguments).split(' ');
+        if (commandLine.parse(list) != CCommandLine::EResult::Start)
+            return commandLine.getMessage();
+        options = commandLine.getOptions();
+        QStringList found(options.pool.simulates ? "simulation" : "no simulation");
+        if (options.pool.searchesNetwork)
+            found.append("network");
+        for (const QHostAddress &address : qAsConst(options.pool.cameraAddresses))
+            found.append(address.toString());
+        return found.join(", ");
+    };
+    if (!CCameraPool::canSearchNetwork())
+        QSKIP("This viewer has no real cameras.");
+    QCOMPARE(read("--speed 2"), "simulation");
+    QCOMPARE(read("--camera-address 10.0.0.1 --camera-address=127.0.0.2"),
+             "simulation, 10.0.0.1, 127.0.0.2");
+    for (const QString address : {"255.255.255.255", "239.1.2.3", "0.0.0.0", "1.2.3", "::1", "x"})
+        QVERIFY(read("--camera-address 10.0.0.1 --camera-address " + address)
+                    .contains('"' + address + '"'));
+    QCOMPARE(read("--no-simulation --network"), "no simulation, network");
+    // Not started, so nothing is searched for.
+    const CViewer viewer(options, "en");
+    QVERIFY(viewer.getCameraPool().searchesNetwork());
+    QVERIFY(viewer.getCameraPool().getSimulation().getCameras().isEmpty());
+    QVERIFY(!m_pool->searchesNetwork());
 }
 
 void CViewerTest::acquiresAndRecords()
@@ -184,6 +223,34 @@ void CViewerTest::runningUpdateKeepsTheWindowOpen()
     // Nobody has to ask once more.
     QTRY_VERIFY(!m_window->isVisible());
     QVERIFY(!m_pool->isUpdateRunning());
+}
+
+void CViewerTest::opensItsOwnFoldersAndLogs()
+{
+    const QTemporaryDir folder;
+    const QString stateHome = QFileInfo(folder.path()).canonicalFilePath();
+    qputenv("XDG_STATE_HOME", stateHome.toUtf8());
+    qputenv("PATH", "/nowhere"); // no program of a desktop: everything is shown by the viewer
+    CLogFolder logs;
+    QVERIFY(logs.open());
+    QFile log(QDir::tempPath() + "/a.log");
+    QVERIFY(log.open(QIODevice::WriteOnly) && log.write("lines") == 5);
+    log.close();
+    CCommandLineOptions options;
+    options.samplesDirectory = stateHome;
+    m_viewer.reset();
+    const CViewer viewer(options, "en", &logs);
+    for (const QString &path : {stateHome, logs.getRoot(), log.fileName()}) {
+        QVERIFY(QDesktopServices::openUrl(QUrl::fromLocalFile(path)));
+        std::unique_ptr<CTextDialog> shown;
+        for (QWidget *const widget : QApplication::topLevelWidgets()) {
+            if (auto *const dialog = qobject_cast<CTextDialog *>(widget))
+                shown.reset(dialog);
+        }
+        QVERIFY(shown);
+        QCOMPARE(shown->getText(), path == log.fileName() ? "lines" : path);
+        QVERIFY(!shown->findChild<QLabel *>()->isVisible());
+    }
 }
 
 void CViewerTest::tellsWhyNoLogsAreKept()

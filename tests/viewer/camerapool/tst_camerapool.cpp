@@ -11,16 +11,22 @@
 #include "camerapool/icamerastreamcontrolservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
 
+#include <QDir>
+#include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <thread>
 
 using namespace Viewer::CameraPool;
 using namespace Test;
 using namespace Plugin::CameraPool;
 using Simulation::CSimulation;
+
+class CCameraPoolTest;
+Q_DECLARE_METATYPE(std::function<void(CCameraPoolTest &)>)
 
 static const QString FirstId = "gige-40012345";
 static const QString SecondId = "gige-40012346";
@@ -36,6 +42,8 @@ private slots:
         createPool();
     }
     void startsAndStopsCameras();
+    void whatIsStoppedMakesNoPictures_data();
+    void whatIsStoppedMakesNoPictures();
     void updateIsAnnouncedOnceAtItsEnd();
     void unpluggingEndsAnUpdate();
     void jobOutlivesThePool();
@@ -123,6 +131,51 @@ void CCameraPoolTest::startsAndStopsCameras()
         QVERIFY(!status->isCameraBusy(find(id)));
 }
 
+void CCameraPoolTest::whatIsStoppedMakesNoPictures_data()
+{
+    using Stop = std::function<void(CCameraPoolTest &)>;
+    QTest::addColumn<Stop>("stop");
+    QTest::addColumn<bool>("acquires"); // afterwards
+    const auto add = [](const char *name, bool acquires, const Stop &stop) {
+        QTest::newRow(name) << stop << acquires;
+    };
+    add("recording stopped", true, [](auto &test) { test.m_pool->stopRecording(FirstId); });
+    add("acquisition stopped", false, [](auto &test) { test.m_pool->stopAcquisition(FirstId); });
+    add("unplugged", false, [](auto &test) {
+        test.m_pool->getSimulation().unplug(FirstId);
+        QTRY_COMPARE(test.m_announced->count(), 2);
+    });
+    add("before an update", false, [](auto &test) {
+        test.template getService<ICameraStreamControlService>()->stopAllCameras();
+        const auto job = test.createJob(FirstId, 20'000);
+        const CJobRecorder recorder(*job);
+        executeOnThread(*job);
+        QCOMPARE(recorder.getAll("done").size(), 1);
+    });
+}
+
+void CCameraPoolTest::whatIsStoppedMakesNoPictures()
+{
+    QFETCH(std::function<void(CCameraPoolTest &)>, stop);
+    QFETCH(bool, acquires);
+    const QTemporaryDir folder;
+    const auto countFiles = [&folder] { return QDir(folder.path()).entryList(QDir::Files).size(); };
+    QVERIFY(m_pool->startRecording(FirstId, folder.path()));
+    QTRY_VERIFY(countFiles() > 0);
+    QHash<QString, int> frames; // by camera
+    connect(m_pool.get(), &CCameraPool::frameReady, this,
+            [&frames](const QString &cameraId) { ++frames[cameraId]; });
+    stop(*this);
+    const int fileCount = countFiles();
+    frames.clear();
+    // Another camera shows that time goes by.
+    QVERIFY(m_pool->startAcquisition(SecondId));
+    QTRY_VERIFY(frames.value(SecondId) >= 3);
+    m_pool->disconnect(this);
+    QCOMPARE(frames.contains(FirstId), acquires);
+    QCOMPARE(countFiles(), fileCount);
+}
+
 void CCameraPoolTest::updateIsAnnouncedOnceAtItsEnd()
 {
     createPool(20.0);
@@ -160,9 +213,12 @@ void CCameraPoolTest::unpluggingEndsAnUpdate()
     const auto job = createJob(FirstId, 3'000'000);
     const CJobRecorder recorder(*job);
     std::thread thread([&job] { job->executeFirmwareUpdate(); });
-    (void)QTest::qWaitFor([&] { return !recorder.getAll("step FileUpload").isEmpty(); }, 30'000);
+    // Told long before the end of the upload.
+    const bool progressed
+        = QTest::qWaitFor([&] { return !recorder.getAll("progress").isEmpty(); }, 20'000);
     m_pool->getSimulation().unplug(FirstId);
     thread.join();
+    QVERIFY(progressed);
     QVERIFY2(recorder.getError().contains("connection was lost"), qPrintable(recorder.getError()));
     QTRY_VERIFY(!find(FirstId));
 }

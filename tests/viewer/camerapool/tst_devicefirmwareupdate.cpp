@@ -7,8 +7,10 @@
 #include "viewer/camerapool/cameraerror.h"
 #include "viewer/camerapool/firmwareupdateinfo.h"
 #include "viewer/camerapool/icameradevice.h"
+#include "viewer/camerapool/progressthrottle.h"
 #include "viewer/camerapool/updateestimate.h"
 #include "viewer/camerapool/updatefile/updatefilereader.h"
+#include "viewer/text/visibletext.h"
 
 #include <QFile>
 #include <QIODevice>
@@ -26,7 +28,8 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 using UpdateFile::CFeatureValue;
 
-static const QString CameraName = "Scripted camera";
+// Two blanks, of which messages show one.
+static const QString CameraName = "Scripted  camera";
 
 /// What a CScriptedDevice does and what was done to it; outlives the device, which a job owns.
 struct CDeviceScript
@@ -118,9 +121,11 @@ private slots:
     void everyFailingOperationGivesOneError();
     void everyExceptionBecomesAnError();
     void refusesBeforeTheFirstWrite();
+    void showsWhatTheCameraSaysOnOneLine();
     void provesTheVersionWithoutSuchAStep();
     void touchesNeitherTwiceNorWhatIsInUse();
     void estimatesStayInTheirLimits();
+    void passesProgressOnNowAndThen();
 
 private:
     [[nodiscard]] QSharedPointer<CDeviceFirmwareUpdate> makeJob() const;
@@ -165,9 +170,11 @@ void CDeviceFirmwareUpdateTest::verifyFailure(const QString &cause, bool written
     const CJobRecorder recorder(*job);
     executeOnThread(*job);
     const QString text = recorder.getError();
-    QVERIFY2(text.startsWith("Camera Scripted camera: "), qPrintable(text));
+    QVERIFY2(text.startsWith("Camera Scripted camera: ") && text.count("Camera") == 1,
+             qPrintable(text));
     QVERIFY2(text.contains(cause), qPrintable(text));
-    QVERIFY2(!text.contains('\n') && !text.endsWith('.'), qPrintable(text));
+    QVERIFY2(!Viewer::Text::hasUnprintable(text) && !text.endsWith('.'), qPrintable(text));
+    QVERIFY2(text.size() < 400, qPrintable(text));
     QVERIFY2(text.endsWith("repeat it before the camera is used") == written, qPrintable(text));
     QCOMPARE(recorder.getAll("begin").size(), 1);
     QVERIFY(written || m_script->calls.filter(QRegularExpression("^(write|up|ex|res)")).isEmpty());
@@ -187,7 +194,9 @@ void CDeviceFirmwareUpdateTest::announcesWhatItDoes()
                      "step FileUpload 1000, stepDone FileUpload 1000, step FeatureExecute 8, "
                      "stepDone FeatureExecute 8, step DeviceReset 16, stepDone DeviceReset 16, "
                      "step FeatureAssert 32, stepDone FeatureAssert 32, done"));
-    QCOMPARE(recorder.getAll("progress").constLast(), QString("FileUpload 100"));
+    const QStringList progress = recorder.getAll("progress");
+    QCOMPARE(progress.constLast(), QString("FileUpload 100"));
+    QVERIFY2(progress.size() < 50, "of each of the 100 blocks");
     QCOMPARE(m_script->calls.filter(QRegularExpression("^(?!read)")).join(", "),
              QString("open, write FirmwareUpdateMode=On, upload FirmwareImage 1000, "
                      "execute FirmwareActivate, reset"));
@@ -266,6 +275,40 @@ void CDeviceFirmwareUpdateTest::refusesBeforeTheFirstWrite()
     verifyFailure("not for its model \"Other\"", false);
 }
 
+void CDeviceFirmwareUpdateTest::showsWhatTheCameraSaysOnOneLine()
+{
+    const QString hostile = QString::fromUtf8("1\x1b[31m\u202Eabc\n");
+    const QString shown = "1?[31m?abc";
+    const QString endless = QString(5000, 'x') + '\n';
+    for (const char *feature : {"DeviceStatus", "DeviceModelName", "DeviceVersion", "Ready"}) {
+        for (const QString &value : {hostile, endless}) {
+            init();
+            auto &entry = m_manifest.updates.first();
+            entry.deviceVersions = QStringList{"R2"};
+            entry.steps[0].preconditions.append(CFeatureValue{"Ready", "1"});
+            m_script->features.insert(feature, value);
+            verifyFailure(value == hostile ? shown : QString(80, 'x'), false);
+        }
+    }
+    for (const QString &value : {hostile, endless}) {
+        init();
+        m_script->versionAfterReset = value;
+        m_manifest.updates.first().steps.removeLast();
+        const auto job = makeJob();
+        const QString version = value == hostile ? shown + '?' : QString(80, 'x') + "...";
+        verifyFailure("firmware version \"" + version + "\" instead", true, job);
+        QCOMPARE(job->getFirmwareVersion(), version);
+    }
+    init();
+    m_script->before = [](const QString &) {
+        throw CCameraError(CameraName, Viewer::Text::CErrorText("a\u202Eb"));
+    };
+    verifyFailure("a?b", false);
+    init();
+    m_script->features.insert("DeviceStatus", "0\n"); // compared as it is
+    verifyFailure("reports status 0?", false);
+}
+
 void CDeviceFirmwareUpdateTest::provesTheVersionWithoutSuchAStep()
 {
     m_manifest.updates.first().steps.removeLast(); // no assertion
@@ -315,6 +358,24 @@ void CDeviceFirmwareUpdateTest::estimatesStayInTheirLimits()
     entry.steps = {step, step};
     QCOMPARE(estimateEntry(entry, 1).count(), longest.count());
     QVERIFY(getTimeLimit(longest) > longest && getTimeLimit(1ms) >= 30s);
+}
+
+void CDeviceFirmwareUpdateTest::passesProgressOnNowAndThen()
+{
+    const CProgressThrottle::Clock::time_point start;
+    CProgressThrottle throttle(start);
+    QStringList passed;
+    const auto report = [&](int time, double percent) {
+        if (throttle.passes(percent, start + milliseconds(time)))
+            passed.append(QString::number(percent));
+    };
+    for (int time = 0; time <= 500; time += 20) // a percent each
+        report(time, time / 20.0);
+    report(900, 25.9); // the same percent
+    report(901, 26);
+    report(950, 100);
+    report(2000, 100);
+    QCOMPARE(passed.join(' '), QString("5 10 15 20 25 26 100"));
 }
 
 QTEST_GUILESS_MAIN(CDeviceFirmwareUpdateTest)

@@ -64,6 +64,7 @@ void CCameraDescriptionReaderTest::refusesFaultsWithPlaceAndField()
     refuse("\"cam-1\"", "\" \"", "5 15 .id", "must not be empty");
     refuse("\"cam-1\"", "\"layer\"", "5 15 .id", "\"layer\" is already used in line 4");
     refuse("First camera", "First\\ncamera", "5 39 .displayName", "must not contain line breaks");
+    refuse("First camera", "First\xE2\x80\xAE", "5 39 .displayName", "control characters");
     refuse("First camera", "First\xFF", "5 39 .displayName", "not valid UTF-8");
 }
 

@@ -1,6 +1,6 @@
 #include "featuredescription.h"
 
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -136,7 +136,7 @@ private:
             .arg(getShownName(node));
     }
 
-    [[nodiscard]] QString getShownName(int node) const { return Json::shorten(m_names.at(node)); }
+    [[nodiscard]] QString getShownName(int node) const { return Text::shorten(m_names.at(node)); }
 
     QHash<QString, int> m_numbers;
     QVector<QString> m_names;

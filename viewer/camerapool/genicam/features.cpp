@@ -1,5 +1,7 @@
 #include "features.h"
 
+#include "viewer/text/visibletext.h"
+
 namespace Viewer::CameraPool::GenICam {
 
 using Text::CErrorText;
@@ -35,6 +37,9 @@ CErrorText getInUseText()
                           "and start the update again");
 }
 
+/// Characters of what the library says, which may repeat what the camera says.
+static constexpr int MaximumReasonLength = 300;
+
 static CErrorText describe(const CErrorGuard &error)
 {
     if (error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED))
@@ -45,7 +50,8 @@ static CErrorText describe(const CErrorGuard &error)
         return CErrorText::tr("control over it was lost; close other applications that use it");
     if (error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY))
         return CErrorText::tr("it is busy; try again later");
-    return CErrorText::tr("it refused (%1)").arg(error.getMessage().simplified());
+    return CErrorText::tr("it refused (%1)")
+        .arg(Text::shorten(error.getMessage().simplified(), MaximumReasonLength));
 }
 
 void throwError(const CErrorGuard &error, const CErrorText &attempt)
@@ -64,7 +70,7 @@ static CErrorText readingOf(const QByteArray &name)
 static CErrorText writingOf(const QByteArray &name, const QString &value)
 {
     return CErrorText::tr("its feature \"%1\" could not be set to \"%2\"")
-        .arg(QString::fromUtf8(name), value);
+        .arg(QString::fromUtf8(name), Text::shorten(value));
 }
 
 CFeatures::CFeatures(ArvDevice *device)

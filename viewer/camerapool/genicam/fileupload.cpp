@@ -1,5 +1,7 @@
 #include "fileupload.h"
 
+#include "viewer/text/visibletext.h"
+
 #include <QThread>
 
 #include <algorithm>
@@ -153,7 +155,7 @@ void CFileUpload::checkStatus() const
 {
     const QString status = m_features.read(OperationStatus);
     if (status != QLatin1String("Success"))
-        fail(CErrorText::tr("it reports the status \"%1\"").arg(status));
+        fail(CErrorText::tr("it reports the status \"%1\"").arg(Text::shorten(status)));
 }
 
 } // namespace Viewer::CameraPool::GenICam

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QVector>
 
 namespace Viewer::CameraPool::GenICam {
 
@@ -10,18 +9,8 @@ enum class ETransport {
     Usb,
 };
 
-/// @p text as one line of characters that can be seen: a camera may call itself anything, also
-/// something that turns around or breaks the lines in which its name stands.
-[[nodiscard]] inline QString toPrintable(const QString &text)
-{
-    QVector<uint> printable;
-    const QVector<uint> characters = text.toUcs4();
-    for (const uint character : characters)
-        printable.append(QChar::isPrint(character) ? character : uint(' '));
-    return QString::fromUcs4(printable.constData(), printable.size()).simplified();
-}
-
-/// Who a camera is and where it is to be reached, as its answer to a search says.
+/// Who a camera is and where it is to be reached, as its answer to a search says; each text on one
+/// visible line, since a camera may call itself anything.
 struct CFoundCamera
 {
     ETransport transport = ETransport::Ethernet;

@@ -3,6 +3,8 @@
 #include "networksearch.h"
 #include "unicastdiscovery.h"
 
+#include "viewer/text/visibletext.h"
+
 #include <csignal>
 #include <thread>
 
@@ -10,7 +12,7 @@ namespace Viewer::CameraPool::GenICam {
 
 static QString toText(const char *text)
 {
-    return toPrintable(QString::fromUtf8(text));
+    return Text::toSingleLine(QString::fromUtf8(text).simplified());
 }
 
 static CFoundCamera readCamera(ArvInterface *interface, unsigned int index, ETransport transport)

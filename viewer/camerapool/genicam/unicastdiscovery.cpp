@@ -1,5 +1,7 @@
 #include "unicastdiscovery.h"
 
+#include "viewer/text/visibletext.h"
+
 #include <QDeadlineTimer>
 #include <QHash>
 #include <QNetworkDatagram>
@@ -19,8 +21,8 @@ static QString readText(const QByteArray &payload, int offset, int size)
 {
     // Terminated only when it is shorter than its field.
     const QByteArray field = payload.mid(offset, size);
-    return toPrintable(QString::fromUtf8(
-        field.constData(), static_cast<int>(qstrnlen(field.constData(), uint(field.size())))));
+    const auto length = static_cast<int>(qstrnlen(field.constData(), uint(field.size())));
+    return Text::toSingleLine(QString::fromUtf8(field.constData(), length).simplified());
 }
 
 std::optional<CFoundCamera> readDiscoveryAnswer(const QByteArray &datagram,

@@ -3,7 +3,7 @@
 #include "core/baseexception.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonmembers.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QDir>
 #include <QFile>
@@ -177,7 +177,7 @@ private:
         const auto other = m_idPositions.constFind(id);
         if (other != m_idPositions.constEnd())
             m_scanner.fail(CErrorText::tr("the id \"%1\" is already used in line %2")
-                               .arg(Json::shorten(id), QString::number(m_scanner.getLine(*other))));
+                               .arg(Text::shorten(id), QString::number(m_scanner.getLine(*other))));
         m_idPositions.insert(id, m_scanner.getPosition());
         return id;
     }

@@ -3,6 +3,7 @@
 #include "firmwareimage.h"
 #include "simulatedcamera.h"
 #include "viewer/camerapool/cameraerror.h"
+#include "viewer/text/visibletext.h"
 
 #include <QIODevice>
 #include <QLocale>
@@ -231,7 +232,7 @@ void CSimulatedCameraDevice::activate()
     const QString model = m_camera->getDescription().camera.modelName;
     if (!image.model.isEmpty() && image.model != model)
         fail(CErrorText::tr("the uploaded firmware image is for model %1, not for %2")
-                 .arg(image.model, model));
+                 .arg(Text::shorten(image.model), model));
     m_activatedVersion = image.version;
 }
 

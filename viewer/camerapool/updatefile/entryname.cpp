@@ -1,7 +1,7 @@
 #include "entryname.h"
 
 #include "updatefilelimits.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QStringList>
 
@@ -21,7 +21,7 @@ CErrorText findEntryNameFault(const QString &name)
     if (name.size() > Limits::ENTRY_NAME_LENGTH)
         return CErrorText::tr("is longer than %1 characters")
             .arg(QString::number(Limits::ENTRY_NAME_LENGTH));
-    if (Json::hasUnprintable(name))
+    if (Text::hasUnprintable(name))
         return CErrorText::tr("has a control character");
     if (name.contains(QLatin1Char('\\')))
         return CErrorText::tr("has a backslash; use forward slashes");

@@ -5,7 +5,7 @@
 #include "viewer/camerapool/firmwareversion.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonmembers.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <algorithm>
 #include <numeric>
@@ -177,7 +177,7 @@ private:
             const QString text = m_scanner.readText(rule);
             if (texts.contains(text))
                 m_scanner.fail(
-                    CErrorText::tr("the list has \"%1\" twice").arg(Json::shorten(text)));
+                    CErrorText::tr("the list has \"%1\" twice").arg(Text::shorten(text)));
             texts.append(text);
         });
         return texts;
@@ -188,7 +188,7 @@ private:
         const QString version = m_scanner.readText({Limits::VERSION_LENGTH});
         if (!CFirmwareVersion::parse(version))
             m_scanner.fail(CErrorText::tr("\"%1\" is not a version like 2.0.0 or 2.0.0-rc1")
-                               .arg(Json::shorten(version)));
+                               .arg(Text::shorten(version)));
         return version;
     }
 
@@ -284,7 +284,7 @@ private:
             knownNames.append(kind.name);
         }
         m_scanner.fail(CErrorText::tr("\"%1\" is not a kind of step; known kinds are %2")
-                           .arg(Json::shorten(name), knownNames.join(QStringLiteral(", "))));
+                           .arg(Text::shorten(name), knownNames.join(QStringLiteral(", "))));
     }
 
     CFeatureValue readPrecondition()
@@ -308,7 +308,7 @@ private:
         const CErrorText fault = findEntryNameFault(name);
         if (!fault.isEmpty())
             m_scanner.fail(
-                CErrorText::tr("the entry name \"%1\" %2").arg(Json::shorten(name), fault));
+                CErrorText::tr("the entry name \"%1\" %2").arg(Text::shorten(name), fault));
         if (name == getManifestName())
             m_scanner.fail(CErrorText::tr("the payload is the manifest itself"));
         return name;

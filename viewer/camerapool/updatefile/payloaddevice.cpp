@@ -1,7 +1,7 @@
 #include "payloaddevice.h"
 
 #include "updatefileerror.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <zip.h>
 
@@ -102,7 +102,7 @@ bool CPayloadDevice::checkEnd()
 
 void CPayloadDevice::setFault(const CErrorText &cause)
 {
-    m_fault = cause.arg(Json::shorten(m_source.name));
+    m_fault = cause.arg(Text::shorten(m_source.name));
     setErrorString(CUpdateFileError(m_source.archivePath, m_fault).getMessage());
 }
 

@@ -5,7 +5,7 @@
 #include "payloaddevice.h"
 #include "updatefileerror.h"
 #include "updatefilelimits.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QDir>
 #include <QFile>
@@ -84,7 +84,7 @@ QByteArray CUpdateArchive::readManifest() const
                 fail(
                     CErrorText::tr("update.json is in a folder of the archive (\"%1\"); it must be "
                                    "at the top level")
-                        .arg(Json::shorten(file.name)));
+                        .arg(Text::shorten(file.name)));
         }
         fail(CErrorText::tr("there is no update.json in the archive"));
     }
@@ -171,7 +171,7 @@ QString CUpdateArchive::readName(const QByteArray &stored, quint64 index) const
     const bool isFolder = name.endsWith(QLatin1Char('/')) && name.size() > 1;
     const CErrorText fault = findEntryNameFault(isFolder ? name.chopped(1) : name);
     if (!fault.isEmpty())
-        fail(CErrorText::tr("the entry name \"%1\" %2").arg(Json::shorten(name), fault));
+        fail(CErrorText::tr("the entry name \"%1\" %2").arg(Text::shorten(name), fault));
     return name;
 }
 
@@ -184,7 +184,7 @@ void CUpdateArchive::readDirectory()
         const CEntry entry = readEntry(static_cast<quint64>(index));
         if (names.contains(entry.name))
             fail(CErrorText::tr("the archive has two entries named \"%1\"")
-                     .arg(Json::shorten(entry.name)));
+                     .arg(Text::shorten(entry.name)));
         names.insert(entry.name);
 
         if (entry.size > Limits::UNPACKED_SIZE - unpackedSize)
@@ -211,13 +211,13 @@ CUpdateArchive::CEntry CUpdateArchive::readEntry(quint64 index) const
     zip_stat_init(&status);
     if (zip_stat_index(m_zip.get(), index, 0, &status) != 0 || (status.valid & NEEDED) != NEEDED)
         fail(CErrorText::tr("the entry \"%1\" of the archive is damaged")
-                 .arg(Json::shorten(entry.name)));
+                 .arg(Text::shorten(entry.name)));
     if (status.encryption_method != ZIP_EM_NONE)
         fail(CErrorText::tr("the entry \"%1\" is encrypted; pack it without a password")
-                 .arg(Json::shorten(entry.name)));
+                 .arg(Text::shorten(entry.name)));
     if (status.comp_method != ZIP_CM_STORE && status.comp_method != ZIP_CM_DEFLATE)
         fail(CErrorText::tr("the entry \"%1\" is compressed by a method other than Deflate")
-                 .arg(Json::shorten(entry.name)));
+                 .arg(Text::shorten(entry.name)));
     constexpr auto LARGEST = static_cast<zip_uint64_t>(Limits::UNPACKED_SIZE);
     entry.size = static_cast<qint64>(qMin<zip_uint64_t>(status.size, LARGEST + 1));
     return entry;
@@ -237,7 +237,7 @@ const CUpdateArchive::CEntry &CUpdateArchive::getPayloadEntry(const CPayload &pa
     const CEntry *entry = findFile(payload.name);
     if (!entry)
         fail(CErrorText::tr("the payload \"%1\" is missing in the archive")
-                 .arg(Json::shorten(payload.name)));
+                 .arg(Text::shorten(payload.name)));
     if (entry->size != payload.size) {
         const CErrorText text = entry->size < payload.size
             ? CErrorText::tr(
@@ -246,7 +246,7 @@ const CUpdateArchive::CEntry &CUpdateArchive::getPayloadEntry(const CPayload &pa
             : CErrorText::tr(
                 "the payload \"%1\" is too long: it has %2 bytes where update.json says "
                 "%3");
-        fail(text.arg(Json::shorten(payload.name), QString::number(entry->size),
+        fail(text.arg(Text::shorten(payload.name), QString::number(entry->size),
                       QString::number(payload.size)));
     }
     return *entry;

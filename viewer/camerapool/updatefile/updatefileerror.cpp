@@ -1,6 +1,6 @@
 #include "updatefileerror.h"
 
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <QDir>
 
@@ -9,7 +9,7 @@ namespace Viewer::CameraPool::UpdateFile {
 using Text::CErrorText;
 CUpdateFileError::CUpdateFileError(const QString &path, const CErrorText &cause)
     : CUpdateFileError(CErrorText::tr("Update file %1: %2")
-                           .arg(Json::toSingleLine(QDir::toNativeSeparators(path)), cause),
+                           .arg(Text::toSingleLine(QDir::toNativeSeparators(path)), cause),
                        cause)
 {
 }

@@ -4,7 +4,7 @@
 #include "manifestparser.h"
 #include "updatearchive.h"
 #include "updatefileerror.h"
-#include "viewer/json/messagetext.h"
+#include "viewer/text/visibletext.h"
 
 #include <algorithm>
 
@@ -38,7 +38,7 @@ void checkNothingIsLeftOver(const CUpdateArchive &archive, const QVector<CPayloa
             throw CUpdateFileError(
                 archive.getPath(),
                 Text::CErrorText::tr("the archive has a file \"%1\" that no step uploads")
-                    .arg(Json::shorten(name)));
+                    .arg(Text::shorten(name)));
     }
 }
 

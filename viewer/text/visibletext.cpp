@@ -1,10 +1,8 @@
-#include "messagetext.h"
+#include "visibletext.h"
 
-namespace Viewer::Json {
+namespace Viewer::Text {
 
 namespace {
-
-constexpr int SHORT_LENGTH = 80;
 
 bool isPrintable(uint codePoint)
 {
@@ -45,11 +43,11 @@ QString toSingleLine(const QString &text)
     return line;
 }
 
-QString shorten(const QString &text)
+QString shorten(const QString &text, int length)
 {
     QString shown = text;
-    if (shown.size() > SHORT_LENGTH)
-        shown = shown.left(SHORT_LENGTH) + QStringLiteral("...");
+    if (shown.size() > length)
+        shown = shown.left(length) + QStringLiteral("...");
     return toSingleLine(shown);
 }
 
@@ -64,4 +62,4 @@ bool hasUnprintable(const QString &text, bool lineBreaksAllowed)
     return false;
 }
 
-} // namespace Viewer::Json
+} // namespace Viewer::Text
