@@ -38,6 +38,7 @@ private slots:
     void refusesTwoCamerasOfOneIdentity();
     void refusesAnotherCameraAtTheAddress();
     void closesTheFileOfAFailedUpload();
+    void tellsWhetherACameraMayHaveChanged();
     void takesSoundAnswersOnly();
 
 private:
@@ -297,6 +298,60 @@ void CRealCamerasTest::closesTheFileOfAFailedUpload()
     QVERIFY_EXCEPTION_THROWN(device->uploadFile("FirmwareImage", source, 900, {}, limit),
                              CCameraError);
     QCOMPARE(camera.getEvents().last(), "close 700");
+}
+
+void CRealCamerasTest::tellsWhetherACameraMayHaveChanged()
+{
+    using Operation = std::function<void(ICameraDevice &)>;
+    const auto limit = std::chrono::seconds(1);
+    const Operation upload = [](ICameraDevice &device) {
+        QBuffer source;
+        source.setData(QByteArray(8192, 'x'));
+        source.open(QIODevice::ReadOnly);
+        device.uploadFile("FirmwareImage", source, source.size(), {}, std::chrono::seconds(1));
+    };
+    const auto write = [limit](const char *name, const char *value) {
+        return [=](ICameraDevice &device) { device.writeFeature(name, value, limit); };
+    };
+    const auto execute = [limit](const char *name) {
+        return [=](ICameraDevice &device) { device.executeCommand(name, limit); };
+    };
+    const Operation reset = [limit](ICameraDevice &device) { device.resetAndWait(limit); };
+    struct CCase
+    {
+        QStringList arguments;
+        Operation operation;
+        const char *error;
+        bool mayHaveChanged;
+    };
+    const std::vector<CCase> cases = {
+        {{}, write("Missing", "1"), "it has no feature \"Missing\"", false},
+        {{}, write("ExposureTime", "1e30"), "could not be set", false},
+        {{}, write("FirmwareUpdateMode", "Perhaps"), "could not be set", false},
+        {{}, execute("ExposureTime"), "is not a command", false},
+        {{"--refuse", "FirmwareActivate"}, execute("FirmwareActivate"), "it refused", false},
+        {{"--refuse", "DeviceReset"}, reset, "it refused", false},
+        {{"--refuse", "FileOperationExecute"}, upload, "opening its file", false},
+        {{"--operation-reads", "1000000"}, upload, "it took too long", true},
+        {{"--lose-control", "4096"}, upload, "at byte 4096: .*control over it was lost", true},
+        {{"--ignore-reset"}, reset, "it did not restart; switch it off", true},
+        {{"--never-return"}, reset, "it did not come back from its reset; switch it off", true},
+    };
+    for (const CCase &row : cases) {
+        init();
+        startCamera(row.arguments);
+        const auto device = openDevice();
+        try {
+            row.operation(*device);
+            QFAIL("no error");
+        } catch (const CCameraError &error) {
+            const QString text = error.getMessage();
+            QVERIFY2(text.startsWith("Camera 50000001 (GV-1400M, 127."), qPrintable(text));
+            QVERIFY2(text.contains(QRegularExpression(row.error)), qPrintable(text));
+            QVERIFY2((error.getChange() == CCameraError::EChange::Possible) == row.mayHaveChanged,
+                     qPrintable(text));
+        }
+    }
 }
 
 void CRealCamerasTest::takesSoundAnswersOnly()

@@ -4,8 +4,6 @@
 #include "memoryreader.h"
 #include "unicastdiscovery.h"
 
-#include "viewer/camerapool/cameraerror.h"
-
 #include <QDeadlineTimer>
 #include <QIODevice>
 #include <QThread>
@@ -212,10 +210,10 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
         while (!m_device) {
             try {
                 m_device = makeDevice();
-            } catch (const CFeatureError &) {
+            } catch (const CFeatureError &error) {
                 // It answers questions for its name a little before it can be opened.
                 if (deadline.hasExpired())
-                    throw;
+                    fail(error.getText());
                 QThread::msleep(PollInterval.count());
             }
         }
@@ -275,7 +273,7 @@ milliseconds CGenICamDevice::getShortestResetLimit() const
 CFeatures CGenICamDevice::getFeatures() const
 {
     if (!m_device)
-        fail(CErrorText::tr("it is not open"));
+        fail(CErrorText::tr("it is not open"), CCameraError::EChange::None);
     return CFeatures(m_device.get());
 }
 
@@ -285,13 +283,16 @@ std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
     try {
         return action();
     } catch (const CFeatureError &error) {
-        fail(error.getText());
+        fail(error.getText(),
+             error.getReason() == CFeatureError::EReason::Refused
+                 ? CCameraError::EChange::None
+                 : CCameraError::EChange::Possible);
     }
 }
 
-void CGenICamDevice::fail(const CErrorText &cause) const
+void CGenICamDevice::fail(const CErrorText &cause, CCameraError::EChange change) const
 {
-    throw CCameraError(getName(), cause);
+    throw CCameraError(getName(), cause, change);
 }
 
 } // namespace Viewer::CameraPool::GenICam

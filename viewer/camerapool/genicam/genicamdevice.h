@@ -3,6 +3,7 @@
 #include "features.h"
 #include "foundcamera.h"
 
+#include "viewer/camerapool/cameraerror.h"
 #include "viewer/camerapool/icameradevice.h"
 
 #include <type_traits>
@@ -48,7 +49,8 @@ private:
     /// Runs @p action; whatever it throws leaves as a CCameraError.
     template <typename Action>
     std::invoke_result_t<Action> translate(Action action) const;
-    [[noreturn]] void fail(const Text::CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause,
+                           CCameraError::EChange change = CCameraError::EChange::Possible) const;
 
     const CFoundCamera m_camera;
     CObjectPointer<ArvDevice> m_device;
