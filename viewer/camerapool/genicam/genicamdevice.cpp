@@ -66,7 +66,7 @@ void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
         = discoverUnicast({QHostAddress(m_camera.address)}, timeLimit);
     if (found.isEmpty())
         fail(getNoAnswerText());
-    if (found.first().getId() != m_camera.getId())
+    if (!found.first().isSameAs(m_camera))
         fail(CErrorText::tr("another camera, %1, answers at its address; search for cameras again")
                  .arg(found.first().getFullName()));
 }
@@ -100,9 +100,7 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
         device.reset(
             arv_gv_device_new(interfaceAddress.get(), cameraAddress.get(), error.receive()));
     } else {
-        device.reset(arv_uv_device_new(
-            m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
-            m_camera.serialNumber.toUtf8().constData(), error.receive()));
+        device = makeUsbDevice(error);
     }
     if (error)
         throwError(error, CErrorText::tr("it could not be opened"));
@@ -112,6 +110,16 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
     if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
         throw CFeatureError(getInUseText(), CFeatureError::EReason::Refused);
     return device;
+}
+
+CObjectPointer<ArvDevice> CGenICamDevice::makeUsbDevice(CErrorGuard &error) const
+{
+    if (!m_camera.hardwareAddress.isEmpty())
+        return CObjectPointer<ArvDevice>(arv_uv_device_new_from_guid(
+            m_camera.hardwareAddress.toUtf8().constData(), error.receive()));
+    return CObjectPointer<ArvDevice>(
+        arv_uv_device_new(m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
+                          m_camera.serialNumber.toUtf8().constData(), error.receive()));
 }
 
 void CGenICamDevice::close() noexcept
@@ -247,15 +255,13 @@ bool CGenICamDevice::isPresent(QString &version) const
 {
     if (m_camera.transport == ETransport::Ethernet) {
         const QVector<CFoundCamera> found = discoverUnicast({QHostAddress(m_camera.address)});
-        if (found.isEmpty() || found.first().getId() != m_camera.getId())
+        if (found.isEmpty() || !found.first().isSameAs(m_camera))
             return false;
         version = found.first().version;
         return true;
     }
     CErrorGuard error;
-    const CObjectPointer<ArvDevice> device(
-        arv_uv_device_new(m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
-                          m_camera.serialNumber.toUtf8().constData(), error.receive()));
+    const CObjectPointer<ArvDevice> device = makeUsbDevice(error);
     return device && !error;
 }
 

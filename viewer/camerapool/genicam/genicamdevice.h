@@ -39,6 +39,7 @@ private:
     /// Addresses can be given to others between a search and an update.
     void checkIdentity(std::chrono::milliseconds timeLimit) const;
     [[nodiscard]] CObjectPointer<ArvDevice> makeDevice() const;
+    [[nodiscard]] CObjectPointer<ArvDevice> makeUsbDevice(CErrorGuard &error) const;
     void waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const;
 
     /// Whether the camera answers, and then with which version.
