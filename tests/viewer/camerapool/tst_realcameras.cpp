@@ -268,7 +268,11 @@ void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
     QVERIFY(found[0]->getCameraStatusCode() != 0);
     QVERIFY(found[1]->getCameraStatusCode() != 0);
     QCOMPARE(found[2]->getCameraStatusCode(), 0);
-    QCOMPARE(m_pool->getStatusReason(found[0]->getId()), "same serial number as another camera");
+    auto snapshot = m_pool->getSnapshot(found[1]->getId());
+    QCOMPARE(snapshot.statusReason, "same serial number as another camera");
+    QCOMPARE(snapshot.ipAddress, m_addresses[1].toString());
+    const QByteArray end = QByteArray::number(m_addresses[1].toIPv4Address(), 16).toUpper();
+    QCOMPARE(snapshot.macAddress.remove(':'), "0200" + end);
     QCOMPARE(update(found[0]), "no update fits");
     m_others = std::make_unique<CGenICam>(m_addresses, false);
     QCOMPARE(m_others->enumerate().value(0).cameras.size(), 3);

@@ -89,6 +89,10 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
         snapshot.serialNumber = camera.serialNumber;
         snapshot.deviceVersion = camera.version;
         snapshot.firmwareVersion = camera.version;
+        if (camera.transport == ETransport::Ethernet) {
+            snapshot.ipAddress = camera.address;
+            snapshot.macAddress = camera.hardwareAddress;
+        }
         if (camera.isAmbiguous) {
             snapshot.statusCode = AmbiguousIdentityStatus;
             snapshot.statusReason
