@@ -36,7 +36,7 @@ struct CDeviceScript
     std::function<void(const QString &call)> before; ///< each operation but close(); may throw
     QStringList calls; ///< "open", "read A", "write A=b", "execute A", "upload A 400", "reset"
     QByteArray uploaded; ///< all bytes of all uploads
-    milliseconds resetLimit{0}; ///< what the last reset was given
+    QHash<QString, milliseconds> limits; ///< what each call was given last
     int refusesAtByte = -1; ///< of an upload
     bool isOpen = false;
 };
@@ -92,7 +92,6 @@ public:
     void resetAndWait(milliseconds limit) override
     {
         note("reset", limit);
-        m_script->resetLimit = limit;
         m_script->features.insert("DeviceFirmwareVersion", m_script->versionAfterReset);
     }
 
@@ -107,6 +106,7 @@ private:
         if (m_script->before)
             m_script->before(call);
         m_script->calls.append(call);
+        m_script->limits.insert(call, limit);
     }
 
     const std::shared_ptr<CDeviceScript> m_script;
@@ -200,7 +200,15 @@ void CDeviceFirmwareUpdateTest::announcesWhatItDoes()
     QCOMPARE(m_script->calls.count("read DeviceModelName"), 2);
     QCOMPARE(m_script->uploaded.size(), 1000);
     QVERIFY(m_script->uploaded.startsWith("model: VX-1400M\nversion: 2.0.0\n\nxxx"));
-    QCOMPARE(m_script->resetLimit.count(), 45000); // although the file promises 16 ms
+    const std::pair<const char *, milliseconds> limits[]
+        = {{"open", 10s},
+           {"read DeviceStatus", 5s},
+           {"write FirmwareUpdateMode=On", getTimeLimit(4ms)},
+           {"upload FirmwareImage 1000", getTimeLimit(1s)},
+           {"execute FirmwareActivate", getTimeLimit(8ms)},
+           {"reset", 45s}}; // although the file promises 16 ms
+    for (const auto &[call, limit] : limits)
+        QCOMPARE(m_script->limits.value(call).count(), limit.count());
     QCOMPARE(job->getFirmwareVersion(), QString("2.0.0"));
 }
 

@@ -20,9 +20,6 @@ using std::chrono::milliseconds;
 /// How long a camera may take to say who it is before it is opened.
 static constexpr milliseconds IdentityLimit = 1s;
 
-/// How long reading a camera's feature description may take. The largest has some 30,000 blocks.
-static constexpr milliseconds DescriptionLimit = 15s;
-
 /// How often a camera is looked at that is busy with something.
 static constexpr milliseconds PollInterval = 50ms;
 
@@ -52,10 +49,12 @@ void CGenICamDevice::open(milliseconds timeLimit)
     if (m_camera.isAmbiguous)
         fail(CErrorText::tr("another camera has the same vendor, model and serial number; connect "
                             "only one of them and search for cameras again"));
-    // What is dead is found out before the library, which takes longer, is set to work. From then
-    // on only its own limits count: 2.5 s for each answer that does not come.
+    // What is dead is found out before the library, which takes longer, is set to work. In it only
+    // its own limits count: 2.5 s for each answer that does not come, and no end for a camera that
+    // announces its answer again and again.
+    const QDeadlineTimer deadline(timeLimit);
     checkIdentity(std::min(timeLimit, IdentityLimit));
-    m_device = translate([this] { return makeDevice(); });
+    m_device = translate([this, &deadline] { return makeDevice(deadline); });
 }
 
 void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
@@ -82,14 +81,14 @@ static CObjectPointer<GInetAddress> findInterface(const QHostAddress &camera)
         g_inet_address_new_from_string(socket.localAddress().toString().toLatin1().constData()));
 }
 
-CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
+CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadline) const
 {
     CErrorGuard error;
     CObjectPointer<ArvDevice> device;
     if (m_camera.transport == ETransport::Ethernet) {
         // By address and without the library's list of devices, which a search locks for a second.
         const QHostAddress address(m_camera.address);
-        checkFeatureDescription(address, QDeadlineTimer(DescriptionLimit));
+        checkFeatureDescription(address, deadline);
         const CObjectPointer<GInetAddress> interfaceAddress = findInterface(address);
         const CObjectPointer<GInetAddress> cameraAddress(
             g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
@@ -217,7 +216,7 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
         m_device.reset();
         while (!m_device) {
             try {
-                m_device = makeDevice();
+                m_device = makeDevice(deadline);
             } catch (const CFeatureError &error) {
                 // It answers questions for its name a little before it can be opened.
                 if (deadline.hasExpired())

@@ -38,7 +38,7 @@ public:
 private:
     /// Addresses can be given to others between a search and an update.
     void checkIdentity(std::chrono::milliseconds timeLimit) const;
-    [[nodiscard]] CObjectPointer<ArvDevice> makeDevice() const;
+    [[nodiscard]] CObjectPointer<ArvDevice> makeDevice(const QDeadlineTimer &deadline) const;
     [[nodiscard]] CObjectPointer<ArvDevice> makeUsbDevice(CErrorGuard &error) const;
     void waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const;
 
