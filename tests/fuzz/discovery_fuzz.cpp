@@ -15,6 +15,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     for (const QString &text :
          {camera->vendor, camera->model, camera->version, camera->serialNumber, camera->userName})
         Fuzz::require(text.size() <= 32 && !Viewer::Text::hasUnprintable(text));
-    Fuzz::require(Fuzz::isReadable(camera->getFullName()) && Fuzz::isReadable(camera->getId()));
+    Fuzz::require(Fuzz::isReadable(camera->getFullName())
+                  && Fuzz::isReadable(camera->getIdentity()));
     return 0;
 }

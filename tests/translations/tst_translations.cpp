@@ -174,8 +174,8 @@ static QStringList getTexts(const QWidget &window)
 /// The first of @p texts with an English word in it that is no name.
 static QString findEnglish(QStringList texts)
 {
-    static const QRegularExpression names(
-        "<[^>]*>|\t.*|Nuvex Viewer|Korvane|Line \\d \\w+|\\(F\\d\\)|\\.guf|Ctrl\\+|Alt\\+");
+    static const QRegularExpression names("<[^>]*>|\t.*|Nuvex Viewer|Korvane|IP |MAC |"
+                                          "Line \\d \\w+|\\(F\\d\\)|\\.guf|Ctrl\\+|Alt\\+");
     return texts.replaceInStrings(names, {}).filter(QRegularExpression("[A-Za-z]{2}")).value(0);
 }
 

@@ -125,8 +125,8 @@ void CViewer::createWindow()
     auto *const imageView = new CImageView;
     m_selectorView
         = new CameraSelector::CCameraSelectorView(getEnumerationService(), m_selectorService);
-    m_selectorView->getModel()->setStatusReasons(
-        [this](const QString &cameraId) { return m_pool->getStatusReason(cameraId); });
+    m_selectorView->getModel()->setSnapshots(
+        [this](const QString &cameraId) { return m_pool->getSnapshot(cameraId); });
     m_selectorView->setContextMenu(m_window->getSelectorMenu());
     m_window->setViews(m_selectorView, imageView);
     m_window->setCloseGuard([this] { return getReasonToStayOpen(); });

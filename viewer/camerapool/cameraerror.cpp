@@ -3,14 +3,15 @@
 namespace Viewer::CameraPool {
 
 using Text::CErrorText;
-CCameraError::CCameraError(const QString &cameraName, const CErrorText &cause)
-    : CCameraError(CErrorText::tr("Camera %1: %2").arg(cameraName, cause))
+CCameraError::CCameraError(const QString &cameraName, const CErrorText &cause, EChange change)
+    : CCameraError(CErrorText::tr("Camera %1: %2").arg(cameraName, cause), change)
 {
 }
 
-CCameraError::CCameraError(const CErrorText &text)
+CCameraError::CCameraError(const CErrorText &text, EChange change)
     : BaseException(text.getEnglish())
     , m_text(text)
+    , m_change(change)
 {
 }
 
@@ -19,6 +20,11 @@ CCameraError::~CCameraError() = default;
 CErrorText CCameraError::getText() const
 {
     return m_text;
+}
+
+CCameraError::EChange CCameraError::getChange() const
+{
+    return m_change;
 }
 
 } // namespace Viewer::CameraPool

@@ -131,11 +131,10 @@ QList<QSharedPointer<IService>> CCameraPool::getServices() const
     return d->services;
 }
 
-QString CCameraPool::getStatusReason(const QString &cameraId) const
+CCameraSnapshot CCameraPool::getSnapshot(const QString &cameraId) const
 {
     const Plugin::CameraPool::CameraInfoPtr camera = d->enumeration->findCamera(cameraId);
-    return camera ? static_cast<const CCameraInfo &>(*camera).getSnapshot().statusReason
-                  : QString();
+    return camera ? static_cast<const CCameraInfo &>(*camera).getSnapshot() : CCameraSnapshot();
 }
 
 ECameraActivity CCameraPool::getActivity(const QString &cameraId) const

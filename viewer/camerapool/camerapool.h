@@ -1,5 +1,6 @@
 #pragma once
 
+#include "camerasnapshot.h"
 #include "ecameraactivity.h"
 
 #include "core/iservice.h"
@@ -52,9 +53,9 @@ public:
     /// on this pool, so whoever holds them has to let go of them before it is destroyed.
     [[nodiscard]] QList<QSharedPointer<Core::Service::IService>> getServices() const;
 
-    /// Why the camera @p cameraId cannot be updated, in the user's language; empty: its status code
-    /// says all.
-    [[nodiscard]] QString getStatusReason(const QString &cameraId) const;
+    /// What the last enumeration found out about the camera @p cameraId, also what plug-ins do not
+    /// get to know; empty: it did not find it.
+    [[nodiscard]] CCameraSnapshot getSnapshot(const QString &cameraId) const;
 
     [[nodiscard]] ECameraActivity getActivity(const QString &cameraId) const;
 

@@ -16,6 +16,8 @@ struct CCameraSnapshot
     QString firmwareVersion;
     qint32 statusCode = 0; ///< 0 exactly when the camera can be updated
     QString statusReason; ///< of another status, for the user; may be empty
+    QString ipAddress; ///< empty: none, or unknown
+    QString macAddress; ///< the same
 
     friend bool operator==(const CCameraSnapshot &left, const CCameraSnapshot &right)
     {
@@ -23,7 +25,8 @@ struct CCameraSnapshot
             && left.modelName == right.modelName && left.serialNumber == right.serialNumber
             && left.deviceVersion == right.deviceVersion
             && left.firmwareVersion == right.firmwareVersion && left.statusCode == right.statusCode
-            && left.statusReason == right.statusReason;
+            && left.statusReason == right.statusReason && left.ipAddress == right.ipAddress
+            && left.macAddress == right.macAddress;
     }
     friend bool operator!=(const CCameraSnapshot &left, const CCameraSnapshot &right)
     {

@@ -13,7 +13,9 @@ namespace Viewer::CameraPool {
 /// Everything that an update does to one camera, whatever the wire. All operations but the
 /// constructor, getName(), getUploadRate() and getShortestResetLimit() block and are called on one
 /// worker thread. Each ends within its time limit and reports a failure by throwing CCameraError;
-/// nothing else is thrown. After a failure only close() and destruction are safe.
+/// nothing else is thrown. The error of an operation that changes
+/// the camera says truly whether it may have. After a failure only close() and destruction are
+/// safe.
 class ICameraDevice
 {
 public:

@@ -74,12 +74,10 @@ void CUpdateRun::executeStep(const CUpdateStep &step)
         acquireData();
         return;
     case EFirmwareUpdateStep::FeatureWrite:
-        prepareWriting();
-        m_device.writeFeature(step.feature.feature, step.feature.value, limit);
+        write([&] { m_device.writeFeature(step.feature.feature, step.feature.value, limit); });
         return;
     case EFirmwareUpdateStep::FeatureExecute:
-        prepareWriting();
-        m_device.executeCommand(step.feature.feature, limit);
+        write([&] { m_device.executeCommand(step.feature.feature, limit); });
         return;
     case EFirmwareUpdateStep::FeatureAssert:
         assertFeature(step.feature);
@@ -89,8 +87,7 @@ void CUpdateRun::executeStep(const CUpdateStep &step)
         upload(step);
         return;
     case EFirmwareUpdateStep::DeviceReset:
-        prepareWriting();
-        m_device.resetAndWait(std::max(limit, m_device.getShortestResetLimit()));
+        write([&] { m_device.resetAndWait(std::max(limit, m_device.getShortestResetLimit())); });
         return;
     case EFirmwareUpdateStep::Invalid:
         break;
@@ -146,7 +143,7 @@ void CUpdateRun::acquireData()
 
 void CUpdateRun::prepareWriting()
 {
-    if (m_written)
+    if (m_mayWrite)
         return;
     // Minutes may have gone by since the wizard looked, and the file's own check may be missing.
     acquireData();
@@ -160,6 +157,22 @@ void CUpdateRun::prepareWriting()
     }
     if (!checked)
         checkPreconditions(nullptr);
+    m_mayWrite = true;
+}
+
+template <typename Operation>
+void CUpdateRun::write(Operation operation)
+{
+    prepareWriting();
+    try {
+        operation();
+    } catch (const CCameraError &error) {
+        m_written = m_written || error.getChange() == CCameraError::EChange::Possible;
+        throw;
+    } catch (...) {
+        m_written = true;
+        throw;
+    }
     m_written = true;
 }
 
@@ -184,6 +197,7 @@ void CUpdateRun::upload(const CUpdateStep &step)
     const qint64 size = step.payload.size;
     CProgressThrottle throttle(CProgressThrottle::Clock::now());
     const auto progress = [this, &step, size, &throttle](qint64 bytesDone) {
+        m_written = m_written || bytesDone > 0;
         const double percent = std::clamp(
             100.0 * static_cast<double>(bytesDone) / static_cast<double>(size), 0.0, 100.0);
         if (throttle.passes(percent, CProgressThrottle::Clock::now()))
@@ -194,7 +208,9 @@ void CUpdateRun::upload(const CUpdateStep &step)
         1000.0 * static_cast<double>(size) / static_cast<double>(m_device.getUploadRate())));
     const std::chrono::milliseconds estimate
         = std::max(usual, estimateStep(step, m_device.getUploadRate()));
-    m_device.uploadFile(step.targetFile, *source, size, progress, getTimeLimit(estimate));
+    write([&] {
+        m_device.uploadFile(step.targetFile, *source, size, progress, getTimeLimit(estimate));
+    });
 }
 
 void CUpdateRun::checkVersion()

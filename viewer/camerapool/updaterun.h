@@ -50,7 +50,7 @@ public:
 
     void execute();
 
-    /// True once something may have changed in the camera.
+    /// True once the camera has, or may have, carried out something that changes it.
     [[nodiscard]] bool hasWritten() const;
 
     /// The firmware version that the camera reported last; empty: it was not asked.
@@ -61,6 +61,10 @@ private:
     void checkPreconditions(const UpdateFile::CUpdateStep *step);
     void acquireData();
     void prepareWriting();
+
+    /// Runs @p operation, which changes the camera, once it is certain that it may be changed.
+    template <typename Operation>
+    void write(Operation operation);
     void assertFeature(const UpdateFile::CFeatureValue &expected);
     void upload(const UpdateFile::CUpdateStep &step);
     void checkVersion();
@@ -75,6 +79,7 @@ private:
     IListener &m_listener;
     std::unique_ptr<UpdateFile::CUpdateArchive> m_archive; // from the check to the last upload
     int m_currentStep = 0;
+    bool m_mayWrite = false;
     bool m_written = false;
     QString m_reportedVersion;
 };

@@ -14,14 +14,15 @@ CCameraSelectorModel::CCameraSelectorModel(QObject *parent)
     : QAbstractItemModel(parent)
     , m_layerIcon(QStringLiteral(":/viewer/icons/layer.png"))
     , m_cameraIcon(QStringLiteral(":/viewer/icons/camera.png"))
+    , m_getSnapshot([](const QString &) { return CameraPool::CCameraSnapshot(); })
 {
 }
 
 CCameraSelectorModel::~CCameraSelectorModel() = default;
 
-void CCameraSelectorModel::setStatusReasons(const StatusReasonFunction &getReason)
+void CCameraSelectorModel::setSnapshots(const SnapshotFunction &getSnapshot)
 {
-    m_getStatusReason = getReason;
+    m_getSnapshot = getSnapshot;
 }
 
 void CCameraSelectorModel::setTransportLayers(const QVector<TransportLayerInfoPtr> &layers)
@@ -130,12 +131,8 @@ QVariant CCameraSelectorModel::getCameraData(const CameraInfoPtr &camera, int co
         return m_cameraIcon;
     if (role == Qt::ToolTipRole && column == StateColumn)
         return Core::Text::toToolTip(getStateText(*camera));
-    if (role == Qt::ToolTipRole) {
-        return Core::Text::toToolTip(
-            tr("%1\nModel: %2\nSerial number: %3\nDevice version: %4\nFirmware: %5")
-                .arg(camera->getDisplayName(), camera->getModelName(), camera->getSerialNumber(),
-                     camera->getDeviceVersion(), camera->getFirmwareVersion()));
-    }
+    if (role == Qt::ToolTipRole)
+        return Core::Text::toToolTip(getToolTip(*camera));
     if (role != Qt::DisplayRole)
         return {};
     switch (column) {
@@ -147,11 +144,29 @@ QVariant CCameraSelectorModel::getCameraData(const CameraInfoPtr &camera, int co
         return camera->getSerialNumber();
     case FirmwareColumn:
         return camera->getFirmwareVersion();
+    case IpAddressColumn:
+        return m_getSnapshot(camera->getId()).ipAddress;
+    case MacAddressColumn:
+        return m_getSnapshot(camera->getId()).macAddress;
     case StateColumn:
         return getStateText(*camera);
     default:
         return {};
     }
+}
+
+QString CCameraSelectorModel::getToolTip(const Plugin::CameraPool::ICameraInfo &camera) const
+{
+    const CameraPool::CCameraSnapshot snapshot = m_getSnapshot(camera.getId());
+    QStringList lines{tr("%1\nModel: %2\nSerial number: %3\nDevice version: %4\nFirmware: %5")
+                          .arg(camera.getDisplayName(), camera.getModelName(),
+                               camera.getSerialNumber(), camera.getDeviceVersion(),
+                               camera.getFirmwareVersion())};
+    if (!snapshot.ipAddress.isEmpty())
+        lines.append(tr("IP address: %1").arg(snapshot.ipAddress));
+    if (!snapshot.macAddress.isEmpty())
+        lines.append(tr("MAC address: %1").arg(snapshot.macAddress));
+    return lines.join(QLatin1Char('\n'));
 }
 
 QString CCameraSelectorModel::getStateText(const Plugin::CameraPool::ICameraInfo &camera) const
@@ -171,7 +186,7 @@ QString CCameraSelectorModel::getStateText(const Plugin::CameraPool::ICameraInfo
     const qint32 statusCode = camera.getCameraStatusCode();
     if (statusCode == 0)
         return tr("Ready");
-    const QString reason = m_getStatusReason ? m_getStatusReason(camera.getId()) : QString();
+    const QString reason = m_getSnapshot(camera.getId()).statusReason;
     const QString code = QString::number(statusCode);
     return tr("Not updatable (%1)")
         .arg(reason.isEmpty() ? code : QStringLiteral("%1: %2").arg(code, reason));
@@ -195,6 +210,10 @@ QVariant CCameraSelectorModel::headerData(int section, Qt::Orientation orientati
         return tr("Serial number");
     case FirmwareColumn:
         return tr("Firmware");
+    case IpAddressColumn:
+        return tr("IP address");
+    case MacAddressColumn:
+        return tr("MAC address");
     case StateColumn:
         return tr("State");
     default:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camerapool/itransportlayerinfo.h"
+#include "viewer/camerapool/camerasnapshot.h"
 #include "viewer/camerapool/ecameraactivity.h"
 
 #include <QAbstractItemModel>
@@ -23,6 +24,8 @@ public:
         ModelColumn,
         SerialNumberColumn,
         FirmwareColumn,
+        IpAddressColumn,
+        MacAddressColumn,
         StateColumn,
         ColumnCount
     };
@@ -30,11 +33,11 @@ public:
     explicit CCameraSelectorModel(QObject *parent = nullptr);
     ~CCameraSelectorModel() override;
 
-    /// Why a camera cannot be updated, by its id; empty: nobody knows more than the status code.
-    using StatusReasonFunction = std::function<QString(const QString &cameraId)>;
+    /// What the viewer knows of a camera beyond the contract, by its id.
+    using SnapshotFunction = std::function<CameraPool::CCameraSnapshot(const QString &cameraId)>;
 
     /// Before the first content.
-    void setStatusReasons(const StatusReasonFunction &getReason);
+    void setSnapshots(const SnapshotFunction &getSnapshot);
 
     /// Replaces the whole content; the activities stay.
     void setTransportLayers(const QVector<Plugin::CameraPool::TransportLayerInfoPtr> &layers);
@@ -64,6 +67,7 @@ private:
     [[nodiscard]] QVariant getLayerData(int row, int column, int role) const;
     [[nodiscard]] QVariant getCameraData(const Plugin::CameraPool::CameraInfoPtr &camera,
                                          int column, int role) const;
+    [[nodiscard]] QString getToolTip(const Plugin::CameraPool::ICameraInfo &camera) const;
     [[nodiscard]] QString getStateText(const Plugin::CameraPool::ICameraInfo &camera) const;
     [[nodiscard]] Plugin::CameraPool::CameraInfoPtr getCamera(const QModelIndex &index) const;
 
@@ -72,7 +76,7 @@ private:
     QVector<Plugin::CameraPool::TransportLayerInfoPtr> m_layers;
     QHash<QString, QPair<int, int>> m_places; ///< by id: row of the layer, row of the camera or -1
     QHash<QString, CameraPool::ECameraActivity> m_activities;
-    StatusReasonFunction m_getStatusReason;
+    SnapshotFunction m_getSnapshot;
     int m_cameraCount = 0;
 };
 

@@ -20,6 +20,7 @@ CCameraSelectorView::CCameraSelectorView(
     , m_enumeration(enumeration)
     , m_selector(selector)
     , m_model(new CCameraSelectorModel(this))
+    , m_columnMenu(new QMenu(this))
 {
     setObjectName(QStringLiteral("cameraSelectorView"));
     setAccessibleName(tr("Cameras"));
@@ -30,6 +31,7 @@ CCameraSelectorView::CCameraSelectorView(
     setSelectionMode(QAbstractItemView::SingleSelection);
     header()->setStretchLastSection(true);
     header()->setSectionsMovable(false);
+    createColumnMenu();
     connect(m_enumeration.data(),
             &Plugin::CameraPool::ICameraEnumerationService::enumerationChanged, this,
             &CCameraSelectorView::onEnumerationChanged);
@@ -63,15 +65,8 @@ void CCameraSelectorView::onEnumerationChanged()
     m_rebuilding = true;
     m_model->setTransportLayers(m_enumeration->getTransportLayerInfoVector());
     expandAll();
-    for (int column = 0; column <= CCameraSelectorModel::StateColumn; ++column) {
-        const int titleWidth = header()->sectionSizeHint(column);
-        // The last column takes what is left, but never less than it has been given. A long reason
-        // is elided there rather than scrolled to; the tool tip has all of it.
-        const bool isLast = column == CCameraSelectorModel::StateColumn;
-        setColumnWidth(column,
-                       isLast ? titleWidth
-                              : qMax(sizeHintForColumn(column), titleWidth) + ColumnSpace);
-    }
+    for (int column = 0; column < CCameraSelectorModel::ColumnCount; ++column)
+        fitColumn(column);
     const QModelIndex index = selected ? m_model->findId(selected->getId()) : QModelIndex();
     if (index.isValid())
         setCurrentIndex(index);
@@ -79,6 +74,43 @@ void CCameraSelectorView::onEnumerationChanged()
     // Once, when everything is in place: the same camera in a new state, or null for one that has
     // disappeared.
     m_selector->setSelection(m_model->getInfo(index));
+}
+
+void CCameraSelectorView::createColumnMenu()
+{
+    m_columnMenu->setObjectName(QStringLiteral("cameraSelectorColumnMenu"));
+    for (int column = 0; column < CCameraSelectorModel::ColumnCount; ++column) {
+        // Without its names and layers the tree would be none.
+        if (column == CCameraSelectorModel::NameColumn)
+            continue;
+        QAction *const action = m_columnMenu->addAction(
+            m_model->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        const bool isShown = column != CCameraSelectorModel::IpAddressColumn
+            && column != CCameraSelectorModel::MacAddressColumn;
+        action->setCheckable(true);
+        action->setChecked(isShown);
+        setColumnHidden(column, !isShown);
+        connect(action, &QAction::toggled, this, [this, column](bool shown) {
+            setColumnHidden(column, !shown);
+            fitColumn(column);
+        });
+    }
+    header()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header(), &QWidget::customContextMenuRequested, this, [this](const QPoint &position) {
+        m_columnMenu->popup(header()->viewport()->mapToGlobal(position));
+    });
+}
+
+void CCameraSelectorView::fitColumn(int column)
+{
+    if (isColumnHidden(column))
+        return;
+    const int titleWidth = header()->sectionSizeHint(column);
+    // The last column takes what is left, but never less than it has been given. A long reason
+    // is elided there rather than scrolled to; the tool tip has all of it.
+    const bool isLast = column == CCameraSelectorModel::StateColumn;
+    setColumnWidth(column,
+                   isLast ? titleWidth : qMax(sizeHintForColumn(column), titleWidth) + ColumnSpace);
 }
 
 void CCameraSelectorView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -40,12 +40,15 @@ protected:
 
 private:
     void onEnumerationChanged();
+    void createColumnMenu();
+    void fitColumn(int column);
     void clearCurrent();
 
     const QSharedPointer<Plugin::CameraPool::ICameraEnumerationService> m_enumeration;
     const QSharedPointer<CDeviceSelectorService> m_selector;
     CCameraSelectorModel *const m_model;
     QPointer<QMenu> m_contextMenu;
+    QMenu *const m_columnMenu;
     bool m_rebuilding = false;
 };
 

@@ -582,6 +582,22 @@ Firmware: %5</source>
         <source>Model</source>
         <translation>モデル</translation>
     </message>
+    <message>
+        <source>IP address: %1</source>
+        <translation>IP アドレス: %1</translation>
+    </message>
+    <message>
+        <source>MAC address: %1</source>
+        <translation>MAC アドレス: %1</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP アドレス</translation>
+    </message>
+    <message>
+        <source>MAC address</source>
+        <translation>MAC アドレス</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>

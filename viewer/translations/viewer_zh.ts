@@ -582,6 +582,22 @@ Firmware: %5</source>
         <source>Model</source>
         <translation>型号</translation>
     </message>
+    <message>
+        <source>IP address: %1</source>
+        <translation>IP 地址：%1</translation>
+    </message>
+    <message>
+        <source>MAC address: %1</source>
+        <translation>MAC 地址：%1</translation>
+    </message>
+    <message>
+        <source>IP address</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>MAC address</source>
+        <translation>MAC 地址</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>

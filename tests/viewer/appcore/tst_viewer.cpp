@@ -156,7 +156,7 @@ void CViewerTest::acquiresAndRecords()
     QTRY_VERIFY(!QDir(folder.path()).isEmpty());
     buttons.at(StopRecording)->trigger();
     QTRY_COMPARE(enabledButtons(), "12");
-    QCOMPARE(m_tree->currentIndex().siblingAtColumn(4).data().toString(), "Acquiring");
+    QCOMPARE(m_tree->currentIndex().siblingAtColumn(6).data().toString(), "Acquiring");
     QTRY_VERIFY(view->hasImage());
     buttons.at(Stop)->trigger();
     QTRY_COMPARE(enabledButtons(), "02");

@@ -39,7 +39,8 @@ struct CDeviceScript
     std::function<void(const QString &call)> before; ///< each operation but close(); may throw
     QStringList calls; ///< "open", "read A", "write A=b", "execute A", "upload A 400", "reset"
     QByteArray uploaded; ///< all bytes of all uploads
-    milliseconds resetLimit{0}; ///< what the last reset was given
+    QHash<QString, milliseconds> limits; ///< what each call was given last
+    int refusesAtByte = -1; ///< of an upload
     bool isOpen = false;
 };
 
@@ -85,13 +86,15 @@ public:
         while (m_script->uploaded.size() < size) {
             m_script->uploaded += source.read(10);
             progress(m_script->uploaded.size());
+            if (m_script->uploaded.size() == m_script->refusesAtByte)
+                throw CCameraError(CameraName, Viewer::Text::CErrorText("no more"),
+                                   CCameraError::EChange::None);
         }
     }
 
     void resetAndWait(milliseconds limit) override
     {
         note("reset", limit);
-        m_script->resetLimit = limit;
         m_script->features.insert("DeviceFirmwareVersion", m_script->versionAfterReset);
     }
 
@@ -106,6 +109,7 @@ private:
         if (m_script->before)
             m_script->before(call);
         m_script->calls.append(call);
+        m_script->limits.insert(call, limit);
     }
 
     const std::shared_ptr<CDeviceScript> m_script;
@@ -201,9 +205,19 @@ void CDeviceFirmwareUpdateTest::announcesWhatItDoes()
              QString("open, write FirmwareUpdateMode=On, upload FirmwareImage 1000, "
                      "execute FirmwareActivate, reset"));
     QCOMPARE(m_script->calls.constLast(), QString("read DeviceFirmwareVersion"));
+    // By the step, and once more before the first write.
+    QCOMPARE(m_script->calls.count("read DeviceModelName"), 2);
     QCOMPARE(m_script->uploaded.size(), 1000);
     QVERIFY(m_script->uploaded.startsWith("model: VX-1400M\nversion: 2.0.0\n\nxxx"));
-    QCOMPARE(m_script->resetLimit.count(), 45000); // although the file promises 16 ms
+    const std::pair<const char *, milliseconds> limits[]
+        = {{"open", 10s},
+           {"read DeviceStatus", 5s},
+           {"write FirmwareUpdateMode=On", getTimeLimit(4ms)},
+           {"upload FirmwareImage 1000", getTimeLimit(1s)},
+           {"execute FirmwareActivate", getTimeLimit(8ms)},
+           {"reset", 45s}}; // although the file promises 16 ms
+    for (const auto &[call, limit] : limits)
+        QCOMPARE(m_script->limits.value(call).count(), limit.count());
     QCOMPARE(job->getFirmwareVersion(), QString("2.0.0"));
 }
 
@@ -212,16 +226,25 @@ void CDeviceFirmwareUpdateTest::everyFailingOperationGivesOneError()
     makeJob()->executeFirmwareUpdate();
     const QStringList calls = m_script->calls;
     QVERIFY(calls.size() > 10);
-    for (int failing = 0; failing < calls.size(); ++failing) {
-        init();
-        m_script->before = [this, failing](const QString &call) {
-            if (m_script->calls.size() == failing)
-                throw CCameraError(CameraName, Viewer::Text::CErrorText("no " + call));
-        };
-        const QString call = calls.at(failing);
-        verifyFailure("no " + call, calls.indexOf("write FirmwareUpdateMode=On") <= failing);
-        QCOMPARE(m_script->calls, calls.mid(0, failing)); // nothing was done after it
+    const int firstWrite = calls.indexOf("write FirmwareUpdateMode=On");
+    for (const auto change : {CCameraError::EChange::Possible, CCameraError::EChange::None}) {
+        for (int failing = 0; failing < calls.size(); ++failing) {
+            init();
+            m_script->before = [this, failing, change](const QString &call) {
+                if (m_script->calls.size() == failing)
+                    throw CCameraError(CameraName, Viewer::Text::CErrorText("no " + call), change);
+            };
+            const bool refusesFirst
+                = failing == firstWrite && change == CCameraError::EChange::None;
+            verifyFailure("no " + calls.at(failing), failing >= firstWrite && !refusesFirst);
+            QCOMPARE(m_script->calls, calls.mid(0, failing)); // nothing was done after it
+        }
     }
+    // A camera may refuse the rest of a file of which it has taken a block.
+    init();
+    m_manifest.updates.first().steps.remove(2); // the write before the upload
+    m_script->refusesAtByte = 10;
+    verifyFailure("no more", true);
 }
 
 void CDeviceFirmwareUpdateTest::everyExceptionBecomesAnError()

@@ -2,11 +2,18 @@
 #include <arv.h>
 
 #include "support/virtualcameraprocess.h"
+#include "viewer/appcore/commandline.h"
+#include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/genicam/genicam.h"
 #include "viewer/camerapool/icameradevice.h"
 
+#include "camerapool/icameraenumerationservice.h"
+
 #include <QNetworkInterface>
+#include <QSignalSpy>
 #include <QtTest>
+
+#include <algorithm>
 
 using TestSupport::CVirtualCameraProcess;
 using Viewer::CameraPool::CCameraSnapshot;
@@ -19,22 +26,81 @@ class CNetworkSearchTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
+    void listsWhatTheCommandLineAsksFor_data();
+    void listsWhatTheCommandLineAsksFor();
     void findsCamerasByBroadcast();
     void servesAnotherClient();
 };
 
-void CNetworkSearchTest::initTestCase()
+static bool reachesOthers()
 {
     const auto interfaces = QNetworkInterface::allInterfaces();
-    for (const QNetworkInterface &networkInterface : interfaces) {
-        if (!(networkInterface.flags() & QNetworkInterface::IsLoopBack))
-            QSKIP("A broadcast would leave this machine: no network namespace could be made.");
+    return std::any_of(interfaces.cbegin(), interfaces.cend(), [](const auto &networkInterface) {
+        return !(networkInterface.flags() & QNetworkInterface::IsLoopBack);
+    });
+}
+
+#define SKIP_IF_OTHERS_HEAR_IT()                                                                   \
+    if (reachesOthers())                                                                           \
+    QSKIP("A broadcast would leave this machine: no network namespace could be made.")
+
+void CNetworkSearchTest::listsWhatTheCommandLineAsksFor_data()
+{
+    const QString first = CVirtualCameraProcess::getOwnAddress(1).toString();
+    const QString second = CVirtualCameraProcess::getOwnAddress(2).toString();
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("realCameras");
+    QTest::addColumn<bool>("simulates");
+    QTest::newRow("nothing") << QStringList() << QStringList() << true;
+    QTest::newRow("no simulation") << QStringList{"--no-simulation"} << QStringList() << false;
+    QTest::newRow("an address") << QStringList{"--camera-address", second} << QStringList{"2"}
+                                << true;
+    QTest::newRow("two addresses")
+        << QStringList{"--camera-address", second, "--camera-address", first, "--no-simulation"}
+        << QStringList{"2", "1"} << false;
+    QTest::newRow("network") << QStringList{"--network", "--no-simulation"} << QStringList{"1", "2"}
+                             << false;
+}
+
+void CNetworkSearchTest::listsWhatTheCommandLineAsksFor()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QStringList, realCameras);
+    QFETCH(bool, simulates);
+    if (arguments.contains("--network"))
+        SKIP_IF_OTHERS_HEAR_IT();
+    const CVirtualCameraProcess first(CVirtualCameraProcess::getOwnAddress(1), {"--serial", "1"});
+    const CVirtualCameraProcess second(CVirtualCameraProcess::getOwnAddress(2), {"--serial", "2"});
+    Viewer::AppCore::CCommandLine commandLine;
+    QCOMPARE(commandLine.parse(QStringList("viewer") + arguments),
+             Viewer::AppCore::CCommandLine::EResult::Start);
+    Viewer::CameraPool::CCameraPool pool(commandLine.getOptions().pool);
+    const auto enumeration
+        = pool.getServices().first().dynamicCast<Plugin::CameraPool::ICameraEnumerationService>();
+    QSignalSpy spy(enumeration.data(),
+                   &Plugin::CameraPool::ICameraEnumerationService::enumerationChanged);
+    pool.start();
+    QVERIFY(spy.wait());
+    QStringList found;
+    bool hasSimulated = false;
+    const auto layers = enumeration->getTransportLayerInfoVector();
+    for (const auto &layer : layers) {
+        for (const auto &camera : layer->getCameraInfoList()) {
+            if (camera->getModelName() == "GV-1400M" && camera->getId().startsWith("GEV:Korvane"))
+                found.append(camera->getSerialNumber());
+            else
+                hasSimulated = true;
+        }
     }
+    if (arguments.contains("--network"))
+        found.sort(); // in whatever order they answer
+    QCOMPARE(found, realCameras);
+    QCOMPARE(hasSimulated, simulates);
 }
 
 void CNetworkSearchTest::findsCamerasByBroadcast()
 {
+    SKIP_IF_OTHERS_HEAR_IT();
     CVirtualCameraProcess first(CVirtualCameraProcess::getOwnAddress(1), {"--serial", "1"});
     CVirtualCameraProcess second(CVirtualCameraProcess::getOwnAddress(2),
                                  {"--serial", "2", "--firmware", "1.5.0"});
@@ -58,6 +124,7 @@ void CNetworkSearchTest::findsCamerasByBroadcast()
 
 void CNetworkSearchTest::servesAnotherClient()
 {
+    SKIP_IF_OTHERS_HEAR_IT();
     CVirtualCameraProcess camera(CVirtualCameraProcess::getOwnAddress(3), {"--serial", "3"});
     GError *error = nullptr;
     ArvCamera *const client = arv_camera_new(

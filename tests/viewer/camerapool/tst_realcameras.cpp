@@ -22,6 +22,9 @@ using Viewer::CameraPool::CCameraPool;
 using Viewer::CameraPool::ICameraDevice;
 using Viewer::CameraPool::GenICam::CGenICam;
 
+using Operation = std::function<void(ICameraDevice &)>;
+Q_DECLARE_METATYPE(Operation)
+
 /// Update jobs against virtual cameras in processes of their own, over the loopback interface.
 class CRealCamerasTest : public QObject
 {
@@ -33,11 +36,12 @@ private slots:
     void updatesACamera();
     void tellsEachFault_data();
     void tellsEachFault();
-    void givesUpACameraThatStaysAway();
+    void endsEachOperation_data();
+    void endsEachOperation();
     void leavesACameraInUseAlone();
     void refusesTwoCamerasOfOneIdentity();
     void refusesAnotherCameraAtTheAddress();
-    void closesTheFileOfAFailedUpload();
+    void closesTheFileOfEachUpload();
     void takesSoundAnswersOnly();
 
 private:
@@ -50,7 +54,8 @@ private:
     /// Opens a pool that knows the cameras started so far; they are its only ones.
     QVector<CameraInfoPtr> openPool();
 
-    /// The open device of the first camera, of nobody that the pool knows.
+    /// The device of the first camera, of nobody that the pool knows.
+    std::unique_ptr<ICameraDevice> makeDevice();
     std::unique_ptr<ICameraDevice> openDevice();
 
     /// The error of opening the camera @p id as it was when m_others saw it.
@@ -106,11 +111,16 @@ QVector<CameraInfoPtr> CRealCamerasTest::openPool()
     return layers.isEmpty() ? QVector<CameraInfoPtr>() : layers.first()->getCameraInfoList();
 }
 
-std::unique_ptr<ICameraDevice> CRealCamerasTest::openDevice()
+std::unique_ptr<ICameraDevice> CRealCamerasTest::makeDevice()
 {
     m_others = std::make_unique<CGenICam>(m_addresses, false);
     const auto layers = m_others->enumerate();
-    auto device = m_others->createDevice(layers.value(0).cameras.value(0).id);
+    return m_others->createDevice(layers.value(0).cameras.value(0).id);
+}
+
+std::unique_ptr<ICameraDevice> CRealCamerasTest::openDevice()
+{
+    auto device = makeDevice();
     device->open(std::chrono::seconds(10));
     return device;
 }
@@ -156,8 +166,12 @@ QString CRealCamerasTest::update(const CameraInfoPtr &camera)
 void CRealCamerasTest::updatesACamera_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    const QStringList shortReset{"--reset-ms", "100"};
-    QTest::newRow("smallest buffer") << QStringList{"--buffer", "512"};
+    const QStringList shortReset{"--reset-ms", "200"};
+    QTest::newRow("smallest buffer, answers on after the command for a reset")
+        << QStringList{"--buffer", "512", "--reset-delay-ms", "300"};
+    QTest::newRow("activation that must be awaited, packed description")
+        << QStringList{"--activate-ms", "0", "--activate-reads", "4", "--description", "zip"}
+            + shortReset;
     QTest::newRow("buffer of no whole block, short reset")
         << QStringList{"--buffer", "700"} + shortReset;
     QTest::newRow("largest buffer, requests lost")
@@ -199,23 +213,12 @@ void CRealCamerasTest::tellsEachFault_data()
     QTest::addColumn<QString>("error");
     QTest::newRow("dies while it is opened")
         << QStringList{"--die-after", "0"} << "it could not be opened: .*it did not answer; check";
-    QTest::newRow("somebody else takes control")
-        << QStringList{"--lose-control", "20480"}
-        << "writing its file \"FirmwareImage\" failed at byte [0-9]+: .*control over it was lost";
     QTest::newRow("dies during the upload")
         << QStringList{"--die-after", "20480"}
         << "writing its file \"FirmwareImage\" failed at byte 16384: .*it did not answer; check";
-    QTest::newRow("refuses a command")
-        << QStringList{"--refuse", "FirmwareActivate"}
-        << "its command \"FirmwareActivate\" could not be executed: it refused";
-    QTest::newRow("refuses to open the file")
-        << QStringList{"--refuse", "FileOperationExecute"}
-        << "opening its file \"FirmwareImage\" failed: its command";
     QTest::newRow("comes back with the old version")
         << QStringList{"--old-version"}
         << "its feature \"DeviceFirmwareVersion\" is \"1.2.0\" instead of \"2.0.0\"";
-    QTest::newRow("does not restart") << QStringList{"--refuse", "DeviceReset"}
-                                      << "its command \"DeviceReset\" could not be executed";
 }
 
 void CRealCamerasTest::tellsEachFault()
@@ -230,18 +233,98 @@ void CRealCamerasTest::tellsEachFault()
     QVERIFY2(text.contains(QRegularExpression(error)), qPrintable(text));
 }
 
-void CRealCamerasTest::givesUpACameraThatStaysAway()
+void CRealCamerasTest::endsEachOperation_data()
 {
-    startCamera({"--never-return"});
-    const auto device = openDevice();
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<Operation>("operation");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<bool>("mayHaveChanged");
+    const auto row = [](const char *name, const QStringList &arguments, const Operation &operation,
+                        const char *error, bool mayHaveChanged) {
+        QTest::newRow(name) << arguments << operation << error << mayHaveChanged;
+    };
+    const auto limit = std::chrono::seconds(1);
+    const auto write = [limit](const char *name, const char *value) {
+        return [=](ICameraDevice &device) { device.writeFeature(name, value, limit); };
+    };
+    const auto execute = [limit](const char *name) {
+        return [=](ICameraDevice &device) { device.executeCommand(name, limit); };
+    };
+    const auto upload = [](std::chrono::milliseconds uploadLimit) {
+        return [=](ICameraDevice &device) {
+            QBuffer source;
+            source.setData("version: 2.0.0\n\n" + QByteArray(8192, 'x'));
+            source.open(QIODevice::ReadOnly);
+            device.uploadFile("FirmwareImage", source, source.size(), {}, uploadLimit);
+        };
+    };
+    const Operation reset = [limit](ICameraDevice &device) { device.resetAndWait(limit); };
+    const Operation nothing = [](ICameraDevice &) {};
+
+    row("no such feature", {}, write("Missing", "1"), "it has no feature \"Missing\"", false);
+    row("value out of limits", {}, write("ExposureTime", "1e30"), "could not be set to", false);
+    row("no such entry", {}, write("FirmwareUpdateMode", "Perhaps"), "could not be set to", false);
+    row("no command", {}, execute("ExposureTime"), "is not a command", false);
+    row("command refused", {"--refuse", "FirmwareActivate"}, execute("FirmwareActivate"),
+        "its command \"FirmwareActivate\" could not be executed: it refused", false);
+    row(
+        "command without end", {"--activate-ms", "60000"},
+        [=](ICameraDevice &device) {
+            upload(limit)(device);
+            execute("FirmwareActivate")(device);
+        },
+        "\"FirmwareActivate\" took too long; switch the camera off and on and repeat", true);
+
+    row("file refused", {"--refuse", "FileOperationExecute"}, upload(limit),
+        "opening its file \"FirmwareImage\" failed: its command", false);
+    row("file operation without end", {"--operation-reads", "1000000"}, upload(limit),
+        "opening its file \"FirmwareImage\" failed: it took too long", true);
+    row("upload out of time", {}, upload(std::chrono::seconds(0)),
+        "took too long; it was broken off after 0 of 8208 bytes", true);
+    row("somebody else takes control", {"--lose-control", "4096"}, upload(limit),
+        "\"FirmwareImage\" failed at byte 4096: .*control over it was lost", true);
+
+    const QString gone = "it did not come back from its reset; switch it off";
+    const auto resetRow = [&](const char *name, const QStringList &arguments) {
+        row(name, arguments + QStringList{"--reset-ms", "100"}, reset, qPrintable(gone), true);
+    };
+    row("reset refused", {"--refuse", "DeviceReset"}, reset, "DeviceReset.*it refused", false);
+    row("reset ignored", {"--ignore-reset"}, reset, "it did not restart; switch it off", true);
+    resetRow("never back", {"--never-return"});
+    resetRow("another serial number back", {"--return-serial", "2"});
+    resetRow("another model back", {"--return-model", "GV-1"});
+
+    const auto describe = [&](const char *kind, const char *error) {
+        row(kind, {"--description", kind}, nothing, error, false);
+    };
+    const char *const circle = "its feature \"\\w+\" refers to itself$";
+    describe("self-value", circle);
+    describe("self-address", circle);
+    describe("self-feature", circle);
+    describe("file", "its feature description does not lie in the camera$");
+    describe("http", "its feature description does not lie in the camera$");
+    describe("bomb-100", "its feature description is larger than 67108864 bytes$");
+    describe("large", "its feature description is larger than 16777216 bytes$");
+    describe("broken", "its feature description is damaged in line [0-9]+$");
+}
+
+void CRealCamerasTest::endsEachOperation()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(Operation, operation);
+    QFETCH(QString, error);
+    QFETCH(bool, mayHaveChanged);
+    startCamera(arguments);
+    const auto device = makeDevice();
     try {
-        device->resetAndWait(std::chrono::seconds(1));
-        QFAIL("The camera is there again.");
-    } catch (const CCameraError &error) {
-        const QString text = error.getMessage();
+        device->open(std::chrono::seconds(10));
+        operation(*device);
+        QFAIL("no error");
+    } catch (const CCameraError &thrown) {
+        const QString text = thrown.getMessage();
         QVERIFY2(text.startsWith("Camera 50000001 (GV-1400M, 127."), qPrintable(text));
-        QVERIFY2(text.contains("): it did not come back from its reset; switch it off"),
-                 qPrintable(text));
+        QVERIFY2(text.contains(QRegularExpression(error)), qPrintable(text));
+        QCOMPARE(thrown.getChange() == CCameraError::EChange::Possible, mayHaveChanged);
     }
 }
 
@@ -267,7 +350,11 @@ void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
     QVERIFY(found[0]->getCameraStatusCode() != 0);
     QVERIFY(found[1]->getCameraStatusCode() != 0);
     QCOMPARE(found[2]->getCameraStatusCode(), 0);
-    QCOMPARE(m_pool->getStatusReason(found[0]->getId()), "same serial number as another camera");
+    auto snapshot = m_pool->getSnapshot(found[1]->getId());
+    QCOMPARE(snapshot.statusReason, "same serial number as another camera");
+    QCOMPARE(snapshot.ipAddress, m_addresses[1].toString());
+    const QByteArray end = QByteArray::number(m_addresses[1].toIPv4Address(), 16).toUpper();
+    QCOMPARE(snapshot.macAddress.remove(':'), "0200" + end);
     QCOMPARE(update(found[0]), "no update fits");
     m_others = std::make_unique<CGenICam>(m_addresses, false);
     QCOMPARE(m_others->enumerate().value(0).cameras.size(), 3);
@@ -286,14 +373,20 @@ void CRealCamerasTest::refusesAnotherCameraAtTheAddress()
     QVERIFY(tryToOpen(id).contains("another camera, 2 (GV-1400M, 127."));
 }
 
-void CRealCamerasTest::closesTheFileOfAFailedUpload()
+void CRealCamerasTest::closesTheFileOfEachUpload()
 {
-    CVirtualCameraProcess &camera = startCamera({"--buffer", "512"});
+    const QString flash = m_folder.filePath("flash");
+    CVirtualCameraProcess &camera = startCamera({"--buffer", "701", "--flash", flash});
     const auto device = openDevice();
     QBuffer source;
-    source.setData(QByteArray(700, 'x'));
+    source.setData(QByteArray(1403, 'x')); // ends within a word
     source.open(QIODevice::ReadOnly);
     const auto limit = std::chrono::seconds(20);
+    device->uploadFile("FirmwareImage", source, 1403, {}, limit);
+    QCOMPARE(camera.getEvents().last(), "close 1403");
+    QFile written(flash);
+    QVERIFY(written.open(QIODevice::ReadOnly) && written.readAll() == source.data());
+    source.seek(703);
     QVERIFY_EXCEPTION_THROWN(device->uploadFile("FirmwareImage", source, 900, {}, limit),
                              CCameraError);
     QCOMPARE(camera.getEvents().last(), "close 700");

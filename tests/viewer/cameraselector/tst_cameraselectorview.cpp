@@ -5,6 +5,9 @@
 #include "viewer/cameraselector/deviceselectorservice.h"
 
 #include <QAbstractItemModelTester>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QMenu>
 #include <QtTest>
 
 using namespace TestSupport;
@@ -17,6 +20,7 @@ class CCameraSelectorViewTest : public QObject
 private slots:
     void announcesEachSelection();
     void namesOfCamerasAreText();
+    void showsAddressesOnDemand();
 };
 
 void CCameraSelectorViewTest::announcesEachSelection()
@@ -72,6 +76,11 @@ void CCameraSelectorViewTest::announcesEachSelection()
 void CCameraSelectorViewTest::namesOfCamerasAreText()
 {
     CCameraSelectorModel model;
+    model.setSnapshots([](const QString &) {
+        Viewer::CameraPool::CCameraSnapshot snapshot;
+        snapshot.ipAddress = snapshot.macAddress = "<img src=/dev/zero>";
+        return snapshot;
+    });
     model.setTransportLayers({makeLayer("gev", {{"a", "<img src=/dev/zero>"}})});
     const QModelIndex camera = model.findId("a");
     for (int column = 0; column < model.columnCount(); ++column) {
@@ -80,6 +89,46 @@ void CCameraSelectorViewTest::namesOfCamerasAreText()
         QVERIFY2(CWatchedDocument(toolTip).isWordsAlone(), qPrintable(toolTip));
     }
     QVERIFY(camera.data(Qt::ToolTipRole).toString().contains("&lt;img"));
+}
+
+void CCameraSelectorViewTest::showsAddressesOnDemand()
+{
+    const auto enumeration = QSharedPointer<CFakeEnumerationService>::create();
+    CCameraSelectorView view(enumeration, QSharedPointer<CDeviceSelectorService>::create());
+    view.getModel()->setSnapshots([](const QString &id) {
+        Viewer::CameraPool::CCameraSnapshot snapshot;
+        if (id == "real") {
+            snapshot.ipAddress = "10.0.0.7";
+            snapshot.macAddress = "02:00:0A:00:00:07";
+        }
+        return snapshot;
+    });
+    enumeration->announce({makeLayer("gev", {{"real"}, {"simulated"}})});
+    view.show();
+    const auto toolTip
+        = [&view](const char *id) { return view.getModel()->findId(id).data(Qt::ToolTipRole); };
+    QVERIFY(toolTip("real").toString().contains("IP address: 10.0.0.7"));
+    QVERIFY(toolTip("real").toString().contains("MAC address: 02:00:0A:00:00:07"));
+    QVERIFY(!toolTip("simulated").toString().contains("address"));
+
+    const QPoint title = view.header()->viewport()->rect().center();
+    QContextMenuEvent rightClick(QContextMenuEvent::Mouse, title,
+                                 view.header()->viewport()->mapToGlobal(title));
+    QCoreApplication::sendEvent(view.header()->viewport(), &rightClick);
+    auto *const menu = view.findChild<QMenu *>("cameraSelectorColumnMenu");
+    QTRY_VERIFY(menu->isVisible());
+    for (const char *text : {"10.0.0.7", "02:00:0A:00:00:07"}) {
+        int column = 0;
+        while (view.getModel()->findId("real").siblingAtColumn(column).data() != text)
+            ++column;
+        QVERIFY(view.isColumnHidden(column));
+        QTest::mouseClick(menu, Qt::LeftButton, {},
+                          menu->actionGeometry(menu->actions().at(column - 1)).center());
+        QVERIFY(!view.isColumnHidden(column));
+        QVERIFY(view.columnWidth(column) > view.fontMetrics().horizontalAdvance(text));
+        menu->popup({});
+    }
+    menu->close();
 }
 
 QTEST_MAIN(CCameraSelectorViewTest)

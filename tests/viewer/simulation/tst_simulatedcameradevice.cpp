@@ -18,7 +18,11 @@ using namespace std::chrono_literals;
 /// One camera on its table: what it is, its device, which is open, and its memory.
 struct CBench
 {
-    CBench() { device.open(60s); }
+    explicit CBench(const CScriptedFaults &scripted = {})
+        : faults(scripted)
+    {
+        device.open(60s);
+    }
 
     void upload(QByteArray image = "model: M-1\nversion: 2.0.0\n\n" + QByteArray(50'000, 'x'),
                 std::chrono::milliseconds limit = 60s)
@@ -30,10 +34,11 @@ struct CBench
 
     QString getVersion() const { return camera->getSnapshot()->firmwareVersion; }
 
+    const CScriptedFaults faults;
     std::shared_ptr<CFirmwareStateFile> memory = std::make_shared<CFirmwareStateFile>("");
     std::shared_ptr<CSimulatedCamera> camera = std::make_shared<CSimulatedCamera>(
         CCameraDescriptionEntry{
-            {"cam", "Bench camera", "M-1", "77", "R1", "1.0.0", 0, {}}, 100'000, {}},
+            {"cam", "Bench camera", "M-1", "77", "R1", "1.0.0", 0, {}, {}, {}}, 100'000, faults},
         1000.0, memory, std::make_shared<CSimulationNotifier>());
     CSimulatedCameraDevice device{camera};
 };
@@ -51,6 +56,18 @@ static void verifyFault(const char *cause, const std::function<void()> &operatio
              qPrintable(message));
 }
 
+/// @p operation has to throw a CCameraError that says whether the camera @p mayHaveChanged.
+static void verifyChange(bool mayHaveChanged, const std::function<void()> &operation)
+{
+    try {
+        operation();
+        QFAIL("no error");
+    } catch (const CCameraError &error) {
+        QVERIFY2((error.getChange() == CCameraError::EChange::Possible) == mayHaveChanged,
+                 qPrintable(error.getMessage()));
+    }
+}
+
 class CSimulatedCameraDeviceTest : public QObject
 {
     Q_OBJECT
@@ -58,6 +75,7 @@ class CSimulatedCameraDeviceTest : public QObject
 private slots:
     void installsOnlyWhatWasUploadedActivatedAndRestarted();
     void everyOperationKeepsItsTimeLimit();
+    void tellsWhetherItMayHaveChanged();
 };
 
 void CSimulatedCameraDeviceTest::installsOnlyWhatWasUploadedActivatedAndRestarted()
@@ -90,6 +108,26 @@ void CSimulatedCameraDeviceTest::everyOperationKeepsItsTimeLimit()
     verifyFault("within 0.1 s", [&] { bench.device.resetAndWait(100ms); });
     bench.device.close();
     verifyFault("within 0.01 s", [&] { bench.device.open(10ms); });
+}
+
+void CSimulatedCameraDeviceTest::tellsWhetherItMayHaveChanged()
+{
+    CBench bench;
+    verifyChange(false, [&] { bench.device.writeFeature("Device1", "", 5s); });
+    verifyChange(false, [&] { bench.device.executeCommand(ActivateCommand, 5s); });
+    verifyChange(true, [&] { bench.device.writeFeature("Any", "", 10ms); });
+    verifyChange(true, [&] { bench.device.resetAndWait(100ms); });
+    verifyChange(false, [&] { bench.device.close(), bench.device.writeFeature("Any", "", 5s); });
+    CScriptedFaults refuses;
+    refuses.writeRefused = true;
+    verifyChange(false, [&] { CBench(refuses).device.writeFeature("Any", "", 5s); });
+    verifyChange(false, [&] { CBench(refuses).upload(); });
+    for (const qint64 byte : {0, 1, 16 * 1024, 50'000}) {
+        CScriptedFaults fails, vanishes;
+        fails.uploadFailsAtByte = vanishes.vanishesAtByte = byte;
+        verifyChange(byte > 0, [&] { CBench(fails).upload(); });
+        verifyChange(byte > 0, [&] { CBench(vanishes).upload(); });
+    }
 }
 
 QTEST_GUILESS_MAIN(CSimulatedCameraDeviceTest)

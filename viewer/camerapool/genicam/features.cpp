@@ -54,12 +54,18 @@ static CErrorText describe(const CErrorGuard &error)
         .arg(Text::shorten(error.getMessage().simplified(), MaximumReasonLength));
 }
 
-void throwError(const CErrorGuard &error, const CErrorText &attempt)
+static EReason findReason(const CErrorGuard &error, EReason refusal)
 {
-    const bool noAnswer
-        = error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED);
+    if (error.is(ARV_DEVICE_ERROR_TIMEOUT) || error.is(ARV_DEVICE_ERROR_NOT_CONNECTED))
+        return EReason::NoAnswer;
+    // Of the wire, not of the camera.
+    return error.is(ARV_DEVICE_ERROR_TRANSFER_ERROR) ? EReason::Unknown : refusal;
+}
+
+void throwError(const CErrorGuard &error, const CErrorText &attempt, EReason refusal)
+{
     throw CFeatureError(CErrorText::tr("%1: %2").arg(attempt, describe(error)),
-                        noAnswer ? EReason::NoAnswer : EReason::Refused);
+                        findReason(error, refusal));
 }
 
 static CErrorText readingOf(const QByteArray &name)
@@ -83,14 +89,14 @@ bool CFeatures::has(const QByteArray &name) const
     return ARV_IS_GC_FEATURE_NODE(arv_device_get_feature(m_device, name.constData()));
 }
 
-ArvGcNode *CFeatures::getNode(const QByteArray &name) const
+ArvGcNode *CFeatures::getNode(const QByteArray &name, EReason ifMissing) const
 {
     ArvGcNode *const node = arv_device_get_feature(m_device, name.constData());
     if (!ARV_IS_GC_FEATURE_NODE(node))
         throw CFeatureError(CErrorText::tr("it has no feature \"%1\"; the update file may be for "
                                            "another model")
                                 .arg(QString::fromUtf8(name)),
-                            EReason::Refused);
+                            ifMissing);
     return node;
 }
 
@@ -98,9 +104,9 @@ QString CFeatures::read(const QByteArray &name) const
 {
     CErrorGuard error;
     const char *const value = arv_gc_feature_node_get_value_as_string(
-        ARV_GC_FEATURE_NODE(getNode(name)), error.receive());
+        ARV_GC_FEATURE_NODE(getNode(name, EReason::Unknown)), error.receive());
     if (error)
-        throwError(error, readingOf(name));
+        throwError(error, readingOf(name), EReason::Unknown);
     return QString::fromUtf8(value);
 }
 
@@ -119,7 +125,7 @@ qint64 CFeatures::readInteger(const QByteArray &name) const
     const qint64 value
         = arv_device_get_integer_feature_value(m_device, name.constData(), error.receive());
     if (error)
-        throwError(error, readingOf(name));
+        throwError(error, readingOf(name), EReason::Unknown);
     return value;
 }
 
@@ -151,7 +157,7 @@ bool CFeatures::isDone(const QByteArray &name) const
     // A command that is being executed reads as the value that was written to start it.
     ArvGcNode *value = nullptr;
     gint64 commandValue = 1;
-    ArvDomNode *const command = ARV_DOM_NODE(getNode(name));
+    ArvDomNode *const command = ARV_DOM_NODE(getNode(name, EReason::Unknown));
     for (ArvDomNode *child = arv_dom_node_get_first_child(command); child;
          child = arv_dom_node_get_next_sibling(child)) {
         if (!ARV_IS_GC_PROPERTY_NODE(child))
@@ -181,7 +187,8 @@ bool CFeatures::isDone(const QByteArray &name) const
         throwError(
             error,
             CErrorText::tr("it could not be found out whether its command \"%1\" has finished")
-                .arg(QString::fromUtf8(name)));
+                .arg(QString::fromUtf8(name)),
+            EReason::Unknown);
     return current != commandValue;
 }
 

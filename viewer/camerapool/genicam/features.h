@@ -16,8 +16,9 @@ class CFeatureError : public Core::Exception::BaseException
 {
 public:
     enum class EReason {
-        NoAnswer, ///< the camera may be gone
-        Refused,
+        NoAnswer, ///< the camera may be gone; what it was asked may be done
+        Refused, ///< what it was asked is not done
+        Unknown, ///< it answers, but what was to be done may be done, or in part
     };
 
     CFeatureError(const Text::CErrorText &text, EReason reason);
@@ -39,13 +40,14 @@ private:
 [[nodiscard]] Text::CErrorText getInUseText();
 
 /// Throws the CFeatureError for @p error, of which there is one: "<attempt>: <why, and what to do
-/// about it>". To be called behind `if (error)`, as the text of the attempt, made for every command
-/// of an upload, would take a fifth of its time.
-[[noreturn]] void throwError(const CErrorGuard &error, const Text::CErrorText &attempt);
+/// about it>". @p refusal is what a refusal amounts to. To be called behind `if (error)`, as the
+/// text of the attempt, made for every command of an upload, would take a fifth of its time.
+[[noreturn]] void throwError(const CErrorGuard &error, const Text::CErrorText &attempt,
+                             CFeatureError::EReason refusal = CFeatureError::EReason::Refused);
 
 /// The features of one open camera, by name. All operations block for as long as the camera takes,
-/// up to 2.5 s for an answer that does not come, and throw CFeatureError. The thread that owns the
-/// device.
+/// up to 2.5 s for an answer that does not come, and throw CFeatureError; what cannot be read says
+/// nothing about what was done before, so that is never a refusal. The thread that owns the device.
 class CFeatures
 {
 public:
@@ -82,7 +84,9 @@ public:
     void writeMemory(quint64 address, QByteArray bytes) const;
 
 private:
-    [[nodiscard]] ArvGcNode *getNode(const QByteArray &name) const;
+    [[nodiscard]] ArvGcNode *getNode(const QByteArray &name,
+                                     CFeatureError::EReason ifMissing
+                                     = CFeatureError::EReason::Refused) const;
 
     ArvDevice *const m_device;
 };

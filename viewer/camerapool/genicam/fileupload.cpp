@@ -58,6 +58,7 @@ void CFileUpload::open()
                 // A camera that has opened the file may still fail to say so.
                 m_mayBeOpen = true;
                 operate(QByteArrayLiteral("Open"));
+                m_isOpened = true;
             });
 }
 
@@ -93,8 +94,10 @@ void CFileUpload::attempt(Describe describe, Action action)
         // Asking a dead camera to close its file would only take as long again.
         if (error.getReason() == CFeatureError::EReason::NoAnswer)
             m_mayBeOpen = false;
+        const bool isRefusal = error.getReason() == CFeatureError::EReason::Refused;
         throw CFeatureError(CErrorText::tr("%1: %2").arg(describe(), error.getText()),
-                            error.getReason());
+                            isRefusal && m_isOpened ? CFeatureError::EReason::Unknown
+                                                    : error.getReason());
     }
 }
 
@@ -146,7 +149,8 @@ void CFileUpload::execute()
     m_features.execute(OperationExecute);
     while (!m_features.isDone(OperationExecute)) {
         if (m_deadline.hasExpired())
-            fail(CErrorText::tr("it took too long"));
+            throw CFeatureError(CErrorText::tr("it took too long"),
+                                CFeatureError::EReason::Unknown);
         QThread::msleep(1);
     }
 }

@@ -18,7 +18,8 @@ public:
     ~CFileUpload();
     Q_DISABLE_COPY(CFileUpload)
 
-    /// Opens the camera's file to write. Throws CFeatureError, as all operations do.
+    /// Opens the camera's file to write. Throws CFeatureError, as all operations do; only in this
+    /// one it may be a refusal.
     void open();
 
     /// Bytes that one block holds at most. The file is open.
@@ -49,6 +50,7 @@ private:
     qint64 m_offset = 0;
     qint64 m_length = -1; ///< as the camera knows it; negative: it does not yet
     bool m_mayBeOpen = false;
+    bool m_isOpened = false; ///< with which the camera may have dropped what it held
     bool m_isWriteSelected = false;
 };
 

@@ -15,19 +15,29 @@ struct CFoundCamera
 {
     ETransport transport = ETransport::Ethernet;
     QString address; ///< IPv4 address; on USB empty
+    QString hardwareAddress; ///< MAC address; on USB the maker's unique number; empty: unknown
     QString vendor;
     QString model;
     QString version; ///< empty: the camera has to be opened to tell
     QString serialNumber;
     QString userName; ///< given by the user; may be empty
+    QString id; ///< by CCameraIdentities
     bool isAmbiguous = false; ///< another camera says that it is the same one
 
-    /// The same for one camera wherever it is found, another one for each camera.
-    [[nodiscard]] QString getId() const
+    /// Which camera it says it is: the same wherever it is found, and meant to be no other one's.
+    [[nodiscard]] QString getIdentity() const
     {
         const QString transportName
             = transport == ETransport::Ethernet ? QStringLiteral("GEV") : QStringLiteral("U3V");
         return QStringLiteral("%1:%2:%3:%4").arg(transportName, vendor, model, serialNumber);
+    }
+
+    /// Whether @p other is this camera, as far as one can tell.
+    [[nodiscard]] bool isSameAs(const CFoundCamera &other) const
+    {
+        return getIdentity() == other.getIdentity()
+            && (hardwareAddress == other.hardwareAddress || hardwareAddress.isEmpty()
+                || other.hardwareAddress.isEmpty());
     }
 
     /// What the user reads: the user's own name for the camera, else what tells it from others.

@@ -66,10 +66,13 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
         return {};
     const bool searches = m_searchesNetwork;
     QVector<CFoundCamera> found = find(searches);
-
-    QHash<QString, int> counts;
-    for (const CFoundCamera &camera : qAsConst(found))
-        ++counts[camera.getId()];
+    {
+        const std::lock_guard lock(m_mutex);
+        m_identities.assign(found);
+        m_found.clear();
+        for (const CFoundCamera &camera : qAsConst(found))
+            m_found.insert(camera.id, camera);
+    }
 
     // Named unlike the simulation's layers, which may stand beside them.
     CTransportLayerSnapshot ethernet{QString::fromLatin1(Plugin::CameraPool::TLTypeGigE),
@@ -78,30 +81,24 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
     CTransportLayerSnapshot usb{QString::fromLatin1(Plugin::CameraPool::TLTypeUSB),
                                 QStringLiteral("USB3 Vision (USB)"),
                                 {}};
-    QHash<QString, CFoundCamera> byId;
-    for (CFoundCamera &camera : found) {
+    for (const CFoundCamera &camera : qAsConst(found)) {
         CCameraSnapshot snapshot;
-        snapshot.id = camera.getId();
+        snapshot.id = camera.id;
         snapshot.displayName = camera.getDisplayName();
         snapshot.modelName = camera.model;
         snapshot.serialNumber = camera.serialNumber;
         snapshot.deviceVersion = camera.version;
         snapshot.firmwareVersion = camera.version;
-        if (counts.value(snapshot.id) > 1) {
-            camera.isAmbiguous = true;
+        if (camera.transport == ETransport::Ethernet) {
+            snapshot.ipAddress = camera.address;
+            snapshot.macAddress = camera.hardwareAddress;
+        }
+        if (camera.isAmbiguous) {
             snapshot.statusCode = AmbiguousIdentityStatus;
             snapshot.statusReason
                 = CErrorText::tr("same serial number as another camera").getLocalized();
-            // On USB there is no address, but still a place in the list.
-            snapshot.id += QLatin1Char('@')
-                + (camera.address.isEmpty() ? QString::number(usb.cameras.size()) : camera.address);
         }
-        byId.insert(snapshot.id, camera);
         (camera.transport == ETransport::Ethernet ? ethernet : usb).cameras.append(snapshot);
-    }
-    {
-        const std::lock_guard lock(m_mutex);
-        m_found = byId;
     }
     QVector<CTransportLayerSnapshot> layers;
     if (searches || !m_addresses.isEmpty())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cameraidentities.h"
 #include "foundcamera.h"
 
 #include "viewer/camerapool/icameradevicefactory.h"
@@ -41,7 +42,8 @@ private:
     std::atomic<bool> m_searchesNetwork;
     std::atomic<bool> m_isCanceled{false};
 
-    mutable std::mutex m_mutex; ///< guards m_found
+    mutable std::mutex m_mutex; ///< guards what follows
+    CCameraIdentities m_identities;
     QHash<QString, CFoundCamera> m_found; ///< by the last enumeration, by id
 };
 

@@ -4,8 +4,6 @@
 #include "memoryreader.h"
 #include "unicastdiscovery.h"
 
-#include "viewer/camerapool/cameraerror.h"
-
 #include <QDeadlineTimer>
 #include <QIODevice>
 #include <QThread>
@@ -21,9 +19,6 @@ using std::chrono::milliseconds;
 
 /// How long a camera may take to say who it is before it is opened.
 static constexpr milliseconds IdentityLimit = 1s;
-
-/// How long reading a camera's feature description may take. The largest has some 30,000 blocks.
-static constexpr milliseconds DescriptionLimit = 15s;
 
 /// How often a camera is looked at that is busy with something.
 static constexpr milliseconds PollInterval = 50ms;
@@ -54,10 +49,12 @@ void CGenICamDevice::open(milliseconds timeLimit)
     if (m_camera.isAmbiguous)
         fail(CErrorText::tr("another camera has the same vendor, model and serial number; connect "
                             "only one of them and search for cameras again"));
-    // What is dead is found out before the library, which takes longer, is set to work. From then
-    // on only its own limits count: 2.5 s for each answer that does not come.
+    // What is dead is found out before the library, which takes longer, is set to work. In it only
+    // its own limits count: 2.5 s for each answer that does not come, and no end for a camera that
+    // announces its answer again and again.
+    const QDeadlineTimer deadline(timeLimit);
     checkIdentity(std::min(timeLimit, IdentityLimit));
-    m_device = translate([this] { return makeDevice(); });
+    m_device = translate([this, &deadline] { return makeDevice(deadline); });
 }
 
 void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
@@ -68,7 +65,7 @@ void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
         = discoverUnicast({QHostAddress(m_camera.address)}, timeLimit);
     if (found.isEmpty())
         fail(getNoAnswerText());
-    if (found.first().getId() != m_camera.getId())
+    if (!found.first().isSameAs(m_camera))
         fail(CErrorText::tr("another camera, %1, answers at its address; search for cameras again")
                  .arg(found.first().getFullName()));
 }
@@ -84,14 +81,14 @@ static CObjectPointer<GInetAddress> findInterface(const QHostAddress &camera)
         g_inet_address_new_from_string(socket.localAddress().toString().toLatin1().constData()));
 }
 
-CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
+CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadline) const
 {
     CErrorGuard error;
     CObjectPointer<ArvDevice> device;
     if (m_camera.transport == ETransport::Ethernet) {
         // By address and without the library's list of devices, which a search locks for a second.
         const QHostAddress address(m_camera.address);
-        checkFeatureDescription(address, QDeadlineTimer(DescriptionLimit));
+        checkFeatureDescription(address, deadline);
         const CObjectPointer<GInetAddress> interfaceAddress = findInterface(address);
         const CObjectPointer<GInetAddress> cameraAddress(
             g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
@@ -102,9 +99,7 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
         device.reset(
             arv_gv_device_new(interfaceAddress.get(), cameraAddress.get(), error.receive()));
     } else {
-        device.reset(arv_uv_device_new(
-            m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
-            m_camera.serialNumber.toUtf8().constData(), error.receive()));
+        device = makeUsbDevice(error);
     }
     if (error)
         throwError(error, CErrorText::tr("it could not be opened"));
@@ -114,6 +109,16 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice() const
     if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
         throw CFeatureError(getInUseText(), CFeatureError::EReason::Refused);
     return device;
+}
+
+CObjectPointer<ArvDevice> CGenICamDevice::makeUsbDevice(CErrorGuard &error) const
+{
+    if (!m_camera.hardwareAddress.isEmpty())
+        return CObjectPointer<ArvDevice>(arv_uv_device_new_from_guid(
+            m_camera.hardwareAddress.toUtf8().constData(), error.receive()));
+    return CObjectPointer<ArvDevice>(
+        arv_uv_device_new(m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
+                          m_camera.serialNumber.toUtf8().constData(), error.receive()));
 }
 
 void CGenICamDevice::close() noexcept
@@ -211,11 +216,11 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
         m_device.reset();
         while (!m_device) {
             try {
-                m_device = makeDevice();
-            } catch (const CFeatureError &) {
+                m_device = makeDevice(deadline);
+            } catch (const CFeatureError &error) {
                 // It answers questions for its name a little before it can be opened.
                 if (deadline.hasExpired())
-                    throw;
+                    fail(error.getText());
                 QThread::msleep(PollInterval.count());
             }
         }
@@ -249,15 +254,13 @@ bool CGenICamDevice::isPresent(QString &version) const
 {
     if (m_camera.transport == ETransport::Ethernet) {
         const QVector<CFoundCamera> found = discoverUnicast({QHostAddress(m_camera.address)});
-        if (found.isEmpty() || found.first().getId() != m_camera.getId())
+        if (found.isEmpty() || !found.first().isSameAs(m_camera))
             return false;
         version = found.first().version;
         return true;
     }
     CErrorGuard error;
-    const CObjectPointer<ArvDevice> device(
-        arv_uv_device_new(m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
-                          m_camera.serialNumber.toUtf8().constData(), error.receive()));
+    const CObjectPointer<ArvDevice> device = makeUsbDevice(error);
     return device && !error;
 }
 
@@ -275,7 +278,7 @@ milliseconds CGenICamDevice::getShortestResetLimit() const
 CFeatures CGenICamDevice::getFeatures() const
 {
     if (!m_device)
-        fail(CErrorText::tr("it is not open"));
+        fail(CErrorText::tr("it is not open"), CCameraError::EChange::None);
     return CFeatures(m_device.get());
 }
 
@@ -285,13 +288,16 @@ std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
     try {
         return action();
     } catch (const CFeatureError &error) {
-        fail(error.getText());
+        fail(error.getText(),
+             error.getReason() == CFeatureError::EReason::Refused
+                 ? CCameraError::EChange::None
+                 : CCameraError::EChange::Possible);
     }
 }
 
-void CGenICamDevice::fail(const CErrorText &cause) const
+void CGenICamDevice::fail(const CErrorText &cause, CCameraError::EChange change) const
 {
-    throw CCameraError(getName(), cause);
+    throw CCameraError(getName(), cause, change);
 }
 
 } // namespace Viewer::CameraPool::GenICam

@@ -3,6 +3,7 @@
 #include "features.h"
 #include "foundcamera.h"
 
+#include "viewer/camerapool/cameraerror.h"
 #include "viewer/camerapool/icameradevice.h"
 
 #include <type_traits>
@@ -37,7 +38,8 @@ public:
 private:
     /// Addresses can be given to others between a search and an update.
     void checkIdentity(std::chrono::milliseconds timeLimit) const;
-    [[nodiscard]] CObjectPointer<ArvDevice> makeDevice() const;
+    [[nodiscard]] CObjectPointer<ArvDevice> makeDevice(const QDeadlineTimer &deadline) const;
+    [[nodiscard]] CObjectPointer<ArvDevice> makeUsbDevice(CErrorGuard &error) const;
     void waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const;
 
     /// Whether the camera answers, and then with which version.
@@ -48,7 +50,8 @@ private:
     /// Runs @p action; whatever it throws leaves as a CCameraError.
     template <typename Action>
     std::invoke_result_t<Action> translate(Action action) const;
-    [[noreturn]] void fail(const Text::CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause,
+                           CCameraError::EChange change = CCameraError::EChange::Possible) const;
 
     const CFoundCamera m_camera;
     CObjectPointer<ArvDevice> m_device;

@@ -21,6 +21,8 @@ static CFoundCamera readCamera(ArvInterface *interface, unsigned int index, ETra
     camera.transport = transport;
     if (transport == ETransport::Ethernet)
         camera.address = toText(arv_interface_get_device_address(interface, index));
+    else // on Ethernet the camera is asked again, and tells more
+        camera.hardwareAddress = toText(arv_interface_get_device_physical_id(interface, index));
     camera.vendor = toText(arv_interface_get_device_vendor(interface, index));
     camera.model = toText(arv_interface_get_device_model(interface, index));
     camera.serialNumber = toText(arv_interface_get_device_serial_nbr(interface, index));

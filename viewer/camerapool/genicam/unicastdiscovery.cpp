@@ -25,6 +25,13 @@ static QString readText(const QByteArray &payload, int offset, int size)
     return Text::toSingleLine(QString::fromUtf8(field.constData(), length).simplified());
 }
 
+static QString readHardwareAddress(const QByteArray &payload)
+{
+    const QByteArray bytes = payload.mid(0x0A, 6);
+    const bool isKnown = bytes.count('\0') < bytes.size();
+    return isKnown ? QString::fromLatin1(bytes.toHex(':').toUpper()) : QString();
+}
+
 std::optional<CFoundCamera> readDiscoveryAnswer(const QByteArray &datagram,
                                                 const QHostAddress &sender)
 {
@@ -34,6 +41,7 @@ std::optional<CFoundCamera> readDiscoveryAnswer(const QByteArray &datagram,
     const QByteArray payload = datagram.mid(HeaderSize);
     CFoundCamera camera;
     camera.address = sender.toString();
+    camera.hardwareAddress = readHardwareAddress(payload);
     camera.vendor = readText(payload, 0x48, 32);
     camera.model = readText(payload, 0x68, 32);
     camera.version = readText(payload, 0x88, 32);

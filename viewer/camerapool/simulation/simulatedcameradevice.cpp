@@ -2,7 +2,6 @@
 
 #include "firmwareimage.h"
 #include "simulatedcamera.h"
-#include "viewer/camerapool/cameraerror.h"
 #include "viewer/text/visibletext.h"
 
 #include <QIODevice>
@@ -15,6 +14,7 @@ namespace Viewer::CameraPool::Simulation {
 using Text::CErrorText;
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
+using EChange = CCameraError::EChange;
 
 // What real cameras take, about.
 static constexpr milliseconds OpenDuration = 200ms;
@@ -106,9 +106,9 @@ void CSimulatedCameraDevice::writeFeature(const QString &name, const QString &va
 {
     work(WriteDuration, timeLimit);
     if (m_camera->getDescription().faults.writeRefused)
-        fail(CErrorText::tr("it refuses to write the feature \"%1\"").arg(name));
+        refuse(CErrorText::tr("it refuses to write the feature \"%1\"").arg(name));
     if (!isFeatureName(name) || name.startsWith(QLatin1String("Device")))
-        fail(CErrorText::tr("it has no feature \"%1\" that can be written").arg(name));
+        refuse(CErrorText::tr("it has no feature \"%1\" that can be written").arg(name));
     m_features.insert(name, value);
 }
 
@@ -116,7 +116,7 @@ void CSimulatedCameraDevice::executeCommand(const QString &name, milliseconds ti
 {
     work(CommandDuration, timeLimit);
     if (!isFeatureName(name))
-        fail(CErrorText::tr("it has no command \"%1\"").arg(name));
+        refuse(CErrorText::tr("it has no command \"%1\"").arg(name));
     if (name == QLatin1String(ActivateCommand))
         activate();
 }
@@ -127,7 +127,7 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
     const CScriptedFaults &faults = m_camera->getDescription().faults;
     work(WriteDuration, timeLimit);
     if (faults.writeRefused)
-        fail(CErrorText::tr("it refuses to write the file \"%1\"").arg(fileName));
+        refuse(CErrorText::tr("it refuses to write the file \"%1\"").arg(fileName));
 
     m_uploaded = false;
     m_activatedVersion.clear();
@@ -135,6 +135,7 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
     const auto start = CSimulatedCamera::Clock::now();
     const auto limit = std::chrono::duration_cast<std::chrono::microseconds>(timeLimit);
     qint64 done = 0;
+    const auto getChange = [&done] { return done > 0 ? EChange::Possible : EChange::None; };
     while (done < size) {
         qint64 wanted = std::min(BlockSize, size - done);
         for (const std::optional<qint64> &end : {faults.uploadFailsAtByte, faults.vanishesAtByte}) {
@@ -146,7 +147,8 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
             if (block.isEmpty())
                 fail(CErrorText::tr("the data for its file \"%1\" ended after %2 of %3 bytes (%4)")
                          .arg(fileName, QString::number(done), QString::number(size),
-                              source.errorString()));
+                              source.errorString()),
+                     getChange());
             if (m_image.size() < CFirmwareImage::MaximumHeaderSize)
                 m_image += block.left(CFirmwareImage::MaximumHeaderSize - m_image.size());
             done += block.size();
@@ -160,10 +162,11 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
         }
         if (faults.uploadFailsAtByte == done)
             fail(CErrorText::tr("the upload of its file \"%1\" broke off after %2 of %3 bytes")
-                     .arg(fileName, QString::number(done), QString::number(size)));
+                     .arg(fileName, QString::number(done), QString::number(size)),
+                 getChange());
         if (faults.vanishesAtByte == done) {
             m_camera->setPlugged(false);
-            requireConnection(false);
+            requireConnection(false, getChange());
         }
     }
     m_uploaded = true;
@@ -197,9 +200,14 @@ milliseconds CSimulatedCameraDevice::getShortestResetLimit() const
     return 0ms; // a simulated camera takes as long as its description says
 }
 
-void CSimulatedCameraDevice::fail(const CErrorText &cause) const
+void CSimulatedCameraDevice::fail(const CErrorText &cause, EChange change) const
 {
-    throw CCameraError(getName(), cause);
+    throw CCameraError(getName(), cause, change);
+}
+
+void CSimulatedCameraDevice::refuse(const CErrorText &cause) const
+{
+    fail(cause, EChange::None);
 }
 
 void CSimulatedCameraDevice::failByTime(milliseconds timeLimit) const
@@ -210,29 +218,30 @@ void CSimulatedCameraDevice::failByTime(milliseconds timeLimit) const
 void CSimulatedCameraDevice::work(milliseconds duration, milliseconds timeLimit) const
 {
     if (m_session == 0)
-        fail(CErrorText::tr("it is not open"));
+        refuse(CErrorText::tr("it is not open"));
     requireConnection(m_camera->wait(m_session, std::min(duration, timeLimit)));
     if (duration > timeLimit)
         failByTime(timeLimit);
 }
 
-void CSimulatedCameraDevice::requireConnection(bool connected) const
+void CSimulatedCameraDevice::requireConnection(bool connected, EChange change) const
 {
     if (!connected)
-        fail(CErrorText::tr("the connection was lost; check its cable and its power supply"));
+        fail(CErrorText::tr("the connection was lost; check its cable and its power supply"),
+             change);
 }
 
 void CSimulatedCameraDevice::activate()
 {
     if (!m_uploaded)
-        fail(CErrorText::tr("there is no complete firmware image to activate"));
+        refuse(CErrorText::tr("there is no complete firmware image to activate"));
     const CFirmwareImage image = CFirmwareImage::parse(m_image);
     if (image.version.isEmpty())
-        fail(CErrorText::tr("it does not accept the uploaded file as a firmware image"));
+        refuse(CErrorText::tr("it does not accept the uploaded file as a firmware image"));
     const QString model = m_camera->getDescription().camera.modelName;
     if (!image.model.isEmpty() && image.model != model)
-        fail(CErrorText::tr("the uploaded firmware image is for model %1, not for %2")
-                 .arg(Text::shorten(image.model), model));
+        refuse(CErrorText::tr("the uploaded firmware image is for model %1, not for %2")
+                   .arg(Text::shorten(image.model), model));
     m_activatedVersion = image.version;
 }
 

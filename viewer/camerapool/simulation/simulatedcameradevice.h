@@ -1,15 +1,12 @@
 #pragma once
 
+#include "viewer/camerapool/cameraerror.h"
 #include "viewer/camerapool/icameradevice.h"
 
 #include <QByteArray>
 #include <QHash>
 
 #include <memory>
-
-namespace Viewer::Text {
-class CErrorText;
-}
 
 namespace Viewer::CameraPool::Simulation {
 
@@ -42,10 +39,13 @@ public:
     [[nodiscard]] std::chrono::milliseconds getShortestResetLimit() const override;
 
 private:
-    [[noreturn]] void fail(const Text::CErrorText &cause) const;
+    [[noreturn]] void fail(const Text::CErrorText &cause,
+                           CCameraError::EChange change = CCameraError::EChange::Possible) const;
+    [[noreturn]] void refuse(const Text::CErrorText &cause) const;
     [[noreturn]] void failByTime(std::chrono::milliseconds timeLimit) const;
     void work(std::chrono::milliseconds duration, std::chrono::milliseconds timeLimit) const;
-    void requireConnection(bool connected) const;
+    void requireConnection(bool connected,
+                           CCameraError::EChange change = CCameraError::EChange::Possible) const;
     void activate();
 
     const std::shared_ptr<CSimulatedCamera> m_camera;
