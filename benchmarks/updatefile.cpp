@@ -3,7 +3,7 @@
 // into each other. Processor time counts on both sides: our one thread's and that of both programs.
 
 #include "comparison.h"
-#include "viewer/camerapool/updatefile/updatefilecache.h"
+#include "viewer/updatefile/updatefilecache.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -15,7 +15,7 @@
 #include <cstdlib>
 #include <random>
 
-using Viewer::CameraPool::UpdateFile::CUpdateFileCache;
+using Viewer::UpdateFile::CUpdateFileCache;
 
 static constexpr int MebiByte = 1024 * 1024;
 

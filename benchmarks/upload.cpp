@@ -7,8 +7,8 @@
 
 #include "comparison.h"
 #include "support/virtualcameraprocess.h"
-#include "viewer/camerapool/genicam/genicam.h"
-#include "viewer/camerapool/icameradevice.h"
+#include "viewer/camera/genicam/genicam.h"
+#include "viewer/camera/icameradevice.h"
 #include "virtualcamera/gvcp.h"
 #include "virtualcamera/memorymap.h"
 
@@ -24,8 +24,8 @@
 
 using namespace VirtualCamera;
 using TestSupport::CVirtualCameraProcess;
-using Viewer::CameraPool::ICameraDevice;
-using Viewer::CameraPool::GenICam::CGenICam;
+using Viewer::Camera::ICameraDevice;
+using Viewer::Camera::GenICam::CGenICam;
 
 static constexpr int ImageSize = 8 * 1024 * 1024;
 static constexpr int MemoryBlock = 512; // what the library puts into one command

@@ -1,11 +1,11 @@
 #include "fuzztarget.h"
-#include "viewer/camerapool/simulation/cameradescriptionreader.h"
+#include "viewer/camera/simulation/cameradescriptionreader.h"
 
 #include "core/baseexception.h"
 
 #include <QSet>
 
-using namespace Viewer::CameraPool::Simulation;
+using namespace Viewer::Camera::Simulation;
 
 static bool isSound(const CCameraDescription &description)
 {

@@ -1,7 +1,7 @@
 #include "fuzztarget.h"
-#include "viewer/camerapool/genicam/unicastdiscovery.h"
+#include "viewer/camera/genicam/unicastdiscovery.h"
 
-using namespace Viewer::CameraPool::GenICam;
+using namespace Viewer::Camera::GenICam;
 
 /// Whatever comes back from the network, a camera's words fit on one line, and are no longer than
 /// the protocol lets them be.

@@ -1,7 +1,7 @@
 #include "fuzztarget.h"
-#include "viewer/camerapool/genicam/featuredescription.h"
+#include "viewer/camera/genicam/featuredescription.h"
 
-using namespace Viewer::CameraPool::GenICam;
+using namespace Viewer::Camera::GenICam;
 
 /// Whatever a camera has for a description, it is judged in one line.
 int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)

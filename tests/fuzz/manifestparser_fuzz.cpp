@@ -1,7 +1,7 @@
 #include "fuzztarget.h"
-#include "viewer/camerapool/updatefile/manifestparser.h"
+#include "viewer/updatefile/manifestparser.h"
 
-using namespace Viewer::CameraPool::UpdateFile;
+using namespace Viewer::UpdateFile;
 
 /// Whatever the bytes are, there is either a manifest that can be used or one line that says why
 /// not.

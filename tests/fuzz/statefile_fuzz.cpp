@@ -1,10 +1,10 @@
 #include "fuzztarget.h"
-#include "viewer/camerapool/simulation/firmwarestatefile.h"
+#include "viewer/camera/simulation/firmwarestatefile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
-using Viewer::CameraPool::Simulation::CFirmwareStateFile;
+using Viewer::Camera::Simulation::CFirmwareStateFile;
 
 static int warnings = 0;
 

@@ -1,7 +1,7 @@
 #include "fuzztarget.h"
-#include "viewer/camerapool/updatefile/updatearchive.h"
-#include "viewer/camerapool/updatefile/updatefileerror.h"
-#include "viewer/camerapool/updatefile/updatefilereader.h"
+#include "viewer/updatefile/updatearchive.h"
+#include "viewer/updatefile/updatefileerror.h"
+#include "viewer/updatefile/updatefilereader.h"
 #include "virtualcamera/zipwriter.h"
 
 #include <QCryptographicHash>
@@ -10,7 +10,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-using namespace Viewer::CameraPool::UpdateFile;
+using namespace Viewer::UpdateFile;
 
 /// The archive that @p text describes, so that seeds can be read and changes go deep:
 ///

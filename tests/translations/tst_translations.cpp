@@ -10,8 +10,8 @@
 #include "viewer/appcore/loglistdialog.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/viewer.h"
+#include "viewer/camera/simulation/simulation.h"
 #include "viewer/camerapool/camerapool.h"
-#include "viewer/camerapool/simulation/simulation.h"
 #include "viewer/text/language.h"
 
 #include "camerapool/icameraenumerationservice.h"

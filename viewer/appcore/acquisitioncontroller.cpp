@@ -15,7 +15,7 @@
 
 namespace Viewer::AppCore {
 
-using CameraPool::ECameraActivity;
+using Camera::ECameraActivity;
 
 static const QLatin1String RecordingFolderKey("recordingFolder");
 

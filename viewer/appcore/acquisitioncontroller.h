@@ -49,7 +49,7 @@ private:
     void stopRecording();
     void updateActions();
     void updatePlaceholder();
-    [[nodiscard]] CameraPool::ECameraActivity getActivity() const;
+    [[nodiscard]] Camera::ECameraActivity getActivity() const;
 
     CameraPool::CCameraPool &m_pool;
     CImageView &m_view;

@@ -1,13 +1,13 @@
 #include "simulationmenu.h"
 
-#include "viewer/camerapool/simulation/simulation.h"
+#include "viewer/camera/simulation/simulation.h"
 
 #include <QMenu>
 
 namespace Viewer::AppCore {
 
-using CameraPool::Simulation::CSimulatedCameraState;
-using CameraPool::Simulation::CSimulation;
+using Camera::Simulation::CSimulatedCameraState;
+using Camera::Simulation::CSimulation;
 
 CSimulationMenu::CSimulationMenu(CSimulation &simulation, QMenu *menu)
     : m_simulation(simulation)

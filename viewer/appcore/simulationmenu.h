@@ -4,7 +4,7 @@
 
 class QMenu;
 
-namespace Viewer::CameraPool::Simulation {
+namespace Viewer::Camera::Simulation {
 class CSimulation;
 }
 
@@ -18,13 +18,13 @@ class CSimulationMenu : public QObject
 
 public:
     /// Fills @p menu each time it opens. Both arguments are borrowed and outlive this object.
-    CSimulationMenu(CameraPool::Simulation::CSimulation &simulation, QMenu *menu);
+    CSimulationMenu(Camera::Simulation::CSimulation &simulation, QMenu *menu);
     ~CSimulationMenu() override;
 
 private:
     void fill();
 
-    CameraPool::Simulation::CSimulation &m_simulation;
+    Camera::Simulation::CSimulation &m_simulation;
     QMenu *const m_menu;
 };
 

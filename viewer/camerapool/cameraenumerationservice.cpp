@@ -1,10 +1,10 @@
 #include "cameraenumerationservice.h"
 
-#include "cameraactivities.h"
 #include "camerainfo.h"
 #include "enumerationworker.h"
-#include "icameraenumerator.h"
 #include "transportlayerinfo.h"
+#include "viewer/camera/cameraactivities.h"
+#include "viewer/camera/icameraenumerator.h"
 
 namespace Viewer::CameraPool {
 
@@ -12,8 +12,8 @@ using Plugin::CameraPool::CameraInfoPtr;
 using Plugin::CameraPool::TransportLayerInfoPtr;
 
 CCameraEnumerationService::CCameraEnumerationService(
-    ICameraEnumerator &enumerator, const std::shared_ptr<const CCameraActivities> &activities,
-    QObject *parent)
+    Camera::ICameraEnumerator &enumerator,
+    const std::shared_ptr<const Camera::CCameraActivities> &activities, QObject *parent)
     : ICameraEnumerationService(parent)
     , m_enumerator(enumerator)
     , m_activities(activities)
@@ -79,7 +79,7 @@ void CCameraEnumerationService::request()
 
 void CCameraEnumerationService::onEnumerated()
 {
-    const QVector<CTransportLayerSnapshot> layers = m_worker->takeResult();
+    const QVector<Camera::CTransportLayerSnapshot> layers = m_worker->takeResult();
     m_running = false;
     if (m_activities->isUpdateRunning()
         || m_activities->getUpdateCount() != m_updateCountAtRequest) {
@@ -96,17 +96,18 @@ void CCameraEnumerationService::onEnumerated()
         emit enumerationChanged();
 }
 
-bool CCameraEnumerationService::replaceResult(const QVector<CTransportLayerSnapshot> &layers)
+bool CCameraEnumerationService::replaceResult(
+    const QVector<Camera::CTransportLayerSnapshot> &layers)
 {
     QVector<TransportLayerInfoPtr> newLayers;
     QHash<QString, CameraInfoPtr> newCameras;
     newCameras.reserve(m_cameras.size());
     bool changed = layers.size() != m_layers.size();
     for (int i = 0; i < layers.size(); ++i) {
-        const CTransportLayerSnapshot &layer = layers.at(i);
+        const Camera::CTransportLayerSnapshot &layer = layers.at(i);
         QVector<CameraInfoPtr> cameras;
         cameras.reserve(layer.cameras.size());
-        for (const CCameraSnapshot &snapshot : layer.cameras) {
+        for (const Camera::CCameraSnapshot &snapshot : layer.cameras) {
             // What has not changed stays the same object, which plug-ins may hold and compare.
             CameraInfoPtr camera = m_cameras.value(snapshot.id);
             const auto *const known = static_cast<const CCameraInfo *>(camera.data());

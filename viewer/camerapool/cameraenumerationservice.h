@@ -1,6 +1,6 @@
 #pragma once
 
-#include "camerasnapshot.h"
+#include "viewer/camera/camerasnapshot.h"
 
 #include "camerapool/icameraenumerationservice.h"
 
@@ -9,11 +9,14 @@
 
 #include <memory>
 
+namespace Viewer::Camera {
+class CCameraActivities;
+class ICameraEnumerator;
+} // namespace Viewer::Camera
+
 namespace Viewer::CameraPool {
 
-class CCameraActivities;
 class CEnumerationWorker;
-class ICameraEnumerator;
 
 /// Enumerates on a thread of its own and announces what has changed. While an update runs nothing
 /// is announced, since the camera's restart would look like a cable pulled and plugged; what piled
@@ -24,8 +27,8 @@ class CCameraEnumerationService : public Plugin::CameraPool::ICameraEnumerationS
 
 public:
     /// @p enumerator is borrowed and outlives this object, which cancels it.
-    CCameraEnumerationService(ICameraEnumerator &enumerator,
-                              const std::shared_ptr<const CCameraActivities> &activities,
+    CCameraEnumerationService(Camera::ICameraEnumerator &enumerator,
+                              const std::shared_ptr<const Camera::CCameraActivities> &activities,
                               QObject *parent = nullptr);
     ~CCameraEnumerationService() override;
 
@@ -52,10 +55,10 @@ private slots:
 
 private:
     void request();
-    [[nodiscard]] bool replaceResult(const QVector<CTransportLayerSnapshot> &layers);
+    [[nodiscard]] bool replaceResult(const QVector<Camera::CTransportLayerSnapshot> &layers);
 
-    ICameraEnumerator &m_enumerator;
-    const std::shared_ptr<const CCameraActivities> m_activities;
+    Camera::ICameraEnumerator &m_enumerator;
+    const std::shared_ptr<const Camera::CCameraActivities> m_activities;
     QThread m_thread;
     CEnumerationWorker *const m_worker; // lives in the thread and is deleted with it
 

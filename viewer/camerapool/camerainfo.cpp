@@ -2,7 +2,7 @@
 
 namespace Viewer::CameraPool {
 
-CCameraInfo::CCameraInfo(const CCameraSnapshot &snapshot, const QString &transportLayerId)
+CCameraInfo::CCameraInfo(const Camera::CCameraSnapshot &snapshot, const QString &transportLayerId)
     : m_snapshot(snapshot)
     , m_transportLayerId(transportLayerId)
 {
@@ -10,7 +10,7 @@ CCameraInfo::CCameraInfo(const CCameraSnapshot &snapshot, const QString &transpo
 
 CCameraInfo::~CCameraInfo() = default;
 
-const CCameraSnapshot &CCameraInfo::getSnapshot() const
+const Camera::CCameraSnapshot &CCameraInfo::getSnapshot() const
 {
     return m_snapshot;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "camerasnapshot.h"
+#include "viewer/camera/camerasnapshot.h"
 
 #include "camerapool/icamerainfo.h"
 
@@ -12,10 +12,10 @@ class CCameraInfo : public Plugin::CameraPool::ICameraInfo
     Q_OBJECT
 
 public:
-    CCameraInfo(const CCameraSnapshot &snapshot, const QString &transportLayerId);
+    CCameraInfo(const Camera::CCameraSnapshot &snapshot, const QString &transportLayerId);
     ~CCameraInfo() override;
 
-    [[nodiscard]] const CCameraSnapshot &getSnapshot() const;
+    [[nodiscard]] const Camera::CCameraSnapshot &getSnapshot() const;
 
     [[nodiscard]] QString getDisplayName() const override;
     [[nodiscard]] QString getId() const override;
@@ -27,7 +27,7 @@ public:
     [[nodiscard]] QString getDeviceVersion() const override;
 
 private:
-    const CCameraSnapshot m_snapshot;
+    const Camera::CCameraSnapshot m_snapshot;
     const QString m_transportLayerId;
 };
 

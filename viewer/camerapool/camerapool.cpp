@@ -1,20 +1,20 @@
 #include "camerapool.h"
 
-#include "cameraactivities.h"
 #include "cameraenumerationservice.h"
 #include "camerainfo.h"
 #include "camerastatusservice.h"
 #include "camerastreamcontrolservice.h"
-#include "combinedcameras.h"
 #include "devicefirmwareupdateservice.h"
-#include "errortranslator.h"
 #include "framestream.h"
+#include "viewer/camera/cameraactivities.h"
+#include "viewer/camera/combinedcameras.h"
+#include "viewer/update/errortranslator.h"
 #ifdef WITH_ARAVIS
-#include "genicam/genicam.h"
+#include "viewer/camera/genicam/genicam.h"
 #endif
-#include "simulation/cameradescriptionreader.h"
-#include "simulation/firmwarestatefile.h"
-#include "simulation/simulation.h"
+#include "viewer/camera/simulation/cameradescriptionreader.h"
+#include "viewer/camera/simulation/firmwarestatefile.h"
+#include "viewer/camera/simulation/simulation.h"
 
 #include "core/baseexception.h"
 
@@ -27,10 +27,10 @@
 
 namespace Viewer::CameraPool {
 
+using Camera::Simulation::CCameraDescription;
+using Camera::Simulation::CCameraDescriptionReader;
+using Camera::Simulation::CSimulation;
 using Core::Service::IService;
-using Simulation::CCameraDescription;
-using Simulation::CCameraDescriptionReader;
-using Simulation::CSimulation;
 
 static CCameraDescription readDescription(const CCameraPoolOptions &options)
 {
@@ -67,18 +67,20 @@ struct CCameraPool::CPrivate
     static QString getStateFile(const CCameraPoolOptions &options)
     {
         if (options.resetCameras)
-            Simulation::CFirmwareStateFile(options.stateFile).clear();
+            Camera::Simulation::CFirmwareStateFile(options.stateFile).clear();
         return options.stateFile;
     }
 
     // The order matters: who is named first is used by those that follow.
     CSimulation simulation;
 #ifdef WITH_ARAVIS
-    GenICam::CGenICam genICam;
+    Camera::GenICam::CGenICam genICam;
 #endif
-    CCombinedCameras cameras;
-    const std::shared_ptr<CCameraActivities> activities = std::make_shared<CCameraActivities>();
-    const std::shared_ptr<CErrorTranslator> errors = std::make_shared<CErrorTranslator>();
+    Camera::CCombinedCameras cameras;
+    const std::shared_ptr<Camera::CCameraActivities> activities
+        = std::make_shared<Camera::CCameraActivities>();
+    const std::shared_ptr<Update::CErrorTranslator> errors
+        = std::make_shared<Update::CErrorTranslator>();
     CFrameStream stream;
     QSharedPointer<CCameraEnumerationService> enumeration;
     QList<QSharedPointer<IService>> services;
@@ -131,31 +133,33 @@ QList<QSharedPointer<IService>> CCameraPool::getServices() const
     return d->services;
 }
 
-CCameraSnapshot CCameraPool::getSnapshot(const QString &cameraId) const
+Camera::CCameraSnapshot CCameraPool::getSnapshot(const QString &cameraId) const
 {
     const Plugin::CameraPool::CameraInfoPtr camera = d->enumeration->findCamera(cameraId);
-    return camera ? static_cast<const CCameraInfo &>(*camera).getSnapshot() : CCameraSnapshot();
+    return camera ? static_cast<const CCameraInfo &>(*camera).getSnapshot()
+                  : Camera::CCameraSnapshot();
 }
 
-ECameraActivity CCameraPool::getActivity(const QString &cameraId) const
+Camera::ECameraActivity CCameraPool::getActivity(const QString &cameraId) const
 {
-    const ECameraActivity activity = d->activities->get(cameraId);
-    return activity == ECameraActivity::Idle && d->simulation.isBusy(cameraId)
-        ? ECameraActivity::InUseElsewhere
+    const Camera::ECameraActivity activity = d->activities->get(cameraId);
+    return activity == Camera::ECameraActivity::Idle && d->simulation.isBusy(cameraId)
+        ? Camera::ECameraActivity::InUseElsewhere
         : activity;
 }
 
 bool CCameraPool::startAcquisition(const QString &cameraId, QString *error)
 {
-    if (getActivity(cameraId) == ECameraActivity::Recording)
+    if (getActivity(cameraId) == Camera::ECameraActivity::Recording)
         return true;
-    return beginStream(cameraId, ECameraActivity::Acquiring, error);
+    return beginStream(cameraId, Camera::ECameraActivity::Acquiring, error);
 }
 
 void CCameraPool::stopAcquisition(const QString &cameraId)
 {
-    const ECameraActivity activity = d->activities->get(cameraId);
-    if (activity != ECameraActivity::Acquiring && activity != ECameraActivity::Recording)
+    const Camera::ECameraActivity activity = d->activities->get(cameraId);
+    if (activity != Camera::ECameraActivity::Acquiring
+        && activity != Camera::ECameraActivity::Recording)
         return;
     d->stream.stop(cameraId);
     d->activities->end(cameraId);
@@ -169,7 +173,7 @@ bool CCameraPool::startRecording(const QString &cameraId, const QString &folder,
                      .arg(QDir::toNativeSeparators(folder)));
         return false;
     }
-    if (!beginStream(cameraId, ECameraActivity::Recording, error))
+    if (!beginStream(cameraId, Camera::ECameraActivity::Recording, error))
         return false;
     d->stream.setFolder(cameraId, QDir(folder).absolutePath());
     return true;
@@ -177,10 +181,10 @@ bool CCameraPool::startRecording(const QString &cameraId, const QString &folder,
 
 void CCameraPool::stopRecording(const QString &cameraId)
 {
-    if (d->activities->get(cameraId) != ECameraActivity::Recording)
+    if (d->activities->get(cameraId) != Camera::ECameraActivity::Recording)
         return;
     d->stream.setFolder(cameraId, {});
-    d->activities->begin(cameraId, ECameraActivity::Acquiring);
+    d->activities->begin(cameraId, Camera::ECameraActivity::Acquiring);
 }
 
 void CCameraPool::setStartsLocked(bool locked)
@@ -244,9 +248,10 @@ void CCameraPool::onActivityChanged(const QString &cameraId)
 
 void CCameraPool::onCameraStateChanged(const QString &cameraId)
 {
-    const ECameraActivity activity = d->activities->get(cameraId);
+    const Camera::ECameraActivity activity = d->activities->get(cameraId);
     if (!d->simulation.isPlugged(cameraId)
-        && (activity == ECameraActivity::Acquiring || activity == ECameraActivity::Recording)) {
+        && (activity == Camera::ECameraActivity::Acquiring
+            || activity == Camera::ECameraActivity::Recording)) {
         stopAcquisition(cameraId);
         emit streamFailed(cameraId,
                           tr("Camera %1 no longer answers; acquisition has stopped.")
@@ -263,7 +268,8 @@ void CCameraPool::onRecordingFailed(const QString &cameraId, const QString &caus
         tr("The recording of camera %1 has ended: %2.").arg(getDisplayName(cameraId), cause));
 }
 
-bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity, QString *error)
+bool CCameraPool::beginStream(const QString &cameraId, Camera::ECameraActivity activity,
+                              QString *error)
 {
     const QString name = getDisplayName(cameraId);
     if (d->startsLocked) {
@@ -281,11 +287,11 @@ bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity,
         setError(error, tr("Camera %1 does not answer; check its cable.").arg(name));
         return false;
     }
-    if (getActivity(cameraId) == ECameraActivity::InUseElsewhere) {
+    if (getActivity(cameraId) == Camera::ECameraActivity::InUseElsewhere) {
         setError(error, tr("Camera %1 is in use by another application.").arg(name));
         return false;
     }
-    if (d->activities->begin(cameraId, activity) == ECameraActivity::Updating) {
+    if (d->activities->begin(cameraId, activity) == Camera::ECameraActivity::Updating) {
         setError(error, tr("Camera %1 is being updated.").arg(name));
         return false;
     }
@@ -295,7 +301,7 @@ bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity,
 
 void CCameraPool::stopAllCameras()
 {
-    for (const Simulation::CSimulatedCameraState &camera : d->simulation.getCameras()) {
+    for (const Camera::Simulation::CSimulatedCameraState &camera : d->simulation.getCameras()) {
         stopAcquisition(camera.id);
         // "Stop all cameras" means the other applications' acquisition as well.
         d->simulation.setBusy(camera.id, false);

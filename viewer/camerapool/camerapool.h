@@ -1,7 +1,7 @@
 #pragma once
 
-#include "camerasnapshot.h"
-#include "ecameraactivity.h"
+#include "viewer/camera/camerasnapshot.h"
+#include "viewer/camera/ecameraactivity.h"
 
 #include "core/iservice.h"
 
@@ -16,11 +16,11 @@
 
 class QImage;
 
-namespace Viewer::CameraPool {
-
-namespace Simulation {
+namespace Viewer::Camera::Simulation {
 class CSimulation;
 }
+
+namespace Viewer::CameraPool {
 
 /// What the pool is started with.
 struct CCameraPoolOptions
@@ -55,9 +55,9 @@ public:
 
     /// What the last enumeration found out about the camera @p cameraId, also what plug-ins do not
     /// get to know; empty: it did not find it.
-    [[nodiscard]] CCameraSnapshot getSnapshot(const QString &cameraId) const;
+    [[nodiscard]] Camera::CCameraSnapshot getSnapshot(const QString &cameraId) const;
 
-    [[nodiscard]] ECameraActivity getActivity(const QString &cameraId) const;
+    [[nodiscard]] Camera::ECameraActivity getActivity(const QString &cameraId) const;
 
     /// Start and stop acquisition of one camera. False, with a sentence in @p error, when the
     /// camera is gone, being updated, or starts are locked.
@@ -84,7 +84,7 @@ public:
     void setSearchesNetwork(bool searches);
 
     /// What stands in for cables and people: plug, unplug, make busy.
-    [[nodiscard]] Simulation::CSimulation &getSimulation();
+    [[nodiscard]] Camera::Simulation::CSimulation &getSimulation();
 
 signals:
     /// GUI thread; the activity or the presence of a camera has changed.
@@ -106,7 +106,7 @@ private slots:
     void onRecordingFailed(const QString &cameraId, const QString &cause);
 
 private:
-    [[nodiscard]] bool beginStream(const QString &cameraId, ECameraActivity activity,
+    [[nodiscard]] bool beginStream(const QString &cameraId, Camera::ECameraActivity activity,
                                    QString *error);
     void stopAllCameras();
     [[nodiscard]] QString getDisplayName(const QString &cameraId) const;

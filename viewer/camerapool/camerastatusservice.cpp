@@ -15,9 +15,10 @@ bool CCameraStatusService::isCameraBusy(
 {
     if (!camera)
         return false;
-    const ECameraActivity activity = m_getActivity(camera->getId());
-    return activity == ECameraActivity::Acquiring || activity == ECameraActivity::Recording
-        || activity == ECameraActivity::InUseElsewhere;
+    const Camera::ECameraActivity activity = m_getActivity(camera->getId());
+    return activity == Camera::ECameraActivity::Acquiring
+        || activity == Camera::ECameraActivity::Recording
+        || activity == Camera::ECameraActivity::InUseElsewhere;
 }
 
 } // namespace Viewer::CameraPool

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ecameraactivity.h"
+#include "viewer/camera/ecameraactivity.h"
 
 #include "camerapool/icamerastatusservice.h"
 
@@ -14,7 +14,7 @@ class CCameraStatusService : public Plugin::CameraPool::ICameraStatusService
     Q_OBJECT
 
 public:
-    using ActivityGetter = std::function<ECameraActivity(const QString &cameraId)>;
+    using ActivityGetter = std::function<Camera::ECameraActivity(const QString &cameraId)>;
 
     explicit CCameraStatusService(const ActivityGetter &getActivity, QObject *parent = nullptr);
     ~CCameraStatusService() override;

@@ -1,10 +1,10 @@
 #include "devicefirmwareupdateservice.h"
 
-#include "devicefirmwareupdate.h"
-#include "firmwareupdateinfo.h"
-#include "firmwareversion.h"
-#include "icameradevice.h"
-#include "icameradevicefactory.h"
+#include "viewer/camera/icameradevice.h"
+#include "viewer/camera/icameradevicefactory.h"
+#include "viewer/update/devicefirmwareupdate.h"
+#include "viewer/update/firmwareupdateinfo.h"
+#include "viewer/updatefile/firmwareversion.h"
 
 #include "core/baseexception.h"
 
@@ -24,23 +24,24 @@ static bool fits(const ICameraInfo &camera, const UpdateFile::CUpdateEntry &entr
     return entry.models.contains(camera.getModelName())
         && (entry.deviceVersions.isEmpty()
             || entry.deviceVersions.contains(camera.getDeviceVersion()))
-        && !isBelow(camera.getFirmwareVersion(), entry.minimumVersion);
+        && !UpdateFile::isBelow(camera.getFirmwareVersion(), entry.minimumVersion);
 }
 
 /// Unreadable versions come last; a stable order for a stable sort.
 static bool isNewer(const QSharedPointer<IFirmwareUpdateInfo> &left,
                     const QSharedPointer<IFirmwareUpdateInfo> &right)
 {
-    const std::optional<CFirmwareVersion> leftVersion = CFirmwareVersion::parse(left->getVersion());
-    const std::optional<CFirmwareVersion> rightVersion
-        = CFirmwareVersion::parse(right->getVersion());
+    const std::optional<UpdateFile::CFirmwareVersion> leftVersion
+        = UpdateFile::CFirmwareVersion::parse(left->getVersion());
+    const std::optional<UpdateFile::CFirmwareVersion> rightVersion
+        = UpdateFile::CFirmwareVersion::parse(right->getVersion());
     return leftVersion && (!rightVersion || *leftVersion > *rightVersion);
 }
 
 CDeviceFirmwareUpdateService::CDeviceFirmwareUpdateService(
-    ICameraDeviceFactory &factory, const CameraFinder &findCamera,
-    const std::shared_ptr<CCameraActivities> &activities,
-    const std::shared_ptr<CErrorTranslator> &errors, QObject *parent)
+    Camera::ICameraDeviceFactory &factory, const CameraFinder &findCamera,
+    const std::shared_ptr<Camera::CCameraActivities> &activities,
+    const std::shared_ptr<Update::CErrorTranslator> &errors, QObject *parent)
     : IDeviceFirmwareUpdateService(parent)
     , m_factory(factory)
     , m_findCamera(findCamera)
@@ -62,8 +63,8 @@ CDeviceFirmwareUpdateService::getFirmwareUpdateInfos(const QString &updateFilePa
         const QString path = QDir::fromNativeSeparators(updateFilePath);
         QVector<QSharedPointer<IFirmwareUpdateInfo>> infos;
         for (int i = 0; i < manifest->updates.size(); ++i)
-            infos.append(
-                QSharedPointer<IFirmwareUpdateInfo>(new CFirmwareUpdateInfo(manifest, i, path)));
+            infos.append(QSharedPointer<IFirmwareUpdateInfo>(
+                new Update::CFirmwareUpdateInfo(manifest, i, path)));
         return infos;
     } catch (const BaseException &) {
         throw;
@@ -87,7 +88,7 @@ bool CDeviceFirmwareUpdateService::getCompatibleFirmwareUpdates(
     if (!updatable)
         return true;
     for (const QSharedPointer<IFirmwareUpdateInfo> &info : all) {
-        const auto *const own = dynamic_cast<const CFirmwareUpdateInfo *>(info.data());
+        const auto *const own = dynamic_cast<const Update::CFirmwareUpdateInfo *>(info.data());
         if (own && fits(*camera, own->getEntry()))
             compatible.append(info);
     }
@@ -98,19 +99,19 @@ bool CDeviceFirmwareUpdateService::getCompatibleFirmwareUpdates(
 QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDeviceFirmwareUpdate(
     QSharedPointer<ICameraInfo> camera, const QSharedPointer<IFirmwareUpdateInfo> &updateInfo)
 {
-    const auto info = updateInfo.dynamicCast<CFirmwareUpdateInfo>();
+    const auto info = updateInfo.dynamicCast<Update::CFirmwareUpdateInfo>();
     if (!camera || !info)
         return {};
-    std::unique_ptr<ICameraDevice> device = m_factory.createDevice(camera->getId());
+    std::unique_ptr<Camera::ICameraDevice> device = m_factory.createDevice(camera->getId());
     if (!device)
         return {};
     // The caller may hold an information object from before an update. A camera that has just been
     // unplugged gets its job too; that one can say what is wrong.
     const QSharedPointer<ICameraInfo> current = m_findCamera(camera->getId());
-    const CDeviceFirmwareUpdate::CCamera description{
+    const Update::CDeviceFirmwareUpdate::CCamera description{
         camera->getId(), device->getName(), (current ? current : camera)->getFirmwareVersion()};
-    return QSharedPointer<IDeviceFirmwareUpdate>(
-        new CDeviceFirmwareUpdate(description, info, std::move(device), m_activities, m_errors));
+    return QSharedPointer<IDeviceFirmwareUpdate>(new Update::CDeviceFirmwareUpdate(
+        description, info, std::move(device), m_activities, m_errors));
 }
 
 } // namespace Viewer::CameraPool

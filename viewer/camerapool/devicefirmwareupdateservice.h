@@ -1,17 +1,22 @@
 #pragma once
 
-#include "updatefile/updatefilecache.h"
+#include "viewer/updatefile/updatefilecache.h"
 
 #include "camerapool/idevicefirmwareupdateservice.h"
 
 #include <functional>
 #include <memory>
 
-namespace Viewer::CameraPool {
-
+namespace Viewer::Camera {
 class CCameraActivities;
-class CErrorTranslator;
 class ICameraDeviceFactory;
+} // namespace Viewer::Camera
+
+namespace Viewer::Update {
+class CErrorTranslator;
+}
+
+namespace Viewer::CameraPool {
 
 /// Reads update files, decides which of their entries fit a camera, and makes update jobs.
 class CDeviceFirmwareUpdateService : public Plugin::CameraPool::IDeviceFirmwareUpdateService
@@ -23,9 +28,10 @@ public:
     using CameraFinder = std::function<Plugin::CameraPool::CameraInfoPtr(const QString &cameraId)>;
 
     /// @p factory is borrowed and outlives this object.
-    CDeviceFirmwareUpdateService(ICameraDeviceFactory &factory, const CameraFinder &findCamera,
-                                 const std::shared_ptr<CCameraActivities> &activities,
-                                 const std::shared_ptr<CErrorTranslator> &errors,
+    CDeviceFirmwareUpdateService(Camera::ICameraDeviceFactory &factory,
+                                 const CameraFinder &findCamera,
+                                 const std::shared_ptr<Camera::CCameraActivities> &activities,
+                                 const std::shared_ptr<Update::CErrorTranslator> &errors,
                                  QObject *parent = nullptr);
     ~CDeviceFirmwareUpdateService() override;
 
@@ -46,10 +52,10 @@ public:
         const QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo> &updateInfo) override;
 
 private:
-    ICameraDeviceFactory &m_factory;
+    Camera::ICameraDeviceFactory &m_factory;
     const CameraFinder m_findCamera;
-    const std::shared_ptr<CCameraActivities> m_activities;
-    const std::shared_ptr<CErrorTranslator> m_errors;
+    const std::shared_ptr<Camera::CCameraActivities> m_activities;
+    const std::shared_ptr<Update::CErrorTranslator> m_errors;
     UpdateFile::CUpdateFileCache m_cache;
 };
 

@@ -1,19 +1,19 @@
 #include "enumerationworker.h"
 
-#include "icameraenumerator.h"
+#include "viewer/camera/icameraenumerator.h"
 
 #include <utility>
 
 namespace Viewer::CameraPool {
 
-CEnumerationWorker::CEnumerationWorker(ICameraEnumerator &enumerator)
+CEnumerationWorker::CEnumerationWorker(Camera::ICameraEnumerator &enumerator)
     : m_enumerator(enumerator)
 {
 }
 
 void CEnumerationWorker::onRequested()
 {
-    const QVector<CTransportLayerSnapshot> layers = m_enumerator.enumerate();
+    const QVector<Camera::CTransportLayerSnapshot> layers = m_enumerator.enumerate();
     {
         const std::lock_guard lock(m_mutex);
         m_result = layers;
@@ -21,7 +21,7 @@ void CEnumerationWorker::onRequested()
     emit enumerated();
 }
 
-QVector<CTransportLayerSnapshot> CEnumerationWorker::takeResult()
+QVector<Camera::CTransportLayerSnapshot> CEnumerationWorker::takeResult()
 {
     const std::lock_guard lock(m_mutex);
     return std::exchange(m_result, {});

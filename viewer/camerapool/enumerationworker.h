@@ -1,15 +1,17 @@
 #pragma once
 
-#include "camerasnapshot.h"
+#include "viewer/camera/camerasnapshot.h"
 
 #include <QObject>
 #include <QVector>
 
 #include <mutex>
 
-namespace Viewer::CameraPool {
-
+namespace Viewer::Camera {
 class ICameraEnumerator;
+}
+
+namespace Viewer::CameraPool {
 
 /// Enumerates on the thread it lives in.
 class CEnumerationWorker : public QObject
@@ -18,10 +20,10 @@ class CEnumerationWorker : public QObject
 
 public:
     /// @p enumerator is borrowed and outlives the worker's thread.
-    explicit CEnumerationWorker(ICameraEnumerator &enumerator);
+    explicit CEnumerationWorker(Camera::ICameraEnumerator &enumerator);
 
     /// What the last enumeration found; nothing when it has been taken already. Any thread.
-    [[nodiscard]] QVector<CTransportLayerSnapshot> takeResult();
+    [[nodiscard]] QVector<Camera::CTransportLayerSnapshot> takeResult();
 
 public slots:
     void onRequested();
@@ -31,9 +33,9 @@ signals:
     void enumerated();
 
 private:
-    ICameraEnumerator &m_enumerator;
+    Camera::ICameraEnumerator &m_enumerator;
     std::mutex m_mutex;
-    QVector<CTransportLayerSnapshot> m_result;
+    QVector<Camera::CTransportLayerSnapshot> m_result;
 };
 
 } // namespace Viewer::CameraPool

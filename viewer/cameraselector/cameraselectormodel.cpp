@@ -14,7 +14,7 @@ CCameraSelectorModel::CCameraSelectorModel(QObject *parent)
     : QAbstractItemModel(parent)
     , m_layerIcon(QStringLiteral(":/viewer/icons/layer.png"))
     , m_cameraIcon(QStringLiteral(":/viewer/icons/camera.png"))
-    , m_getSnapshot([](const QString &) { return CameraPool::CCameraSnapshot(); })
+    , m_getSnapshot([](const QString &) { return Camera::CCameraSnapshot(); })
 {
 }
 
@@ -41,10 +41,9 @@ void CCameraSelectorModel::setTransportLayers(const QVector<TransportLayerInfoPt
     endResetModel();
 }
 
-void CCameraSelectorModel::setActivity(const QString &cameraId,
-                                       CameraPool::ECameraActivity activity)
+void CCameraSelectorModel::setActivity(const QString &cameraId, Camera::ECameraActivity activity)
 {
-    if (m_activities.value(cameraId, CameraPool::ECameraActivity::Idle) == activity)
+    if (m_activities.value(cameraId, Camera::ECameraActivity::Idle) == activity)
         return;
     m_activities.insert(cameraId, activity);
     const QModelIndex index = findId(cameraId);
@@ -157,7 +156,7 @@ QVariant CCameraSelectorModel::getCameraData(const CameraInfoPtr &camera, int co
 
 QString CCameraSelectorModel::getToolTip(const Plugin::CameraPool::ICameraInfo &camera) const
 {
-    const CameraPool::CCameraSnapshot snapshot = m_getSnapshot(camera.getId());
+    const Camera::CCameraSnapshot snapshot = m_getSnapshot(camera.getId());
     QStringList lines{tr("%1\nModel: %2\nSerial number: %3\nDevice version: %4\nFirmware: %5")
                           .arg(camera.getDisplayName(), camera.getModelName(),
                                camera.getSerialNumber(), camera.getDeviceVersion(),
@@ -171,16 +170,16 @@ QString CCameraSelectorModel::getToolTip(const Plugin::CameraPool::ICameraInfo &
 
 QString CCameraSelectorModel::getStateText(const Plugin::CameraPool::ICameraInfo &camera) const
 {
-    switch (m_activities.value(camera.getId(), CameraPool::ECameraActivity::Idle)) {
-    case CameraPool::ECameraActivity::Acquiring:
+    switch (m_activities.value(camera.getId(), Camera::ECameraActivity::Idle)) {
+    case Camera::ECameraActivity::Acquiring:
         return tr("Acquiring");
-    case CameraPool::ECameraActivity::Recording:
+    case Camera::ECameraActivity::Recording:
         return tr("Recording");
-    case CameraPool::ECameraActivity::Updating:
+    case Camera::ECameraActivity::Updating:
         return tr("Updating");
-    case CameraPool::ECameraActivity::InUseElsewhere:
+    case Camera::ECameraActivity::InUseElsewhere:
         return tr("In use elsewhere");
-    case CameraPool::ECameraActivity::Idle:
+    case Camera::ECameraActivity::Idle:
         break;
     }
     const qint32 statusCode = camera.getCameraStatusCode();

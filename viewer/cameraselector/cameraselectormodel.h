@@ -1,8 +1,8 @@
 #pragma once
 
 #include "camerapool/itransportlayerinfo.h"
-#include "viewer/camerapool/camerasnapshot.h"
-#include "viewer/camerapool/ecameraactivity.h"
+#include "viewer/camera/camerasnapshot.h"
+#include "viewer/camera/ecameraactivity.h"
 
 #include <QAbstractItemModel>
 #include <QHash>
@@ -34,7 +34,7 @@ public:
     ~CCameraSelectorModel() override;
 
     /// What the viewer knows of a camera beyond the contract, by its id.
-    using SnapshotFunction = std::function<CameraPool::CCameraSnapshot(const QString &cameraId)>;
+    using SnapshotFunction = std::function<Camera::CCameraSnapshot(const QString &cameraId)>;
 
     /// Before the first content.
     void setSnapshots(const SnapshotFunction &getSnapshot);
@@ -43,7 +43,7 @@ public:
     void setTransportLayers(const QVector<Plugin::CameraPool::TransportLayerInfoPtr> &layers);
 
     /// Shows @p activity for the camera @p cameraId, which need not be in the tree (yet).
-    void setActivity(const QString &cameraId, CameraPool::ECameraActivity activity);
+    void setActivity(const QString &cameraId, Camera::ECameraActivity activity);
 
     /// The layer or camera at @p index; null for an invalid one.
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IBaseInfo>
@@ -75,7 +75,7 @@ private:
     const QIcon m_cameraIcon;
     QVector<Plugin::CameraPool::TransportLayerInfoPtr> m_layers;
     QHash<QString, QPair<int, int>> m_places; ///< by id: row of the layer, row of the camera or -1
-    QHash<QString, CameraPool::ECameraActivity> m_activities;
+    QHash<QString, Camera::ECameraActivity> m_activities;
     SnapshotFunction m_getSnapshot;
     int m_cameraCount = 0;
 };

@@ -2,8 +2,8 @@
 
 #include "manifestprinter.h"
 #include "updatefilepacker.h"
-#include "viewer/camerapool/updatefile/updatefileerror.h"
-#include "viewer/camerapool/updatefile/updatefilereader.h"
+#include "viewer/updatefile/updatefileerror.h"
+#include "viewer/updatefile/updatefilereader.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -12,9 +12,9 @@
 
 namespace Viewer::GufTool {
 
-using CameraPool::UpdateFile::CUpdateFileError;
-using CameraPool::UpdateFile::CUpdateFileReader;
-using CameraPool::UpdateFile::CUpdateManifest;
+using UpdateFile::CUpdateFileError;
+using UpdateFile::CUpdateFileReader;
+using UpdateFile::CUpdateManifest;
 
 namespace {
 

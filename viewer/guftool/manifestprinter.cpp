@@ -1,6 +1,6 @@
 #include "manifestprinter.h"
 
-#include "viewer/camerapool/updatefile/manifestparser.h"
+#include "viewer/updatefile/manifestparser.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -10,12 +10,12 @@
 
 namespace Viewer::GufTool {
 
-using CameraPool::UpdateFile::CFeatureValue;
-using CameraPool::UpdateFile::CUpdateEntry;
-using CameraPool::UpdateFile::CUpdateManifest;
-using CameraPool::UpdateFile::CUpdateStep;
-using CameraPool::UpdateFile::getStepKindName;
 using Plugin::CameraPool::EFirmwareUpdateStep;
+using UpdateFile::CFeatureValue;
+using UpdateFile::CUpdateEntry;
+using UpdateFile::CUpdateManifest;
+using UpdateFile::CUpdateStep;
+using UpdateFile::getStepKindName;
 
 namespace {
 
@@ -95,7 +95,7 @@ QString CManifestPrinter::toText() const
     QString text = tr("File:     %1\n"
                       "Format:   %2\n"
                       "Updates:  %3\n")
-                       .arg(m_file, QString::number(CameraPool::UpdateFile::FORMAT_VERSION),
+                       .arg(m_file, QString::number(UpdateFile::FORMAT_VERSION),
                             QString::number(m_manifest.updates.size()));
     for (int index = 0; index < m_manifest.updates.size(); ++index)
         text += describeUpdate(index + 1, m_manifest.updates.at(index));
@@ -172,10 +172,9 @@ QString CManifestPrinter::toJson() const
     QJsonArray updates;
     for (const CUpdateEntry &update : m_manifest.updates)
         updates.append(toJsonObject(update));
-    const QJsonObject object{
-        {QStringLiteral("file"), m_file},
-        {QStringLiteral("formatVersion"), CameraPool::UpdateFile::FORMAT_VERSION},
-        {QStringLiteral("updates"), updates}};
+    const QJsonObject object{{QStringLiteral("file"), m_file},
+                             {QStringLiteral("formatVersion"), UpdateFile::FORMAT_VERSION},
+                             {QStringLiteral("updates"), updates}};
     return QString::fromUtf8(QJsonDocument(object).toJson());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/camerapool/updatefile/updatemanifest.h"
+#include "viewer/updatefile/updatemanifest.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -14,7 +14,7 @@ class CManifestPrinter
 
 public:
     /// @p file is the update file's path, for display.
-    CManifestPrinter(const QString &file, const CameraPool::UpdateFile::CUpdateManifest &manifest);
+    CManifestPrinter(const QString &file, const UpdateFile::CUpdateManifest &manifest);
 
     /// Lines of text for people, in their language.
     [[nodiscard]] QString toText() const;
@@ -24,14 +24,12 @@ public:
     [[nodiscard]] QString toJson() const;
 
 private:
-    [[nodiscard]] static QString describeUpdate(int number,
-                                                const CameraPool::UpdateFile::CUpdateEntry &update);
-    [[nodiscard]] static QString formatStep(int number,
-                                            const CameraPool::UpdateFile::CUpdateStep &step);
-    [[nodiscard]] static QString describeStep(const CameraPool::UpdateFile::CUpdateStep &step);
+    [[nodiscard]] static QString describeUpdate(int number, const UpdateFile::CUpdateEntry &update);
+    [[nodiscard]] static QString formatStep(int number, const UpdateFile::CUpdateStep &step);
+    [[nodiscard]] static QString describeStep(const UpdateFile::CUpdateStep &step);
 
     const QString m_file;
-    const CameraPool::UpdateFile::CUpdateManifest m_manifest;
+    const UpdateFile::CUpdateManifest m_manifest;
 };
 
 } // namespace Viewer::GufTool

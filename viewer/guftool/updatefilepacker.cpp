@@ -1,12 +1,12 @@
 #include "updatefilepacker.h"
 
-#include "viewer/camerapool/updatefile/entryname.h"
-#include "viewer/camerapool/updatefile/manifestparser.h"
-#include "viewer/camerapool/updatefile/sha256.h"
-#include "viewer/camerapool/updatefile/updatefileerror.h"
-#include "viewer/camerapool/updatefile/updatefilelimits.h"
-#include "viewer/camerapool/updatefile/updatefilereader.h"
 #include "viewer/text/visibletext.h"
+#include "viewer/updatefile/entryname.h"
+#include "viewer/updatefile/manifestparser.h"
+#include "viewer/updatefile/sha256.h"
+#include "viewer/updatefile/updatefileerror.h"
+#include "viewer/updatefile/updatefilelimits.h"
+#include "viewer/updatefile/updatefilereader.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,7 +21,7 @@
 
 namespace Viewer::GufTool {
 
-using namespace CameraPool::UpdateFile;
+using namespace UpdateFile;
 using Plugin::CameraPool::EFirmwareUpdateStep;
 using Text::CErrorText;
 

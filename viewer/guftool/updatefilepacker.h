@@ -1,7 +1,7 @@
 #pragma once
 
-#include "viewer/camerapool/updatefile/updatemanifest.h"
 #include "viewer/text/errortext.h"
+#include "viewer/updatefile/updatemanifest.h"
 
 #include <QJsonObject>
 #include <QString>
@@ -18,7 +18,7 @@ public:
     /// Writes the update file and returns what it says. The file takes its place only when it is
     /// whole and has been read back without a fault; until then one that is there already stays as
     /// it is. Throws CUpdateFileError.
-    CameraPool::UpdateFile::CUpdateManifest pack(const QString &file) const;
+    UpdateFile::CUpdateManifest pack(const QString &file) const;
 
 private:
     [[nodiscard]] QByteArray readSource() const;

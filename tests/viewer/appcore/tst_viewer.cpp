@@ -3,8 +3,8 @@
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/textdialog.h"
 #include "viewer/appcore/viewer.h"
+#include "viewer/camera/simulation/simulation.h"
 #include "viewer/camerapool/camerapool.h"
-#include "viewer/camerapool/simulation/simulation.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 

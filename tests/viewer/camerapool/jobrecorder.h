@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/camerapool/updatefile/manifestparser.h"
+#include "viewer/updatefile/manifestparser.h"
 
 #include "camerapool/idevicefirmwareupdate.h"
 
@@ -68,7 +68,7 @@ public:
 private:
     static QString line(const char *word, EStep step, double number)
     {
-        const QString name = Viewer::CameraPool::UpdateFile::getStepKindName(step);
+        const QString name = Viewer::UpdateFile::getStepKindName(step);
         return QString("%1 %2 %3").arg(word, name).arg(number);
     }
 

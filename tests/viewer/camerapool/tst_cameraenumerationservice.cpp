@@ -1,7 +1,7 @@
 #include "viewer/camerapool/cameraenumerationservice.h"
 
-#include "viewer/camerapool/cameraactivities.h"
-#include "viewer/camerapool/icameraenumerator.h"
+#include "viewer/camera/cameraactivities.h"
+#include "viewer/camera/icameraenumerator.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -10,6 +10,7 @@
 #include <mutex>
 #include <thread>
 
+using namespace Viewer::Camera;
 using namespace Viewer::CameraPool;
 using Layers = QVector<CTransportLayerSnapshot>;
 

@@ -1,8 +1,8 @@
-#include "viewer/camerapool/genicam/cameraidentities.h"
+#include "viewer/camera/genicam/cameraidentities.h"
 
 #include <QtTest>
 
-using namespace Viewer::CameraPool::GenICam;
+using namespace Viewer::Camera::GenICam;
 
 class CCameraIdentitiesTest : public QObject
 {

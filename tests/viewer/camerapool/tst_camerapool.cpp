@@ -1,8 +1,8 @@
+#include "viewer/camera/simulation/simulation.h"
 #include "viewer/camerapool/cameraenumerationservice.h"
 #include "viewer/camerapool/camerainfo.h"
 #include "viewer/camerapool/camerapool.h"
-#include "viewer/camerapool/firmwareupdateinfo.h"
-#include "viewer/camerapool/simulation/simulation.h"
+#include "viewer/update/firmwareupdateinfo.h"
 
 #include "jobrecorder.h"
 #include "updatefixture.h"
@@ -20,10 +20,13 @@
 #include <functional>
 #include <thread>
 
+using namespace Viewer::Camera;
 using namespace Viewer::CameraPool;
+using namespace Viewer::Update;
+using namespace Viewer::UpdateFile;
 using namespace Test;
 using namespace Plugin::CameraPool;
-using Simulation::CSimulation;
+using Viewer::Camera::Simulation::CSimulation;
 
 class CCameraPoolTest;
 Q_DECLARE_METATYPE(std::function<void(CCameraPoolTest &)>)
@@ -236,7 +239,7 @@ void CCameraPoolTest::jobOutlivesThePool()
 void CCameraPoolTest::findsWhatFitsNewestFirst()
 {
     const QStringList model{"VX-1", "VX-1400M"};
-    const auto manifest = QSharedPointer<UpdateFile::CUpdateManifest>::create();
+    const auto manifest = QSharedPointer<CUpdateManifest>::create();
     manifest->updates = {{"1.9", {}, {}, model, {}, {}, {}},
                          {"odd", {}, {}, model, {"R1", "R2"}, {}, {}},
                          {"1.10", {}, {}, model, {}, "1.2", {}},

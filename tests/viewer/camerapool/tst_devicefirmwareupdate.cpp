@@ -1,16 +1,16 @@
-#include "viewer/camerapool/devicefirmwareupdate.h"
+#include "viewer/update/devicefirmwareupdate.h"
 
 #include "jobrecorder.h"
 #include "updatefilebuilder.h"
 #include "updatefixture.h"
-#include "viewer/camerapool/cameraactivities.h"
-#include "viewer/camerapool/cameraerror.h"
-#include "viewer/camerapool/firmwareupdateinfo.h"
-#include "viewer/camerapool/icameradevice.h"
-#include "viewer/camerapool/progressthrottle.h"
-#include "viewer/camerapool/updateestimate.h"
-#include "viewer/camerapool/updatefile/updatefilereader.h"
+#include "viewer/camera/cameraactivities.h"
+#include "viewer/camera/cameraerror.h"
+#include "viewer/camera/icameradevice.h"
 #include "viewer/text/visibletext.h"
+#include "viewer/update/firmwareupdateinfo.h"
+#include "viewer/update/progressthrottle.h"
+#include "viewer/update/updateestimate.h"
+#include "viewer/updatefile/updatefilereader.h"
 
 #include <QFile>
 #include <QIODevice>
@@ -22,11 +22,12 @@
 #include <new>
 #include <thread>
 
-using namespace Viewer::CameraPool;
+using namespace Viewer::Camera;
+using namespace Viewer::Update;
+using namespace Viewer::UpdateFile;
 using namespace Test;
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
-using UpdateFile::CFeatureValue;
 
 // Two blanks, of which messages show one.
 static const QString CameraName = "Scripted  camera";
@@ -140,7 +141,7 @@ private:
 
     QTemporaryDir m_folder;
     const QString m_path = m_folder.filePath("update.guf");
-    UpdateFile::CUpdateManifest m_manifest;
+    CUpdateManifest m_manifest;
     std::shared_ptr<CDeviceScript> m_script;
     std::shared_ptr<CCameraActivities> m_activities;
 };
@@ -148,7 +149,7 @@ private:
 void CDeviceFirmwareUpdateTest::init()
 {
     writeUpdateFile(m_path, {"2.0.0"}, 1000);
-    m_manifest = UpdateFile::CUpdateFileReader::read(m_path);
+    m_manifest = CUpdateFileReader::read(m_path);
     m_activities = std::make_shared<CCameraActivities>();
     m_script = std::make_shared<CDeviceScript>();
     m_script->features = {{"DeviceModelName", "VX-1400M"},
@@ -159,7 +160,7 @@ void CDeviceFirmwareUpdateTest::init()
 
 QSharedPointer<CDeviceFirmwareUpdate> CDeviceFirmwareUpdateTest::makeJob() const
 {
-    const auto manifest = QSharedPointer<UpdateFile::CUpdateManifest>::create(m_manifest);
+    const auto manifest = QSharedPointer<CUpdateManifest>::create(m_manifest);
     return QSharedPointer<CDeviceFirmwareUpdate>(new CDeviceFirmwareUpdate(
         {"id", CameraName, "1.2.0"},
         QSharedPointer<CFirmwareUpdateInfo>::create(manifest, 0, m_path),
@@ -373,11 +374,11 @@ void CDeviceFirmwareUpdateTest::touchesNeitherTwiceNorWhatIsInUse()
 void CDeviceFirmwareUpdateTest::estimatesStayInTheirLimits()
 {
     const milliseconds longest(std::numeric_limits<int>::max());
-    UpdateFile::CUpdateStep step;
+    CUpdateStep step;
     QVERIFY(estimateStep(step, 0) >= 1ms); // whatever kind it is
     step.kind = Plugin::CameraPool::EFirmwareUpdateStep::FileUpload;
     step.payload.size = std::numeric_limits<qint64>::max();
-    UpdateFile::CUpdateEntry entry;
+    CUpdateEntry entry;
     entry.steps = {step, step};
     QCOMPARE(estimateEntry(entry, 1).count(), longest.count());
     QVERIFY(getTimeLimit(longest) > longest && getTimeLimit(1ms) >= 30s);

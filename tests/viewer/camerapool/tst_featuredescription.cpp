@@ -1,10 +1,10 @@
-#include "viewer/camerapool/genicam/featuredescription.h"
+#include "viewer/camera/genicam/featuredescription.h"
 
 #include <QTest>
 
 #include <zip.h>
 
-using namespace Viewer::CameraPool::GenICam;
+using namespace Viewer::Camera::GenICam;
 
 static QByteArray makeDescription(const QByteArray &nodes)
 {

@@ -3,9 +3,9 @@
 
 #include "support/virtualcameraprocess.h"
 #include "viewer/appcore/commandline.h"
+#include "viewer/camera/genicam/genicam.h"
+#include "viewer/camera/icameradevice.h"
 #include "viewer/camerapool/camerapool.h"
-#include "viewer/camerapool/genicam/genicam.h"
-#include "viewer/camerapool/icameradevice.h"
 
 #include "camerapool/icameraenumerationservice.h"
 
@@ -16,8 +16,8 @@
 #include <algorithm>
 
 using TestSupport::CVirtualCameraProcess;
-using Viewer::CameraPool::CCameraSnapshot;
-using Viewer::CameraPool::GenICam::CGenICam;
+using Viewer::Camera::CCameraSnapshot;
+using Viewer::Camera::GenICam::CGenICam;
 
 /// Searches by broadcast, which are only made where nobody but this machine's own cameras can hear
 /// them.

@@ -1,9 +1,9 @@
 #include "jobrecorder.h"
 #include "support/virtualcameraprocess.h"
-#include "viewer/camerapool/cameraerror.h"
+#include "viewer/camera/cameraerror.h"
+#include "viewer/camera/genicam/genicam.h"
+#include "viewer/camera/icameradevice.h"
 #include "viewer/camerapool/camerapool.h"
-#include "viewer/camerapool/genicam/genicam.h"
-#include "viewer/camerapool/icameradevice.h"
 
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
@@ -17,10 +17,10 @@
 
 using namespace Plugin::CameraPool;
 using TestSupport::CVirtualCameraProcess;
-using Viewer::CameraPool::CCameraError;
+using Viewer::Camera::CCameraError;
+using Viewer::Camera::ICameraDevice;
+using Viewer::Camera::GenICam::CGenICam;
 using Viewer::CameraPool::CCameraPool;
-using Viewer::CameraPool::ICameraDevice;
-using Viewer::CameraPool::GenICam::CGenICam;
 
 using Operation = std::function<void(ICameraDevice &)>;
 Q_DECLARE_METATYPE(Operation)

@@ -77,7 +77,7 @@ void CCameraSelectorViewTest::namesOfCamerasAreText()
 {
     CCameraSelectorModel model;
     model.setSnapshots([](const QString &) {
-        Viewer::CameraPool::CCameraSnapshot snapshot;
+        Viewer::Camera::CCameraSnapshot snapshot;
         snapshot.ipAddress = snapshot.macAddress = "<img src=/dev/zero>";
         return snapshot;
     });
@@ -96,7 +96,7 @@ void CCameraSelectorViewTest::showsAddressesOnDemand()
     const auto enumeration = QSharedPointer<CFakeEnumerationService>::create();
     CCameraSelectorView view(enumeration, QSharedPointer<CDeviceSelectorService>::create());
     view.getModel()->setSnapshots([](const QString &id) {
-        Viewer::CameraPool::CCameraSnapshot snapshot;
+        Viewer::Camera::CCameraSnapshot snapshot;
         if (id == "real") {
             snapshot.ipAddress = "10.0.0.7";
             snapshot.macAddress = "02:00:0A:00:00:07";

@@ -1,10 +1,10 @@
-#include "viewer/camerapool/simulation/cameradescriptionreader.h"
+#include "viewer/camera/simulation/cameradescriptionreader.h"
 
 #include "core/baseexception.h"
 
 #include <QTest>
 
-using namespace Viewer::CameraPool::Simulation;
+using namespace Viewer::Camera::Simulation;
 
 /// A faultless description of one camera; tests replace parts of it.
 static const char *const Valid = R"({

@@ -1,4 +1,4 @@
-#include "viewer/camerapool/simulation/firmwarestatefile.h"
+#include "viewer/camera/simulation/firmwarestatefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,7 +11,7 @@
 #include <sys/resource.h>
 #include <thread>
 
-using Viewer::CameraPool::Simulation::CFirmwareStateFile;
+using Viewer::Camera::Simulation::CFirmwareStateFile;
 
 class CFirmwareStateFileTest : public QObject
 {

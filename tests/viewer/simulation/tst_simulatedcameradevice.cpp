@@ -1,18 +1,18 @@
-#include "viewer/camerapool/simulation/simulatedcameradevice.h"
+#include "viewer/camera/simulation/simulatedcameradevice.h"
 
-#include "viewer/camerapool/cameraerror.h"
-#include "viewer/camerapool/simulation/firmwareimage.h"
-#include "viewer/camerapool/simulation/firmwarestatefile.h"
-#include "viewer/camerapool/simulation/simulatedcamera.h"
-#include "viewer/camerapool/simulation/simulationnotifier.h"
+#include "viewer/camera/cameraerror.h"
+#include "viewer/camera/simulation/firmwareimage.h"
+#include "viewer/camera/simulation/firmwarestatefile.h"
+#include "viewer/camera/simulation/simulatedcamera.h"
+#include "viewer/camera/simulation/simulationnotifier.h"
 
 #include <QBuffer>
 #include <QTest>
 
 #include <functional>
 
-using namespace Viewer::CameraPool;
-using namespace Viewer::CameraPool::Simulation;
+using namespace Viewer::Camera;
+using namespace Viewer::Camera::Simulation;
 using namespace std::chrono_literals;
 
 /// One camera on its table: what it is, its device, which is open, and its memory.

@@ -1,8 +1,8 @@
-#include "viewer/camerapool/firmwareversion.h"
+#include "viewer/updatefile/firmwareversion.h"
 
 #include <QtTest>
 
-using namespace Viewer::CameraPool;
+using namespace Viewer::UpdateFile;
 using EDirection = Plugin::CameraPool::EFirmwareUpdateDirection;
 
 class CFirmwareVersionTest : public QObject

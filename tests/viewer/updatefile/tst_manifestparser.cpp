@@ -1,9 +1,9 @@
 #include "updatefilebuilder.h"
-#include "viewer/camerapool/updatefile/manifestparser.h"
+#include "viewer/updatefile/manifestparser.h"
 
 #include <QtTest>
 
-using namespace Viewer::CameraPool::UpdateFile;
+using namespace Viewer::UpdateFile;
 
 /// That every field is read is seen by the test of guftool, which shows them all.
 class CManifestParserTest : public QObject

@@ -1,8 +1,8 @@
 #include "updatefilebuilder.h"
-#include "viewer/camerapool/updatefile/updatearchive.h"
-#include "viewer/camerapool/updatefile/updatefilecache.h"
-#include "viewer/camerapool/updatefile/updatefileerror.h"
-#include "viewer/camerapool/updatefile/updatefilereader.h"
+#include "viewer/updatefile/updatearchive.h"
+#include "viewer/updatefile/updatefilecache.h"
+#include "viewer/updatefile/updatefileerror.h"
+#include "viewer/updatefile/updatefilereader.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -10,7 +10,7 @@
 #include <sys/stat.h>
 #include <thread>
 
-using namespace Viewer::CameraPool::UpdateFile;
+using namespace Viewer::UpdateFile;
 using namespace Test;
 
 /// Looks at the reader, at the archive that it reads from and at the cache before it.

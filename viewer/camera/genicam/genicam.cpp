@@ -1,0 +1,116 @@
+#include "genicamdevice.h"
+
+#include "genicam.h"
+#include "networksearch.h"
+#include "unicastdiscovery.h"
+
+#include "viewer/text/errortext.h"
+
+#include "camerapool/transportlayertypes.h"
+
+#include <QSet>
+
+namespace Viewer::Camera::GenICam {
+
+using Text::CErrorText;
+/// Two cameras say that they are the same one: nobody can tell which one an update would reach.
+static constexpr qint32 AmbiguousIdentityStatus = 1001;
+
+CGenICam::CGenICam(const QVector<QHostAddress> &addresses, bool searchesNetwork)
+    : m_addresses(addresses)
+    , m_searchesNetwork(searchesNetwork)
+{
+}
+
+CGenICam::~CGenICam() = default;
+
+void CGenICam::setSearchesNetwork(bool searches)
+{
+    m_searchesNetwork = searches;
+}
+
+bool CGenICam::searchesNetwork() const
+{
+    return m_searchesNetwork;
+}
+
+std::unique_ptr<ICameraDevice> CGenICam::createDevice(const QString &cameraId)
+{
+    const std::lock_guard lock(m_mutex);
+    const auto camera = m_found.constFind(cameraId);
+    if (camera == m_found.constEnd())
+        return nullptr;
+    return std::make_unique<CGenICamDevice>(*camera);
+}
+
+QVector<CFoundCamera> CGenICam::find(bool searches) const
+{
+    QVector<CFoundCamera> found = discoverUnicast(m_addresses);
+    if (!searches || m_isCanceled)
+        return found;
+
+    QSet<QString> addresses;
+    for (const CFoundCamera &camera : qAsConst(found))
+        addresses.insert(camera.address);
+    const QVector<CFoundCamera> searched = searchNetwork();
+    for (const CFoundCamera &camera : searched) {
+        if (camera.transport == ETransport::Usb || !addresses.contains(camera.address))
+            found.append(camera);
+    }
+    return found;
+}
+
+QVector<CTransportLayerSnapshot> CGenICam::enumerate()
+{
+    if (m_isCanceled)
+        return {};
+    const bool searches = m_searchesNetwork;
+    QVector<CFoundCamera> found = find(searches);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_identities.assign(found);
+        m_found.clear();
+        for (const CFoundCamera &camera : qAsConst(found))
+            m_found.insert(camera.id, camera);
+    }
+
+    // Named unlike the simulation's layers, which may stand beside them.
+    CTransportLayerSnapshot ethernet{QString::fromLatin1(Plugin::CameraPool::TLTypeGigE),
+                                     QStringLiteral("GigE Vision (network)"),
+                                     {}};
+    CTransportLayerSnapshot usb{QString::fromLatin1(Plugin::CameraPool::TLTypeUSB),
+                                QStringLiteral("USB3 Vision (USB)"),
+                                {}};
+    for (const CFoundCamera &camera : qAsConst(found)) {
+        CCameraSnapshot snapshot;
+        snapshot.id = camera.id;
+        snapshot.displayName = camera.getDisplayName();
+        snapshot.modelName = camera.model;
+        snapshot.serialNumber = camera.serialNumber;
+        snapshot.deviceVersion = camera.version;
+        snapshot.firmwareVersion = camera.version;
+        if (camera.transport == ETransport::Ethernet) {
+            snapshot.ipAddress = camera.address;
+            snapshot.macAddress = camera.hardwareAddress;
+        }
+        if (camera.isAmbiguous) {
+            snapshot.statusCode = AmbiguousIdentityStatus;
+            snapshot.statusReason
+                = CErrorText::tr("same serial number as another camera").getLocalized();
+        }
+        (camera.transport == ETransport::Ethernet ? ethernet : usb).cameras.append(snapshot);
+    }
+    QVector<CTransportLayerSnapshot> layers;
+    if (searches || !m_addresses.isEmpty())
+        layers.append(ethernet);
+    if (searches)
+        layers.append(usb);
+    return layers;
+}
+
+void CGenICam::cancel()
+{
+    m_isCanceled = true;
+}
+
+} // namespace Viewer::Camera::GenICam

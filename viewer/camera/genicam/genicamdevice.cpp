@@ -1,0 +1,303 @@
+#include "genicamdevice.h"
+
+#include "fileupload.h"
+#include "memoryreader.h"
+#include "unicastdiscovery.h"
+
+#include <QDeadlineTimer>
+#include <QIODevice>
+#include <QThread>
+#include <QUdpSocket>
+
+#include <algorithm>
+
+namespace Viewer::Camera::GenICam {
+
+using Text::CErrorText;
+using namespace std::chrono_literals;
+using std::chrono::milliseconds;
+
+/// How long a camera may take to say who it is before it is opened.
+static constexpr milliseconds IdentityLimit = 1s;
+
+/// How often a camera is looked at that is busy with something.
+static constexpr milliseconds PollInterval = 50ms;
+
+/// Bytes a second: an 8 MiB image in half a minute, what a block of 512 bytes and three more
+/// commands, each with its way to the camera and back, come to.
+static constexpr qint64 UsualUploadRate = 300'000;
+
+CGenICamDevice::CGenICamDevice(const CFoundCamera &camera)
+    : m_camera(camera)
+{
+}
+
+CGenICamDevice::~CGenICamDevice()
+{
+    close();
+}
+
+QString CGenICamDevice::getName() const
+{
+    return m_camera.getFullName();
+}
+
+void CGenICamDevice::open(milliseconds timeLimit)
+{
+    if (m_device)
+        fail(CErrorText::tr("it is already open"));
+    if (m_camera.isAmbiguous)
+        fail(CErrorText::tr("another camera has the same vendor, model and serial number; connect "
+                            "only one of them and search for cameras again"));
+    // What is dead is found out before the library, which takes longer, is set to work. In it only
+    // its own limits count: 2.5 s for each answer that does not come, and no end for a camera that
+    // announces its answer again and again.
+    const QDeadlineTimer deadline(timeLimit);
+    checkIdentity(std::min(timeLimit, IdentityLimit));
+    m_device = translate([this, &deadline] { return makeDevice(deadline); });
+}
+
+void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
+{
+    if (m_camera.transport != ETransport::Ethernet)
+        return;
+    const QVector<CFoundCamera> found
+        = discoverUnicast({QHostAddress(m_camera.address)}, timeLimit);
+    if (found.isEmpty())
+        fail(getNoAnswerText());
+    if (!found.first().isSameAs(m_camera))
+        fail(CErrorText::tr("another camera, %1, answers at its address; search for cameras again")
+                 .arg(found.first().getFullName()));
+}
+
+// The address on this machine from which @p camera is reached.
+static CObjectPointer<GInetAddress> findInterface(const QHostAddress &camera)
+{
+    QUdpSocket socket;
+    // Asks the system for a route; nothing is sent.
+    socket.connectToHost(camera, 9);
+    socket.waitForConnected(0);
+    return CObjectPointer<GInetAddress>(
+        g_inet_address_new_from_string(socket.localAddress().toString().toLatin1().constData()));
+}
+
+CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadline) const
+{
+    CErrorGuard error;
+    CObjectPointer<ArvDevice> device;
+    if (m_camera.transport == ETransport::Ethernet) {
+        // By address and without the library's list of devices, which a search locks for a second.
+        const QHostAddress address(m_camera.address);
+        checkFeatureDescription(address, deadline);
+        const CObjectPointer<GInetAddress> interfaceAddress = findInterface(address);
+        const CObjectPointer<GInetAddress> cameraAddress(
+            g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
+        if (!interfaceAddress || !cameraAddress)
+            throw CFeatureError(CErrorText::tr("its address cannot be reached; check the network "
+                                               "settings of this computer"),
+                                CFeatureError::EReason::NoAnswer);
+        device.reset(
+            arv_gv_device_new(interfaceAddress.get(), cameraAddress.get(), error.receive()));
+    } else {
+        device = makeUsbDevice(error);
+    }
+    if (error)
+        throwError(error, CErrorText::tr("it could not be opened"));
+    if (!device)
+        throw CFeatureError(CErrorText::tr("it could not be opened"),
+                            CFeatureError::EReason::NoAnswer);
+    if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
+        throw CFeatureError(getInUseText(), CFeatureError::EReason::Refused);
+    return device;
+}
+
+CObjectPointer<ArvDevice> CGenICamDevice::makeUsbDevice(CErrorGuard &error) const
+{
+    if (!m_camera.hardwareAddress.isEmpty())
+        return CObjectPointer<ArvDevice>(arv_uv_device_new_from_guid(
+            m_camera.hardwareAddress.toUtf8().constData(), error.receive()));
+    return CObjectPointer<ArvDevice>(
+        arv_uv_device_new(m_camera.vendor.toUtf8().constData(), m_camera.model.toUtf8().constData(),
+                          m_camera.serialNumber.toUtf8().constData(), error.receive()));
+}
+
+void CGenICamDevice::close() noexcept
+{
+    m_device.reset();
+}
+
+QString CGenICamDevice::readFeature(const QString &name, milliseconds timeLimit)
+{
+    Q_UNUSED(timeLimit)
+    return translate([this, &name] { return readKnownFeature(getFeatures(), name.toUtf8()); });
+}
+
+QString CGenICamDevice::readKnownFeature(const CFeatures &features, const QByteArray &name) const
+{
+    if (features.has(name))
+        return features.read(name);
+    // What the pool expects of every camera and the standard leaves to the maker.
+    if (name == "DeviceStatus")
+        return QStringLiteral("0");
+    if (name == "DeviceFirmwareVersion" && features.has("DeviceVersion"))
+        return features.read("DeviceVersion");
+    if (name == "DeviceSerialNumber")
+        return m_camera.serialNumber;
+    return features.read(name);
+}
+
+void CGenICamDevice::writeFeature(const QString &name, const QString &value, milliseconds timeLimit)
+{
+    Q_UNUSED(timeLimit)
+    translate([this, &name, &value] { getFeatures().write(name.toUtf8(), value); });
+}
+
+void CGenICamDevice::executeCommand(const QString &name, milliseconds timeLimit)
+{
+    const QDeadlineTimer deadline(timeLimit);
+    translate([this, &name, &deadline] {
+        const CFeatures features = getFeatures();
+        const QByteArray command = name.toUtf8();
+        features.execute(command);
+        while (!features.isDone(command)) {
+            if (deadline.hasExpired())
+                fail(CErrorText::tr("its command \"%1\" took too long; switch the camera off and "
+                                    "on and repeat the update")
+                         .arg(name));
+            QThread::msleep(PollInterval.count());
+        }
+    });
+}
+
+void CGenICamDevice::uploadFile(const QString &fileName, QIODevice &source, qint64 size,
+                                const ProgressFunction &progress, milliseconds timeLimit)
+{
+    const QDeadlineTimer deadline(timeLimit);
+    translate([&] {
+        const CFeatures features = getFeatures();
+        CFileUpload upload(features, fileName, deadline);
+        upload.open();
+        for (qint64 done = 0; done < size;) {
+            if (deadline.hasExpired())
+                fail(CErrorText::tr("the upload of its file \"%1\" took too long; it was broken "
+                                    "off after %2 of %3 bytes")
+                         .arg(fileName, QString::number(done), QString::number(size)));
+            const QByteArray block
+                = source.read(std::min<qint64>(upload.getBlockSize(), size - done));
+            if (block.isEmpty())
+                fail(CErrorText::tr("the data for its file \"%1\" ended after %2 of %3 bytes (%4)")
+                         .arg(fileName, QString::number(done), QString::number(size),
+                              source.errorString()));
+            upload.writeBlock(block);
+            done += block.size();
+            if (progress)
+                progress(done);
+        }
+        upload.close();
+    });
+}
+
+void CGenICamDevice::resetAndWait(milliseconds timeLimit)
+{
+    const QDeadlineTimer deadline(timeLimit);
+    translate([this, &deadline] {
+        QString oldVersion;
+        if (!isPresent(oldVersion))
+            oldVersion = m_camera.version;
+        try {
+            getFeatures().execute(QByteArrayLiteral("DeviceReset"));
+        } catch (const CFeatureError &error) {
+            // A camera may be gone before it answers.
+            if (error.getReason() != CFeatureError::EReason::NoAnswer)
+                throw;
+        }
+        waitForReturn(oldVersion, deadline);
+        // Kept until here: closing it earlier would wait for answers of a camera that is away.
+        m_device.reset();
+        while (!m_device) {
+            try {
+                m_device = makeDevice(deadline);
+            } catch (const CFeatureError &error) {
+                // It answers questions for its name a little before it can be opened.
+                if (deadline.hasExpired())
+                    fail(error.getText());
+                QThread::msleep(PollInterval.count());
+            }
+        }
+    });
+}
+
+void CGenICamDevice::waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const
+{
+    // Right after the command the camera is still there: only one that has been away, or is
+    // another than before, has returned. One missing answer may just be lost on the way.
+    constexpr int sureSilence = 2;
+    int silence = 0;
+    while (!deadline.hasExpired()) {
+        QString version;
+        const bool isThere = isPresent(version);
+        if (isThere && (silence >= sureSilence || version != oldVersion))
+            return;
+        if (!isThere)
+            ++silence;
+        else
+            silence = 0;
+        QThread::msleep(PollInterval.count());
+    }
+    fail(silence > 0 ? CErrorText::tr("it did not come back from its reset; switch it off and on "
+                                      "and check its firmware version")
+                     : CErrorText::tr("it did not restart; switch it off and on and check its "
+                                      "firmware version"));
+}
+
+bool CGenICamDevice::isPresent(QString &version) const
+{
+    if (m_camera.transport == ETransport::Ethernet) {
+        const QVector<CFoundCamera> found = discoverUnicast({QHostAddress(m_camera.address)});
+        if (found.isEmpty() || !found.first().isSameAs(m_camera))
+            return false;
+        version = found.first().version;
+        return true;
+    }
+    CErrorGuard error;
+    const CObjectPointer<ArvDevice> device = makeUsbDevice(error);
+    return device && !error;
+}
+
+qint64 CGenICamDevice::getUploadRate() const
+{
+    return UsualUploadRate;
+}
+
+milliseconds CGenICamDevice::getShortestResetLimit() const
+{
+    // Cameras that write their flash memory while they start take long.
+    return 60s;
+}
+
+CFeatures CGenICamDevice::getFeatures() const
+{
+    if (!m_device)
+        fail(CErrorText::tr("it is not open"), CCameraError::EChange::None);
+    return CFeatures(m_device.get());
+}
+
+template <typename Action>
+std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
+{
+    try {
+        return action();
+    } catch (const CFeatureError &error) {
+        fail(error.getText(),
+             error.getReason() == CFeatureError::EReason::Refused
+                 ? CCameraError::EChange::None
+                 : CCameraError::EChange::Possible);
+    }
+}
+
+void CGenICamDevice::fail(const CErrorText &cause, CCameraError::EChange change) const
+{
+    throw CCameraError(getName(), cause, change);
+}
+
+} // namespace Viewer::Camera::GenICam

@@ -1,0 +1,7 @@
+#include "logging.h"
+
+namespace Viewer::Camera {
+
+Q_LOGGING_CATEGORY(cameraPoolLog, "viewer.camerapool", QtInfoMsg)
+
+} // namespace Viewer::Camera

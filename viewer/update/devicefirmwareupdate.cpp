@@ -1,0 +1,180 @@
+#include "devicefirmwareupdate.h"
+
+#include "errortranslator.h"
+#include "firmwareupdateinfo.h"
+#include "updateestimate.h"
+#include "viewer/camera/cameraactivities.h"
+#include "viewer/camera/cameraerror.h"
+#include "viewer/camera/icameradevice.h"
+#include "viewer/camera/logging.h"
+#include "viewer/updatefile/firmwareversion.h"
+
+#include "viewer/text/visibletext.h"
+
+namespace Viewer::Update {
+
+using Plugin::CameraPool::EFirmwareUpdateDirection;
+using Plugin::CameraPool::IFirmwareUpdateInfo;
+using Text::CErrorText;
+
+static unsigned int toUnsigned(std::chrono::milliseconds time)
+{
+    return static_cast<unsigned int>(time.count());
+}
+
+CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
+    const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
+    std::unique_ptr<Camera::ICameraDevice> device,
+    const std::shared_ptr<Camera::CCameraActivities> &activities,
+    const std::shared_ptr<CErrorTranslator> &errors)
+    : m_camera(camera)
+    , m_info(info)
+    , m_direction(UpdateFile::getDirection(camera.firmwareVersion, info->getVersion()))
+    , m_activities(activities)
+    , m_errors(errors)
+    , m_outOfMemoryText(getErrorText(CErrorText::tr("out of memory"), false))
+    , m_outOfMemoryWrittenText(getErrorText(CErrorText::tr("out of memory"), true))
+    , m_device(std::move(device))
+    , m_firmwareVersion(camera.firmwareVersion)
+{
+}
+
+CDeviceFirmwareUpdate::~CDeviceFirmwareUpdate() = default;
+
+QSharedPointer<IFirmwareUpdateInfo> CDeviceFirmwareUpdate::getFirmwareUpdateInfo() const
+{
+    return m_info;
+}
+
+EFirmwareUpdateDirection CDeviceFirmwareUpdate::getFirmwareUpdateDirection() const
+{
+    return m_direction;
+}
+
+QString CDeviceFirmwareUpdate::getFirmwareVersion() const
+{
+    const std::lock_guard lock(m_versionMutex);
+    return m_firmwareVersion;
+}
+
+void CDeviceFirmwareUpdate::executeFirmwareUpdate()
+{
+    if (m_executed.exchange(true)) {
+        // A series that the user has cancelled executes its last job once more and waits for an
+        // answer: saying nothing would make it ask for ever, "done" would count a camera that was
+        // never touched.
+        announceEnd(CErrorText::tr("The series of updates was stopped before this camera"));
+        return;
+    }
+    bool claimed = false;
+    const CErrorText error = execute(claimed);
+    m_device.reset();
+    announceEnd(error);
+    if (claimed)
+        m_activities->end(m_camera.id);
+}
+
+void CDeviceFirmwareUpdate::stepBegun(const UpdateFile::CUpdateStep &step,
+                                      std::chrono::milliseconds estimate)
+{
+    emit firmwareUpdateProgressStepBegin(step.kind, toUnsigned(estimate), step.description);
+}
+
+void CDeviceFirmwareUpdate::stepProgressed(const UpdateFile::CUpdateStep &step, double percent)
+{
+    emit firmwareUpdateProgressStepProgressChanged(step.kind, percent);
+}
+
+void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
+                                     std::chrono::milliseconds estimate)
+{
+    emit firmwareUpdateProgressStepDone(step.kind, toUnsigned(estimate));
+}
+
+CErrorText CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
+{
+    CUpdateRun run(m_camera.name, m_info->getEntry(), m_info->getFileName(), *m_device, *this);
+    CErrorText error;
+    try {
+        error = attempt(run, claimed);
+    } catch (...) {
+        // Memory ran out, maybe for the message about something else.
+        error = run.hasWritten() ? m_outOfMemoryWrittenText : m_outOfMemoryText;
+    }
+    m_device->close();
+    if (!run.getReportedVersion().isEmpty()) {
+        const std::lock_guard lock(m_versionMutex);
+        m_firmwareVersion = Text::shorten(run.getReportedVersion());
+    }
+    return error;
+}
+
+CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
+{
+    // Whatever happens here, in libraries or in the receivers of signals, the wizard waits for one
+    // last signal.
+    try {
+        const Camera::ECameraActivity other
+            = m_activities->begin(m_camera.id, Camera::ECameraActivity::Updating);
+        claimed = other == Camera::ECameraActivity::Idle;
+        emit firmwareUpdateBegin(
+            m_info, toUnsigned(estimateEntry(m_info->getEntry(), m_device->getUploadRate())));
+        if (other == Camera::ECameraActivity::Updating)
+            throw Camera::CCameraError(m_camera.name,
+                                       CErrorText::tr("it is already being updated"));
+        if (!claimed)
+            throw Camera::CCameraError(
+                m_camera.name,
+                CErrorText::tr("it is acquiring images; stop that and start the "
+                               "update again"));
+        run.execute();
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const Camera::CCameraError &error) {
+        return getErrorText(error.getText(), run.hasWritten());
+    } catch (const Core::Exception::BaseException &exception) {
+        return getErrorText(CErrorText(exception.getMessage()), run.hasWritten());
+    } catch (const std::exception &exception) {
+        return getErrorText(CErrorText(QString::fromLocal8Bit(exception.what())), run.hasWritten());
+    } catch (...) {
+        return getErrorText({}, run.hasWritten());
+    }
+    return {};
+}
+
+void CDeviceFirmwareUpdate::announceEnd(const CErrorText &error) noexcept
+{
+    try {
+        if (m_errors && !error.isEmpty())
+            m_errors->remember(error);
+    } catch (...) {
+        // Then it is shown in English.
+    }
+    try {
+        if (error.isEmpty())
+            emit firmwareUpdateDone();
+        else
+            emit firmwareUpdateError(error.getEnglish());
+    } catch (...) {
+        qCCritical(Camera::cameraPoolLog,
+                   "a receiver of the update's last signal has thrown an exception");
+    }
+}
+
+CErrorText CDeviceFirmwareUpdate::getErrorText(const CErrorText &message, bool written) const
+{
+    CErrorText text = message.toClause();
+    if (text.isEmpty())
+        text = CErrorText::tr("the update failed for an unknown reason");
+    const QString prefix
+        = Camera::CCameraError(m_camera.name, {}).getText().toClause().getEnglish();
+    if (!text.getEnglish().startsWith(prefix))
+        text = Camera::CCameraError(m_camera.name, text).getText().toClause();
+    return written
+        ? CErrorText::tr("%1; the update had already begun to write, so repeat it before "
+                         "the camera is used")
+              .arg(text)
+        : text;
+}
+
+} // namespace Viewer::Update

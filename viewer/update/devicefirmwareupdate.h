@@ -1,0 +1,81 @@
+#pragma once
+
+#include "updaterun.h"
+#include "viewer/text/errortext.h"
+
+#include "camerapool/idevicefirmwareupdate.h"
+
+#include <QString>
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+
+namespace Viewer::Camera {
+class CCameraActivities;
+}
+
+namespace Viewer::Update {
+
+class CErrorTranslator;
+class CFirmwareUpdateInfo;
+
+/// The update job of one camera, whatever camera that is.
+class CDeviceFirmwareUpdate : public Plugin::CameraPool::IDeviceFirmwareUpdate,
+                              private CUpdateRun::IListener
+{
+    Q_OBJECT
+
+public:
+    struct CCamera
+    {
+        QString id;
+        QString name; ///< what messages call it
+        QString firmwareVersion; ///< the current one
+    };
+
+    /// @p info and @p device are not null; the device is closed. @p errors, which may be null, gets
+    /// to know the error before it is emitted.
+    CDeviceFirmwareUpdate(const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
+                          std::unique_ptr<Camera::ICameraDevice> device,
+                          const std::shared_ptr<Camera::CCameraActivities> &activities,
+                          const std::shared_ptr<CErrorTranslator> &errors);
+    ~CDeviceFirmwareUpdate() override;
+
+    [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
+    getFirmwareUpdateInfo() const override;
+    [[nodiscard]] Plugin::CameraPool::EFirmwareUpdateDirection
+    getFirmwareUpdateDirection() const override;
+    [[nodiscard]] QString getFirmwareVersion() const override;
+    void executeFirmwareUpdate() override;
+
+private:
+    void stepBegun(const UpdateFile::CUpdateStep &step,
+                   std::chrono::milliseconds estimate) override;
+    void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) override;
+    void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
+
+    /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
+    /// counts as being updated.
+    [[nodiscard]] Text::CErrorText execute(bool &claimed) noexcept;
+    /// The same, but throws when memory runs out.
+    [[nodiscard]] Text::CErrorText attempt(CUpdateRun &run, bool &claimed);
+    void announceEnd(const Text::CErrorText &error) noexcept;
+    [[nodiscard]] Text::CErrorText getErrorText(const Text::CErrorText &message,
+                                                bool written) const;
+
+    const CCamera m_camera;
+    const QSharedPointer<CFirmwareUpdateInfo> m_info;
+    const Plugin::CameraPool::EFirmwareUpdateDirection m_direction;
+    const std::shared_ptr<Camera::CCameraActivities> m_activities;
+    const std::shared_ptr<CErrorTranslator> m_errors;
+    // Made beforehand: when memory runs out there is none for a message.
+    const Text::CErrorText m_outOfMemoryText;
+    const Text::CErrorText m_outOfMemoryWrittenText;
+    std::unique_ptr<Camera::ICameraDevice> m_device; // until the execution has ended
+    std::atomic<bool> m_executed = false;
+    mutable std::mutex m_versionMutex;
+    QString m_firmwareVersion;
+};
+
+} // namespace Viewer::Update
