@@ -26,9 +26,7 @@ class CFirmwareUpdaterServiceTest : public QObject
 private slots:
     void init();
     void cleanup();
-    void asksAboutBusyCameras_data();
     void asksAboutBusyCameras();
-    void checksTheTypedPath_data();
     void checksTheTypedPath();
     void keepsTheTypedFormButStoresTheAbsolutePath();
     void checksTheFirstTickedCameraOnly();
@@ -142,94 +140,70 @@ void CFirmwareUpdaterServiceTest::whenModal(const std::function<void(QWidget *)>
     poll->start(5);
 }
 
-void CFirmwareUpdaterServiceTest::asksAboutBusyCameras_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::newRow("yes") << int(QMessageBox::Yes);
-    QTest::newRow("no") << int(QMessageBox::No);
-    QTest::newRow("closed") << int(QMessageBox::NoButton);
-}
-
 void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
 {
-    QFETCH(int, answer);
-    const bool started = answer == QMessageBox::Yes;
-    m_fixture->host.status->busyIds = {"b"};
-    bool asked = false;
-    whenModal([this, &asked, answer](QWidget *widget) {
-        // Too late for the wizard, which has found all that it needs.
-        m_fixture->host.initializer.removeService(m_fixture->host.streams);
-        auto *const box = qobject_cast<QMessageBox *>(widget);
-        asked = box && box->windowTitle() == "Fimware Updater"
-            && box->text().startsWith("<p>To use the Firmware Updater, you have to stop")
-            && box->focusWidget() == box->button(QMessageBox::No) && !box->iconPixmap().isNull()
-            && box->width() >= 570;
-        if (answer == QMessageBox::NoButton)
-            widget->close();
-        else
-            QTest::mouseClick(box->button(static_cast<QMessageBox::StandardButton>(answer)),
-                              Qt::LeftButton);
-    });
-    m_fixture->service->startFirmwareUpdater();
-    QVERIFY(asked);
-    QCOMPARE(m_fixture->host.status->askedIds, QStringList({"a", "b", "n"}));
-    QCOMPARE(m_fixture->host.streams->stopCount, started ? 1 : 0);
-    QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath().isEmpty(), !started);
-    const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
-    QCOMPARE(model->rowCount(), started ? 1 : 0);
-    if (started)
-        QTRY_VERIFY(isShown<View::CCameraSelectionDialog>());
-}
-
-void CFirmwareUpdaterServiceTest::checksTheTypedPath_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("ticked");
-    QTest::addColumn<bool>("fits");
-    QTest::addColumn<bool>("next");
-    QTest::addColumn<bool>("error");
-    QTest::addColumn<QString>("description");
-
-    const auto row = [](const char *name, const char *path, bool ticked, bool fits, bool next,
-                        bool error, const char *description) {
-        QTest::newRow(name) << path << ticked << fits << next << error << description;
-    };
-    row("usable file", "update.guf", true, true, true, false, "Fixes");
-    row("no entry fits", "update.guf", true, false, false, true, "No details available");
-    row("no camera ticked", "update.guf", false, true, false, true, "No details available");
-    row("unreadable", "torn.guf", true, true, false, true, "No details available");
-    row("folder", ".", true, true, false, false, "No file selected");
-    row("missing", "gone.guf", true, true, false, false, "No file selected");
-    row("empty", "", true, true, false, false, "No file selected");
+    for (const auto answer : {QMessageBox::Yes, QMessageBox::No, QMessageBox::NoButton}) {
+        cleanup();
+        init();
+        const bool started = answer == QMessageBox::Yes;
+        m_fixture->host.status->busyIds = {"b"};
+        bool asked = false;
+        whenModal([this, &asked, answer](QWidget *widget) {
+            // Too late for the wizard, which has found all that it needs.
+            m_fixture->host.initializer.removeService(m_fixture->host.streams);
+            auto *const box = qobject_cast<QMessageBox *>(widget);
+            asked = box && box->windowTitle() == "Fimware Updater"
+                && box->text().startsWith("<p>To use the Firmware Updater, you have to stop")
+                && box->focusWidget() == box->button(QMessageBox::No) && !box->iconPixmap().isNull()
+                && box->width() >= 570;
+            if (answer == QMessageBox::NoButton)
+                widget->close();
+            else
+                QTest::mouseClick(box->button(answer), Qt::LeftButton);
+        });
+        m_fixture->service->startFirmwareUpdater();
+        QVERIFY(asked);
+        QCOMPARE(m_fixture->host.status->askedIds, QStringList({"a", "b", "n"}));
+        QCOMPARE(m_fixture->host.streams->stopCount, started ? 1 : 0);
+        QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath().isEmpty(), !started);
+        const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
+        QCOMPARE(model->rowCount(), started ? 1 : 0);
+        QTRY_COMPARE(isShown<View::CCameraSelectionDialog>(), started);
+    }
 }
 
 void CFirmwareUpdaterServiceTest::checksTheTypedPath()
 {
-    QFETCH(QString, path);
-    QFETCH(bool, ticked);
-    QFETCH(bool, fits);
-    QFETCH(bool, next);
-    QFETCH(bool, error);
-    QFETCH(QString, description);
-
-    start();
-    if (ticked)
-        tick("a");
-    if (!fits)
-        m_fixture->host.updates->incompatibleIds = {"a"};
-    if (path == "torn.guf")
-        m_fixture->host.updates->readError = "The file is torn";
-    (void)makeFile("update.guf");
-    (void)makeFile("torn.guf");
-    auto *const step2 = dialog<View::CUpdateSelectionDialog>();
-    emit step2->pathChanged(path.isEmpty() ? path : m_fixture->temporaryFolder.filePath(path));
-    QCOMPARE(getButton(*step2, "Next")->isEnabled(), next);
-    for (const char *const label : {"errorTextLabel", "errorIconLabel"})
-        QCOMPARE(!TestSupport::find(*step2, label)->isHidden(), error);
-    QCOMPARE(getText(*step2, "updateDescriptionTextLabel"), description);
-    QCOMPARE(m_fixture->getLog().contains(
-                 "CRITICAL Failed to check for compatible update: The file is torn"),
-             path == "torn.guf");
+    const auto check = [this](const char *path, bool ticked, bool fits, bool next, bool error,
+                              const char *description) {
+        cleanup();
+        init();
+        start();
+        if (ticked)
+            tick("a");
+        if (!fits)
+            m_fixture->host.updates->incompatibleIds = {"a"};
+        const bool isTorn = path == QString("torn.guf");
+        if (isTorn)
+            m_fixture->host.updates->readError = "The file is torn";
+        (void)makeFile("update.guf");
+        (void)makeFile("torn.guf");
+        auto *const step2 = dialog<View::CUpdateSelectionDialog>();
+        emit step2->pathChanged(*path ? m_fixture->temporaryFolder.filePath(path) : QString());
+        QVERIFY2(getButton(*step2, "Next")->isEnabled() == next, path);
+        for (const char *const label : {"errorTextLabel", "errorIconLabel"})
+            QVERIFY2(TestSupport::find(*step2, label)->isHidden() != error, path);
+        QCOMPARE(getText(*step2, "updateDescriptionTextLabel"), description);
+        QCOMPARE(m_fixture->getLog().contains(
+                     "CRITICAL Failed to check for compatible update: The file is torn"),
+                 isTorn);
+    };
+    check("update.guf", true, true, true, false, "Fixes");
+    check("update.guf", true, false, false, true, "No details available");
+    check("update.guf", false, true, false, true, "No details available");
+    check("torn.guf", true, true, false, true, "No details available");
+    for (const char *const noFile : {".", "gone.guf", ""})
+        check(noFile, true, true, false, false, "No file selected");
 }
 
 void CFirmwareUpdaterServiceTest::keepsTheTypedFormButStoresTheAbsolutePath()
