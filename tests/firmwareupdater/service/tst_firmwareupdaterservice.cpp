@@ -15,6 +15,7 @@
 #include <functional>
 
 using namespace Plugin::FirmwareUpdater::Internal;
+using TestSupport::click;
 using TestSupport::CUpdaterFixture;
 using TestSupport::getButton;
 using TestSupport::getText;
@@ -49,7 +50,6 @@ private:
         return dialog<T>()->isVisible();
     }
 
-    static void click(QDialog *dialog, const char *text);
     void start();
     void tick(const QString &id);
     QString makeFile(const QString &name);
@@ -77,14 +77,6 @@ void CFirmwareUpdaterServiceTest::init()
 void CFirmwareUpdaterServiceTest::cleanup()
 {
     m_fixture.reset();
-}
-
-void CFirmwareUpdaterServiceTest::click(QDialog *dialog, const char *text)
-{
-    QVERIFY(dialog->isVisible());
-    QPushButton *const button = getButton(*dialog, text);
-    QVERIFY2(button && button->isEnabled(), text);
-    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 void CFirmwareUpdaterServiceTest::start()
@@ -118,13 +110,13 @@ void CFirmwareUpdaterServiceTest::goToStepTwo()
 {
     start();
     tick("a");
-    click(dialog<View::CCameraSelectionDialog>(), "Next");
+    click(*dialog<View::CCameraSelectionDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
 }
 
 void CFirmwareUpdaterServiceTest::goToStepThree()
 {
-    click(dialog<View::CUpdateSelectionDialog>(), "Next");
+    click(*dialog<View::CUpdateSelectionDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CUpdateSummaryDialog>());
 }
 
@@ -239,7 +231,7 @@ void CFirmwareUpdaterServiceTest::checksThePathAtEachEntry()
     goToStepThree();
     // The file turns bad while the user looks at the summary.
     m_fixture->host.updates->readError = "The file is torn";
-    click(dialog<View::CUpdateSummaryDialog>(), "Back");
+    click(*dialog<View::CUpdateSummaryDialog>(), "Back");
     QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
     QVERIFY(!getButton(*dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
     // An entry empties the list of an earlier pass.
@@ -258,12 +250,12 @@ void CFirmwareUpdaterServiceTest::endsWithoutUpdatesWhenTheFileIsLost()
     QCOMPARE(dialog<View::CUpdateSummaryDialog>()->getModel()->rowCount(), 0);
 
     // Step 4 has nothing to do and ends while it is being entered.
-    click(dialog<View::CUpdateSummaryDialog>(), "Next");
+    click(*dialog<View::CUpdateSummaryDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
     QCOMPARE(getText(*dialog<View::CResultSummaryDialog>(), "successfulUpdatesLabel"),
              "Successful updates: 0");
 
-    click(dialog<View::CResultSummaryDialog>(), "Close");
+    click(*dialog<View::CResultSummaryDialog>(), "Close");
     QTRY_VERIFY(!isShown<View::CResultSummaryDialog>());
     QTRY_COMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), "");
     // The machine can be started again.
@@ -286,14 +278,14 @@ void CFirmwareUpdaterServiceTest::takesAFileFromTheFileDialog()
         fileDialog->findChild<QLineEdit *>()->setText(path);
         QTest::keyClick(fileDialog->findChild<QLineEdit *>(), Qt::Key_Return);
     });
-    click(dialog<View::CUpdateSelectionDialog>(), "Browse");
+    click(*dialog<View::CUpdateSelectionDialog>(), "Browse");
     QVERIFY(asked);
     QCOMPARE(dialog<View::CUpdateSelectionDialog>()->findChild<QLineEdit *>()->text(), path);
     QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
     QVERIFY(getButton(*dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
 
     whenModal([](QWidget *widget) { widget->close(); });
-    click(dialog<View::CUpdateSelectionDialog>(), "Browse");
+    click(*dialog<View::CUpdateSelectionDialog>(), "Browse");
     QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
 }
 
