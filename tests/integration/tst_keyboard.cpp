@@ -95,7 +95,7 @@ void CKeyboardTest::updatesTwoCameras()
     QVERIFY(moveTo("Firmware Updater", Qt::Key_Down));
     press(Qt::Key_Return);
     QDialog *page = waitForPage("Step 1");
-    QVERIFY(page && QTest::qWaitForWindowActive(page));
+    QVERIFY(QTest::qWaitForWindowActive(page));
     QCOMPARE(getFocus(), "GigE");
     // Next is not available, so Enter does nothing.
     press(Qt::Key_Return);
@@ -108,7 +108,7 @@ void CKeyboardTest::updatesTwoCameras()
     press(Qt::Key_Return);
 
     page = waitForPage("Step 2");
-    QVERIFY(page && QTest::qWaitForWindowActive(page));
+    QVERIFY(QTest::qWaitForWindowActive(page));
     QCOMPARE(getFocus(), "Update file");
     typePath(SAMPLE_UPDATES "/nothing.guf");
     press(Qt::Key_Return);
@@ -117,7 +117,7 @@ void CKeyboardTest::updatesTwoCameras()
     press(Qt::Key_Space);
 
     page = waitForPage("Step 3");
-    QVERIFY(page && QTest::qWaitForWindowActive(page));
+    QVERIFY(QTest::qWaitForWindowActive(page));
     const QString line = "Line %1 (Current Firmware: %2, Firmware Selected: 2.0.0, Details: %3)";
     QCOMPARE(getFocus(), line.arg("1 [x]", "1.2.0", "Upgrade"));
     // Who asks about a row hears of its changes.
@@ -127,7 +127,7 @@ void CKeyboardTest::updatesTwoCameras()
     press(Qt::Key_Return);
 
     page = waitForPage("Step 5");
-    QVERIFY(page && QTest::qWaitForWindowActive(page));
+    QVERIFY(QTest::qWaitForWindowActive(page));
     const QStringList told = takeAnnouncements();
     QVERIFY(told.contains("value Update progress"));
     QVERIFY(told.contains("name Camera 2 of 2"));

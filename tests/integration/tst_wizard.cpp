@@ -16,6 +16,8 @@
 #include <QtTest>
 
 using namespace WizardPages;
+using TestSupport::click;
+using TestSupport::getText;
 
 /// The built plug-in and the viewer's camera pool together: a user clicks through the wizard, and
 /// simulated cameras are updated from real update files.
@@ -42,7 +44,6 @@ private:
     void openPool(const Viewer::CameraPool::CCameraPoolOptions &options);
     [[nodiscard]] QHash<QString, QString> getVersions() const;
 
-    static void click(QDialog *page, const char *button);
     static void toggle(QDialog *page, const QString &row);
     [[nodiscard]] static bool isShown(const QDialog *page, const char *label);
     [[nodiscard]] static QStringList column(const QDialog *page, int column);
@@ -122,19 +123,6 @@ QHash<QString, QString> CWizardTest::getVersions() const
     return versions;
 }
 
-void CWizardTest::click(QDialog *page, const char *button)
-{
-    const auto buttons = page->findChildren<QPushButton *>();
-    for (QPushButton *const candidate : buttons) {
-        if (candidate->text().remove('&') == button) {
-            QVERIFY2(candidate->isEnabled(), button);
-            QTest::mouseClick(candidate, Qt::LeftButton);
-            return;
-        }
-    }
-    QFAIL(button);
-}
-
 void CWizardTest::toggle(QDialog *page, const QString &row)
 {
     auto *const tree = page->findChild<QTreeView *>("cameraTreeView");
@@ -162,7 +150,7 @@ QStringList CWizardTest::column(const QDialog *page, int column)
 
 QString CWizardTest::readLog(const QDialog *resultPage) const
 {
-    QFile file(getText(resultPage, "infoTextLabel_2").section('"', 1, 1));
+    QFile file(getText(*resultPage, "infoTextLabel_2").section('"', 1, 1));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -172,27 +160,24 @@ void CWizardTest::startWizard(const QString &row)
     QVERIFY(entry->isEnabled());
     entry->trigger();
     QDialog *const page = waitForPage("Step 1");
-    QVERIFY(page);
     toggle(page, row);
-    click(page, "Next");
+    click(*page, "Next");
 }
 
 void CWizardTest::chooseFile(const char *name)
 {
     QDialog *const page = waitForPage("Step 2");
-    QVERIFY(page);
     auto *const edit = page->findChild<QLineEdit *>("updateFileLineEdit");
     edit->selectAll();
     QTest::keyClicks(edit, QStringLiteral(SAMPLE_UPDATES "/") + name);
     QVERIFY2(!isShown(page, "errorTextLabel"), qPrintable(edit->text()));
-    click(page, "Next");
+    click(*page, "Next");
 }
 
 void CWizardTest::startUpdate()
 {
     QDialog *const summary = waitForPage("Step 3");
-    QVERIFY(summary);
-    click(summary, "Next");
+    click(*summary, "Next");
 }
 
 void CWizardTest::updatesAllCamerasOfAModel_data()
@@ -218,20 +203,18 @@ void CWizardTest::updatesAllCamerasOfAModel()
     chooseFile(file.constData());
 
     QDialog *const summary = waitForPage("Step 3");
-    QVERIFY(summary);
     const QString each = QString::number(direction);
     QTRY_COMPARE(column(summary, 5), QStringList({each, each, each}));
     QCOMPARE(isShown(summary, "warningTextLabel_1"), direction == 1);
     QCOMPARE(isShown(summary, "warningTextLabel_2"), direction == 2);
-    click(summary, "Next");
+    click(*summary, "Next");
 
     QDialog *const result = waitForPage("Step 5");
-    QVERIFY(result);
-    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"), "Successful updates: 3");
+    QTRY_COMPARE(getText(*result, "successfulUpdatesLabel"), "Successful updates: 3");
     QVERIFY(!isShown(result, "failedUpdatesLabel"));
     QVERIFY(!isShown(result, "errorTextLabel"));
     QVERIFY(readLog(result).contains("Finished firmware update (3/3)"));
-    click(result, "Close");
+    click(*result, "Close");
     QTRY_VERIFY(!result->isVisible());
     QTRY_COMPARE(getVersions().values(), QList<QString>({target, target, target}));
 }
@@ -243,13 +226,12 @@ void CWizardTest::stopsAtAFailureInTheMiddle()
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
     QDialog *const result = waitForPage("Step 5");
-    QVERIFY(result);
-    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"), "Successful updates: 1");
-    QCOMPARE(getText(result, "failedUpdatesLabel"), "Failed updates: 1");
-    QCOMPARE(getText(result, "skippedUpdatesLabel"), "Skipped updates: 1");
+    QTRY_COMPARE(getText(*result, "successfulUpdatesLabel"), "Successful updates: 1");
+    QCOMPARE(getText(*result, "failedUpdatesLabel"), "Failed updates: 1");
+    QCOMPARE(getText(*result, "skippedUpdatesLabel"), "Skipped updates: 1");
     QCOMPARE(column(result, 7), QStringList({"0", "1", "2"}));
-    QVERIFY(getText(result, "errorTextLabel").contains("subsequent updates have been skipped"));
-    QVERIFY(getText(result, "errorTextLabel").contains("Line 2"));
+    QVERIFY(getText(*result, "errorTextLabel").contains("subsequent updates have been skipped"));
+    QVERIFY(getText(*result, "errorTextLabel").contains("Line 2"));
     QVERIFY(readLog(result).contains("Firmware update (2/3) failed."));
     QTRY_COMPARE(getVersions().value("camera-1"), "2.0.0");
     QCOMPARE(getVersions().value("camera-3"), "1.2.0");
@@ -262,12 +244,10 @@ void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
     QDialog *const updating = waitForPage("Step 4");
-    QVERIFY(updating);
-    click(updating, "Cancel");
+    click(*updating, "Cancel");
 
     QDialog *const result = waitForPage("Step 5");
-    QVERIFY(result);
-    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"), "Successful updates: 1");
+    QTRY_COMPARE(getText(*result, "successfulUpdatesLabel"), "Successful updates: 1");
     QVERIFY(readLog(result).contains("Firmware updates have been canceled by the user"));
     // No camera that was left out has been touched, and none of them counts as updated.
     QTRY_COMPARE(getVersions().value("camera-1"), "2.0.0");
@@ -283,20 +263,17 @@ void CWizardTest::updatesAgainInTheSameRun()
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
     QDialog *const result = waitForPage("Step 5");
-    QVERIFY(result);
     QTRY_COMPARE(getVersions().value("camera-2"), "2.0.0");
-    click(result, "Next");
+    click(*result, "Next");
 
     QDialog *const selection = waitForPage("Step 1");
-    QVERIFY(selection);
     toggle(selection, "Line 2");
-    click(selection, "Next");
+    click(*selection, "Next");
     chooseFile("vx-1400m_2.0.0.guf");
     QDialog *const summary = waitForPage("Step 3");
-    QVERIFY(summary);
     QTRY_COMPARE(column(summary, 5), QStringList({"2"}));
-    click(summary, "Back");
-    QVERIFY(waitForPage("Step 2"));
+    click(*summary, "Back");
+    (void)waitForPage("Step 2");
 }
 
 void CWizardTest::updatesCamerasOnTheWire_data()
@@ -340,11 +317,10 @@ void CWizardTest::updatesCamerasOnTheWire()
     turns.start(1);
     QDialog *const result = waitForPage("Step 5");
     qInfo("longest gap of the GUI thread: %lld ms", longestGap);
-    QVERIFY(result);
 
     if (secondDies) {
         QTRY_COMPARE(column(result, 7), QStringList({"0", "1", "2"}));
-        const QString error = getText(result, "errorTextLabel");
+        const QString error = getText(*result, "errorTextLabel");
         QVERIFY2(error.contains("Camera 50000002 (GV-1400M, 127."), qPrintable(error));
         QVERIFY2(error.contains("failed at byte 36864: "), qPrintable(error));
         QVERIFY(cameras[2]->getEvents().isEmpty());
@@ -396,14 +372,13 @@ void CWizardTest::tellsEachFault()
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
     QDialog *const result = waitForPage("Step 5");
-    QVERIFY(result);
     const bool failed = !error.isEmpty();
-    QTRY_COMPARE(getText(result, "successfulUpdatesLabel"),
+    QTRY_COMPARE(getText(*result, "successfulUpdatesLabel"),
                  QString("Successful updates: %1").arg(failed ? 0 : 1));
     QCOMPARE(isShown(result, "errorTextLabel"), failed);
     QCOMPARE(column(result, 7), QStringList({failed ? "1" : "0"}));
     if (failed) {
-        const QString shown = getText(result, "errorTextLabel");
+        const QString shown = getText(*result, "errorTextLabel");
         QVERIFY2(shown.contains(error.toHtmlEscaped()), qPrintable(shown));
         QVERIFY2(shown.startsWith("An error has occurred during the update.<br>"),
                  qPrintable(shown));

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QtTest>
 
 /// Ways to find things in a window.
 namespace TestSupport {
@@ -25,6 +26,14 @@ inline QPushButton *getButton(const QWidget &window, const char *text)
         if (button->text().remove('&') == text)
             return button;
     return nullptr;
+}
+
+/// Clicks that button, which has to be visible and enabled.
+inline void click(const QWidget &window, const char *text)
+{
+    QPushButton *const button = getButton(window, text);
+    QVERIFY2(button && button->isVisible() && button->isEnabled(), text);
+    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 } // namespace TestSupport

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "widgets.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLabel>
-#include <QtTest>
 
 /// What tests of the whole wizard share: cameras for it, and its pages.
 namespace WizardPages {
@@ -37,11 +37,6 @@ inline QString describeCameras(const QString &folder, const QString &firmware, i
     return file.fileName();
 }
 
-inline QString getText(const QDialog *page, const char *label)
-{
-    return page->findChild<QLabel *>(label)->text();
-}
-
 /// The wizard's page with a title that begins with @p title, shown or not.
 inline QDialog *findPage(const char *title)
 {
@@ -49,19 +44,22 @@ inline QDialog *findPage(const char *title)
     for (QWidget *const window : windows) {
         auto *const page = qobject_cast<QDialog *>(window);
         if (page && page->findChild<QLabel *>("stepTitleLabel")
-            && getText(page, "stepTitleLabel").startsWith(title))
+            && TestSupport::getText(*page, "stepTitleLabel").startsWith(title))
             return page;
     }
     return nullptr;
 }
 
-/// The same once it is shown; null when that does not happen.
+/// The same once it is shown; the test fails when that does not happen.
 inline QDialog *waitForPage(const char *title)
 {
     QDialog *const page = findPage(title);
-    const bool isShown = page && QTest::qWaitFor([page] { return page->isVisible(); }, 60000)
-        && QTest::qWaitForWindowExposed(page);
-    return isShown ? page : nullptr;
+    if (!page)
+        qFatal("There is no page \"%s\".", title);
+    if (!QTest::qWaitFor([page] { return page->isVisible(); }, 60000)
+        || !QTest::qWaitForWindowExposed(page))
+        QTest::qFail(title, __FILE__, __LINE__);
+    return page;
 }
 
 } // namespace WizardPages

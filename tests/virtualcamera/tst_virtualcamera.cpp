@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <cstring>
+#include <limits>
 #include <zip.h>
 
 using namespace VirtualCamera;
@@ -98,21 +99,15 @@ private slots:
     void givesControlToOneAtATime();
     void takesControlFromASilentApplication();
     void executesARepeatedRequestOnce();
-    void announcesWhatTakesLong_data();
     void announcesWhatTakesLong();
     void announcesForEver();
-    void resetEndsControl();
-    void goesThroughAReset_data();
     void goesThroughAReset();
     void restartsAnotherCamera();
     void checksFileOperations();
     void wantsItsOperationsAwaited();
-    void wantsItsActivationAwaited_data();
     void wantsItsActivationAwaited();
     void noticesWhatIsNotPadded();
-    void keepsItsLimits_data();
     void keepsItsLimits();
-    void describesItself_data();
     void describesItself();
     void givesOutAFile();
 
@@ -328,35 +323,28 @@ void CVirtualCameraTest::executesARepeatedRequestOnce()
     QCOMPARE(m_camera->getStatistics().memoryWrites, 1);
 }
 
-void CVirtualCameraTest::announcesWhatTakesLong_data()
-{
-    QTest::addColumn<int>("duration");
-    QTest::addColumn<QByteArray>("announcement");
-    QTest::addColumn<QByteArray>("aSecondLater");
-    QTest::newRow("4 s") << 4000 << QByteArray("00000fa0") << QByteArray("00000bb8");
-    QTest::newRow("65 s") << 65000 << QByteArray("0000fde8") << QByteArray("0000fa00");
-}
-
 void CVirtualCameraTest::announcesWhatTakesLong()
 {
-    QFETCH(int, duration);
-    QFETCH(QByteArray, announcement);
-    QFETCH(QByteArray, aSecondLater);
     const QByteArray header = "0000008900040063";
-    makeControlled(parse({"--open-ms", QString::number(duration)}));
-    write(MemoryMap::FILE_OPEN_MODE, 1);
-    QCOMPARE(ask(OPEN).toHex(), header + announcement);
-    m_now += 1000ms;
-    QCOMPARE(ask(OPEN).toHex(), header + aSecondLater);
-    QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
-    m_now = *m_camera->getNextDeadline();
-    QCOMPARE(m_now, Time(duration));
-    const QVector<CDatagram> answers = m_camera->tick(m_now);
-    QCOMPARE(answers.size(), 1);
-    QCOMPARE(answers[0].bytes.toHex(), QByteArray("000000830004006300000001"));
-    // The wait does not count as silence.
-    QCOMPARE(read(MemoryMap::CONTROL_PRIVILEGE), 2U);
-    QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
+    const auto check
+        = [&](int duration, const QByteArray &announcement, const QByteArray &aSecondLater) {
+              makeControlled(parse({"--open-ms", QString::number(duration)}));
+              write(MemoryMap::FILE_OPEN_MODE, 1);
+              QCOMPARE(ask(OPEN).toHex(), header + announcement);
+              m_now += 1000ms;
+              QCOMPARE(ask(OPEN).toHex(), header + aSecondLater);
+              QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
+              m_now = *m_camera->getNextDeadline();
+              QCOMPARE(m_now, Time(duration));
+              const QVector<CDatagram> answers = m_camera->tick(m_now);
+              QCOMPARE(answers.size(), 1);
+              QCOMPARE(answers[0].bytes.toHex(), QByteArray("000000830004006300000001"));
+              // The wait does not count as silence.
+              QCOMPARE(read(MemoryMap::CONTROL_PRIVILEGE), 2U);
+              QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
+          };
+    check(4000, "00000fa0", "00000bb8");
+    check(65000, "0000fde8", "0000fa00");
 }
 
 void CVirtualCameraTest::announcesForEver()
@@ -375,56 +363,33 @@ void CVirtualCameraTest::announcesForEver()
     QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
 }
 
-void CVirtualCameraTest::resetEndsControl()
-{
-    makeControlled();
-    QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), 0x8fff); // no image has been uploaded
-    QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
-    QVERIFY(ask(ECommand::Discovery, {}).isEmpty());
-    m_now += CCameraSettings().resetDuration;
-    QCOMPARE(ask(ECommand::Discovery, {}).mid(8 + 0x88, 6), QByteArray("1.2.0\0", 6));
-    QCOMPARE(m_recorder.events.last(), QByteArray("back 1.2.0"));
-    QCOMPARE(write(MemoryMap::REVERSE_X, 1), 0x8006);
-}
-
-void CVirtualCameraTest::goesThroughAReset_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QStringList>("seen"); // 0, 499, 500, 1999, 2000, 2499 and 2500 ms after it
-    const QString same = "GV-1400M 50000001";
-    const QString none;
-    QTest::newRow("at once") << QStringList()
-                             << QStringList{none, none, none, none, same, same, same};
-    QTest::newRow("answers for a while") << QStringList{"--reset-delay-ms", "500"}
-                                         << QStringList{same, same, none, none, none, none, same};
-    QTest::newRow("ignored") << QStringList{"--ignore-reset"}
-                             << QStringList{same, same, same, same, same, same, same};
-    QTest::newRow("another serial number")
-        << QStringList{"--return-serial", "7"}
-        << QStringList{none, none, none, none, "GV-1400M 7", "GV-1400M 7", "GV-1400M 7"};
-    QTest::newRow("another model, after a while")
-        << QStringList{"--return-model", "X", "--reset-delay-ms", "500"}
-        << QStringList{same, same, none, none, none, none, "X 50000001"};
-}
-
 void CVirtualCameraTest::goesThroughAReset()
 {
-    QFETCH(QStringList, arguments);
-    makeControlled(parse(arguments));
-    QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
-    const Time begin = m_now;
-    QStringList seen;
-    for (const int after : {0, 499, 500, 1999, 2000, 2499, 2500}) {
-        m_now = begin + Time(after);
-        const QByteArray answer = ask(ECommand::Discovery, {});
-        seen.append(answer.isEmpty() ? QString()
-                                     : QString::fromLatin1(answer.constData() + 8 + 0x68) + ' '
-                            + QString::fromLatin1(answer.constData() + 8 + 0xd8));
-    }
-    QTEST(seen, "seen");
-    // Whoever had control keeps it as long as the camera is there.
-    const bool stays = arguments.contains("--ignore-reset");
-    QCOMPARE(write(MemoryMap::REVERSE_X, 1), stays ? 0 : 0x8006);
+    const auto check = [this](const QStringList &arguments, const QStringList &expected) {
+        makeControlled(parse(arguments));
+        QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), 0x8fff); // no image has been uploaded
+        QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
+        QStringList seen;
+        for (const int after : {0, 499, 500, 1999, 2000, 2499, 2500}) {
+            m_now = Time(after);
+            const QByteArray answer = ask(ECommand::Discovery, {});
+            seen.append(answer.isEmpty() ? QString()
+                                         : QString::fromLatin1(answer.constData() + 8 + 0x68) + ' '
+                                + QString::fromLatin1(answer.constData() + 8 + 0xd8));
+        }
+        QCOMPARE(seen, expected);
+        // Whoever had control keeps it as long as the camera is there.
+        const bool stays = arguments.contains("--ignore-reset");
+        QCOMPARE(write(MemoryMap::REVERSE_X, 1), stays ? 0 : 0x8006);
+        QCOMPARE(m_recorder.events.contains("back 1.2.0"), !stays);
+    };
+    const QString same = "GV-1400M 50000001", other = "GV-1400M 7", none;
+    check({}, {none, none, none, none, same, same, same});
+    check({"--reset-delay-ms", "500"}, {same, same, none, none, none, none, same});
+    check({"--ignore-reset"}, {same, same, same, same, same, same, same});
+    check({"--return-serial", "7"}, {none, none, none, none, other, other, other});
+    check({"--return-model", "X", "--reset-delay-ms", "500"},
+          {same, same, none, none, none, none, "X 50000001"});
 }
 
 void CVirtualCameraTest::restartsAnotherCamera()
@@ -467,32 +432,24 @@ void CVirtualCameraTest::wantsItsOperationsAwaited()
     QCOMPARE(read(MemoryMap::FILE_OPERATION_RESULT), 4U);
 }
 
-void CVirtualCameraTest::wantsItsActivationAwaited_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("reads");
-    QTest::addColumn<QByteArray>("version");
-    const QByteArray old = "1.2.0", updated = "2.0.0";
-    const QStringList counting{"--activate-ms", "0", "--activate-reads", "2"};
-    QTest::newRow("not asked for") << counting << 0 << old;
-    QTest::newRow("asked for too rarely") << counting << 1 << old;
-    QTest::newRow("asked for until the end") << counting << 2 << updated;
-    QTest::newRow("too early") << QStringList{"--activate-ms", "200"} << 2 << old;
-    QTest::newRow("done at once") << QStringList{"--activate-ms", "0"} << 0 << updated;
-}
-
 void CVirtualCameraTest::wantsItsActivationAwaited()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(int, reads);
-    makeControlled(parse(arguments));
-    upload("version: 2.0.0\n");
-    QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), 0);
-    for (int i = 0; i < reads; ++i)
-        QCOMPARE(read(MemoryMap::FIRMWARE_ACTIVATE), 1U);
-    QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
-    m_now += CCameraSettings().resetDuration;
-    QTEST(readMemory(MemoryMap::FIRMWARE_VERSION, 32).left(5), "version");
+    const auto getVersion = [this](const char *duration, const char *wanted, int reads) {
+        makeControlled(parse({"--activate-ms", duration, "--activate-reads", wanted}));
+        upload("version: 2.0.0\n");
+        write(MemoryMap::FIRMWARE_ACTIVATE, 1);
+        for (int i = 0; i < reads; ++i)
+            if (read(MemoryMap::FIRMWARE_ACTIVATE) != 1)
+                return QByteArray("done too early");
+        write(MemoryMap::DEVICE_RESET, 1);
+        m_now += CCameraSettings().resetDuration;
+        return readMemory(MemoryMap::FIRMWARE_VERSION, 32).left(5);
+    };
+    QCOMPARE(getVersion("0", "2", 0), QByteArray("1.2.0"));
+    QCOMPARE(getVersion("0", "2", 1), QByteArray("1.2.0"));
+    QCOMPARE(getVersion("0", "2", 2), QByteArray("2.0.0"));
+    QCOMPARE(getVersion("200", "0", 2), QByteArray("1.2.0"));
+    QCOMPARE(getVersion("0", "0", 0), QByteArray("2.0.0"));
 }
 
 void CVirtualCameraTest::noticesWhatIsNotPadded()
@@ -514,102 +471,71 @@ void CVirtualCameraTest::noticesWhatIsNotPadded()
     QCOMPARE(write(MemoryMap::FIRMWARE_ACTIVATE, 1), 0);
 }
 
-void CVirtualCameraTest::keepsItsLimits_data()
-{
-    QTest::addColumn<quint32>("address");
-    QTest::addColumn<quint32>("value");
-    QTest::addColumn<bool>("isGood");
-    const auto row = [](const char *name, quint32 address, quint32 value, bool isGood) {
-        QTest::newRow(name) << address << value << isGood;
-    };
-    constexpr quint32 exposure = MemoryMap::EXPOSURE_TIME, gain = MemoryMap::GAIN;
-    row("shortest exposure", exposure, toBits(10), true);
-    row("too short", exposure, toBits(9.99F), false);
-    row("longest exposure", exposure, toBits(1e6F), true);
-    row("too long", exposure, toBits(1e30F), false);
-    row("no number", exposure, 0x7fc00000, false);
-    row("smallest gain", gain, toBits(0), true);
-    row("too small", gain, toBits(-0.1F), false);
-    row("largest gain", gain, toBits(24), true);
-    row("infinite", gain, 0x7f800000, false);
-    row("entry", MemoryMap::FIRMWARE_UPDATE_MODE, 1, true);
-    row("no entry", MemoryMap::FIRMWARE_UPDATE_MODE, 2, false);
-    row("neither true nor false", MemoryMap::REVERSE_X, 2, false);
-    row("unknown file", MemoryMap::FILE_SELECTOR, 1, false);
-    row("behind every file", MemoryMap::FILE_ACCESS_OFFSET, 0x4000001, false);
-}
-
 void CVirtualCameraTest::keepsItsLimits()
 {
-    QFETCH(quint32, address);
-    QFETCH(quint32, value);
-    QFETCH(bool, isGood);
     makeControlled();
-    const quint32 before = read(address);
-    QCOMPARE(write(address, value), isGood ? 0 : 0x8002);
-    QCOMPARE(read(address), isGood ? value : before);
-    // What stands in front of a bad value is not written either.
-    if (!isGood) {
-        QCOMPARE(writeMemory(address - 4, words({1, value})) != 0, true);
-        QCOMPARE(read(address), before);
-    }
-}
-
-void CVirtualCameraTest::describesItself_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QByteArray>("url");
-    QTest::addColumn<qint64>("size"); // unpacked; 0: whatever it takes
-    QTest::addColumn<bool>("isWellFormed");
-    QTest::addColumn<QByteArray>("part");
-    const QByteArray xml = "Local:camera.xml;10000000;", zip = "Local:camera.zip;10000000;";
-    QTest::newRow("sound") << "sound" << xml << 0LL << true << QByteArray("<Address>0x100020<");
-    QTest::newRow("zipped") << "zip" << zip << 0LL << true << QByteArray("<Address>0x100020<");
-    QTest::newRow("values") << "self-value" << xml << 0LL << true
-                            << QByteArray("<Integer Name=\"DeviceStatusAgain\">\n    "
-                                          "<pValue>DeviceStatus</pValue>");
-    QTest::newRow("address") << "self-address" << xml << 0LL << true
-                             << QByteArray("<pAddress>DeviceStatus</pAddress>");
-    QTest::newRow("categories") << "self-feature" << xml << 0LL << true
-                                << QByteArray("<pFeature>Root</pFeature>");
-    QTest::newRow("100 MB") << "bomb-100" << zip << 100'000'000LL << true << QByteArray();
-    QTest::newRow("1 GB") << "bomb-1000" << zip << 1'000'000'000LL << true << QByteArray();
-    QTest::newRow("large") << "large" << xml << 16 * 1024 * 1024 + 4LL << true << QByteArray();
-    QTest::newRow("broken") << "broken" << xml << 0LL << false << QByteArray();
-    QTest::newRow("file") << "file" << QByteArray("File:///dev/zero") << -1LL << false
-                          << QByteArray();
-    QTest::newRow("web server") << "http" << QByteArray("http://127.0.0.1:9/camera.xml") << -1LL
-                                << false << QByteArray();
+    const auto check = [this](quint32 address, quint32 value, bool isGood) {
+        const quint32 before = read(address);
+        QCOMPARE(write(address, value), isGood ? 0 : 0x8002);
+        QCOMPARE(read(address), isGood ? value : before);
+        // What stands in front of a bad value is not written either.
+        QVERIFY(isGood || writeMemory(address - 4, words({1, value})) != 0);
+        QCOMPARE(read(address), isGood ? value : before);
+    };
+    constexpr quint32 exposure = MemoryMap::EXPOSURE_TIME, gain = MemoryMap::GAIN;
+    for (const float good : {10.F, 1e6F})
+        check(exposure, toBits(good), true);
+    for (const float bad : {9.99F, 1e30F, std::numeric_limits<float>::quiet_NaN()})
+        check(exposure, toBits(bad), false);
+    for (const float good : {0.F, 24.F})
+        check(gain, toBits(good), true);
+    for (const float bad : {-0.1F, std::numeric_limits<float>::infinity()})
+        check(gain, toBits(bad), false);
+    check(MemoryMap::FIRMWARE_UPDATE_MODE, 1, true);
+    check(MemoryMap::FIRMWARE_UPDATE_MODE, 2, false);
+    check(MemoryMap::REVERSE_X, 2, false);
+    check(MemoryMap::FILE_SELECTOR, 1, false);
+    check(MemoryMap::FILE_ACCESS_OFFSET, 0x4000001, false); // behind every file
 }
 
 void CVirtualCameraTest::describesItself()
 {
-    QFETCH(QString, kind);
-    QFETCH(QByteArray, url);
-    QFETCH(qint64, size);
-    QFETCH(bool, isWellFormed);
-    QFETCH(QByteArray, part);
-    makeControlled(parse({"--description", kind}));
-    const QByteArray given(readMemory(MemoryMap::FIRST_URL, MemoryMap::URL_SIZE).constData());
-    QCOMPARE(given.left(url.size()), url);
-    if (size < 0) {
-        QCOMPARE(given, url);
-        return;
-    }
-    QCOMPARE(write(MemoryMap::DESCRIPTION, 0), 0x8004);
-    const int packedSize = given.mid(url.size()).toInt(nullptr, 16);
-    QByteArray description = readMemory(MemoryMap::DESCRIPTION, packedSize).left(packedSize);
-    qint64 unpackedSize = description.size();
-    if (url.contains(".zip")) {
-        QVERIFY(packedSize < 2 * 1024 * 1024);
-        description = unpack(description, 100'000'000, unpackedSize);
-    }
-    QVERIFY(size == 0 || unpackedSize == size);
-    QVERIFY(description.contains(part));
-    QXmlStreamReader reader(description);
-    while (!reader.atEnd())
-        reader.readNext();
-    QCOMPARE(!reader.hasError(), isWellFormed);
+    const auto check = [this](const char *kind, const QByteArray &url, const QByteArray &part = {},
+                              qint64 size = 0, bool isWellFormed = true) {
+        makeControlled(parse({"--description", kind}));
+        const QByteArray given(readMemory(MemoryMap::FIRST_URL, MemoryMap::URL_SIZE).constData());
+        QVERIFY2(given.startsWith(url), kind);
+        if (!url.startsWith("Local:")) {
+            QCOMPARE(given, url);
+            return;
+        }
+        QCOMPARE(write(MemoryMap::DESCRIPTION, 0), 0x8004);
+        const int packedSize = given.mid(url.size()).toInt(nullptr, 16);
+        QByteArray description = readMemory(MemoryMap::DESCRIPTION, packedSize).left(packedSize);
+        qint64 unpackedSize = description.size();
+        if (url.contains(".zip")) {
+            QVERIFY2(packedSize < 2 * 1024 * 1024, kind);
+            description = unpack(description, 100'000'000, unpackedSize);
+        }
+        QVERIFY2((size == 0 || unpackedSize == size) && description.contains(part), kind);
+        QXmlStreamReader reader(description);
+        while (!reader.atEnd())
+            reader.readNext();
+        QVERIFY2(reader.hasError() != isWellFormed, kind);
+    };
+    const QByteArray xml = "Local:camera.xml;10000000;", zip = "Local:camera.zip;10000000;";
+    check("sound", xml, "<Address>0x100020<");
+    check("zip", zip, "<Address>0x100020<");
+    check("self-value", xml,
+          "<Integer Name=\"DeviceStatusAgain\">\n    <pValue>DeviceStatus</pValue>");
+    check("self-address", xml, "<pAddress>DeviceStatus</pAddress>");
+    check("self-feature", xml, "<pFeature>Root</pFeature>");
+    check("bomb-100", zip, {}, 100'000'000);
+    check("bomb-1000", zip, {}, 1'000'000'000);
+    check("large", xml, {}, 16 * 1024 * 1024 + 4);
+    check("broken", xml, {}, 0, false);
+    check("file", "File:///dev/zero");
+    check("http", "http://127.0.0.1:9/camera.xml");
 }
 
 void CVirtualCameraTest::givesOutAFile()

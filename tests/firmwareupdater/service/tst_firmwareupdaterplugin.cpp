@@ -2,7 +2,6 @@
 #include "core/iplugin.h"
 #include "support/fakehost.h"
 #include "support/scriptedupdate.h"
-#include "support/widgets.h"
 #include "support/wizardpages.h"
 
 #include <QAccessible>
@@ -284,13 +283,11 @@ CFirmwareUpdaterPluginTest::goTo(int step,
     };
     for (int current = 1; current < std::min(step, 4); ++current) {
         QDialog *const page = waitForPage(current);
-        if (!page)
-            return nullptr;
         if (auto *const edit = page->findChild<QLineEdit *>()) {
             edit->selectAll();
             QTest::keyClicks(edit, file.fileName());
         }
-        QTest::mouseClick(TestSupport::getButton(*page, "Next"), Qt::LeftButton);
+        TestSupport::click(*page, "Next");
     }
     return waitForPage(step);
 }
@@ -333,7 +330,7 @@ void CFirmwareUpdaterPluginTest::leavesNothingBehind()
     auto *const tree = page->findChild<QTreeView *>();
     QAccessibleInterface *const known = QAccessible::queryAccessibleInterface(tree);
     if (step == 0) {
-        QTest::mouseClick(TestSupport::getButton(*page, "Close"), Qt::LeftButton);
+        TestSupport::click(*page, "Close");
         QTRY_VERIFY(!page->isVisible());
     } else if (step == 4) {
         QTRY_VERIFY(script.isHeld());

@@ -15,6 +15,7 @@
 #include <functional>
 
 using namespace Plugin::FirmwareUpdater::Internal;
+using TestSupport::click;
 using TestSupport::CUpdaterFixture;
 using TestSupport::getButton;
 using TestSupport::getText;
@@ -26,9 +27,7 @@ class CFirmwareUpdaterServiceTest : public QObject
 private slots:
     void init();
     void cleanup();
-    void asksAboutBusyCameras_data();
     void asksAboutBusyCameras();
-    void checksTheTypedPath_data();
     void checksTheTypedPath();
     void keepsTheTypedFormButStoresTheAbsolutePath();
     void checksTheFirstTickedCameraOnly();
@@ -51,7 +50,6 @@ private:
         return dialog<T>()->isVisible();
     }
 
-    static void click(QDialog *dialog, const char *text);
     void start();
     void tick(const QString &id);
     QString makeFile(const QString &name);
@@ -79,14 +77,6 @@ void CFirmwareUpdaterServiceTest::init()
 void CFirmwareUpdaterServiceTest::cleanup()
 {
     m_fixture.reset();
-}
-
-void CFirmwareUpdaterServiceTest::click(QDialog *dialog, const char *text)
-{
-    QVERIFY(dialog->isVisible());
-    QPushButton *const button = getButton(*dialog, text);
-    QVERIFY2(button && button->isEnabled(), text);
-    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 void CFirmwareUpdaterServiceTest::start()
@@ -120,13 +110,13 @@ void CFirmwareUpdaterServiceTest::goToStepTwo()
 {
     start();
     tick("a");
-    click(dialog<View::CCameraSelectionDialog>(), "Next");
+    click(*dialog<View::CCameraSelectionDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
 }
 
 void CFirmwareUpdaterServiceTest::goToStepThree()
 {
-    click(dialog<View::CUpdateSelectionDialog>(), "Next");
+    click(*dialog<View::CUpdateSelectionDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CUpdateSummaryDialog>());
 }
 
@@ -142,94 +132,70 @@ void CFirmwareUpdaterServiceTest::whenModal(const std::function<void(QWidget *)>
     poll->start(5);
 }
 
-void CFirmwareUpdaterServiceTest::asksAboutBusyCameras_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::newRow("yes") << int(QMessageBox::Yes);
-    QTest::newRow("no") << int(QMessageBox::No);
-    QTest::newRow("closed") << int(QMessageBox::NoButton);
-}
-
 void CFirmwareUpdaterServiceTest::asksAboutBusyCameras()
 {
-    QFETCH(int, answer);
-    const bool started = answer == QMessageBox::Yes;
-    m_fixture->host.status->busyIds = {"b"};
-    bool asked = false;
-    whenModal([this, &asked, answer](QWidget *widget) {
-        // Too late for the wizard, which has found all that it needs.
-        m_fixture->host.initializer.removeService(m_fixture->host.streams);
-        auto *const box = qobject_cast<QMessageBox *>(widget);
-        asked = box && box->windowTitle() == "Fimware Updater"
-            && box->text().startsWith("<p>To use the Firmware Updater, you have to stop")
-            && box->focusWidget() == box->button(QMessageBox::No) && !box->iconPixmap().isNull()
-            && box->width() >= 570;
-        if (answer == QMessageBox::NoButton)
-            widget->close();
-        else
-            QTest::mouseClick(box->button(static_cast<QMessageBox::StandardButton>(answer)),
-                              Qt::LeftButton);
-    });
-    m_fixture->service->startFirmwareUpdater();
-    QVERIFY(asked);
-    QCOMPARE(m_fixture->host.status->askedIds, QStringList({"a", "b", "n"}));
-    QCOMPARE(m_fixture->host.streams->stopCount, started ? 1 : 0);
-    QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath().isEmpty(), !started);
-    const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
-    QCOMPARE(model->rowCount(), started ? 1 : 0);
-    if (started)
-        QTRY_VERIFY(isShown<View::CCameraSelectionDialog>());
-}
-
-void CFirmwareUpdaterServiceTest::checksTheTypedPath_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("ticked");
-    QTest::addColumn<bool>("fits");
-    QTest::addColumn<bool>("next");
-    QTest::addColumn<bool>("error");
-    QTest::addColumn<QString>("description");
-
-    const auto row = [](const char *name, const char *path, bool ticked, bool fits, bool next,
-                        bool error, const char *description) {
-        QTest::newRow(name) << path << ticked << fits << next << error << description;
-    };
-    row("usable file", "update.guf", true, true, true, false, "Fixes");
-    row("no entry fits", "update.guf", true, false, false, true, "No details available");
-    row("no camera ticked", "update.guf", false, true, false, true, "No details available");
-    row("unreadable", "torn.guf", true, true, false, true, "No details available");
-    row("folder", ".", true, true, false, false, "No file selected");
-    row("missing", "gone.guf", true, true, false, false, "No file selected");
-    row("empty", "", true, true, false, false, "No file selected");
+    for (const auto answer : {QMessageBox::Yes, QMessageBox::No, QMessageBox::NoButton}) {
+        cleanup();
+        init();
+        const bool started = answer == QMessageBox::Yes;
+        m_fixture->host.status->busyIds = {"b"};
+        bool asked = false;
+        whenModal([this, &asked, answer](QWidget *widget) {
+            // Too late for the wizard, which has found all that it needs.
+            m_fixture->host.initializer.removeService(m_fixture->host.streams);
+            auto *const box = qobject_cast<QMessageBox *>(widget);
+            asked = box && box->windowTitle() == "Fimware Updater"
+                && box->text().startsWith("<p>To use the Firmware Updater, you have to stop")
+                && box->focusWidget() == box->button(QMessageBox::No) && !box->iconPixmap().isNull()
+                && box->width() >= 570;
+            if (answer == QMessageBox::NoButton)
+                widget->close();
+            else
+                QTest::mouseClick(box->button(answer), Qt::LeftButton);
+        });
+        m_fixture->service->startFirmwareUpdater();
+        QVERIFY(asked);
+        QCOMPARE(m_fixture->host.status->askedIds, QStringList({"a", "b", "n"}));
+        QCOMPARE(m_fixture->host.streams->stopCount, started ? 1 : 0);
+        QCOMPARE(m_fixture->service->getCurrentTemporaryLogFilePath().isEmpty(), !started);
+        const auto model = dialog<View::CCameraSelectionDialog>()->getModel();
+        QCOMPARE(model->rowCount(), started ? 1 : 0);
+        QTRY_COMPARE(isShown<View::CCameraSelectionDialog>(), started);
+    }
 }
 
 void CFirmwareUpdaterServiceTest::checksTheTypedPath()
 {
-    QFETCH(QString, path);
-    QFETCH(bool, ticked);
-    QFETCH(bool, fits);
-    QFETCH(bool, next);
-    QFETCH(bool, error);
-    QFETCH(QString, description);
-
-    start();
-    if (ticked)
-        tick("a");
-    if (!fits)
-        m_fixture->host.updates->incompatibleIds = {"a"};
-    if (path == "torn.guf")
-        m_fixture->host.updates->readError = "The file is torn";
-    (void)makeFile("update.guf");
-    (void)makeFile("torn.guf");
-    auto *const step2 = dialog<View::CUpdateSelectionDialog>();
-    emit step2->pathChanged(path.isEmpty() ? path : m_fixture->temporaryFolder.filePath(path));
-    QCOMPARE(getButton(*step2, "Next")->isEnabled(), next);
-    for (const char *const label : {"errorTextLabel", "errorIconLabel"})
-        QCOMPARE(!TestSupport::find(*step2, label)->isHidden(), error);
-    QCOMPARE(getText(*step2, "updateDescriptionTextLabel"), description);
-    QCOMPARE(m_fixture->getLog().contains(
-                 "CRITICAL Failed to check for compatible update: The file is torn"),
-             path == "torn.guf");
+    const auto check = [this](const char *path, bool ticked, bool fits, bool next, bool error,
+                              const char *description) {
+        cleanup();
+        init();
+        start();
+        if (ticked)
+            tick("a");
+        if (!fits)
+            m_fixture->host.updates->incompatibleIds = {"a"};
+        const bool isTorn = path == QString("torn.guf");
+        if (isTorn)
+            m_fixture->host.updates->readError = "The file is torn";
+        (void)makeFile("update.guf");
+        (void)makeFile("torn.guf");
+        auto *const step2 = dialog<View::CUpdateSelectionDialog>();
+        emit step2->pathChanged(*path ? m_fixture->temporaryFolder.filePath(path) : QString());
+        QVERIFY2(getButton(*step2, "Next")->isEnabled() == next, path);
+        for (const char *const label : {"errorTextLabel", "errorIconLabel"})
+            QVERIFY2(TestSupport::find(*step2, label)->isHidden() != error, path);
+        QCOMPARE(getText(*step2, "updateDescriptionTextLabel"), description);
+        QCOMPARE(m_fixture->getLog().contains(
+                     "CRITICAL Failed to check for compatible update: The file is torn"),
+                 isTorn);
+    };
+    check("update.guf", true, true, true, false, "Fixes");
+    check("update.guf", true, false, false, true, "No details available");
+    check("update.guf", false, true, false, true, "No details available");
+    check("torn.guf", true, true, false, true, "No details available");
+    for (const char *const noFile : {".", "gone.guf", ""})
+        check(noFile, true, true, false, false, "No file selected");
 }
 
 void CFirmwareUpdaterServiceTest::keepsTheTypedFormButStoresTheAbsolutePath()
@@ -265,7 +231,7 @@ void CFirmwareUpdaterServiceTest::checksThePathAtEachEntry()
     goToStepThree();
     // The file turns bad while the user looks at the summary.
     m_fixture->host.updates->readError = "The file is torn";
-    click(dialog<View::CUpdateSummaryDialog>(), "Back");
+    click(*dialog<View::CUpdateSummaryDialog>(), "Back");
     QTRY_VERIFY(isShown<View::CUpdateSelectionDialog>());
     QVERIFY(!getButton(*dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
     // An entry empties the list of an earlier pass.
@@ -284,12 +250,12 @@ void CFirmwareUpdaterServiceTest::endsWithoutUpdatesWhenTheFileIsLost()
     QCOMPARE(dialog<View::CUpdateSummaryDialog>()->getModel()->rowCount(), 0);
 
     // Step 4 has nothing to do and ends while it is being entered.
-    click(dialog<View::CUpdateSummaryDialog>(), "Next");
+    click(*dialog<View::CUpdateSummaryDialog>(), "Next");
     QTRY_VERIFY(isShown<View::CResultSummaryDialog>());
     QCOMPARE(getText(*dialog<View::CResultSummaryDialog>(), "successfulUpdatesLabel"),
              "Successful updates: 0");
 
-    click(dialog<View::CResultSummaryDialog>(), "Close");
+    click(*dialog<View::CResultSummaryDialog>(), "Close");
     QTRY_VERIFY(!isShown<View::CResultSummaryDialog>());
     QTRY_COMPARE(m_fixture->service->getCurrentTemporaryLogFilePath(), "");
     // The machine can be started again.
@@ -312,14 +278,14 @@ void CFirmwareUpdaterServiceTest::takesAFileFromTheFileDialog()
         fileDialog->findChild<QLineEdit *>()->setText(path);
         QTest::keyClick(fileDialog->findChild<QLineEdit *>(), Qt::Key_Return);
     });
-    click(dialog<View::CUpdateSelectionDialog>(), "Browse");
+    click(*dialog<View::CUpdateSelectionDialog>(), "Browse");
     QVERIFY(asked);
     QCOMPARE(dialog<View::CUpdateSelectionDialog>()->findChild<QLineEdit *>()->text(), path);
     QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
     QVERIFY(getButton(*dialog<View::CUpdateSelectionDialog>(), "Next")->isEnabled());
 
     whenModal([](QWidget *widget) { widget->close(); });
-    click(dialog<View::CUpdateSelectionDialog>(), "Browse");
+    click(*dialog<View::CUpdateSelectionDialog>(), "Browse");
     QCOMPARE(m_fixture->service->getSelectedUpdatePath(), path);
 }
 

@@ -48,7 +48,6 @@ private slots:
     void init();
     void cleanup();
     void updatesOneCameraAfterAnother();
-    void stopsAtTheFirstFailure_data();
     void stopsAtTheFirstFailure();
     void stopsAtAMissingJob();
     void stopsAfterTheCurrentCameraOnCancel();
@@ -189,48 +188,39 @@ void CFirmwareUpdatingStepTest::updatesOneCameraAfterAnother()
     QCOMPARE(m_fixture->service->getUpdateFailureMessage(), "");
 }
 
-void CFirmwareUpdatingStepTest::stopsAtTheFirstFailure_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("failing"); // number of the failing camera, from 1
-    QTest::addColumn<bool>("warned");
-    const auto row = [](const char *name, int count, int failing, bool warned) {
-        QTest::newRow(name) << count << failing << warned;
-    };
-    row("first of three", 3, 1, true);
-    // An odd rule of old: nothing is said when exactly one camera is left out.
-    row("middle of three", 3, 2, false);
-    row("last of three", 3, 3, true);
-    row("the only one", 1, 1, true);
-}
-
 void CFirmwareUpdatingStepTest::stopsAtTheFirstFailure()
 {
-    QFETCH(int, count);
-    QFETCH(int, failing);
-    QFETCH(bool, warned);
+    // @p failing is the number of the failing camera, from 1.
+    const auto check = [this](int count, int failing, bool warned) {
+        cleanup();
+        init();
+        QVector<EOutcome> outcomes(count, EOutcome::Success);
+        outcomes[failing - 1] = EOutcome::Failure;
+        enter(outcomes);
+        QTRY_COMPARE(m_endSpy->count(), 1);
 
-    QVector<EOutcome> outcomes(count, EOutcome::Success);
-    outcomes[failing - 1] = EOutcome::Failure;
-    enter(outcomes);
-    QTRY_COMPARE(m_endSpy->count(), 1);
+        QStringList expectedEnd
+            = {"INFO FileUpload progress: 50%", "CRITICAL Camera is on fire",
+               QString("CRITICAL Firmware update (%1/%2) failed.").arg(failing).arg(count)};
+        if (warned)
+            expectedEnd.append("WARNING Further firmware updates will be skipped");
+        expectedEnd.append("INFO Finished all firmware updates");
+        QCOMPARE(getLogEnd(expectedEnd.size()), expectedEnd);
+        QCOMPARE(m_fixture->getLog().filter("Starting firmware update").size(), failing);
 
-    QStringList expectedEnd
-        = {"INFO FileUpload progress: 50%", "CRITICAL Camera is on fire",
-           QString("CRITICAL Firmware update (%1/%2) failed.").arg(failing).arg(count)};
-    if (warned)
-        expectedEnd.append("WARNING Further firmware updates will be skipped");
-    expectedEnd.append("INFO Finished all firmware updates");
-    QCOMPARE(getLogEnd(expectedEnd.size()), expectedEnd);
-    QCOMPARE(m_fixture->getLog().filter("Starting firmware update").size(), failing);
-
-    for (int i = 0; i < count; ++i) {
-        const bool ran = i < failing;
-        QCOMPARE(m_jobs.at(i)->getExecutionCount(), ran ? 1 : 0);
-        QCOMPARE(column(6).at(i), ran ? 2 : 0);
-        QCOMPARE(column(7).at(i), !ran ? 2 : i == failing - 1 ? 1 : 0);
-    }
-    QCOMPARE(m_fixture->service->getUpdateFailureMessage(), "Camera is on fire");
+        for (int i = 0; i < count; ++i) {
+            const bool ran = i < failing;
+            QCOMPARE(m_jobs.at(i)->getExecutionCount(), ran ? 1 : 0);
+            QCOMPARE(column(6).at(i), ran ? 2 : 0);
+            QCOMPARE(column(7).at(i), !ran ? 2 : i == failing - 1 ? 1 : 0);
+        }
+        QCOMPARE(m_fixture->service->getUpdateFailureMessage(), "Camera is on fire");
+    };
+    check(3, 1, true);
+    // An odd rule of old: nothing is said when exactly one camera is left out.
+    check(3, 2, false);
+    check(3, 3, true);
+    check(1, 1, true);
 }
 
 void CFirmwareUpdatingStepTest::stopsAtAMissingJob()

@@ -30,16 +30,12 @@ private slots:
     void stayOpenWhenTheUserLeaves();
     void enterClicksNothingButNext();
     void controlsHaveNames();
-    void tabGoesFromTopToBottom_data();
     void tabGoesFromTopToBottom();
-    void standardSizeIsThatOfTheForms_data();
     void standardSizeIsThatOfTheForms();
     void surplusGoesToTheTrees();
     void columnsFillTheTree();
-    void showEverythingAtEverySize_data();
     void showEverythingAtEverySize();
     void showsTheFirstUpdate();
-    void linksTellWhereTheyLead_data();
     void linksTellWhereTheyLead();
     void announcesThePathOfTheUser();
     void pathCanBeRead();
@@ -221,133 +217,111 @@ QString CUpdateDialogsTest::walk(QDialog &dialog, Qt::Key key)
     return stops.join(", ") + (unseen.isEmpty() ? "" : "; not seen: " + unseen.join(", "));
 }
 
-void CUpdateDialogsTest::tabGoesFromTopToBottom_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<bool>("isFilled");
-    QTest::addColumn<QString>("stops");
-    QTest::addColumn<QString>("links");
-    const auto addRow
-        = [](const char *name, int page, bool isFilled, const char *stops, const char *links = "") {
-              QTest::newRow(name) << page << isFilled << stops << links;
-          };
-    addRow("no cameras", 0, false, "cameraTreeView, refreshButton, Next, Close");
-    addRow("cameras", 0, true, "cameraTreeView, refreshButton, Next, Close");
-    addRow("no links", 1, false, "updateFileLineEdit, Browse, Back, Next, Close");
-    addRow("links", 1, true,
-           "updateFileLineEdit, Browse, scrollArea, one, two, Korvane Support, Back, Next, Close",
-           "mailto:one mailto:two https://a.example");
-    addRow("summary", 2, true, "cameraTreeView, Back, Next, Close");
-    addRow("update", 3, true, "cameraTreeView, Cancel");
-    addRow("result", 4, true, "cameraTreeView, log file, Korvane Support, Next, Close",
-           "/tmp/a.log https://a.example");
-}
-
 void CUpdateDialogsTest::tabGoesFromTopToBottom()
 {
-    QFETCH(int, page);
-    QFETCH(bool, isFilled);
-    QFETCH(QString, stops);
-    QFETCH(QString, links);
-    CPages pages;
-    const ModelPtr noCameras = makeList(0);
-    if (!isFilled) {
-        pages.selection.setModel(noCameras);
-    } else {
-        const QString lines = QString("Words<br>").repeated(40);
-        pages.fill(3,
-                   lines + "<a href='mailto:one'>one</a> " + lines
-                       + "<a href='mailto:two'>two</a><br>" + lines + "Words");
-        pages.file.updateCompatibility(true, false);
-    }
-    QDialog &dialog = *pages.all.at(page);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-    QWidget *const first = dialog.focusWidget();
-    // Words can be marked, and then Tab begins with the first link nevertheless.
-    auto *const notes = find<QLabel>(dialog, "updateNotesTextLabel");
-    if (notes && isFilled) {
-        QTest::mouseDClick(notes, Qt::LeftButton, {}, {10, notes->height() - 5});
-        QCOMPARE(notes->selectedText(), "Words");
-        first->setFocus();
-    }
+    const auto check = [this](int page, bool isFilled, const char *stops, const char *links = "") {
+        CPages pages;
+        const ModelPtr noCameras = makeList(0);
+        if (!isFilled) {
+            pages.selection.setModel(noCameras);
+        } else {
+            const QString lines = QString("Words<br>").repeated(40);
+            pages.fill(3,
+                       lines + "<a href='mailto:one'>one</a> " + lines
+                           + "<a href='mailto:two'>two</a><br>" + lines + "Words");
+            pages.file.updateCompatibility(true, false);
+        }
+        QDialog &dialog = *pages.all.at(page);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowActive(&dialog));
+        QWidget *const first = dialog.focusWidget();
+        // Words can be marked, and then Tab begins with the first link nevertheless.
+        auto *const notes = find<QLabel>(dialog, "updateNotesTextLabel");
+        if (notes && isFilled) {
+            QTest::mouseDClick(notes, Qt::LeftButton, {}, {10, notes->height() - 5});
+            QCOMPARE(notes->selectedText(), "Words");
+            first->setFocus();
+        }
 
-    // The controls show the focus to those who use the keyboard.
-    QTest::keyClick(first, Qt::Key_Backtab);
-    QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
-    m_opened.clear();
-    QCOMPARE(walk(dialog, Qt::Key_Tab), stops);
-    QCOMPARE(m_opened.join(' '), links);
-    QCOMPARE(walk(dialog, Qt::Key_Backtab), stops);
+        // The controls show the focus to those who use the keyboard.
+        QTest::keyClick(first, Qt::Key_Backtab);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        m_opened.clear();
+        QCOMPARE(walk(dialog, Qt::Key_Tab), stops);
+        QCOMPARE(m_opened.join(' '), links);
+        QCOMPARE(walk(dialog, Qt::Key_Backtab), stops);
 
-    // Whichever control was used last, the page comes back with its first one.
-    dialog.hide();
-    dialog.show();
-    QCOMPARE(dialog.focusWidget(), first);
-}
-
-void CUpdateDialogsTest::standardSizeIsThatOfTheForms_data()
-{
-    QTest::addColumn<int>("page");
-    QTest::addColumn<bool>("isFilled");
-    QTest::addColumn<QString>("gaps");
-    QTest::newRow("selection") << 0 << true << "63 24 19";
-    QTest::newRow("file") << 1 << true << "63 37 47 38 18 20 17 65";
-    QTest::newRow("warnings") << 2 << true << "63 21 40 13 13 15 24";
-    QTest::newRow("no warnings") << 2 << false << "63 21 40 0 0 15 24";
-    QTest::newRow("update") << 3 << true << "63 21 26 5 18 20 42 25";
-    QTest::newRow("failure") << 4 << true << "63 21 42 40 5 5 20 0 16 36";
-    QTest::newRow("success") << 4 << false << "63 21 42 40 5 5 20 16 16 36";
+        // Whichever control was used last, the page comes back with its first one.
+        dialog.hide();
+        dialog.show();
+        QCOMPARE(dialog.focusWidget(), first);
+    };
+    check(0, false, "cameraTreeView, refreshButton, Next, Close");
+    check(0, true, "cameraTreeView, refreshButton, Next, Close");
+    check(1, false, "updateFileLineEdit, Browse, Back, Next, Close");
+    check(1, true,
+          "updateFileLineEdit, Browse, scrollArea, one, two, Korvane Support, Back, Next, Close",
+          "mailto:one mailto:two https://a.example");
+    check(2, true, "cameraTreeView, Back, Next, Close");
+    check(3, true, "cameraTreeView, Cancel");
+    check(4, true, "cameraTreeView, log file, Korvane Support, Next, Close",
+          "/tmp/a.log https://a.example");
 }
 
 void CUpdateDialogsTest::standardSizeIsThatOfTheForms()
 {
-    QFETCH(int, page);
-    QFETCH(bool, isFilled);
-    QFETCH(QString, gaps);
     m_dialogs->summary.updateDowngradeInfo(false);
     m_dialogs->summary.updateSidegradeInfo(false);
     m_dialogs->result.updateView();
     CPages filled;
     filled.fill(60, "Text");
-    QDialog &dialog = *(isFilled ? filled : *m_dialogs).all.at(page);
-    dialog.setMinimumSize(STANDARD_SIZE);
-    dialog.show();
-    dialog.resize(STANDARD_SIZE);
+    const auto check = [&](int page, bool isFilled, const QString &gaps) {
+        QDialog &dialog = *(isFilled ? filled : *m_dialogs).all.at(page);
+        dialog.setMinimumSize(STANDARD_SIZE);
+        dialog.show();
+        dialog.resize(STANDARD_SIZE);
 
-    const auto *const content = find<QVBoxLayout>(dialog, "contentVerticalLayout");
-    QStringList found;
-    int bottom = 0;
-    int shortage = 0;
-    for (int i = 0; i < content->count(); ++i) {
-        QLayoutItem *const item = content->itemAt(i);
-        const int height = item->geometry().height();
-        if (const QSpacerItem *const gap = item->spacerItem()) {
-            const int hint = gap->sizeHint().height();
-            found.append(QString::number(hint));
-            // Where the rows are higher than the page, the tree gives way as much as each gap.
-            if (!(gap->expandingDirections() & Qt::Vertical))
-                QCOMPARE(height, hint);
-            else if (shortage == 0)
-                QVERIFY(height >= hint);
-            else
-                QVERIFY(qAbs(hint - height - qMin(shortage, hint)) <= 1);
-        } else if (item->widget() && item->widget() == getTree(dialog) && page > 0) {
-            shortage = 192 - height;
-            QVERIFY(shortage >= 0);
+        const auto *const content = find<QVBoxLayout>(dialog, "contentVerticalLayout");
+        QStringList found;
+        int bottom = 0;
+        int shortage = 0;
+        for (int i = 0; i < content->count(); ++i) {
+            QLayoutItem *const item = content->itemAt(i);
+            const int height = item->geometry().height();
+            if (const QSpacerItem *const gap = item->spacerItem()) {
+                const int hint = gap->sizeHint().height();
+                found.append(QString::number(hint));
+                // Where the rows are higher than the page, the tree gives way as much as each gap.
+                if (!(gap->expandingDirections() & Qt::Vertical))
+                    QCOMPARE(height, hint);
+                else if (shortage == 0)
+                    QVERIFY(height >= hint);
+                else
+                    QVERIFY(qAbs(hint - height - qMin(shortage, hint)) <= 1);
+            } else if (item->widget() && item->widget() == getTree(dialog) && page > 0) {
+                shortage = 192 - height;
+                QVERIFY(shortage >= 0);
+            }
+            // Nothing stands between rows and gaps, and nothing else is in them.
+            if (item->spacerItem() || !item->isEmpty()) {
+                QCOMPARE(item->geometry().top(), bottom + 1);
+                bottom += height;
+            }
+            const QMargins margins = item->layout() ? item->layout()->contentsMargins()
+                : item->widget()                    ? item->widget()->contentsMargins()
+                                                    : QMargins();
+            QCOMPARE(margins.top() + margins.bottom(), 0);
         }
-        // Nothing stands between rows and gaps, and nothing else is in them.
-        if (item->spacerItem() || !item->isEmpty()) {
-            QCOMPARE(item->geometry().top(), bottom + 1);
-            bottom += height;
-        }
-        const QMargins margins = item->layout() ? item->layout()->contentsMargins()
-            : item->widget()                    ? item->widget()->contentsMargins()
-                                                : QMargins();
-        QCOMPARE(margins.top() + margins.bottom(), 0);
-    }
-    QCOMPARE(found.join(' '), gaps);
-    QCOMPARE(bottom + 1, find(dialog, "bottomSpaceLine")->y());
+        QCOMPARE(found.join(' '), gaps);
+        QCOMPARE(bottom + 1, find(dialog, "bottomSpaceLine")->y());
+    };
+    check(0, true, "63 24 19");
+    check(1, true, "63 37 47 38 18 20 17 65");
+    check(2, true, "63 21 40 13 13 15 24"); // warnings
+    check(2, false, "63 21 40 0 0 15 24");
+    check(3, true, "63 21 26 5 18 20 42 25");
+    check(4, true, "63 21 42 40 5 5 20 0 16 36"); // a failure
+    check(4, false, "63 21 42 40 5 5 20 16 16 36");
 }
 
 void CUpdateDialogsTest::surplusGoesToTheTrees()
@@ -417,46 +391,40 @@ QStringList CUpdateDialogsTest::getFlaws(const QDialog &dialog)
     return flaws;
 }
 
-void CUpdateDialogsTest::showEverythingAtEverySize_data()
-{
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<qreal>("textScale");
-    QTest::newRow("standard size") << STANDARD_SIZE << 1.0;
-    QTest::newRow("texts of 150 %") << STANDARD_SIZE << 1.5;
-    QTest::newRow("1024 x 768 at 150 %") << QSize(570, 472) << 1.0;
-    QTest::newRow("maximized") << QSize(1280, 1005) << 1.0;
-}
-
 void CUpdateDialogsTest::showEverythingAtEverySize()
 {
-    QFETCH(QSize, size);
-    QFETCH(qreal, textScale);
     const QFont usualFont = QApplication::font();
-    QFont font = usualFont;
-    font.setPointSizeF(font.pointSizeF() * textScale);
-    QApplication::setFont(font);
-    const auto restoreFont = qScopeGuard([&] { QApplication::setFont(usualFont); });
-    m_dialogs = std::make_unique<CPages>();
-    m_dialogs->fill(60, QString("Some words of a long text. ").repeated(185));
+    const auto check = [&](const QSize &size, qreal textScale) {
+        QFont font = usualFont;
+        font.setPointSizeF(font.pointSizeF() * textScale);
+        QApplication::setFont(font);
+        const auto restoreFont = qScopeGuard([&] { QApplication::setFont(usualFont); });
+        m_dialogs = std::make_unique<CPages>();
+        m_dialogs->fill(60, QString("Some words of a long text. ").repeated(185));
 
-    for (CUpdateDialogBase *const dialog : m_dialogs->all) {
-        dialog->show();
-        QVERIFY(dialog->screen()->availableGeometry().contains({QPoint(1, 1), dialog->size()}));
-        dialog->setMinimumSize(size);
-        dialog->resize(size);
-        QCOMPARE(dialog->size(), size);
-        QCOMPARE(getFlaws(*dialog).join(", "), QString());
-        if (const QTreeView *const tree = getTree(*dialog)) {
-            QVERIFY(tree->verticalScrollBar()->isVisible());
-            QVERIFY(tree->viewport()->height() >= 50);
-            QCOMPARE(tree->horizontalScrollBar()->maximum(), 0);
+        for (CUpdateDialogBase *const dialog : m_dialogs->all) {
+            dialog->show();
+            QVERIFY(dialog->screen()->availableGeometry().contains({QPoint(1, 1), dialog->size()}));
+            dialog->setMinimumSize(size);
+            dialog->resize(size);
+            QCOMPARE(dialog->size(), size);
+            QCOMPARE(getFlaws(*dialog).join(", "), QString());
+            if (const QTreeView *const tree = getTree(*dialog)) {
+                QVERIFY(tree->verticalScrollBar()->isVisible());
+                QVERIFY(tree->viewport()->height() >= 50);
+                QCOMPARE(tree->horizontalScrollBar()->maximum(), 0);
+            }
         }
-    }
-    const auto *const area = find<QScrollArea>(m_dialogs->file, "scrollArea");
-    QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
-    const auto *const path = find(m_dialogs->file, "updateFileLineEdit");
-    QVERIFY(path->fontMetrics().height() < path->height() - 1);
-    QVERIFY(find(m_dialogs->file, "browseButton")->x() - path->geometry().right() < 10);
+        const auto *const area = find<QScrollArea>(m_dialogs->file, "scrollArea");
+        QCOMPARE(area->horizontalScrollBar()->maximum(), 0);
+        const auto *const path = find(m_dialogs->file, "updateFileLineEdit");
+        QVERIFY(path->fontMetrics().height() < path->height() - 1);
+        QVERIFY(find(m_dialogs->file, "browseButton")->x() - path->geometry().right() < 10);
+    };
+    check(STANDARD_SIZE, 1);
+    check(STANDARD_SIZE, 1.5);
+    check({570, 472}, 1); // 1024 x 768 at 150 %
+    check({1280, 1005}, 1); // maximized
 }
 
 void CUpdateDialogsTest::showsTheFirstUpdate()
@@ -491,41 +459,26 @@ void CUpdateDialogsTest::showsTheFirstUpdate()
     QCOMPARE(getShown(dialog, {"updateVersionLabel", "updateNotesLabel"}), "--");
 }
 
-void CUpdateDialogsTest::linksTellWhereTheyLead_data()
-{
-    QTest::addColumn<QString>("notes");
-    QTest::addColumn<QString>("toolTip");
-    QTest::addColumn<QString>("opened");
-    QTest::newRow("address") << "https://a.example/n"
-                             << "<qt>https://a.example/n</qt>"
-                             << "https://a.example/n";
-    QTest::newRow("prose") << "<b>See</b> http://a.example/n (or not)"
-                           << "<qt>&lt;b&gt;See&lt;/b&gt; http://a.example/n (or not)</qt>"
-                           << "http://a.example/n";
-    QTest::newRow("mention") << "Fewer http faults"
-                             << "<qt>Fewer http faults</qt>"
-                             << "";
-    QTest::newRow("path") << "/tmp/http.desktop"
-                          << "<qt>/tmp/http.desktop</qt>"
-                          << "";
-}
-
 void CUpdateDialogsTest::linksTellWhereTheyLead()
 {
-    QFETCH(QString, notes);
     CUpdateSelectionDialog &dialog = m_dialogs->file;
     dialog.show();
-    dialog.updateFirmwareUpdateInfo(
-        {QSharedPointer<TestSupport::CFakeUpdateInfo>::create("2.0", "Fixes", notes)}, false);
     QLabel *const label = find<QLabel>(dialog, "updateNotesTextLabel");
-    dialog.grab();
-    for (const QPoint &place : {QPoint(-5, 5), QPoint(10, 5)})
-        QTest::mouseMove(dialog.windowHandle(), label->mapTo(&dialog, place));
-    QFETCH(QString, toolTip);
-    QTRY_COMPARE(label->toolTip(), toolTip);
-    m_opened.clear();
-    QTest::mouseClick(label, Qt::LeftButton, {}, {10, 5});
-    QTEST(m_opened.join(' '), "opened");
+    const auto check = [&](const QString &notes, const QString &opened) {
+        dialog.updateFirmwareUpdateInfo(
+            {QSharedPointer<TestSupport::CFakeUpdateInfo>::create("2.0", "Fixes", notes)}, false);
+        dialog.grab();
+        for (const QPoint &place : {QPoint(-5, 5), QPoint(10, 5)})
+            QTest::mouseMove(dialog.windowHandle(), label->mapTo(&dialog, place));
+        QTRY_COMPARE(label->toolTip(), "<qt>" + notes.toHtmlEscaped() + "</qt>");
+        m_opened.clear();
+        QTest::mouseClick(label, Qt::LeftButton, {}, {10, 5});
+        QCOMPARE(m_opened.join(' '), opened);
+    };
+    check("https://a.example/n", "https://a.example/n");
+    check("<b>See</b> http://a.example/n (or not)", "http://a.example/n");
+    check("Fewer http faults", "");
+    check("/tmp/http.desktop", "");
 }
 
 void CUpdateDialogsTest::announcesThePathOfTheUser()

@@ -18,7 +18,6 @@
 
 using namespace Viewer::AppCore;
 using EOutcome = CLogSummary::EOutcome;
-Q_DECLARE_METATYPE(EOutcome)
 
 /// Looks at the folder of logs as several viewers leave it behind, and at its list.
 class CLogsTest : public QObject
@@ -34,7 +33,6 @@ private slots:
     void removesOldLogsAndNothingElse();
     void withoutAFolderLogsGoNowhere_data();
     void withoutAFolderLogsGoNowhere();
-    void tellsTheOutcome_data();
     void tellsTheOutcome();
     void listsShowsAndCopies();
 
@@ -187,66 +185,51 @@ void CLogsTest::withoutAFolderLogsGoNowhere()
     QCOMPARE(dialog.findChild<QLabel *>("hintLabel")->text(), folder.getFault());
 }
 
-void CLogsTest::tellsTheOutcome_data()
+void CLogsTest::tellsTheOutcome()
 {
-    QTest::addColumn<QString>("messages");
-    QTest::addColumn<EOutcome>("outcome");
-    QTest::addColumn<int>("updated");
-    QTest::addColumn<int>("cameras");
+    const auto check = [](const QString &messages, EOutcome outcome, int updated, int cameras) {
+        // As written where English, Japanese and Korean are spoken.
+        for (const char *const prefix :
+             {"Thu Jan 15 06:42:11 2026 INFO ", "\u6728 1\u6708 15 06:42:11 2026 \u60C5\u5831 ",
+              "\uBAA9 1\uC6D4 15 06:42:11 2026 \uC815\uBCF4 "}) {
+            QString text;
+            for (const QString &message : messages.split('|', Qt::SkipEmptyParts))
+                text += QString(prefix) + message + '\n';
+            const CLogSummary summary = CLogSummary::parse(text.toUtf8());
+            QVERIFY2(summary.outcome == outcome, qPrintable(messages));
+            QCOMPARE(summary.updatedCount, updated);
+            QCOMPARE(summary.cameraCount, cameras);
+            // Without its prefix a line is a part of somebody's text.
+            QCOMPARE(CLogSummary::parse(text.remove(prefix).toUtf8()).outcome, EOutcome::NoUpdate);
+        }
+    };
     const QString begin = "Starting firmware update (%1/%2) for camera c%1|Update infos:|"
                           "Entering update step: FileUpload|";
     const QString done = begin + "Finished firmware update (%1/%2)|";
-    const QString first = done.arg(1).arg(2);
-    const QString failed = begin.arg(2).arg(2) + "Firmware update (2/2) failed.|";
+    const QString first = done.arg(1).arg(2), second = begin.arg(2).arg(2);
+    const QString fault = "Firmware update (2/2) failed.|", failed = second + fault;
     const QString all = "Finished all firmware updates|";
-    QTest::newRow("nothing") << "" << EOutcome::NoUpdate << 0 << 0;
-    QTest::newRow("no update") << "Selected firmware update file x|" << EOutcome::NoUpdate << 0
-                               << 0;
-    QTest::newRow("all") << first + done.arg(2).arg(2) + all << EOutcome::Successful << 2 << 2;
-    QTest::newRow("failed") << first + failed + all << EOutcome::Failed << 1 << 2;
-    QTest::newRow("without an update") << first + failed << EOutcome::Failed << 1 << 2;
-    QTest::newRow("canceled") << first
-            + "Firmware updates have been canceled by the user|the series was stopped|"
-            + "Firmware update (2/2) failed.|" + all
-                              << EOutcome::Canceled << 1 << 2;
-    QTest::newRow("canceled during a failure") << first + begin.arg(2).arg(2)
-            + "User canceled firmware update|" + "Firmware update (2/2) failed.|"
-            + all << EOutcome::Failed << 1 << 2;
-    QTest::newRow("killed") << first + begin.arg(2).arg(2) << EOutcome::Interrupted << 1 << 2;
-    QTest::newRow("killed between two") << first << EOutcome::Interrupted << 1 << 2;
-    QTest::newRow("repeated") << first + failed + all + done.arg(1).arg(1) + all << EOutcome::Failed
-                              << 2 << 3;
-    QTest::newRow("killed when repeating")
-        << first + failed + all + begin.arg(1).arg(1) << EOutcome::Interrupted << 1 << 3;
-    QTest::newRow("only the end") << "Finished firmware update (7/7)|" + all << EOutcome::Successful
-                                  << 7 << 7;
-    QTest::newRow("release notes that lie")
-        << "Starting firmware update (1/2) for camera a|Release Notes: x|" + done.arg(1).arg(2)
-            + done.arg(2).arg(2) + all + "Entering update step: FileUpload|"
-        << EOutcome::Interrupted << 1 << 2;
-    QTest::newRow("impossible numbers")
-        << "Finished firmware update (3/2)|Finished firmware update (0/0)|"
-           "Finished firmware update (99999999/99999999)|"
-        << EOutcome::NoUpdate << 0 << 0;
-}
-
-void CLogsTest::tellsTheOutcome()
-{
-    QFETCH(QString, messages);
-    // As written where English, Japanese and Korean are spoken.
-    for (const char *const prefix :
-         {"Thu Jan 15 06:42:11 2026 INFO ", "\u6728 1\u6708 15 06:42:11 2026 \u60C5\u5831 ",
-          "\uBAA9 1\uC6D4 15 06:42:11 2026 \uC815\uBCF4 "}) {
-        QString text;
-        for (const QString &message : messages.split('|', Qt::SkipEmptyParts))
-            text += QString(prefix) + message + '\n';
-        const CLogSummary summary = CLogSummary::parse(text.toUtf8());
-        QTEST(summary.outcome, "outcome");
-        QTEST(summary.updatedCount, "updated");
-        QTEST(summary.cameraCount, "cameras");
-        // Without its prefix a line is a part of somebody's text.
-        QCOMPARE(CLogSummary::parse(text.remove(prefix).toUtf8()).outcome, EOutcome::NoUpdate);
-    }
+    check("", EOutcome::NoUpdate, 0, 0);
+    check("Selected firmware update file x|", EOutcome::NoUpdate, 0, 0);
+    check(first + done.arg(2).arg(2) + all, EOutcome::Successful, 2, 2);
+    check(first + failed + all, EOutcome::Failed, 1, 2);
+    check(first + failed, EOutcome::Failed, 1, 2);
+    check(first + "Firmware updates have been canceled by the user|the series was stopped|" + fault
+              + all,
+          EOutcome::Canceled, 1, 2);
+    check(first + second + "User canceled firmware update|" + fault + all, EOutcome::Failed, 1, 2);
+    check(first + second, EOutcome::Interrupted, 1, 2); // killed
+    check(first, EOutcome::Interrupted, 1, 2);
+    check(first + failed + all + done.arg(1).arg(1) + all, EOutcome::Failed, 2, 3); // repeated
+    check(first + failed + all + begin.arg(1).arg(1), EOutcome::Interrupted, 1, 3);
+    check("Finished firmware update (7/7)|" + all, EOutcome::Successful, 7, 7); // only the end
+    // Release notes that lie.
+    check("Starting firmware update (1/2) for camera a|Release Notes: x|" + first
+              + done.arg(2).arg(2) + all + "Entering update step: FileUpload|",
+          EOutcome::Interrupted, 1, 2);
+    check("Finished firmware update (3/2)|Finished firmware update (0/0)|"
+          "Finished firmware update (99999999/99999999)|",
+          EOutcome::NoUpdate, 0, 0);
 }
 
 void CLogsTest::listsShowsAndCopies()
