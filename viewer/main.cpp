@@ -10,7 +10,6 @@
 #include "core/baseexception.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -18,6 +17,7 @@
 #include <cstdlib>
 #include <memory>
 #include <optional>
+#include <utility>
 
 using namespace Viewer;
 using Text::CLanguage;
@@ -39,19 +39,21 @@ static void setNames()
 // The language is known only when the command line has been read, and what reading it says is to be
 // in that language: it is read once more where it asks for another one than the remembered or the
 // desktop's.
-static AppCore::CCommandLine::EResult readCommandLine(AppCore::CCommandLine &commandLine,
-                                                      std::unique_ptr<CLanguage> &language)
+static AppCore::CCommandLine::EResult
+readCommandLine(std::unique_ptr<AppCore::CCommandLine> &commandLine,
+                std::unique_ptr<CLanguage> &language)
 {
     const QString usual = CLanguage::choose({});
     language = std::make_unique<CLanguage>(usual);
-    const auto result = commandLine.parse(QCoreApplication::arguments());
-    const QString asked = CLanguage::choose(commandLine.getOptions().language);
+    commandLine = std::make_unique<AppCore::CCommandLine>();
+    const auto result = commandLine->parse(QCoreApplication::arguments());
+    const QString asked = CLanguage::choose(commandLine->getLanguage());
     if (asked == usual)
         return result;
     language.reset();
     language = std::make_unique<CLanguage>(asked);
-    commandLine = AppCore::CCommandLine();
-    return commandLine.parse(QCoreApplication::arguments());
+    commandLine = std::make_unique<AppCore::CCommandLine>();
+    return commandLine->parse(QCoreApplication::arguments());
 }
 
 static bool asksForMessage(int argc, char **argv)
@@ -82,13 +84,13 @@ static std::optional<int> answerWithoutDisplay(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     std::unique_ptr<CLanguage> language;
-    AppCore::CCommandLine commandLine;
+    std::unique_ptr<AppCore::CCommandLine> commandLine;
     switch (readCommandLine(commandLine, language)) {
     case AppCore::CCommandLine::EResult::Message:
-        std::fprintf(stdout, "%s\n", qUtf8Printable(commandLine.getMessage()));
+        std::fprintf(stdout, "%s\n", qUtf8Printable(commandLine->getMessage()));
         return EXIT_SUCCESS;
     case AppCore::CCommandLine::EResult::Error:
-        printError(commandLine.getMessage());
+        printError(commandLine->getMessage());
         return UsageError;
     case AppCore::CCommandLine::EResult::Start:
         break;
@@ -102,13 +104,15 @@ static std::optional<int> answerWithoutDisplay(int argc, char **argv)
     return EXIT_FAILURE;
 }
 
-static int runViewer(const AppCore::CCommandLineOptions &options, const QString &language,
+static int runViewer(AppCore::CCommandLineOptions options, const QString &language,
                      AppCore::CLogFolder &logs)
 {
     // From here on a signal closes the window, which waits for updates.
     const AppCore::CCloseSignals closeSignals;
     logs.open();
-    AppCore::CViewer viewer(options, language, &logs);
+    const QString samplesDirectory = options.samplesDirectory;
+    const QString demoDirectory = options.demoDirectory;
+    AppCore::CViewer viewer(std::move(options), language, &logs);
     QObject::connect(&closeSignals, &AppCore::CCloseSignals::closeRequested, &viewer,
                      &AppCore::CViewer::requestClose);
     QObject::connect(&viewer, &AppCore::CViewer::closeDeferred, printError);
@@ -118,10 +122,10 @@ static int runViewer(const AppCore::CCommandLineOptions &options, const QString 
         printError(failure);
     if (!started)
         return EXIT_FAILURE;
-    if (options.demoDirectory.isEmpty())
+    if (demoDirectory.isEmpty())
         return QCoreApplication::exec();
 
-    Demo::CWizardDemo demo(viewer, options.samplesDirectory, options.demoDirectory);
+    Demo::CWizardDemo demo(viewer, samplesDirectory, demoDirectory);
     // Who closes the viewer has ended the demonstration before it knows its outcome.
     int exitCode = EXIT_FAILURE;
     QObject::connect(
@@ -165,19 +169,18 @@ int main(int argc, char **argv)
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
     std::unique_ptr<CLanguage> language;
-    AppCore::CCommandLine commandLine;
+    std::unique_ptr<AppCore::CCommandLine> commandLine;
     if (readCommandLine(commandLine, language) != AppCore::CCommandLine::EResult::Start) {
-        printError(commandLine.getMessage());
+        printError(commandLine->getMessage());
         return UsageError;
     }
-    AppCore::CCommandLineOptions options = commandLine.getOptions();
-    const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
-    options.pool.stateFile = QDir(dataFolder).filePath(QStringLiteral("cameras.json"));
-
-    const QString languageCode = CLanguage::choose(options.language);
+    const QString languageCode = CLanguage::choose(commandLine->getLanguage());
+    AppCore::CCommandLineOptions options = commandLine->takeOptions();
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : options.kinds)
+        kind->setDataFolder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     AppCore::chooseLanguageFont(languageCode);
     try {
-        return runViewer(options, languageCode, logs);
+        return runViewer(std::move(options), languageCode, logs);
     } catch (const Core::Exception::BaseException &exception) {
         printError(exception.getMessage());
         return EXIT_FAILURE;

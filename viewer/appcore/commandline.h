@@ -1,6 +1,7 @@
 #pragma once
 
-#include "viewer/camerapool/camerapool.h"
+#include "viewer/camera/camerakinds.h"
+#include "viewer/commandline/optionreader.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -11,7 +12,7 @@ namespace Viewer::AppCore {
 /// What the viewer was asked for on its command line.
 struct CCommandLineOptions
 {
-    CameraPool::CCameraPoolOptions pool; ///< without the state file
+    Camera::CCameraKinds kinds; ///< not started; each knows what was asked of it
     QStringList pluginDirectories;
     QString language; ///< empty: as remembered
     QString samplesDirectory; ///< empty: none
@@ -24,26 +25,24 @@ class CCommandLine
     Q_DECLARE_TR_FUNCTIONS(Viewer::AppCore::CCommandLine)
 
 public:
-    enum class EResult {
-        Start,
-        Message, ///< getMessage() answers --help or --version
-        Error, ///< getMessage() says what is wrong with the arguments
-    };
-
-    /// How many times faster than real cameras a demonstration runs unless told otherwise.
-    static constexpr double DemoSpeedFactor = 4.0;
+    using EResult = CommandLine::COptionReader::EResult;
 
     /// Reads @p arguments, of which the first is the program's name. Needs an application object.
-    /// Whatever comes of it, the options' language is what was asked for, to be used for the
-    /// message.
+    /// Whatever comes of it, the language is what was asked for, to be used for the message. Once
+    /// only.
     EResult parse(const QStringList &arguments);
 
-    [[nodiscard]] const CCommandLineOptions &getOptions() const;
+    [[nodiscard]] QString getLanguage() const;
+
+    /// Once only.
+    [[nodiscard]] CCommandLineOptions takeOptions();
 
     /// Without a line end.
     [[nodiscard]] QString getMessage() const;
 
 private:
+    [[nodiscard]] QVector<CommandLine::COption> getOptions();
+
     CCommandLineOptions m_options;
     QString m_message;
 };

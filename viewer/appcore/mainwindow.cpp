@@ -48,13 +48,12 @@ void CMainWindow::createMenus(CMenuService &menus)
 {
     m_fileMenu = menuBar()->addMenu(tr("&File"));
     m_viewMenu = menuBar()->addMenu(tr("&View"));
-    m_simulationMenu = menuBar()->addMenu(tr("&Simulation"));
-    QMenu *const toolsMenu = menuBar()->addMenu(tr("&Tools"));
+    m_toolsMenu = menuBar()->addMenu(tr("&Tools"));
     m_helpMenu = menuBar()->addMenu(tr("&Help"));
     m_selectorMenu = new QMenu(this);
-    toolsMenu->setObjectName(QStringLiteral("toolsMenu"));
+    m_toolsMenu->setObjectName(QStringLiteral("toolsMenu"));
     m_selectorMenu->setObjectName(QStringLiteral("selectorMenu"));
-    menus.addMenu(Ids::ToolsMenu, toolsMenu, {Ids::ToolsGroup});
+    menus.addMenu(Ids::ToolsMenu, m_toolsMenu, {Ids::ToolsGroup});
     menus.addMenu(Ids::CameraSelectorContextMenu, m_selectorMenu,
                   {Ids::SelectorAcquisitionGroup, Ids::SelectorMiscGroup});
 }
@@ -149,9 +148,11 @@ QMenu *CMainWindow::getFileMenu() const
     return m_fileMenu;
 }
 
-QMenu *CMainWindow::getSimulationMenu() const
+QMenu *CMainWindow::insertMenu(const QString &title)
 {
-    return m_simulationMenu;
+    auto *const menu = new QMenu(title, this);
+    menuBar()->insertMenu(m_toolsMenu->menuAction(), menu);
+    return menu;
 }
 
 QMenu *CMainWindow::getHelpMenu() const

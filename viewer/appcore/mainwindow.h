@@ -45,7 +45,8 @@ public:
     void setStatus(const QString &text);
 
     [[nodiscard]] QMenu *getFileMenu() const;
-    [[nodiscard]] QMenu *getSimulationMenu() const;
+    /// A new menu in the middle of the menu bar.
+    [[nodiscard]] QMenu *insertMenu(const QString &title);
     [[nodiscard]] QMenu *getHelpMenu() const;
     [[nodiscard]] QMenu *getSelectorMenu() const;
     [[nodiscard]] QToolBar *getToolBar() const;
@@ -64,7 +65,7 @@ private:
 
     QMenu *m_fileMenu = nullptr;
     QMenu *m_viewMenu = nullptr;
-    QMenu *m_simulationMenu = nullptr;
+    QMenu *m_toolsMenu = nullptr;
     QMenu *m_helpMenu = nullptr;
     QMenu *m_selectorMenu = nullptr;
     QToolBar *m_toolBar = nullptr;

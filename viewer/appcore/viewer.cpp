@@ -10,7 +10,7 @@
 #include "menuservice.h"
 #include "modaldialogwatcher.h"
 #include "pluginlistdialog.h"
-#include "simulationmenu.h"
+#include "switchmenu.h"
 #include "windowservice.h"
 
 #include "camerapool/icameraenumerationservice.h"
@@ -32,21 +32,12 @@
 #include <QToolBar>
 #include <QUrl>
 
+#include <utility>
+
 namespace Viewer::AppCore {
 
 using Plugin::CameraPool::ICameraEnumerationService;
 using Plugin::CameraPool::IDeviceFirmwareUpdateService;
-
-template <typename Service>
-static QSharedPointer<Service> findService(const CameraPool::CCameraPool &pool)
-{
-    const QList<QSharedPointer<Core::Service::IService>> services = pool.getServices();
-    for (const auto &service : services) {
-        if (const auto match = service.dynamicCast<Service>())
-            return match;
-    }
-    return {};
-}
 
 // Qt drops the "&" of a mnemonic from a button's text, but not the parentheses and the letter that
 // stand behind a text whose script has no letters to underline.
@@ -56,26 +47,29 @@ static QString withoutMnemonic(QString text)
     return text.remove(mnemonic);
 }
 
-static const QLatin1String SearchNetworkKey("searchNetwork");
 static constexpr int NextReasonTime = 1000; // milliseconds
 
-// A search by broadcast reaches devices of others: it is asked for, now or once for all.
-static CameraPool::CCameraPoolOptions getPoolOptions(const CCommandLineOptions &options)
+/// The kinds with their switches as the user left them. A search by broadcast, for example, reaches
+/// devices of others: it is asked for, now or once for all.
+static Camera::CCameraKinds takeKinds(CCommandLineOptions &options)
 {
-    CameraPool::CCameraPoolOptions poolOptions = options.pool;
-    poolOptions.searchesNetwork
-        = poolOptions.searchesNetwork || QSettings().value(SearchNetworkKey).toBool();
-    return poolOptions;
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : options.kinds) {
+        const QVector<Camera::CCameraSwitch> switches = kind->getSwitches();
+        for (const Camera::CCameraSwitch &entry : switches) {
+            if (entry.isRemembered && QSettings().value(entry.id).toBool())
+                entry.set(true);
+        }
+    }
+    return std::move(options.kinds);
 }
 
-CViewer::CViewer(const CCommandLineOptions &options, const QString &language,
-                 const CLogFolder *logs)
-    : m_options(options)
+CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLogFolder *logs)
+    : m_options(std::move(options))
     , m_language(language)
     , m_logs(logs)
     , m_dialogWatcher(std::make_unique<CModalDialogWatcher>())
     , m_linkOpener(std::make_unique<CLinkOpener>())
-    , m_pool(std::make_unique<CameraPool::CCameraPool>(getPoolOptions(options)))
+    , m_pool(std::make_unique<CameraPool::CCameraPool>(takeKinds(m_options)))
     , m_menuService(QSharedPointer<CMenuService>::create())
     , m_selectorService(QSharedPointer<CameraSelector::CDeviceSelectorService>::create())
     , m_window(std::make_unique<CMainWindow>(*m_menuService))
@@ -87,7 +81,7 @@ CViewer::CViewer(const CCommandLineOptions &options, const QString &language,
         m_linkOpener->setLogFolder(m_logs->getRoot());
         m_linkOpener->addFolder(m_logs->getRoot());
     }
-    m_linkOpener->addFolder(options.samplesDirectory);
+    m_linkOpener->addFolder(m_options.samplesDirectory);
     createWindow();
     fillMenus();
     registerServices();
@@ -168,8 +162,7 @@ void CViewer::fillMenus()
         action->setIconText(withoutMnemonic(action->text()));
     fileMenu->addSeparator();
     fileMenu->addAction(refreshAction);
-    if (CameraPool::CCameraPool::canSearchNetwork())
-        fileMenu->addAction(createNetworkAction());
+    addSwitches();
     if (!m_options.samplesDirectory.isEmpty()) {
         fileMenu->addAction(tr("&Open sample folder"), this, [this] {
             QDesktopServices::openUrl(QUrl::fromLocalFile(m_options.samplesDirectory));
@@ -180,9 +173,6 @@ void CViewer::fillMenus()
         = fileMenu->addAction(tr("&Quit"), m_window.get(), &QWidget::close, QKeySequence::Quit);
     quitAction->setObjectName(QStringLiteral("quit"));
 
-    m_simulationMenu
-        = std::make_unique<CSimulationMenu>(m_pool->getSimulation(), m_window->getSimulationMenu());
-    m_window->getSimulationMenu()->menuAction()->setVisible(m_options.pool.simulates);
     QMenu *const helpMenu = m_window->getHelpMenu();
     if (m_logs) {
         helpMenu->addAction(tr("&Logs..."), this, &CViewer::showLogs)
@@ -194,17 +184,16 @@ void CViewer::fillMenus()
         ->setObjectName(QStringLiteral("about"));
 }
 
-QAction *CViewer::createNetworkAction()
+void CViewer::addSwitches()
 {
-    auto *const action = new QAction(tr("Search the &network for cameras"), m_window.get());
-    action->setObjectName(QStringLiteral("searchNetwork"));
-    action->setCheckable(true);
-    action->setChecked(m_pool->searchesNetwork());
-    connect(action, &QAction::triggered, m_pool.get(), [this](bool searches) {
-        QSettings().setValue(SearchNetworkKey, searches);
-        m_pool->setSearchesNetwork(searches);
-    });
-    return action;
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : m_pool->getKinds()) {
+        const QString title = kind->getMenuTitle();
+        if (title.isEmpty())
+            CSwitchMenu::add(*kind, *m_window->getFileMenu());
+        else
+            m_switchMenus.push_back(
+                std::make_unique<CSwitchMenu>(*kind, m_window->insertMenu(title)));
+    }
 }
 
 void CViewer::registerServices()
@@ -347,12 +336,12 @@ CameraSelector::CCameraSelectorView &CViewer::getCameraSelector() const
 
 QSharedPointer<ICameraEnumerationService> CViewer::getEnumerationService() const
 {
-    return findService<ICameraEnumerationService>(*m_pool);
+    return m_pool->getService<ICameraEnumerationService>();
 }
 
 QSharedPointer<IDeviceFirmwareUpdateService> CViewer::getUpdateService() const
 {
-    return findService<IDeviceFirmwareUpdateService>(*m_pool);
+    return m_pool->getService<IDeviceFirmwareUpdateService>();
 }
 
 } // namespace Viewer::AppCore

@@ -3,11 +3,11 @@
 #include "commandline.h"
 
 #include <QObject>
+#include <QSharedPointer>
 #include <QTimer>
 
 #include <memory>
-
-class QAction;
+#include <vector>
 
 namespace Viewer::CameraPool {
 class CCameraPool;
@@ -36,7 +36,7 @@ class CLogFolder;
 class CMainWindow;
 class CMenuService;
 class CModalDialogWatcher;
-class CSimulationMenu;
+class CSwitchMenu;
 
 /// The whole viewer: makes its parts, connects them, starts the plug-ins, and ends all of it in the
 /// reverse order.
@@ -48,8 +48,7 @@ public:
     /// Makes the parts and publishes their services. @p language is the language of this start.
     /// @p logs is borrowed and outlives this object; without it nobody keeps logs. Throws
     /// `Core::Exception::BaseException` when the description of the cameras is faulty.
-    CViewer(const CCommandLineOptions &options, const QString &language,
-            const CLogFolder *logs = nullptr);
+    CViewer(CCommandLineOptions options, const QString &language, const CLogFolder *logs = nullptr);
 
     /// Un-initializes the plug-ins, then takes down window and cameras.
     ~CViewer() override;
@@ -81,7 +80,7 @@ signals:
 private:
     void createWindow();
     void fillMenus();
-    [[nodiscard]] QAction *createNetworkAction();
+    void addSwitches();
     void registerServices();
     void addBuiltIns();
     [[nodiscard]] QString getReasonToStayOpen() const;
@@ -91,7 +90,7 @@ private:
     void showPlugins();
     void showAbout();
 
-    const CCommandLineOptions m_options;
+    CCommandLineOptions m_options; ///< its kinds are the pool's
     const QString m_language;
     const CLogFolder *const m_logs;
     // In the order of construction; destroyed from the last to the first.
@@ -102,7 +101,7 @@ private:
     QSharedPointer<CameraSelector::CDeviceSelectorService> m_selectorService;
     std::unique_ptr<CMainWindow> m_window;
     std::unique_ptr<CAcquisitionController> m_acquisition;
-    std::unique_ptr<CSimulationMenu> m_simulationMenu;
+    std::vector<std::unique_ptr<CSwitchMenu>> m_switchMenus;
     std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;
     CameraSelector::CCameraSelectorView *m_selectorView = nullptr; ///< the window's child

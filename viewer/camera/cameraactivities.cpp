@@ -39,6 +39,12 @@ ECameraActivity CCameraActivities::get(const QString &cameraId) const
     return m_activities.value(cameraId, ECameraActivity::Idle);
 }
 
+QStringList CCameraActivities::getActive() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_activities.keys();
+}
+
 bool CCameraActivities::isUpdateRunning() const
 {
     const std::lock_guard lock(m_mutex);

@@ -4,6 +4,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <mutex>
@@ -25,6 +26,9 @@ public:
     void end(const QString &cameraId);
 
     [[nodiscard]] ECameraActivity get(const QString &cameraId) const;
+
+    /// The ids of all cameras that are not idle.
+    [[nodiscard]] QStringList getActive() const;
 
     [[nodiscard]] bool isUpdateRunning() const;
 

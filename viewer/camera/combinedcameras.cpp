@@ -4,10 +4,15 @@
 
 namespace Viewer::Camera {
 
+CCombinedCameras::CCombinedCameras(const CCameraKinds &kinds)
+    : m_kinds(kinds)
+{
+}
+
 std::unique_ptr<ICameraDevice> CCombinedCameras::createDevice(const QString &cameraId)
 {
-    for (ICameraDeviceFactory *const factory : qAsConst(m_factories)) {
-        if (std::unique_ptr<ICameraDevice> device = factory->createDevice(cameraId))
+    for (const std::unique_ptr<ICameraKind> &kind : m_kinds) {
+        if (std::unique_ptr<ICameraDevice> device = kind->createDevice(cameraId))
             return device;
     }
     return nullptr;
@@ -16,15 +21,15 @@ std::unique_ptr<ICameraDevice> CCombinedCameras::createDevice(const QString &cam
 QVector<CTransportLayerSnapshot> CCombinedCameras::enumerate()
 {
     QVector<CTransportLayerSnapshot> layers;
-    for (ICameraEnumerator *const enumerator : qAsConst(m_enumerators))
-        layers += enumerator->enumerate();
+    for (const std::unique_ptr<ICameraKind> &kind : m_kinds)
+        layers += kind->enumerate();
     return layers;
 }
 
 void CCombinedCameras::cancel()
 {
-    for (ICameraEnumerator *const enumerator : qAsConst(m_enumerators))
-        enumerator->cancel();
+    for (const std::unique_ptr<ICameraKind> &kind : m_kinds)
+        kind->cancel();
 }
 
 } // namespace Viewer::Camera

@@ -1,9 +1,6 @@
 #pragma once
 
-#include "icameradevicefactory.h"
-#include "icameraenumerator.h"
-
-#include <QVector>
+#include "camerakinds.h"
 
 namespace Viewer::Camera {
 
@@ -11,14 +8,8 @@ namespace Viewer::Camera {
 class CCombinedCameras : public ICameraDeviceFactory, public ICameraEnumerator
 {
 public:
-    /// Adds a kind of cameras, which is borrowed and outlives this object, before the first other
-    /// call.
-    template <typename Cameras>
-    void add(Cameras &cameras)
-    {
-        m_factories.append(&cameras);
-        m_enumerators.append(&cameras);
-    }
+    /// @p kinds is borrowed and outlives this object.
+    explicit CCombinedCameras(const CCameraKinds &kinds);
 
     // ICameraDeviceFactory
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &cameraId) override;
@@ -28,8 +19,7 @@ public:
     void cancel() override;
 
 private:
-    QVector<ICameraDeviceFactory *> m_factories;
-    QVector<ICameraEnumerator *> m_enumerators;
+    const CCameraKinds &m_kinds;
 };
 
 } // namespace Viewer::Camera

@@ -9,40 +9,20 @@
 #include "viewer/camera/cameraactivities.h"
 #include "viewer/camera/combinedcameras.h"
 #include "viewer/update/errortranslator.h"
-#ifdef WITH_ARAVIS
-#include "viewer/camera/genicam/genicam.h"
-#endif
-#include "viewer/camera/simulation/cameradescriptionreader.h"
-#include "viewer/camera/simulation/firmwarestatefile.h"
-#include "viewer/camera/simulation/simulation.h"
-
-#include "core/baseexception.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
 
-#include <cmath>
+#include <utility>
 
 namespace Viewer::CameraPool {
 
-using Camera::Simulation::CCameraDescription;
-using Camera::Simulation::CCameraDescriptionReader;
-using Camera::Simulation::CSimulation;
+using Camera::ECameraActivity;
+using Camera::ECameraPresence;
+using Camera::ICameraKind;
 using Core::Service::IService;
-
-static CCameraDescription readDescription(const CCameraPoolOptions &options)
-{
-    if (!std::isfinite(options.speedFactor) || options.speedFactor <= 0.0)
-        throw Core::Exception::BaseException(
-            QStringLiteral("The simulation's speed must be a number greater than 0"));
-    if (!options.simulates)
-        return {};
-    return options.descriptionFile.isEmpty()
-        ? CCameraDescriptionReader::readBuiltIn()
-        : CCameraDescriptionReader::readFile(options.descriptionFile);
-}
 
 static void setError(QString *error, const QString &text)
 {
@@ -52,30 +32,16 @@ static void setError(QString *error, const QString &text)
 
 struct CCameraPool::CPrivate
 {
-    explicit CPrivate(const CCameraPoolOptions &options)
-        : simulation(readDescription(options), getStateFile(options), options.speedFactor)
-#ifdef WITH_ARAVIS
-        , genICam(options.cameraAddresses, options.searchesNetwork)
-#endif
+    explicit CPrivate(Camera::CCameraKinds ofPool)
+        : kinds(std::move(ofPool))
+        , cameras(kinds)
     {
-        cameras.add(simulation);
-#ifdef WITH_ARAVIS
-        cameras.add(genICam);
-#endif
-    }
-
-    static QString getStateFile(const CCameraPoolOptions &options)
-    {
-        if (options.resetCameras)
-            Camera::Simulation::CFirmwareStateFile(options.stateFile).clear();
-        return options.stateFile;
+        for (const std::unique_ptr<ICameraKind> &kind : kinds)
+            kind->start();
     }
 
     // The order matters: who is named first is used by those that follow.
-    CSimulation simulation;
-#ifdef WITH_ARAVIS
-    Camera::GenICam::CGenICam genICam;
-#endif
+    const Camera::CCameraKinds kinds;
     Camera::CCombinedCameras cameras;
     const std::shared_ptr<Camera::CCameraActivities> activities
         = std::make_shared<Camera::CCameraActivities>();
@@ -89,9 +55,9 @@ struct CCameraPool::CPrivate
     int updateCount = 0; // of the updates that have been reacted to
 };
 
-CCameraPool::CCameraPool(const CCameraPoolOptions &options, QObject *parent)
+CCameraPool::CCameraPool(Camera::CCameraKinds kinds, QObject *parent)
     : QObject(parent)
-    , d(std::make_unique<CPrivate>(options))
+    , d(std::make_unique<CPrivate>(std::move(kinds)))
 {
     d->enumeration.reset(new CCameraEnumerationService(d->cameras, d->activities));
     const auto getActivityOf = [this](const QString &cameraId) { return getActivity(cameraId); };
@@ -103,10 +69,14 @@ CCameraPool::CCameraPool(const CCameraPoolOptions &options, QObject *parent)
            QSharedPointer<IService>(
                new CDeviceFirmwareUpdateService(d->cameras, findCamera, d->activities, d->errors))};
 
-    connect(&d->simulation, &CSimulation::camerasChanged, d->enumeration.data(),
-            &CCameraEnumerationService::onCamerasChanged);
-    connect(&d->simulation, &CSimulation::cameraStateChanged, this,
-            &CCameraPool::onCameraStateChanged);
+    for (const std::unique_ptr<ICameraKind> &kind : d->kinds) {
+        connect(kind.get(), &ICameraKind::camerasChanged, d->enumeration.data(),
+                &CCameraEnumerationService::onCamerasChanged);
+        connect(kind.get(), &ICameraKind::refreshWanted, d->enumeration.data(),
+                &CCameraEnumerationService::refreshEnumeration);
+        connect(kind.get(), &ICameraKind::cameraStateChanged, this,
+                &CCameraPool::onCameraStateChanged);
+    }
     connect(&d->stream, &CFrameStream::frameReady, this, &CCameraPool::frameReady);
     connect(&d->stream, &CFrameStream::recordingFailed, this, &CCameraPool::onRecordingFailed);
     QCoreApplication::installTranslator(d->errors.get());
@@ -140,26 +110,26 @@ Camera::CCameraSnapshot CCameraPool::getSnapshot(const QString &cameraId) const
                   : Camera::CCameraSnapshot();
 }
 
-Camera::ECameraActivity CCameraPool::getActivity(const QString &cameraId) const
+ECameraActivity CCameraPool::getActivity(const QString &cameraId) const
 {
-    const Camera::ECameraActivity activity = d->activities->get(cameraId);
-    return activity == Camera::ECameraActivity::Idle && d->simulation.isBusy(cameraId)
-        ? Camera::ECameraActivity::InUseElsewhere
+    const ECameraActivity activity = d->activities->get(cameraId);
+    return activity == ECameraActivity::Idle
+            && getPresence(cameraId) == ECameraPresence::InUseElsewhere
+        ? ECameraActivity::InUseElsewhere
         : activity;
 }
 
 bool CCameraPool::startAcquisition(const QString &cameraId, QString *error)
 {
-    if (getActivity(cameraId) == Camera::ECameraActivity::Recording)
+    if (getActivity(cameraId) == ECameraActivity::Recording)
         return true;
-    return beginStream(cameraId, Camera::ECameraActivity::Acquiring, error);
+    return beginStream(cameraId, ECameraActivity::Acquiring, error);
 }
 
 void CCameraPool::stopAcquisition(const QString &cameraId)
 {
-    const Camera::ECameraActivity activity = d->activities->get(cameraId);
-    if (activity != Camera::ECameraActivity::Acquiring
-        && activity != Camera::ECameraActivity::Recording)
+    const ECameraActivity activity = d->activities->get(cameraId);
+    if (activity != ECameraActivity::Acquiring && activity != ECameraActivity::Recording)
         return;
     d->stream.stop(cameraId);
     d->activities->end(cameraId);
@@ -173,7 +143,7 @@ bool CCameraPool::startRecording(const QString &cameraId, const QString &folder,
                      .arg(QDir::toNativeSeparators(folder)));
         return false;
     }
-    if (!beginStream(cameraId, Camera::ECameraActivity::Recording, error))
+    if (!beginStream(cameraId, ECameraActivity::Recording, error))
         return false;
     d->stream.setFolder(cameraId, QDir(folder).absolutePath());
     return true;
@@ -181,10 +151,10 @@ bool CCameraPool::startRecording(const QString &cameraId, const QString &folder,
 
 void CCameraPool::stopRecording(const QString &cameraId)
 {
-    if (d->activities->get(cameraId) != Camera::ECameraActivity::Recording)
+    if (d->activities->get(cameraId) != ECameraActivity::Recording)
         return;
     d->stream.setFolder(cameraId, {});
-    d->activities->begin(cameraId, Camera::ECameraActivity::Acquiring);
+    d->activities->begin(cameraId, ECameraActivity::Acquiring);
 }
 
 void CCameraPool::setStartsLocked(bool locked)
@@ -197,37 +167,9 @@ bool CCameraPool::isUpdateRunning() const
     return d->activities->isUpdateRunning();
 }
 
-bool CCameraPool::canSearchNetwork()
+const Camera::CCameraKinds &CCameraPool::getKinds() const
 {
-#ifdef WITH_ARAVIS
-    return true;
-#else
-    return false;
-#endif
-}
-
-bool CCameraPool::searchesNetwork() const
-{
-#ifdef WITH_ARAVIS
-    return d->genICam.searchesNetwork();
-#else
-    return false;
-#endif
-}
-
-void CCameraPool::setSearchesNetwork(bool searches)
-{
-#ifdef WITH_ARAVIS
-    d->genICam.setSearchesNetwork(searches);
-    d->enumeration->refreshEnumeration();
-#else
-    Q_UNUSED(searches)
-#endif
-}
-
-CSimulation &CCameraPool::getSimulation()
-{
-    return d->simulation;
+    return d->kinds;
 }
 
 void CCameraPool::onActivityChanged(const QString &cameraId)
@@ -248,10 +190,9 @@ void CCameraPool::onActivityChanged(const QString &cameraId)
 
 void CCameraPool::onCameraStateChanged(const QString &cameraId)
 {
-    const Camera::ECameraActivity activity = d->activities->get(cameraId);
-    if (!d->simulation.isPlugged(cameraId)
-        && (activity == Camera::ECameraActivity::Acquiring
-            || activity == Camera::ECameraActivity::Recording)) {
+    const ECameraActivity activity = d->activities->get(cameraId);
+    if (getPresence(cameraId) == ECameraPresence::Absent
+        && (activity == ECameraActivity::Acquiring || activity == ECameraActivity::Recording)) {
         stopAcquisition(cameraId);
         emit streamFailed(cameraId,
                           tr("Camera %1 no longer answers; acquisition has stopped.")
@@ -268,8 +209,7 @@ void CCameraPool::onRecordingFailed(const QString &cameraId, const QString &caus
         tr("The recording of camera %1 has ended: %2.").arg(getDisplayName(cameraId), cause));
 }
 
-bool CCameraPool::beginStream(const QString &cameraId, Camera::ECameraActivity activity,
-                              QString *error)
+bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity, QString *error)
 {
     const QString name = getDisplayName(cameraId);
     if (d->startsLocked) {
@@ -277,21 +217,22 @@ bool CCameraPool::beginStream(const QString &cameraId, Camera::ECameraActivity a
                  tr("Camera %1 cannot be started while the firmware updater is open.").arg(name));
         return false;
     }
-    if (!d->simulation.hasCamera(cameraId)) {
+    const ICameraKind *const kind = findKind(cameraId);
+    if (!kind || !kind->hasImages()) {
         setError(
             error,
             tr("Camera %1 is a real camera; only its firmware can be updated here.").arg(name));
         return false;
     }
-    if (!d->simulation.isPlugged(cameraId)) {
+    if (kind->getPresence(cameraId) == ECameraPresence::Absent) {
         setError(error, tr("Camera %1 does not answer; check its cable.").arg(name));
         return false;
     }
-    if (getActivity(cameraId) == Camera::ECameraActivity::InUseElsewhere) {
+    if (getActivity(cameraId) == ECameraActivity::InUseElsewhere) {
         setError(error, tr("Camera %1 is in use by another application.").arg(name));
         return false;
     }
-    if (d->activities->begin(cameraId, activity) == Camera::ECameraActivity::Updating) {
+    if (d->activities->begin(cameraId, activity) == ECameraActivity::Updating) {
         setError(error, tr("Camera %1 is being updated.").arg(name));
         return false;
     }
@@ -301,11 +242,27 @@ bool CCameraPool::beginStream(const QString &cameraId, Camera::ECameraActivity a
 
 void CCameraPool::stopAllCameras()
 {
-    for (const Camera::Simulation::CSimulatedCameraState &camera : d->simulation.getCameras()) {
-        stopAcquisition(camera.id);
-        // "Stop all cameras" means the other applications' acquisition as well.
-        d->simulation.setBusy(camera.id, false);
+    const QStringList active = d->activities->getActive();
+    for (const QString &cameraId : active)
+        stopAcquisition(cameraId);
+    // "Stop all cameras" means the other applications' acquisition as well.
+    for (const std::unique_ptr<ICameraKind> &kind : d->kinds)
+        kind->freeCameras();
+}
+
+const ICameraKind *CCameraPool::findKind(const QString &cameraId) const
+{
+    for (const std::unique_ptr<ICameraKind> &kind : d->kinds) {
+        if (kind->getPresence(cameraId) != ECameraPresence::Unknown)
+            return kind.get();
     }
+    return nullptr;
+}
+
+ECameraPresence CCameraPool::getPresence(const QString &cameraId) const
+{
+    const ICameraKind *const kind = findKind(cameraId);
+    return kind ? kind->getPresence(cameraId) : ECameraPresence::Unknown;
 }
 
 QString CCameraPool::getDisplayName(const QString &cameraId) const

@@ -1,39 +1,21 @@
 #pragma once
 
+#include "viewer/camera/camerakinds.h"
 #include "viewer/camera/camerasnapshot.h"
 #include "viewer/camera/ecameraactivity.h"
 
 #include "core/iservice.h"
 
-#include <QHostAddress>
 #include <QList>
 #include <QObject>
 #include <QSharedPointer>
 #include <QString>
-#include <QVector>
 
 #include <memory>
 
 class QImage;
 
-namespace Viewer::Camera::Simulation {
-class CSimulation;
-}
-
 namespace Viewer::CameraPool {
-
-/// What the pool is started with.
-struct CCameraPoolOptions
-{
-    QString descriptionFile; ///< JSON description of the simulated cameras; empty: the built-in one
-    QString stateFile; ///< where the cameras' firmware versions are remembered; empty: nowhere
-    double speedFactor = 1.0; ///< how many times faster than real cameras the simulation runs
-    bool resetCameras = false; ///< forget what earlier updates wrote
-    bool simulates = true; ///< false: there are no simulated cameras
-
-    bool searchesNetwork = false; ///< looks for cameras by broadcast and on USB
-    QVector<QHostAddress> cameraAddresses; ///< cameras that are asked whether they are there
-};
 
 /// The host's camera pool: owns the cameras and the services that plug-ins use. GUI thread.
 class CCameraPool : public QObject
@@ -41,9 +23,9 @@ class CCameraPool : public QObject
     Q_OBJECT
 
 public:
-    /// Throws `Core::Exception::BaseException`, naming file, line and field, when the description
-    /// is faulty. Nothing is enumerated before start().
-    explicit CCameraPool(const CCameraPoolOptions &options, QObject *parent = nullptr);
+    /// Takes over @p kinds and starts them; throws `Core::Exception::BaseException` when one cannot
+    /// be started. Nothing is enumerated before start().
+    explicit CCameraPool(Camera::CCameraKinds kinds, QObject *parent = nullptr);
     ~CCameraPool() override;
 
     /// Begins the first enumeration. Its result is announced even if no camera is found.
@@ -52,6 +34,17 @@ public:
     /// The services to publish: enumeration, status, stream control and firmware update. They work
     /// on this pool, so whoever holds them has to let go of them before it is destroyed.
     [[nodiscard]] QList<QSharedPointer<Core::Service::IService>> getServices() const;
+
+    /// The one of them that is a @p Service.
+    template <typename Service>
+    [[nodiscard]] QSharedPointer<Service> getService() const
+    {
+        for (const auto &service : getServices()) {
+            if (const auto match = service.template dynamicCast<Service>())
+                return match;
+        }
+        return {};
+    }
 
     /// What the last enumeration found out about the camera @p cameraId, also what plug-ins do not
     /// get to know; empty: it did not find it.
@@ -76,15 +69,7 @@ public:
     /// True while an update job executes, on whatever thread.
     [[nodiscard]] bool isUpdateRunning() const;
 
-    /// False: the viewer was built without the library for real cameras.
-    [[nodiscard]] static bool canSearchNetwork();
-    [[nodiscard]] bool searchesNetwork() const;
-
-    /// Enumerates anew. Does nothing where the network cannot be searched.
-    void setSearchesNetwork(bool searches);
-
-    /// What stands in for cables and people: plug, unplug, make busy.
-    [[nodiscard]] Camera::Simulation::CSimulation &getSimulation();
+    [[nodiscard]] const Camera::CCameraKinds &getKinds() const;
 
 signals:
     /// GUI thread; the activity or the presence of a camera has changed.
@@ -109,6 +94,9 @@ private:
     [[nodiscard]] bool beginStream(const QString &cameraId, Camera::ECameraActivity activity,
                                    QString *error);
     void stopAllCameras();
+    /// Of the kind to which the camera belongs; null: there is no such camera.
+    [[nodiscard]] const Camera::ICameraKind *findKind(const QString &cameraId) const;
+    [[nodiscard]] Camera::ECameraPresence getPresence(const QString &cameraId) const;
     [[nodiscard]] QString getDisplayName(const QString &cameraId) const;
 
     struct CPrivate;

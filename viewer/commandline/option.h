@@ -18,7 +18,7 @@ struct COption
     std::function<bool(const QString &value)> take;
 
     /// The sentence about a value that is no good, which may show it as %1; empty: a common one.
-    QString fault;
+    QString fault = {};
 
     /// Taken before anything is answered, and also from arguments that are faulty elsewhere.
     bool comesFirst = false;

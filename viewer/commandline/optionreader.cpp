@@ -9,7 +9,8 @@ COptionReader::COptionReader(const QString &program, const QString &version,
 {
     m_parser.setApplicationDescription(description);
     // Qt has these two options as well, but not in every language.
-    m_parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help and quit.")});
+    m_parser.addOption(
+        {{QStringLiteral("h"), QStringLiteral("help")}, tr("Show this help and quit.")});
     if (!m_version.isEmpty())
         m_parser.addOption(
             {{QStringLiteral("v"), QStringLiteral("version")}, tr("Show the version and quit.")});

@@ -10,7 +10,8 @@
 
 namespace Viewer::CommandLine {
 
-/// Reads a program's arguments by a table of options. Adds --help, and --version where there is one.
+/// Reads a program's arguments by a table of options. Adds --help, and --version where there is
+/// one.
 class COptionReader
 {
     Q_DECLARE_TR_FUNCTIONS(Viewer::CommandLine::COptionReader)

@@ -607,6 +607,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CommandLine::COptionReader</name>
+    <message>
+        <source>Show this help and quit.</source>
+        <translation type="unfinished">このヘルプを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Show the version and quit.</source>
+        <translation type="unfinished">バージョンを表示して終了します。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation type="unfinished">予期しない引数「%1」です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no good value for --%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Viewer::GufTool::CGufTool</name>
     <message>
         <source>There is no command.</source>

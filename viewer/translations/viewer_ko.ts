@@ -607,6 +607,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CommandLine::COptionReader</name>
+    <message>
+        <source>Show this help and quit.</source>
+        <translation type="unfinished">이 도움말을 표시하고 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Show the version and quit.</source>
+        <translation type="unfinished">버전을 표시하고 종료합니다.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation type="unfinished">예기치 않은 인수 &quot;%1&quot;입니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no good value for --%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Viewer::GufTool::CGufTool</name>
     <message>
         <source>There is no command.</source>

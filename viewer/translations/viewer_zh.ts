@@ -607,6 +607,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CommandLine::COptionReader</name>
+    <message>
+        <source>Show this help and quit.</source>
+        <translation type="unfinished">显示此帮助并退出。</translation>
+    </message>
+    <message>
+        <source>Show the version and quit.</source>
+        <translation type="unfinished">显示版本并退出。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation type="unfinished">意外的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no good value for --%2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Viewer::GufTool::CGufTool</name>
     <message>
         <source>There is no command.</source>

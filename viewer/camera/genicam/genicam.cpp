@@ -1,6 +1,7 @@
-#include "genicamdevice.h"
-
 #include "genicam.h"
+
+#include "genicamdevice.h"
+#include "genicamkind.h"
 #include "networksearch.h"
 #include "unicastdiscovery.h"
 
@@ -16,22 +17,52 @@ using Text::CErrorText;
 /// Two cameras say that they are the same one: nobody can tell which one an update would reach.
 static constexpr qint32 AmbiguousIdentityStatus = 1001;
 
-CGenICam::CGenICam(const QVector<QHostAddress> &addresses, bool searchesNetwork)
-    : m_addresses(addresses)
-    , m_searchesNetwork(searchesNetwork)
+std::unique_ptr<ICameraKind> makeKind()
+{
+    return std::make_unique<CGenICam>();
+}
+
+CGenICam::CGenICam(const CSearchOptions &options, QObject *parent)
+    : ICameraKind(parent)
+    , m_options(options)
+    , m_searchesNetwork(options.searchesNetwork)
 {
 }
 
 CGenICam::~CGenICam() = default;
 
-void CGenICam::setSearchesNetwork(bool searches)
+QVector<CommandLine::COption> CGenICam::getOptions()
 {
-    m_searchesNetwork = searches;
+    return getSearchOptions(m_options);
 }
 
-bool CGenICam::searchesNetwork() const
+void CGenICam::start()
 {
-    return m_searchesNetwork;
+    m_searchesNetwork = m_searchesNetwork || m_options.searchesNetwork;
+}
+
+QVector<CCameraSwitch> CGenICam::getSwitches()
+{
+    CCameraSwitch search{
+        QStringLiteral("searchNetwork"), {}, tr("Search the &network for cameras")};
+    search.isOn = m_searchesNetwork;
+    search.isRemembered = true;
+    search.set = [this](bool on) {
+        m_searchesNetwork = on;
+        Q_EMIT refreshWanted();
+    };
+    return {search};
+}
+
+ECameraPresence CGenICam::getPresence(const QString &cameraId) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_found.contains(cameraId) ? ECameraPresence::Present : ECameraPresence::Unknown;
+}
+
+bool CGenICam::hasImages() const
+{
+    return false;
 }
 
 std::unique_ptr<ICameraDevice> CGenICam::createDevice(const QString &cameraId)
@@ -45,7 +76,7 @@ std::unique_ptr<ICameraDevice> CGenICam::createDevice(const QString &cameraId)
 
 QVector<CFoundCamera> CGenICam::find(bool searches) const
 {
-    QVector<CFoundCamera> found = discoverUnicast(m_addresses);
+    QVector<CFoundCamera> found = discoverUnicast(m_options.addresses);
     if (!searches || m_isCanceled)
         return found;
 
@@ -101,7 +132,7 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
         (camera.transport == ETransport::Ethernet ? ethernet : usb).cameras.append(snapshot);
     }
     QVector<CTransportLayerSnapshot> layers;
-    if (searches || !m_addresses.isEmpty())
+    if (searches || !m_options.addresses.isEmpty())
         layers.append(ethernet);
     if (searches)
         layers.append(usb);

@@ -2,12 +2,12 @@
 
 #include "cameraidentities.h"
 #include "foundcamera.h"
+#include "searchoptions.h"
 
-#include "viewer/camera/icameradevicefactory.h"
-#include "viewer/camera/icameraenumerator.h"
+#include "viewer/camera/icamerakind.h"
 
 #include <QHash>
-#include <QHostAddress>
+#include <QString>
 #include <QVector>
 
 #include <atomic>
@@ -17,16 +17,20 @@ namespace Viewer::Camera::GenICam {
 
 /// Real cameras, GigE Vision and USB3 Vision. Nothing is sent to anybody but the given
 /// addresses unless searching the network is asked for.
-class CGenICam : public ICameraDeviceFactory, public ICameraEnumerator
+class CGenICam : public ICameraKind
 {
+    Q_OBJECT
+
 public:
-    /// @p addresses are asked at each enumeration, whether the network is searched or not.
-    CGenICam(const QVector<QHostAddress> &addresses, bool searchesNetwork);
+    explicit CGenICam(const CSearchOptions &options = {}, QObject *parent = nullptr);
     ~CGenICam() override;
 
-    /// Takes effect at the next enumeration. Any thread.
-    void setSearchesNetwork(bool searches);
-    [[nodiscard]] bool searchesNetwork() const;
+    // ICameraKind
+    [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
+    void start() override;
+    [[nodiscard]] QVector<CCameraSwitch> getSwitches() override;
+    [[nodiscard]] ECameraPresence getPresence(const QString &cameraId) const override;
+    [[nodiscard]] bool hasImages() const override;
 
     // ICameraDeviceFactory
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &cameraId) override;
@@ -38,7 +42,7 @@ public:
 private:
     [[nodiscard]] QVector<CFoundCamera> find(bool searches) const;
 
-    const QVector<QHostAddress> m_addresses;
+    CSearchOptions m_options; ///< as asked for at the start
     std::atomic<bool> m_searchesNetwork;
     std::atomic<bool> m_isCanceled{false};
 

@@ -1,11 +1,14 @@
 #include "simulation.h"
 
 #include "cameradescription.h"
+#include "cameradescriptionreader.h"
 #include "firmwarestatefile.h"
 #include "simulatedcamera.h"
 #include "simulatedcameradevice.h"
 #include "simulationnotifier.h"
+#include "viewer/commandline/takers.h"
 
+#include <QDir>
 #include <QHash>
 
 #include <chrono>
@@ -13,6 +16,9 @@
 #include <mutex>
 
 namespace Viewer::Camera::Simulation {
+
+static constexpr double SlowestSpeed = 0.01;
+static constexpr double FastestSpeed = 10000.0;
 
 // Layers are asked side by side; the slowest one counts.
 static constexpr std::chrono::milliseconds EnumerationDuration(150);
@@ -31,7 +37,8 @@ struct CSimulation::CPrivate
         return index.value(cameraId);
     }
 
-    // Layers and index do not change after construction, so that any thread may read them.
+    // Layers and index do not change once the simulation has started, so that any thread may read
+    // them.
     QVector<CLayer> layers;
     QHash<QString, std::shared_ptr<CSimulatedCamera>> index;
     std::shared_ptr<CFirmwareStateFile> stateFile;
@@ -43,19 +50,71 @@ struct CSimulation::CPrivate
     bool cancelled = false;
 };
 
-CSimulation::CSimulation(const CCameraDescription &description, const QString &stateFile,
-                         double speedFactor, QObject *parent)
-    : QObject(parent)
+CSimulation::CSimulation(const CSimulationOptions &options, QObject *parent)
+    : ICameraKind(parent)
+    , m_options(options)
     , d(std::make_unique<CPrivate>())
 {
-    d->stateFile = std::make_shared<CFirmwareStateFile>(stateFile);
-    d->speedFactor = speedFactor;
-    for (const CLayerDescription &layer : description.layers) {
+}
+
+CSimulation::~CSimulation()
+{
+    d->notifier->setListener({});
+}
+
+QVector<CommandLine::COption> CSimulation::getOptions()
+{
+    const auto takeSpeed = [this](const QString &text) {
+        bool isNumber = false;
+        m_askedSpeed = text.toDouble(&isNumber);
+        return isNumber && *m_askedSpeed >= SlowestSpeed && *m_askedSpeed <= FastestSpeed;
+    };
+    return {
+        {QStringLiteral("cameras"), tr("file"), tr("Simulate the cameras described in <file>."),
+         CommandLine::takePath(m_options.descriptionFile)},
+        {QStringLiteral("reset-cameras"),
+         {},
+         tr("Forget the firmware that earlier updates wrote to the simulated cameras."),
+         CommandLine::takeSwitch(m_options.forgets)},
+        {QStringLiteral("speed"), tr("n"),
+         tr("Let the simulated cameras work <n> times as fast as real ones (default 1; with --demo "
+            "%1).")
+             .arg(DemonstrationSpeed),
+         takeSpeed, tr("The speed \"%1\" is not a number from 0.01 to 10000.")},
+        {QStringLiteral("no-simulation"),
+         {},
+         tr("Leave out the simulated cameras."),
+         CommandLine::takeSwitch(m_options.simulates, false)},
+    };
+}
+
+void CSimulation::setDataFolder(const QString &folder)
+{
+    m_options.stateFile = QDir(folder).filePath(QStringLiteral("cameras.json"));
+}
+
+void CSimulation::prepareDemonstration()
+{
+    m_options.speedFactor = DemonstrationSpeed;
+}
+
+void CSimulation::start()
+{
+    d->speedFactor = m_askedSpeed.value_or(m_options.speedFactor);
+    CCameraDescription description;
+    if (m_options.simulates)
+        description = m_options.descriptionFile.isEmpty()
+            ? CCameraDescriptionReader::readBuiltIn()
+            : CCameraDescriptionReader::readFile(m_options.descriptionFile);
+    if (m_options.forgets)
+        CFirmwareStateFile(m_options.stateFile).clear();
+    d->stateFile = std::make_shared<CFirmwareStateFile>(m_options.stateFile);
+    for (const CLayerDescription &layer : qAsConst(description.layers)) {
         CPrivate::CLayer simulated{layer.id, layer.displayName, {}};
         simulated.cameras.reserve(layer.cameras.size());
         for (const CCameraDescriptionEntry &entry : layer.cameras) {
-            const auto camera
-                = std::make_shared<CSimulatedCamera>(entry, speedFactor, d->stateFile, d->notifier);
+            const auto camera = std::make_shared<CSimulatedCamera>(entry, d->speedFactor,
+                                                                   d->stateFile, d->notifier);
             simulated.cameras.append(camera);
             d->index.insert(entry.camera.id, camera);
         }
@@ -73,58 +132,53 @@ CSimulation::CSimulation(const CCameraDescription &description, const QString &s
     });
 }
 
-CSimulation::~CSimulation()
+QString CSimulation::getMenuTitle() const
 {
-    d->notifier->setListener({});
+    return m_options.simulates ? tr("&Simulation") : QString();
 }
 
-QVector<CSimulatedCameraState> CSimulation::getCameras() const
+QVector<CCameraSwitch> CSimulation::getSwitches()
 {
-    QVector<CSimulatedCameraState> states;
-    states.reserve(d->index.size());
+    QVector<CCameraSwitch> switches;
     for (const CPrivate::CLayer &layer : qAsConst(d->layers)) {
         for (const std::shared_ptr<CSimulatedCamera> &camera : layer.cameras) {
             const CCameraSnapshot &described = camera->getDescription().camera;
-            states.append(
-                {described.id, described.displayName, camera->isPlugged(), camera->isBusy()});
+            CCameraSwitch plugged{QStringLiteral("plugged:") + described.id, described.displayName,
+                                  tr("&Plugged in")};
+            plugged.isOn = camera->isPlugged();
+            plugged.set = [camera](bool on) { camera->setPlugged(on); };
+            CCameraSwitch busy{QStringLiteral("busy:") + described.id, described.displayName,
+                               tr("In &use elsewhere")};
+            busy.isOn = camera->isBusy();
+            busy.isEnabled = camera->isPlugged();
+            busy.set = [camera](bool on) { camera->setBusy(on); };
+            switches << plugged << busy;
         }
     }
-    return states;
+    return switches;
 }
 
-void CSimulation::plugIn(const QString &cameraId)
-{
-    if (const auto camera = d->find(cameraId))
-        camera->setPlugged(true);
-}
-
-void CSimulation::unplug(const QString &cameraId)
-{
-    if (const auto camera = d->find(cameraId))
-        camera->setPlugged(false);
-}
-
-bool CSimulation::hasCamera(const QString &cameraId) const
-{
-    return d->find(cameraId) != nullptr;
-}
-
-bool CSimulation::isPlugged(const QString &cameraId) const
+ECameraPresence CSimulation::getPresence(const QString &cameraId) const
 {
     const auto camera = d->find(cameraId);
-    return camera && camera->isPlugged();
+    if (!camera)
+        return ECameraPresence::Unknown;
+    if (!camera->isPlugged())
+        return ECameraPresence::Absent;
+    return camera->isBusy() ? ECameraPresence::InUseElsewhere : ECameraPresence::Present;
 }
 
-void CSimulation::setBusy(const QString &cameraId, bool busy)
+bool CSimulation::hasImages() const
 {
-    if (const auto camera = d->find(cameraId))
-        camera->setBusy(busy);
+    return true;
 }
 
-bool CSimulation::isBusy(const QString &cameraId) const
+void CSimulation::freeCameras()
 {
-    const auto camera = d->find(cameraId);
-    return camera && camera->isBusy();
+    for (const CPrivate::CLayer &layer : qAsConst(d->layers)) {
+        for (const std::shared_ptr<CSimulatedCamera> &camera : layer.cameras)
+            camera->setBusy(false);
+    }
 }
 
 std::unique_ptr<ICameraDevice> CSimulation::createDevice(const QString &cameraId)

@@ -1,54 +1,47 @@
 #pragma once
 
-#include "viewer/camera/icameradevicefactory.h"
-#include "viewer/camera/icameraenumerator.h"
+#include "viewer/camera/icamerakind.h"
 
-#include <QObject>
 #include <QString>
 #include <QVector>
 
 #include <memory>
+#include <optional>
 
 namespace Viewer::Camera::Simulation {
 
-struct CCameraDescription;
-
-/// What a menu needs to know about a described camera, plugged in or not.
-struct CSimulatedCameraState
+/// How the cameras are simulated.
+struct CSimulationOptions
 {
-    QString id;
-    QString displayName;
-    bool plugged = true;
-    bool busy = false;
+    bool simulates = true; ///< false: there are no simulated cameras
+    QString descriptionFile; ///< JSON; empty: the built-in description
+    QString stateFile; ///< remembers the firmware versions that updates wrote; empty: nothing does
+    bool forgets = false; ///< forget what earlier updates wrote
+    double speedFactor = 1.0; ///< divides every simulated duration and every time limit
 };
 
-/// Cameras without hardware, with what stands in for cables and for other applications. GUI thread,
-/// but for enumerate().
-class CSimulation : public QObject, public ICameraDeviceFactory, public ICameraEnumerator
+/// Cameras without hardware, with what stands in for cables and for other applications.
+class CSimulation : public ICameraKind
 {
     Q_OBJECT
 
 public:
-    /// @p stateFile remembers the firmware versions that updates wrote; empty: nothing is kept.
-    /// @p speedFactor divides every simulated duration and every time limit.
-    CSimulation(const CCameraDescription &description, const QString &stateFile, double speedFactor,
-                QObject *parent = nullptr);
+    /// How many times faster than real cameras a demonstration runs unless told otherwise.
+    static constexpr double DemonstrationSpeed = 4.0;
+
+    explicit CSimulation(const CSimulationOptions &options = {}, QObject *parent = nullptr);
     ~CSimulation() override;
 
-    /// All described cameras in the order of the description, also unplugged ones.
-    [[nodiscard]] QVector<CSimulatedCameraState> getCameras() const;
-
-    [[nodiscard]] bool hasCamera(const QString &cameraId) const;
-
-    /// Removing a camera interrupts whatever is being done with it. Both do nothing for unknown
-    /// ids and when the camera already is in that state.
-    void plugIn(const QString &cameraId);
-    void unplug(const QString &cameraId);
-    [[nodiscard]] bool isPlugged(const QString &cameraId) const;
-
-    /// A busy camera acquires continuously for another application.
-    void setBusy(const QString &cameraId, bool busy);
-    [[nodiscard]] bool isBusy(const QString &cameraId) const;
+    // ICameraKind
+    [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
+    void setDataFolder(const QString &folder) override;
+    void prepareDemonstration() override;
+    void start() override;
+    [[nodiscard]] QString getMenuTitle() const override;
+    [[nodiscard]] QVector<CCameraSwitch> getSwitches() override;
+    [[nodiscard]] ECameraPresence getPresence(const QString &cameraId) const override;
+    [[nodiscard]] bool hasImages() const override;
+    void freeCameras() override;
 
     // ICameraDeviceFactory
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &cameraId) override;
@@ -57,14 +50,10 @@ public:
     [[nodiscard]] QVector<CTransportLayerSnapshot> enumerate() override;
     void cancel() override;
 
-signals:
-    /// GUI thread; another enumeration would have another result.
-    void camerasChanged();
-
-    /// GUI thread; the camera was made busy or free, plugged in or unplugged.
-    void cameraStateChanged(const QString &cameraId);
-
 private:
+    CSimulationOptions m_options;
+    std::optional<double> m_askedSpeed; ///< on the command line
+
     struct CPrivate;
     const std::unique_ptr<CPrivate> d;
 };

@@ -1,0 +1,38 @@
+#include "icamerakind.h"
+
+namespace Viewer::Camera {
+
+ICameraKind::ICameraKind(QObject *parent)
+    : QObject(parent)
+{
+}
+
+ICameraKind::~ICameraKind() = default;
+
+void ICameraKind::setDataFolder(const QString &)
+{
+}
+
+void ICameraKind::prepareDemonstration()
+{
+}
+
+void ICameraKind::start()
+{
+}
+
+QString ICameraKind::getMenuTitle() const
+{
+    return {};
+}
+
+QVector<CCameraSwitch> ICameraKind::getSwitches()
+{
+    return {};
+}
+
+void ICameraKind::freeCameras()
+{
+}
+
+} // namespace Viewer::Camera
