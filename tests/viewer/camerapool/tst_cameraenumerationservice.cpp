@@ -46,7 +46,7 @@ private:
 
 static CCameraSnapshot makeCamera(const QString &id, const QString &version = "1.0", int status = 0)
 {
-    return {id, id, "Model", "1", "R1", version, status, {}};
+    return {id, id, "Model", "1", "R1", version, status, {}, {}, {}};
 }
 
 class CCameraEnumerationServiceTest : public QObject

@@ -192,7 +192,8 @@ void CCameraPoolTest::findsWhatFitsNewestFirst()
     for (int i = 0; i < manifest->updates.size(); ++i)
         all.append(QSharedPointer<CFirmwareUpdateInfo>::create(manifest, i, "a.guf"));
     const auto getFitting = [&](const QString &version, int status) {
-        const CCameraSnapshot camera{"a", "Camera", "VX-1400M", "1", "R2", version, status, {}};
+        const CCameraSnapshot camera{"a",     "Camera", "VX-1400M", "1", "R2",
+                                     version, status,   {},         {},  {}};
         const auto info = QSharedPointer<CCameraInfo>::create(camera, "layer");
         auto compatible = all;
         bool updatable = false;

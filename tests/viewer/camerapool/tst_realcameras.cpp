@@ -286,7 +286,7 @@ void CRealCamerasTest::endsEachOperation_data()
 
     const QString gone = "it did not come back from its reset; switch it off";
     const auto resetRow = [&](const char *name, const QStringList &arguments) {
-        row(name, arguments + QStringList{"--reset-ms", "100"}, reset, qPrintable(gone), true);
+        row(name, arguments + QStringList{"--reset-ms", "500"}, reset, qPrintable(gone), true);
     };
     row("reset refused", {"--refuse", "DeviceReset"}, reset, "DeviceReset.*it refused", false);
     row("reset ignored", {"--ignore-reset"}, reset, "it did not restart; switch it off", true);

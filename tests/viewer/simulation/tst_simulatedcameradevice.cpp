@@ -38,7 +38,7 @@ struct CBench
     std::shared_ptr<CFirmwareStateFile> memory = std::make_shared<CFirmwareStateFile>("");
     std::shared_ptr<CSimulatedCamera> camera = std::make_shared<CSimulatedCamera>(
         CCameraDescriptionEntry{
-            {"cam", "Bench camera", "M-1", "77", "R1", "1.0.0", 0, {}}, 100'000, faults},
+            {"cam", "Bench camera", "M-1", "77", "R1", "1.0.0", 0, {}, {}, {}}, 100'000, faults},
         1000.0, memory, std::make_shared<CSimulationNotifier>());
     CSimulatedCameraDevice device{camera};
 };
