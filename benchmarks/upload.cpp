@@ -107,7 +107,7 @@ static double megabytesPerSecond(qint64 nanoseconds)
 
 static std::unique_ptr<ICameraDevice> openDevice(const QHostAddress &address)
 {
-    CGenICam cameras({address}, false);
+    CGenICam cameras(Viewer::Camera::GenICam::CSearchOptions{{address}});
     const auto found = cameras.enumerate().value(0).cameras;
     std::unique_ptr<ICameraDevice> device
         = found.isEmpty() ? nullptr : cameras.createDevice(found.first().id);

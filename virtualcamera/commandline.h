@@ -1,6 +1,7 @@
 #pragma once
 
 #include "camerasettings.h"
+#include "viewer/commandline/optionreader.h"
 
 #include <QString>
 #include <QStringList>
@@ -8,13 +9,10 @@
 namespace VirtualCamera {
 
 /// The program's arguments, read and checked.
-struct CCommandLine
+class CCommandLine
 {
-    enum class EResult {
-        Start,
-        Help, ///< `message` is the help text
-        Error, ///< `message` says what is wrong with which argument
-    };
+public:
+    using EResult = Viewer::CommandLine::COptionReader::EResult;
 
     CCameraSettings settings;
     QString flashFile;
@@ -23,6 +21,9 @@ struct CCommandLine
     QString message;
 
     EResult parse(const QStringList &arguments);
+
+private:
+    [[nodiscard]] QVector<Viewer::CommandLine::COption> getOptions();
 };
 
 } // namespace VirtualCamera

@@ -40,8 +40,8 @@ int main(int argc, char **argv)
     switch (commandLine.parse(QCoreApplication::arguments())) {
     case CCommandLine::EResult::Start:
         break;
-    case CCommandLine::EResult::Help:
-        std::fputs(qPrintable(commandLine.message), stdout);
+    case CCommandLine::EResult::Message:
+        std::puts(qPrintable(commandLine.message));
         return EXIT_SUCCESS;
     case CCommandLine::EResult::Error:
         std::fprintf(stderr, "virtualcamera: %s\n", qPrintable(commandLine.message));

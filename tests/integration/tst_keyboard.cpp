@@ -1,4 +1,5 @@
 #include "support/accessiblereader.h"
+#include "support/vieweroptions.h"
 #include "support/wizardpages.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/viewer.h"
@@ -78,11 +79,10 @@ void CKeyboardTest::typePath(const QString &path)
 
 void CKeyboardTest::updatesTwoCameras()
 {
-    Viewer::AppCore::CCommandLineOptions options;
-    options.pool.descriptionFile = describeCameras(m_folder.path(), "1.2.0");
-    options.pool.speedFactor = 20;
-    options.pluginDirectories.append(PLUGIN_FOLDER);
-    Viewer::AppCore::CViewer viewer(options, "en");
+    const QString cameras = describeCameras(m_folder.path(), "1.2.0");
+    Viewer::AppCore::CViewer viewer(TestSupport::readOptions({"--cameras", cameras, "--speed", "20",
+                                                              "--plugins", PLUGIN_FOLDER}),
+                                    "en");
     const auto enumeration = viewer.getEnumerationService();
     QSignalSpy found(enumeration.data(), &ICameraEnumerationService::enumerationChanged);
     QStringList failures;

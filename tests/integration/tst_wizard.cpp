@@ -1,4 +1,5 @@
 #include "core/iplugin.h"
+#include "support/camerakinds.h"
 #include "support/fakehost.h"
 #include "support/virtualcameraprocess.h"
 #include "support/wizardpages.h"
@@ -40,8 +41,7 @@ private slots:
     void tellsEachFault();
 
 private:
-    void openPool(const QString &descriptionFile);
-    void openPool(const Viewer::CameraPool::CCameraPoolOptions &options);
+    void openPool(const QStringList &arguments);
     [[nodiscard]] QHash<QString, QString> getVersions() const;
 
     static void toggle(QDialog *page, const QString &row);
@@ -86,17 +86,10 @@ void CWizardTest::cleanup()
     m_pool.reset();
 }
 
-void CWizardTest::openPool(const QString &descriptionFile)
+void CWizardTest::openPool(const QStringList &arguments)
 {
-    Viewer::CameraPool::CCameraPoolOptions options;
-    options.descriptionFile = descriptionFile;
-    options.speedFactor = 100.0;
-    openPool(options);
-}
-
-void CWizardTest::openPool(const Viewer::CameraPool::CCameraPoolOptions &options)
-{
-    m_pool = std::make_unique<Viewer::CameraPool::CCameraPool>(options);
+    m_pool = std::make_unique<Viewer::CameraPool::CCameraPool>(
+        TestSupport::makeCameraKinds(arguments));
     const auto services = m_pool->getServices();
     for (const auto &service : services)
         m_host->initializer.addService(service);
@@ -198,7 +191,7 @@ void CWizardTest::updatesAllCamerasOfAModel()
     QFETCH(QString, target);
     QFETCH(int, direction);
 
-    openPool(describeCameras(m_folder.path(), current));
+    openPool({"--speed", "100", "--cameras", describeCameras(m_folder.path(), current)});
     startWizard("VX-1400M");
     chooseFile(file.constData());
 
@@ -221,7 +214,7 @@ void CWizardTest::updatesAllCamerasOfAModel()
 
 void CWizardTest::stopsAtAFailureInTheMiddle()
 {
-    openPool(describeCameras(m_folder.path(), "1.2.0", 2));
+    openPool({"--speed", "100", "--cameras", describeCameras(m_folder.path(), "1.2.0", 2)});
     startWizard("VX-1400M");
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
@@ -239,7 +232,7 @@ void CWizardTest::stopsAtAFailureInTheMiddle()
 
 void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
 {
-    openPool(describeCameras(m_folder.path(), "1.2.0"));
+    openPool({"--speed", "100", "--cameras", describeCameras(m_folder.path(), "1.2.0")});
     startWizard("VX-1400M");
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
@@ -258,7 +251,7 @@ void CWizardTest::stopsAfterTheCurrentCameraOnCancel()
 
 void CWizardTest::updatesAgainInTheSameRun()
 {
-    openPool(describeCameras(m_folder.path(), "1.2.0"));
+    openPool({"--speed", "100", "--cameras", describeCameras(m_folder.path(), "1.2.0")});
     startWizard("Line 2");
     chooseFile("vx-1400m_2.0.0.guf");
     startUpdate();
@@ -286,12 +279,11 @@ void CWizardTest::updatesCamerasOnTheWire_data()
 void CWizardTest::updatesCamerasOnTheWire()
 {
     QFETCH(bool, secondDies);
-    if (!Viewer::CameraPool::CCameraPool::canSearchNetwork())
+    if (TestSupport::makeCameraKinds({"--network"}).empty())
         QSKIP("The viewer was built without the library for real cameras.");
 
     using TestSupport::CVirtualCameraProcess;
-    Viewer::CameraPool::CCameraPoolOptions options;
-    options.simulates = false;
+    QStringList poolArguments("--no-simulation");
     std::vector<std::unique_ptr<CVirtualCameraProcess>> cameras;
     for (int number = 1; number <= 3; ++number) {
         QStringList arguments{"--serial", QString("5000000%1").arg(number), "--flash",
@@ -299,11 +291,11 @@ void CWizardTest::updatesCamerasOnTheWire()
         if (secondDies && number == 2)
             arguments << "--die-after"
                       << "40960";
-        options.cameraAddresses.append(CVirtualCameraProcess::getOwnAddress(number));
-        cameras.push_back(std::make_unique<CVirtualCameraProcess>(
-            options.cameraAddresses.constLast(), arguments));
+        const QHostAddress address = CVirtualCameraProcess::getOwnAddress(number);
+        poolArguments << "--camera-address" << address.toString();
+        cameras.push_back(std::make_unique<CVirtualCameraProcess>(address, arguments));
     }
-    openPool(options);
+    openPool(poolArguments);
     startWizard("GV-1400M");
     chooseFile("gv-1400m_2.0.0.guf");
     startUpdate();
@@ -360,7 +352,7 @@ void CWizardTest::tellsEachFault()
     QFETCH(QString, name);
     QFETCH(QString, error);
 
-    openPool(QStringLiteral(SAMPLE_CAMERAS "/faults.json"));
+    openPool({"--speed", "100", "--cameras", QStringLiteral(SAMPLE_CAMERAS "/faults.json")});
     QString camera;
     const auto layers = m_enumeration->getTransportLayerInfoVector();
     for (const auto &info : layers.first()->getCameraInfoList()) {

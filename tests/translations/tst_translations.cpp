@@ -1,4 +1,6 @@
 #include "firmwareupdater/view/viewfixture.h"
+#include "support/camerakinds.h"
+#include "support/vieweroptions.h"
 
 #include "view/cameraselectiondialog.h"
 #include "view/firmwareupdatedialog.h"
@@ -10,7 +12,6 @@
 #include "viewer/appcore/loglistdialog.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/viewer.h"
-#include "viewer/camera/simulation/simulation.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/text/language.h"
 
@@ -312,9 +313,6 @@ void CTranslationsTest::viewerSpeaksTheLanguage()
     for (const QWidget *const ofQt : std::vector<QWidget *>{&files, &question, menu.get()})
         QCOMPARE(findEnglish(getTexts(*ofQt)), QString());
 
-    Viewer::AppCore::CCommandLineOptions options;
-    options.samplesDirectory = m_folder.path();
-    options.pool.speedFactor = 1000;
     qputenv("XDG_STATE_HOME", m_folder.path().toUtf8());
     const Viewer::AppCore::CLogFolder logs;
     Viewer::AppCore::CLogListDialog logList(logs);
@@ -324,7 +322,9 @@ void CTranslationsTest::viewerSpeaksTheLanguage()
     QCOMPARE(findCutText(logList), QString());
     logList.close();
 
-    Viewer::AppCore::CViewer viewer(options, language, &logs);
+    Viewer::AppCore::CViewer viewer(
+        TestSupport::readOptions({"--speed", "1000", "--samples", m_folder.path()}), language,
+        &logs);
     const auto &window = viewer.getMainWindow();
     const auto enumeration = viewer.getEnumerationService();
     QSignalSpy spy(enumeration.data(),
@@ -347,7 +347,7 @@ void CTranslationsTest::viewerSpeaksTheLanguage()
     const auto job = updates->createDeviceFirmwareUpdate(
         camera, updates->getFirmwareUpdateInfos(SAMPLE_FILE, {}).at(0));
     QSignalSpy errors(job.data(), &Plugin::CameraPool::IDeviceFirmwareUpdate::firmwareUpdateError);
-    viewer.getCameraPool().getSimulation().setBusy(camera->getId(), true);
+    QVERIFY(TestSupport::setSwitch(viewer.getCameraPool(), "busy:" + camera->getId(), true));
     for (int execution = 0; execution < 2; ++execution) {
         job->executeFirmwareUpdate();
         const QByteArray error = errors.value(execution).value(0).toByteArray();

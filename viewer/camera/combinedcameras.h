@@ -1,6 +1,6 @@
 #pragma once
 
-#include "camerakinds.h"
+#include "icamerakind.h"
 
 namespace Viewer::Camera {
 

@@ -9,6 +9,9 @@
 #include <QObject>
 #include <QVector>
 
+#include <memory>
+#include <vector>
+
 namespace Viewer::Camera {
 
 /// All that a program knows of one kind of cameras: how to look for them, how to make their
@@ -65,5 +68,7 @@ Q_SIGNALS:
     /// The presence of a camera has changed.
     void cameraStateChanged(const QString &cameraId);
 };
+
+using CCameraKinds = std::vector<std::unique_ptr<ICameraKind>>;
 
 } // namespace Viewer::Camera

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "viewer/camera/camerakinds.h"
+#include "viewer/camera/icamerakind.h"
 #include "viewer/camera/camerasnapshot.h"
 #include "viewer/camera/ecameraactivity.h"
 

@@ -2,10 +2,11 @@
 
 #include "manifestprinter.h"
 #include "updatefilepacker.h"
+#include "viewer/commandline/optionreader.h"
+#include "viewer/commandline/takers.h"
 #include "viewer/updatefile/updatefileerror.h"
 #include "viewer/updatefile/updatefilereader.h"
 
-#include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
 #include <QTextStream>
@@ -16,20 +17,6 @@ using UpdateFile::CUpdateFileError;
 using UpdateFile::CUpdateFileReader;
 using UpdateFile::CUpdateManifest;
 
-namespace {
-
-QCommandLineOption getJsonOption()
-{
-    return QCommandLineOption(QStringLiteral("json"));
-}
-
-QCommandLineOption getHelpOption()
-{
-    return QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
-}
-
-} // namespace
-
 CGufTool::CGufTool(QTextStream &output, QTextStream &errorOutput)
     : m_output(output)
     , m_errorOutput(errorOutput)
@@ -38,26 +25,31 @@ CGufTool::CGufTool(QTextStream &output, QTextStream &errorOutput)
 
 int CGufTool::run(const QStringList &arguments)
 {
-    QCommandLineParser parser;
-    parser.addOption(getJsonOption());
-    parser.addOption(getHelpOption());
-    if (!parser.parse(arguments))
-        return reportWrongUsage(parser.errorText());
-    if (parser.isSet(getHelpOption())) {
+    using CommandLine::COptionReader;
+    bool asJson = false;
+    // What --help answers is written by hand: there is more to tell about commands than options.
+    COptionReader reader(QStringLiteral("guftool"), {}, {});
+    reader.add({{QStringLiteral("json"), {}, {}, CommandLine::takeSwitch(asJson)}});
+    reader.allowPositionals();
+    switch (reader.parse(arguments)) {
+    case COptionReader::EResult::Error:
+        return reportWrongUsage(reader.getMessage());
+    case COptionReader::EResult::Message:
         m_output << getUsage();
         return Success;
+    case COptionReader::EResult::Start:
+        break;
     }
     try {
-        return runCommand(parser);
+        return runCommand(reader.getPositionals(), asJson);
     } catch (const CUpdateFileError &error) {
         m_errorOutput << error.getText().getLocalized() << Qt::endl;
         return FileFaulty;
     }
 }
 
-int CGufTool::runCommand(const QCommandLineParser &parser)
+int CGufTool::runCommand(const QStringList &arguments, bool asJson)
 {
-    const QStringList arguments = parser.positionalArguments();
     if (arguments.isEmpty())
         return reportWrongUsage(tr("There is no command."));
     const QString &command = arguments.constFirst();
@@ -68,13 +60,13 @@ int CGufTool::runCommand(const QCommandLineParser &parser)
     if (arguments.size() != (isPack ? 3 : 2))
         return reportWrongUsage(
             tr("The command \"%1\" has too few or too many arguments.").arg(command));
-    if (parser.isSet(getJsonOption()) && !isInspect)
+    if (asJson && !isInspect)
         return reportWrongUsage(tr("The command \"%1\" has no option --json.").arg(command));
 
     if (isPack)
         pack(arguments.at(1), arguments.at(2));
     else if (isInspect)
-        inspect(arguments.at(1), parser.isSet(getJsonOption()));
+        inspect(arguments.at(1), asJson);
     else
         verify(arguments.at(1));
     return Success;

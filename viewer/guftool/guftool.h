@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-class QCommandLineParser;
 class QTextStream;
 
 namespace Viewer::GufTool {
@@ -29,7 +28,7 @@ public:
     int run(const QStringList &arguments);
 
 private:
-    int runCommand(const QCommandLineParser &parser);
+    int runCommand(const QStringList &arguments, bool asJson);
     void pack(const QString &folder, const QString &file);
     void inspect(const QString &file, bool asJson);
     void verify(const QString &file);

@@ -86,22 +86,6 @@
         <translation>カメラを表示し、プラグインで操作できるようにします。</translation>
     </message>
     <message>
-        <source>Simulate the cameras described in &lt;file&gt;.</source>
-        <translation>&lt;ファイル&gt; に記述されたカメラをシミュレートします。</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>ファイル</translation>
-    </message>
-    <message>
-        <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
-        <translation>以前の更新でシミュレーションカメラに書き込まれたファームウェアを破棄します。</translation>
-    </message>
-    <message>
-        <source>n</source>
-        <translation>n</translation>
-    </message>
-    <message>
         <source>Look for plug-ins in &lt;dir&gt;, too; can be given several times.</source>
         <translation>&lt;フォルダー&gt; でもプラグインを探します。複数回指定できます。</translation>
     </message>
@@ -114,42 +98,6 @@
         <translation>コード</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation>予期しない引数「%1」です。</translation>
-    </message>
-    <message>
-        <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
-        <translation>速度「%1」は 0.01 から 10000 までの数値ではありません。</translation>
-    </message>
-    <message>
-        <source>Leave out the simulated cameras.</source>
-        <translation>シミュレーションカメラを使用しません。</translation>
-    </message>
-    <message>
-        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
-        <translation>ブロードキャストを使わずに &lt;アドレス&gt; のカメラを探します。複数回指定できます。</translation>
-    </message>
-    <message>
-        <source>address</source>
-        <translation>アドレス</translation>
-    </message>
-    <message>
-        <source>Show this help and quit.</source>
-        <translation>このヘルプを表示して終了します。</translation>
-    </message>
-    <message>
-        <source>Show the version and quit.</source>
-        <translation>バージョンを表示して終了します。</translation>
-    </message>
-    <message>
-        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
-        <translation>シミュレーションカメラを実際のカメラの &lt;n&gt; 倍の速さで動作させます (既定値は 1、--demo では %1)。</translation>
-    </message>
-    <message>
-        <source>Search the network (by broadcast) and USB for cameras this time.</source>
-        <translation>今回はネットワーク (ブロードキャスト) と USB のカメラを検索します。</translation>
-    </message>
-    <message>
         <source>Use &lt;dir&gt; as the folder of sample update files.</source>
         <translation>&lt;フォルダー&gt; をサンプル更新ファイルのフォルダーとして使用します。</translation>
     </message>
@@ -160,14 +108,6 @@
     <message>
         <source>No folder is given for the demonstration&apos;s pictures.</source>
         <translation>デモの画面を保存するフォルダーが指定されていません。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
-        <translation>「%1」はカメラのアドレスではありません。192.168.0.10 の形式で指定してください。</translation>
-    </message>
-    <message>
-        <source>This viewer was built without the library for real cameras.</source>
-        <translation>このビューアーは、実際のカメラ用のライブラリなしでビルドされています。</translation>
     </message>
     <message>
         <source>No folder is given for the plug-ins.</source>
@@ -316,10 +256,6 @@
         <translation>表示(&amp;V)</translation>
     </message>
     <message>
-        <source>&amp;Simulation</source>
-        <translation>シミュレーション(&amp;S)</translation>
-    </message>
-    <message>
         <source>&amp;Tools</source>
         <translation>ツール(&amp;T)</translation>
     </message>
@@ -377,17 +313,6 @@
     <message>
         <source>Not available</source>
         <translation>利用不可</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::AppCore::CSimulationMenu</name>
-    <message>
-        <source>&amp;Plugged in</source>
-        <translation>接続済み(&amp;P)</translation>
-    </message>
-    <message>
-        <source>In &amp;use elsewhere</source>
-        <translation>別のアプリで使用中(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -466,10 +391,6 @@
         <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;カメラを表示し、プラグインで操作できるようにします。&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Search the &amp;network for cameras</source>
-        <translation>ネットワークのカメラを検索(&amp;N)</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>カメラを検索 (F5)</translation>
     </message>
@@ -480,6 +401,79 @@
     <message>
         <source>%1 Then the viewer closes by itself.</source>
         <translation>%1 その後、ビューアーは自動的に終了します。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::GenICam</name>
+    <message>
+        <source>This viewer was built without the library for real cameras.</source>
+        <translation>このビューアーは、実際のカメラ用のライブラリなしでビルドされています。</translation>
+    </message>
+    <message>
+        <source>Search the network (by broadcast) and USB for cameras this time.</source>
+        <translation>今回はネットワーク (ブロードキャスト) と USB のカメラを検索します。</translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
+        <translation>ブロードキャストを使わずに &lt;アドレス&gt; のカメラを探します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
+        <translation>「%1」はカメラのアドレスではありません。192.168.0.10 の形式で指定してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::GenICam::CGenICam</name>
+    <message>
+        <source>Search the &amp;network for cameras</source>
+        <translation>ネットワークのカメラを検索(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::Simulation::CSimulation</name>
+    <message>
+        <source>file</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Simulate the cameras described in &lt;file&gt;.</source>
+        <translation>&lt;ファイル&gt; に記述されたカメラをシミュレートします。</translation>
+    </message>
+    <message>
+        <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
+        <translation>以前の更新でシミュレーションカメラに書き込まれたファームウェアを破棄します。</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation>n</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
+        <translation>シミュレーションカメラを実際のカメラの &lt;n&gt; 倍の速さで動作させます (既定値は 1、--demo では %1)。</translation>
+    </message>
+    <message>
+        <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
+        <translation>速度「%1」は 0.01 から 10000 までの数値ではありません。</translation>
+    </message>
+    <message>
+        <source>Leave out the simulated cameras.</source>
+        <translation>シミュレーションカメラを使用しません。</translation>
+    </message>
+    <message>
+        <source>&amp;Simulation</source>
+        <translation>シミュレーション(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Plugged in</source>
+        <translation>接続済み(&amp;P)</translation>
+    </message>
+    <message>
+        <source>In &amp;use elsewhere</source>
+        <translation>別のアプリで使用中(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -610,19 +604,19 @@ Firmware: %5</source>
     <name>Viewer::CommandLine::COptionReader</name>
     <message>
         <source>Show this help and quit.</source>
-        <translation type="unfinished">このヘルプを表示して終了します。</translation>
+        <translation>このヘルプを表示して終了します。</translation>
     </message>
     <message>
         <source>Show the version and quit.</source>
-        <translation type="unfinished">バージョンを表示して終了します。</translation>
+        <translation>バージョンを表示して終了します。</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation type="unfinished">予期しない引数「%1」です。</translation>
+        <translation>予期しない引数「%1」です。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no good value for --%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は --%2 の値として使用できません。</translation>
     </message>
 </context>
 <context>

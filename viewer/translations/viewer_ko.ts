@@ -86,22 +86,6 @@
         <translation>카메라를 표시하고 플러그인으로 카메라를 제어합니다.</translation>
     </message>
     <message>
-        <source>Simulate the cameras described in &lt;file&gt;.</source>
-        <translation>&lt;파일&gt;에 기술된 카메라를 시뮬레이션합니다.</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>파일</translation>
-    </message>
-    <message>
-        <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
-        <translation>이전 업데이트에서 시뮬레이션 카메라에 기록한 펌웨어를 지웁니다.</translation>
-    </message>
-    <message>
-        <source>n</source>
-        <translation>n</translation>
-    </message>
-    <message>
         <source>Look for plug-ins in &lt;dir&gt;, too; can be given several times.</source>
         <translation>&lt;폴더&gt;에서도 플러그인을 찾습니다. 여러 번 지정할 수 있습니다.</translation>
     </message>
@@ -114,42 +98,6 @@
         <translation>코드</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation>예기치 않은 인수 &quot;%1&quot;입니다.</translation>
-    </message>
-    <message>
-        <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
-        <translation>속도 &quot;%1&quot;은(는) 0.01에서 10000 사이의 숫자가 아닙니다.</translation>
-    </message>
-    <message>
-        <source>Leave out the simulated cameras.</source>
-        <translation>시뮬레이션 카메라를 사용하지 않습니다.</translation>
-    </message>
-    <message>
-        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
-        <translation>브로드캐스트 없이 &lt;주소&gt;의 카메라를 찾습니다. 여러 번 지정할 수 있습니다.</translation>
-    </message>
-    <message>
-        <source>address</source>
-        <translation>주소</translation>
-    </message>
-    <message>
-        <source>Show this help and quit.</source>
-        <translation>이 도움말을 표시하고 종료합니다.</translation>
-    </message>
-    <message>
-        <source>Show the version and quit.</source>
-        <translation>버전을 표시하고 종료합니다.</translation>
-    </message>
-    <message>
-        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
-        <translation>시뮬레이션 카메라를 실제 카메라의 &lt;n&gt;배 속도로 작동시킵니다(기본값 1, --demo 사용 시 %1).</translation>
-    </message>
-    <message>
-        <source>Search the network (by broadcast) and USB for cameras this time.</source>
-        <translation>이번 실행에서 네트워크(브로드캐스트)와 USB의 카메라를 검색합니다.</translation>
-    </message>
-    <message>
         <source>Use &lt;dir&gt; as the folder of sample update files.</source>
         <translation>&lt;폴더&gt;를 샘플 업데이트 파일의 폴더로 사용합니다.</translation>
     </message>
@@ -160,14 +108,6 @@
     <message>
         <source>No folder is given for the demonstration&apos;s pictures.</source>
         <translation>데모 화면을 저장할 폴더가 지정되지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
-        <translation>&quot;%1&quot;은(는) 카메라 주소가 아닙니다. 192.168.0.10 형식으로 입력하십시오.</translation>
-    </message>
-    <message>
-        <source>This viewer was built without the library for real cameras.</source>
-        <translation>이 뷰어는 실제 카메라용 라이브러리 없이 빌드되었습니다.</translation>
     </message>
     <message>
         <source>No folder is given for the plug-ins.</source>
@@ -316,10 +256,6 @@
         <translation>보기(&amp;V)</translation>
     </message>
     <message>
-        <source>&amp;Simulation</source>
-        <translation>시뮬레이션(&amp;S)</translation>
-    </message>
-    <message>
         <source>&amp;Tools</source>
         <translation>도구(&amp;T)</translation>
     </message>
@@ -377,17 +313,6 @@
     <message>
         <source>Not available</source>
         <translation>사용할 수 없음</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::AppCore::CSimulationMenu</name>
-    <message>
-        <source>&amp;Plugged in</source>
-        <translation>연결됨(&amp;P)</translation>
-    </message>
-    <message>
-        <source>In &amp;use elsewhere</source>
-        <translation>다른 곳에서 사용 중(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -466,10 +391,6 @@
         <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;카메라를 표시하고 플러그인으로 카메라를 제어합니다.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Search the &amp;network for cameras</source>
-        <translation>네트워크에서 카메라 검색(&amp;N)</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>카메라 검색(F5)</translation>
     </message>
@@ -480,6 +401,79 @@
     <message>
         <source>%1 Then the viewer closes by itself.</source>
         <translation>%1 그 후 뷰어가 자동으로 종료됩니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::GenICam</name>
+    <message>
+        <source>This viewer was built without the library for real cameras.</source>
+        <translation>이 뷰어는 실제 카메라용 라이브러리 없이 빌드되었습니다.</translation>
+    </message>
+    <message>
+        <source>Search the network (by broadcast) and USB for cameras this time.</source>
+        <translation>이번 실행에서 네트워크(브로드캐스트)와 USB의 카메라를 검색합니다.</translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation>주소</translation>
+    </message>
+    <message>
+        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
+        <translation>브로드캐스트 없이 &lt;주소&gt;의 카메라를 찾습니다. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
+        <translation>&quot;%1&quot;은(는) 카메라 주소가 아닙니다. 192.168.0.10 형식으로 입력하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::GenICam::CGenICam</name>
+    <message>
+        <source>Search the &amp;network for cameras</source>
+        <translation>네트워크에서 카메라 검색(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::Simulation::CSimulation</name>
+    <message>
+        <source>file</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Simulate the cameras described in &lt;file&gt;.</source>
+        <translation>&lt;파일&gt;에 기술된 카메라를 시뮬레이션합니다.</translation>
+    </message>
+    <message>
+        <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
+        <translation>이전 업데이트에서 시뮬레이션 카메라에 기록한 펌웨어를 지웁니다.</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation>n</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
+        <translation>시뮬레이션 카메라를 실제 카메라의 &lt;n&gt;배 속도로 작동시킵니다(기본값 1, --demo 사용 시 %1).</translation>
+    </message>
+    <message>
+        <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
+        <translation>속도 &quot;%1&quot;은(는) 0.01에서 10000 사이의 숫자가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Leave out the simulated cameras.</source>
+        <translation>시뮬레이션 카메라를 사용하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Simulation</source>
+        <translation>시뮬레이션(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Plugged in</source>
+        <translation>연결됨(&amp;P)</translation>
+    </message>
+    <message>
+        <source>In &amp;use elsewhere</source>
+        <translation>다른 곳에서 사용 중(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -610,19 +604,19 @@ Firmware: %5</source>
     <name>Viewer::CommandLine::COptionReader</name>
     <message>
         <source>Show this help and quit.</source>
-        <translation type="unfinished">이 도움말을 표시하고 종료합니다.</translation>
+        <translation>이 도움말을 표시하고 종료합니다.</translation>
     </message>
     <message>
         <source>Show the version and quit.</source>
-        <translation type="unfinished">버전을 표시하고 종료합니다.</translation>
+        <translation>버전을 표시하고 종료합니다.</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation type="unfinished">예기치 않은 인수 &quot;%1&quot;입니다.</translation>
+        <translation>예기치 않은 인수 &quot;%1&quot;입니다.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no good value for --%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;은(는) --%2에 사용할 수 없는 값입니다.</translation>
     </message>
 </context>
 <context>

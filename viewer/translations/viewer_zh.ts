@@ -86,22 +86,6 @@
         <translation>显示相机，并允许插件使用相机。</translation>
     </message>
     <message>
-        <source>Simulate the cameras described in &lt;file&gt;.</source>
-        <translation>模拟 &lt;文件&gt; 中描述的相机。</translation>
-    </message>
-    <message>
-        <source>file</source>
-        <translation>文件</translation>
-    </message>
-    <message>
-        <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
-        <translation>清除以往更新写入模拟相机的固件。</translation>
-    </message>
-    <message>
-        <source>n</source>
-        <translation>n</translation>
-    </message>
-    <message>
         <source>Look for plug-ins in &lt;dir&gt;, too; can be given several times.</source>
         <translation>同时在 &lt;文件夹&gt; 中查找插件；可多次指定。</translation>
     </message>
@@ -114,42 +98,6 @@
         <translation>代码</translation>
     </message>
     <message>
-        <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation>意外的参数“%1”。</translation>
-    </message>
-    <message>
-        <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
-        <translation>速度“%1”不是 0.01 到 10000 之间的数字。</translation>
-    </message>
-    <message>
-        <source>Leave out the simulated cameras.</source>
-        <translation>不使用模拟相机。</translation>
-    </message>
-    <message>
-        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
-        <translation>不使用广播，查找位于 &lt;地址&gt; 的相机；可多次指定。</translation>
-    </message>
-    <message>
-        <source>address</source>
-        <translation>地址</translation>
-    </message>
-    <message>
-        <source>Show this help and quit.</source>
-        <translation>显示此帮助并退出。</translation>
-    </message>
-    <message>
-        <source>Show the version and quit.</source>
-        <translation>显示版本并退出。</translation>
-    </message>
-    <message>
-        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
-        <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（默认为 1，使用 --demo 时为 %1）。</translation>
-    </message>
-    <message>
-        <source>Search the network (by broadcast) and USB for cameras this time.</source>
-        <translation>本次运行时搜索网络（通过广播）和 USB 上的相机。</translation>
-    </message>
-    <message>
         <source>Use &lt;dir&gt; as the folder of sample update files.</source>
         <translation>将 &lt;文件夹&gt; 用作示例更新文件的文件夹。</translation>
     </message>
@@ -160,14 +108,6 @@
     <message>
         <source>No folder is given for the demonstration&apos;s pictures.</source>
         <translation>未指定保存演示截图的文件夹。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
-        <translation>“%1”不是相机地址，其格式应为 192.168.0.10。</translation>
-    </message>
-    <message>
-        <source>This viewer was built without the library for real cameras.</source>
-        <translation>此查看器在构建时未包含真实相机所需的库。</translation>
     </message>
     <message>
         <source>No folder is given for the plug-ins.</source>
@@ -316,10 +256,6 @@
         <translation>视图(&amp;V)</translation>
     </message>
     <message>
-        <source>&amp;Simulation</source>
-        <translation>模拟(&amp;S)</translation>
-    </message>
-    <message>
         <source>&amp;Tools</source>
         <translation>工具(&amp;T)</translation>
     </message>
@@ -377,17 +313,6 @@
     <message>
         <source>Not available</source>
         <translation>不可用</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::AppCore::CSimulationMenu</name>
-    <message>
-        <source>&amp;Plugged in</source>
-        <translation>已连接(&amp;P)</translation>
-    </message>
-    <message>
-        <source>In &amp;use elsewhere</source>
-        <translation>被其他程序占用(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -466,10 +391,6 @@
         <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;显示相机，并允许插件使用相机。&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Search the &amp;network for cameras</source>
-        <translation>在网络中搜索相机(&amp;N)</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>搜索相机 (F5)</translation>
     </message>
@@ -480,6 +401,79 @@
     <message>
         <source>%1 Then the viewer closes by itself.</source>
         <translation>%1 之后查看器将自动关闭。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::GenICam</name>
+    <message>
+        <source>This viewer was built without the library for real cameras.</source>
+        <translation>此查看器在构建时未包含真实相机所需的库。</translation>
+    </message>
+    <message>
+        <source>Search the network (by broadcast) and USB for cameras this time.</source>
+        <translation>本次运行时搜索网络（通过广播）和 USB 上的相机。</translation>
+    </message>
+    <message>
+        <source>address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Ask for a camera at &lt;address&gt;, without a broadcast; can be given several times.</source>
+        <translation>不使用广播，查找位于 &lt;地址&gt; 的相机；可多次指定。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a camera address; it has the form 192.168.0.10.</source>
+        <translation>“%1”不是相机地址，其格式应为 192.168.0.10。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::GenICam::CGenICam</name>
+    <message>
+        <source>Search the &amp;network for cameras</source>
+        <translation>在网络中搜索相机(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Camera::Simulation::CSimulation</name>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Simulate the cameras described in &lt;file&gt;.</source>
+        <translation>模拟 &lt;文件&gt; 中描述的相机。</translation>
+    </message>
+    <message>
+        <source>Forget the firmware that earlier updates wrote to the simulated cameras.</source>
+        <translation>清除以往更新写入模拟相机的固件。</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation>n</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
+        <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（默认为 1，使用 --demo 时为 %1）。</translation>
+    </message>
+    <message>
+        <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
+        <translation>速度“%1”不是 0.01 到 10000 之间的数字。</translation>
+    </message>
+    <message>
+        <source>Leave out the simulated cameras.</source>
+        <translation>不使用模拟相机。</translation>
+    </message>
+    <message>
+        <source>&amp;Simulation</source>
+        <translation>模拟(&amp;S)</translation>
+    </message>
+    <message>
+        <source>&amp;Plugged in</source>
+        <translation>已连接(&amp;P)</translation>
+    </message>
+    <message>
+        <source>In &amp;use elsewhere</source>
+        <translation>被其他程序占用(&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -610,19 +604,19 @@ Firmware: %5</source>
     <name>Viewer::CommandLine::COptionReader</name>
     <message>
         <source>Show this help and quit.</source>
-        <translation type="unfinished">显示此帮助并退出。</translation>
+        <translation>显示此帮助并退出。</translation>
     </message>
     <message>
         <source>Show the version and quit.</source>
-        <translation type="unfinished">显示版本并退出。</translation>
+        <translation>显示版本并退出。</translation>
     </message>
     <message>
         <source>Unexpected argument &quot;%1&quot;.</source>
-        <translation type="unfinished">意外的参数“%1”。</translation>
+        <translation>意外的参数“%1”。</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no good value for --%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”不是 --%2 的有效值。</translation>
     </message>
 </context>
 <context>

@@ -1,10 +1,10 @@
-#include "viewer/camera/simulation/simulation.h"
 #include "viewer/camerapool/cameraenumerationservice.h"
 #include "viewer/camerapool/camerainfo.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/update/firmwareupdateinfo.h"
 
 #include "jobrecorder.h"
+#include "support/camerakinds.h"
 #include "updatefixture.h"
 
 #include "camerapool/icamerastatusservice.h"
@@ -26,7 +26,6 @@ using namespace Viewer::Update;
 using namespace Viewer::UpdateFile;
 using namespace Test;
 using namespace Plugin::CameraPool;
-using Viewer::Camera::Simulation::CSimulation;
 
 class CCameraPoolTest;
 Q_DECLARE_METATYPE(std::function<void(CCameraPoolTest &)>)
@@ -63,11 +62,7 @@ private:
     template <typename TService>
     [[nodiscard]] QSharedPointer<TService> getService() const
     {
-        for (const auto &service : m_pool->getServices()) {
-            if (const auto found = service.template dynamicCast<TService>())
-                return found;
-        }
-        return {};
+        return m_pool->getService<TService>();
     }
 
     QScopedPointer<QTemporaryDir> m_folder;
@@ -79,10 +74,8 @@ void CCameraPoolTest::createPool(double speedFactor)
 {
     m_announced.reset();
     m_pool.reset();
-    CCameraPoolOptions options;
-    options.stateFile = m_folder->filePath("firmware.json");
-    options.speedFactor = speedFactor;
-    m_pool = std::make_unique<CCameraPool>(options);
+    m_pool = std::make_unique<CCameraPool>(
+        TestSupport::makeCameraKinds({"--speed", QString::number(speedFactor)}, m_folder->path()));
     m_announced = std::make_unique<QSignalSpy>(getService<ICameraEnumerationService>().data(),
                                                &ICameraEnumerationService::enumerationChanged);
     m_pool->start();
@@ -100,33 +93,34 @@ DeviceFirmwareUpdatePtr CCameraPoolTest::createJob(const QString &cameraId, int 
 
 void CCameraPoolTest::startsAndStopsCameras()
 {
-    CSimulation &simulation = m_pool->getSimulation();
+    const auto set
+        = [this](const QString &id, bool on) { QVERIFY(TestSupport::setSwitch(*m_pool, id, on)); };
     const auto verifyRefused = [this](const char *cause) {
         QString error;
         QVERIFY(!m_pool->startAcquisition(FirstId, &error));
         QVERIFY(!m_pool->startRecording(FirstId, m_folder->path(), &error));
         QVERIFY2(error.contains(cause), qPrintable(error));
     };
-    simulation.setBusy(FirstId, true);
+    set("busy:" + FirstId, true);
     verifyRefused("in use by another application");
-    simulation.setBusy(FirstId, false);
+    set("busy:" + FirstId, false);
 
     QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
     QVERIFY(m_pool->startAcquisition(FirstId));
-    simulation.unplug(FirstId);
+    set("plugged:" + FirstId, false);
     QTRY_COMPARE(m_announced->count(), 2);
     QVERIFY(!find(FirstId));
     QCOMPARE(failed.count(), 1);
     QCOMPARE(m_pool->getActivity(FirstId), ECameraActivity::Idle);
     verifyRefused("does not answer");
-    simulation.plugIn(FirstId);
+    set("plugged:" + FirstId, true);
     QTRY_COMPARE(m_announced->count(), 3);
 
     const auto status = getService<ICameraStatusService>();
     const QStringList ids{FirstId, SecondId, "cxp-50300021"};
     QVERIFY(m_pool->startAcquisition(FirstId));
     QVERIFY(m_pool->startRecording(SecondId, m_folder->path()));
-    simulation.setBusy(ids.last(), true);
+    set("busy:" + ids.last(), true);
     for (const QString &id : ids)
         QVERIFY(status->isCameraBusy(find(id)));
     getService<ICameraStreamControlService>()->stopAllCameras();
@@ -145,7 +139,7 @@ void CCameraPoolTest::whatIsStoppedMakesNoPictures_data()
     add("recording stopped", true, [](auto &test) { test.m_pool->stopRecording(FirstId); });
     add("acquisition stopped", false, [](auto &test) { test.m_pool->stopAcquisition(FirstId); });
     add("unplugged", false, [](auto &test) {
-        test.m_pool->getSimulation().unplug(FirstId);
+        TestSupport::setSwitch(*test.m_pool, "plugged:" + FirstId, false);
         QTRY_COMPARE(test.m_announced->count(), 2);
     });
     add("before an update", false, [](auto &test) {
@@ -219,7 +213,7 @@ void CCameraPoolTest::unpluggingEndsAnUpdate()
     // Told long before the end of the upload.
     const bool progressed
         = QTest::qWaitFor([&] { return !recorder.getAll("progress").isEmpty(); }, 20'000);
-    m_pool->getSimulation().unplug(FirstId);
+    QVERIFY(TestSupport::setSwitch(*m_pool, "plugged:" + FirstId, false));
     thread.join();
     QVERIFY(progressed);
     QVERIFY2(recorder.getError().contains("connection was lost"), qPrintable(recorder.getError()));

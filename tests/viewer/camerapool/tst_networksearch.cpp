@@ -1,8 +1,8 @@
 // Before anything of Qt, whose keyword "signals" is a name in GLib.
 #include <arv.h>
 
+#include "support/vieweroptions.h"
 #include "support/virtualcameraprocess.h"
-#include "viewer/appcore/commandline.h"
 #include "viewer/camera/genicam/genicam.h"
 #include "viewer/camera/icameradevice.h"
 #include "viewer/camerapool/camerapool.h"
@@ -18,6 +18,7 @@
 using TestSupport::CVirtualCameraProcess;
 using Viewer::Camera::CCameraSnapshot;
 using Viewer::Camera::GenICam::CGenICam;
+using Viewer::Camera::GenICam::CSearchOptions;
 
 /// Searches by broadcast, which are only made where nobody but this machine's own cameras can hear
 /// them.
@@ -71,12 +72,8 @@ void CNetworkSearchTest::listsWhatTheCommandLineAsksFor()
         SKIP_IF_OTHERS_HEAR_IT();
     const CVirtualCameraProcess first(CVirtualCameraProcess::getOwnAddress(1), {"--serial", "1"});
     const CVirtualCameraProcess second(CVirtualCameraProcess::getOwnAddress(2), {"--serial", "2"});
-    Viewer::AppCore::CCommandLine commandLine;
-    QCOMPARE(commandLine.parse(QStringList("viewer") + arguments),
-             Viewer::AppCore::CCommandLine::EResult::Start);
-    Viewer::CameraPool::CCameraPool pool(commandLine.getOptions().pool);
-    const auto enumeration
-        = pool.getServices().first().dynamicCast<Plugin::CameraPool::ICameraEnumerationService>();
+    Viewer::CameraPool::CCameraPool pool(TestSupport::readOptions(arguments).kinds);
+    const auto enumeration = pool.getService<Plugin::CameraPool::ICameraEnumerationService>();
     QSignalSpy spy(enumeration.data(),
                    &Plugin::CameraPool::ICameraEnumerationService::enumerationChanged);
     pool.start();
@@ -104,10 +101,10 @@ void CNetworkSearchTest::findsCamerasByBroadcast()
     CVirtualCameraProcess first(CVirtualCameraProcess::getOwnAddress(1), {"--serial", "1"});
     CVirtualCameraProcess second(CVirtualCameraProcess::getOwnAddress(2),
                                  {"--serial", "2", "--firmware", "1.5.0"});
-    CGenICam cameras({CVirtualCameraProcess::getOwnAddress(2)}, false);
+    CGenICam cameras(CSearchOptions{{CVirtualCameraProcess::getOwnAddress(2)}});
     QCOMPARE(cameras.enumerate().value(0).cameras.size(), 1);
 
-    cameras.setSearchesNetwork(true);
+    cameras.getSwitches().first().set(true);
     const auto layers = cameras.enumerate();
     QCOMPARE(layers.size(), 2);
     QMap<QString, QString> versions;

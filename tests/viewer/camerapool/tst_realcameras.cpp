@@ -1,4 +1,5 @@
 #include "jobrecorder.h"
+#include "support/camerakinds.h"
 #include "support/virtualcameraprocess.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/genicam/genicam.h"
@@ -20,6 +21,7 @@ using TestSupport::CVirtualCameraProcess;
 using Viewer::Camera::CCameraError;
 using Viewer::Camera::ICameraDevice;
 using Viewer::Camera::GenICam::CGenICam;
+using Viewer::Camera::GenICam::CSearchOptions;
 using Viewer::CameraPool::CCameraPool;
 
 using Operation = std::function<void(ICameraDevice &)>;
@@ -81,12 +83,7 @@ void CRealCamerasTest::init()
 template <typename Service>
 QSharedPointer<Service> CRealCamerasTest::getService() const
 {
-    const auto services = m_pool->getServices();
-    for (const auto &service : services) {
-        if (const auto match = service.dynamicCast<Service>())
-            return match;
-    }
-    return {};
+    return m_pool->getService<Service>();
 }
 
 CVirtualCameraProcess &CRealCamerasTest::startCamera(const QStringList &arguments)
@@ -99,10 +96,10 @@ CVirtualCameraProcess &CRealCamerasTest::startCamera(const QStringList &argument
 
 QVector<CameraInfoPtr> CRealCamerasTest::openPool()
 {
-    Viewer::CameraPool::CCameraPoolOptions options;
-    options.simulates = false;
-    options.cameraAddresses = m_addresses;
-    m_pool = std::make_unique<CCameraPool>(options);
+    QStringList arguments("--no-simulation");
+    for (const QHostAddress &address : qAsConst(m_addresses))
+        arguments << "--camera-address" << address.toString();
+    m_pool = std::make_unique<CCameraPool>(TestSupport::makeCameraKinds(arguments));
     const auto enumeration = getService<ICameraEnumerationService>();
     QSignalSpy spy(enumeration.data(), &ICameraEnumerationService::enumerationChanged);
     m_pool->start();
@@ -113,7 +110,7 @@ QVector<CameraInfoPtr> CRealCamerasTest::openPool()
 
 std::unique_ptr<ICameraDevice> CRealCamerasTest::makeDevice()
 {
-    m_others = std::make_unique<CGenICam>(m_addresses, false);
+    m_others = std::make_unique<CGenICam>(CSearchOptions{m_addresses});
     const auto layers = m_others->enumerate();
     return m_others->createDevice(layers.value(0).cameras.value(0).id);
 }
@@ -286,7 +283,7 @@ void CRealCamerasTest::endsEachOperation_data()
 
     const QString gone = "it did not come back from its reset; switch it off";
     const auto resetRow = [&](const char *name, const QStringList &arguments) {
-        row(name, arguments + QStringList{"--reset-ms", "100"}, reset, qPrintable(gone), true);
+        row(name, arguments + QStringList{"--reset-ms", "500"}, reset, qPrintable(gone), true);
     };
     row("reset refused", {"--refuse", "DeviceReset"}, reset, "DeviceReset.*it refused", false);
     row("reset ignored", {"--ignore-reset"}, reset, "it did not restart; switch it off", true);
@@ -356,7 +353,7 @@ void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
     const QByteArray end = QByteArray::number(m_addresses[1].toIPv4Address(), 16).toUpper();
     QCOMPARE(snapshot.macAddress.remove(':'), "0200" + end);
     QCOMPARE(update(found[0]), "no update fits");
-    m_others = std::make_unique<CGenICam>(m_addresses, false);
+    m_others = std::make_unique<CGenICam>(CSearchOptions{m_addresses});
     QCOMPARE(m_others->enumerate().value(0).cameras.size(), 3);
     QVERIFY(tryToOpen(found[1]->getId()).contains("another camera has the same vendor, model and"));
 }
@@ -364,7 +361,7 @@ void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
 void CRealCamerasTest::refusesAnotherCameraAtTheAddress()
 {
     startCamera({"--serial", "1"});
-    m_others = std::make_unique<CGenICam>(m_addresses, false);
+    m_others = std::make_unique<CGenICam>(CSearchOptions{m_addresses});
     const QString id = m_others->enumerate().value(0).cameras.value(0).id;
     m_cameras.clear();
     QVERIFY(tryToOpen(id).contains("it did not answer; check its cable"));
@@ -414,7 +411,7 @@ void CRealCamerasTest::takesSoundAnswersOnly()
             socket.writeDatagram(answer, request.senderAddress(), request.senderPort());
     });
     ready.get_future().wait();
-    const auto layers = CGenICam(m_addresses, false).enumerate();
+    const auto layers = CGenICam(CSearchOptions{m_addresses}).enumerate();
     camera.join();
     QCOMPARE(layers.value(0).cameras.size(), 1);
     const QString id = layers[0].cameras[0].id;
