@@ -11,8 +11,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-using namespace AccessibleReader;
-using namespace WizardPages;
+using namespace TestSupport;
 using Plugin::CameraPool::ICameraEnumerationService;
 
 /// The viewer with its plug-in in the hands of somebody who sees no screen and has no mouse: what

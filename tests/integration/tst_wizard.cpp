@@ -16,7 +16,7 @@
 #include <QTreeView>
 #include <QtTest>
 
-using namespace WizardPages;
+using namespace TestSupport;
 using TestSupport::click;
 using TestSupport::getText;
 

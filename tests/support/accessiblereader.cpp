@@ -28,10 +28,10 @@ void QAccessible::updateAccessibility(QAccessibleEvent *event)
                                            {DescriptionChanged, "description "},
                                            {ValueChanged, "value "}};
     if (kinds.contains(event->type()))
-        announcements.append(kinds.value(event->type()) + AccessibleReader::describe(accessible));
+        announcements.append(kinds.value(event->type()) + TestSupport::describe(accessible));
 }
 
-namespace AccessibleReader {
+namespace TestSupport {
 
 QString describe(const QAccessibleInterface *accessible)
 {
@@ -76,4 +76,4 @@ QStringList takeAnnouncements()
     return std::exchange(announcements, {});
 }
 
-} // namespace AccessibleReader
+} // namespace TestSupport

@@ -5,7 +5,7 @@
 #include <QWidget>
 
 /// Reads windows as a screen reader does. For Qt one runs in each program that this is linked to.
-namespace AccessibleReader {
+namespace TestSupport {
 
 /// Name, state and description: "Line 1 [x] (VX-1400M, GigE)", with [x], [-] and [ ] for ticked,
 /// partly ticked and not ticked, and "off" for what is not available.
@@ -20,4 +20,4 @@ namespace AccessibleReader {
 /// What has been announced since this was last asked, each as its kind and what describe() says.
 [[nodiscard]] QStringList takeAnnouncements();
 
-} // namespace AccessibleReader
+} // namespace TestSupport

@@ -10,7 +10,7 @@
 #include <QJsonObject>
 
 /// What tests of the whole wizard share: cameras for it, and its pages.
-namespace WizardPages {
+namespace TestSupport {
 
 /// Describes the simulated cameras "Line 1" to "Line 3" of the model VX-1400M in a file in
 /// @p folder. The upload to camera number @p faulty breaks off.
@@ -62,4 +62,4 @@ inline QDialog *waitForPage(const char *title)
     return page;
 }
 
-} // namespace WizardPages
+} // namespace TestSupport

@@ -25,7 +25,7 @@
 #include <QMessageBox>
 #include <QtTest>
 
-using namespace ViewFixture;
+using namespace TestSupport;
 namespace View = Plugin::FirmwareUpdater::Internal::View;
 using Viewer::Text::CLanguage;
 

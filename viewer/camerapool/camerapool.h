@@ -1,8 +1,8 @@
 #pragma once
 
-#include "viewer/camera/icamerakind.h"
 #include "viewer/camera/camerasnapshot.h"
 #include "viewer/camera/ecameraactivity.h"
+#include "viewer/camera/icamerakind.h"
 
 #include "core/iservice.h"
 

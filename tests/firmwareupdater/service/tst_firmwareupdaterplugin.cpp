@@ -279,7 +279,7 @@ CFirmwareUpdaterPluginTest::goTo(int step,
 
     getToolsEntry()->trigger();
     const auto waitForPage = [](int number) {
-        return WizardPages::waitForPage(qPrintable(QString("Step %1").arg(number)));
+        return TestSupport::waitForPage(qPrintable(QString("Step %1").arg(number)));
     };
     for (int current = 1; current < std::min(step, 4); ++current) {
         QDialog *const page = waitForPage(current);

@@ -14,7 +14,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-using namespace ViewFixture;
+using namespace TestSupport;
 using namespace Plugin::FirmwareUpdater;
 using namespace Internal::View;
 
@@ -336,9 +336,9 @@ void CCameraTreeTest::rowsTellTheirState()
 {
     const QString rows = "Layer l|A %1 (Layer l)|Camera a1 %2 (A, Layer l)|"
                          "Camera a2 %3 (A, Layer l)|B %4 (Layer l)|Camera b1 %4 (B, Layer l)";
-    const auto read = [this] { return AccessibleReader::readRows(m_tree).join('|'); };
+    const auto read = [this] { return TestSupport::readRows(m_tree).join('|'); };
     QCOMPARE(read(), rows.arg("[ ]", "[ ]", "[ ]", "[ ]"));
-    (void)AccessibleReader::takeAnnouncements();
+    (void)TestSupport::takeAnnouncements();
     click("Camera a1", 8);
     QCOMPARE(read(), rows.arg("[-]", "[x]", "[ ]", "[ ] off"));
     QAccessibleInterface *const cell
@@ -346,12 +346,12 @@ void CCameraTreeTest::rowsTellTheirState()
     const QAccessible::Id id = QAccessible::uniqueId(cell);
     cell->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     QCOMPARE(read(), rows.arg("[x]", "[x]", "[x]", "[ ] off"));
-    const QStringList told = AccessibleReader::takeAnnouncements();
+    const QStringList told = TestSupport::takeAnnouncements();
     for (const char *row : {"A [-] (Layer l)", "A [x] (Layer l)", "Camera a1 [x] (A, Layer l)",
                             "Camera b1 [ ] off (B, Layer l)"})
         QCOMPARE(told.count(QString("state ") + row), 1);
     // The live box on top of a row has the row's name.
-    QVERIFY(AccessibleReader::findNameless(*m_dialog).isEmpty());
+    QVERIFY(TestSupport::findNameless(*m_dialog).isEmpty());
     // A rebuild leaves no cell of the old tree.
     rebuild({{"z1", "Z"}});
     QVERIFY(!QAccessible::accessibleInterface(id));
@@ -363,11 +363,11 @@ void CCameraTreeTest::cellsAreNumberedAsInEvents()
     m_summary->show();
     QVERIFY(QTest::qWaitForWindowActive(m_summary.get()));
     QAccessibleInterface *const tree = QAccessible::queryAccessibleInterface(getTree(*m_summary));
-    (void)AccessibleReader::takeAnnouncements();
+    (void)TestSupport::takeAnnouncements();
     // The view itself announces the current cell by its number.
     QTest::keyClick(getTree(*m_summary), Qt::Key_Down);
-    QCOMPARE(AccessibleReader::takeAnnouncements().constFirst(),
-             "focus " + AccessibleReader::describe(tree->tableInterface()->cellAt(1, 0)));
+    QCOMPARE(TestSupport::takeAnnouncements().constFirst(),
+             "focus " + TestSupport::describe(tree->tableInterface()->cellAt(1, 0)));
     QCOMPARE(tree->childCount(), 3 * 8);
     for (int i = 0; i < tree->childCount(); ++i) {
         QAccessibleInterface *const child = tree->child(i);

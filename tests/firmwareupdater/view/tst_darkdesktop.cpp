@@ -7,7 +7,7 @@
 
 #include <cmath>
 
-using namespace ViewFixture;
+using namespace TestSupport;
 using namespace Plugin::FirmwareUpdater::Internal::View;
 
 /// The wizard's pages where the application's colors are dark: they stay white, and everything on

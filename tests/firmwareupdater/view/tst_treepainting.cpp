@@ -12,7 +12,7 @@
 #include <QStyleOptionHeader>
 #include <QtTest>
 
-using namespace ViewFixture;
+using namespace TestSupport;
 using namespace Plugin::FirmwareUpdater;
 using namespace Internal::View;
 using Cell = QStyleOptionViewItem;

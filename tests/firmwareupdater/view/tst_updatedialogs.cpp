@@ -12,7 +12,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-using namespace ViewFixture;
+using namespace TestSupport;
 using namespace Plugin::FirmwareUpdater::Internal::View;
 using TestSupport::CUpdaterFixture;
 
@@ -172,12 +172,12 @@ void CUpdateDialogsTest::controlsHaveNames()
         const auto widgets = dialog->findChildren<QWidget *>();
         for (QWidget *const widget : widgets)
             widget->setVisible(widget->objectName() != "updateNotesTextLabel");
-        QCOMPARE(AccessibleReader::findNameless(*dialog), {});
-        QCOMPARE(AccessibleReader::describe(QAccessible::queryAccessibleInterface(dialog)),
+        QCOMPARE(TestSupport::findNameless(*dialog), {});
+        QCOMPARE(TestSupport::describe(QAccessible::queryAccessibleInterface(dialog)),
                  QString("Firmware Updater (%1)").arg(getText(*dialog, "stepTitleLabel")));
     }
     m_dialogs->update.updateOverallProgress(2, 3);
-    QVERIFY(AccessibleReader::takeAnnouncements().contains("name Camera 2 of 3"));
+    QVERIFY(TestSupport::takeAnnouncements().contains("name Camera 2 of 3"));
 }
 
 QString CUpdateDialogsTest::walk(QDialog &dialog, Qt::Key key)

@@ -11,7 +11,7 @@
 #include <QTreeView>
 
 /// What the tests of the wizard's views share: models to show, and ways to find things.
-namespace ViewFixture {
+namespace TestSupport {
 
 using TestSupport::find;
 using TestSupport::getButton;
@@ -133,4 +133,4 @@ inline bool shows(const QImage &image, const QImage &icon)
     return false;
 }
 
-} // namespace ViewFixture
+} // namespace TestSupport

@@ -3,9 +3,9 @@
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/update/firmwareupdateinfo.h"
 
-#include "jobrecorder.h"
 #include "support/camerakinds.h"
-#include "updatefixture.h"
+#include "tests/viewer/update/jobrecorder.h"
+#include "tests/viewer/update/updatefixture.h"
 
 #include "camerapool/icamerastatusservice.h"
 #include "camerapool/icamerastreamcontrolservice.h"
@@ -24,7 +24,7 @@ using namespace Viewer::Camera;
 using namespace Viewer::CameraPool;
 using namespace Viewer::Update;
 using namespace Viewer::UpdateFile;
-using namespace Test;
+using namespace TestSupport;
 using namespace Plugin::CameraPool;
 
 class CCameraPoolTest;

@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-using Test::writeFile;
+using TestSupport::writeFile;
 
 /// Runs the built program in a folder of its own.
 class CGufToolTest : public QObject
@@ -26,7 +26,8 @@ private:
 };
 
 static const QByteArray PAYLOAD = QByteArray(100000, 'p'); // more than is read at a time
-static const QByteArray MANIFEST = Test::makeManifest(QStringLiteral("images/a.img"), PAYLOAD);
+static const QByteArray MANIFEST
+    = TestSupport::makeManifest(QStringLiteral("images/a.img"), PAYLOAD);
 
 /// A manifest that leaves out what can be filled in.
 static QByteArray getSource()

@@ -20,7 +20,7 @@ void CManifestParserTest::tellsFaults_data()
     QTest::addColumn<QByteArray>("json");
     QTest::addColumn<QString>("fault");
 
-    const QString manifest = Test::makeManifest("fw/image.bin", QByteArray("firmware"));
+    const QString manifest = TestSupport::makeManifest("fw/image.bin", QByteArray("firmware"));
     static const QRegularExpression repetition("@(\\d+) x (.*?)@");
     QFile file(FAULTS_PATH);
     QVERIFY(file.open(QIODevice::ReadOnly));

@@ -11,7 +11,7 @@
 #include <thread>
 
 using namespace Viewer::UpdateFile;
-using namespace Test;
+using namespace TestSupport;
 
 /// Looks at the reader, at the archive that it reads from and at the cache before it.
 class CUpdateFileReaderTest : public QObject

@@ -7,7 +7,7 @@
 
 #include <zip.h>
 
-namespace Test {
+namespace TestSupport {
 
 static void require(bool condition, const char *what)
 {
@@ -81,4 +81,4 @@ void writeFile(const QString &path, const QByteArray &bytes)
     require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(), "write");
 }
 
-} // namespace Test
+} // namespace TestSupport

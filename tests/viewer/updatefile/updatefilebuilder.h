@@ -4,7 +4,7 @@
 #include <QString>
 #include <QVector>
 
-namespace Test {
+namespace TestSupport {
 
 enum class EPacking { Stored, Deflated, Encrypted };
 
@@ -37,4 +37,4 @@ QByteArray patch(const QByteArray &archive, quint32 before, quint32 after);
 /// Writes @p bytes into a file, over what is there.
 void writeFile(const QString &path, const QByteArray &bytes);
 
-} // namespace Test
+} // namespace TestSupport

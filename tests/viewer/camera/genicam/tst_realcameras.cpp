@@ -1,6 +1,6 @@
-#include "jobrecorder.h"
 #include "support/camerakinds.h"
 #include "support/virtualcameraprocess.h"
+#include "tests/viewer/update/jobrecorder.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/genicam/genicam.h"
 #include "viewer/camera/icameradevice.h"
@@ -142,7 +142,7 @@ QString CRealCamerasTest::update(const CameraInfoPtr &camera)
     if (fitting.isEmpty())
         return "no update fits";
     const auto job = updates->createDeviceFirmwareUpdate(camera, fitting.first());
-    const Test::CJobRecorder recorder(*job);
+    const TestSupport::CJobRecorder recorder(*job);
     QSignalSpy done(m_pool.get(), &CCameraPool::updateRunningChanged);
 
     QElapsedTimer lastTurn;

@@ -5,7 +5,7 @@
 #include <QCryptographicHash>
 #include <QStringList>
 
-namespace Test {
+namespace TestSupport {
 
 /// Writes an update file for the model "VX-1400M" with one entry for each of @p versions. Each has
 /// every kind of step, all but the upload with an estimate (63 ms together), and a payload
@@ -40,4 +40,4 @@ inline void writeUpdateFile(const QString &path, const QStringList &versions, in
     writeFile(path, makeArchive(files));
 }
 
-} // namespace Test
+} // namespace TestSupport

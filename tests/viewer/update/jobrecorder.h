@@ -9,7 +9,7 @@
 #include <mutex>
 #include <thread>
 
-namespace Test {
+namespace TestSupport {
 
 /// Writes down the signals of one update job in the order of their emission, on the emitting
 /// thread: "begin 7000", "step FileUpload 400 text", "progress FileUpload 12", "stepDone FileUpload
@@ -89,4 +89,4 @@ inline void executeOnThread(Plugin::CameraPool::IDeviceFirmwareUpdate &job)
     std::thread([&job] { job.executeFirmwareUpdate(); }).join();
 }
 
-} // namespace Test
+} // namespace TestSupport

@@ -25,7 +25,7 @@
 using namespace Viewer::Camera;
 using namespace Viewer::Update;
 using namespace Viewer::UpdateFile;
-using namespace Test;
+using namespace TestSupport;
 using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 
