@@ -61,7 +61,9 @@ QJsonObject toJsonObject(const CUpdateStep &step)
         object.insert(QStringLiteral("sha256"), QString::fromLatin1(step.payload.sha256.toHex()));
         object.insert(QStringLiteral("targetFile"), step.targetFile);
         break;
-    default:
+    case EFirmwareUpdateStep::AcquireUpdateData:
+    case EFirmwareUpdateStep::DeviceReset:
+    case EFirmwareUpdateStep::Invalid:
         break;
     }
     return object;
@@ -162,9 +164,12 @@ QString CManifestPrinter::describeStep(const CUpdateStep &step)
     case EFirmwareUpdateStep::FileUpload:
         return tr("%1 (%2 bytes) to %3")
             .arg(step.payload.name, QString::number(step.payload.size), step.targetFile);
-    default:
-        return QString();
+    case EFirmwareUpdateStep::AcquireUpdateData:
+    case EFirmwareUpdateStep::DeviceReset:
+    case EFirmwareUpdateStep::Invalid:
+        break;
     }
+    return QString();
 }
 
 QString CManifestPrinter::toJson() const

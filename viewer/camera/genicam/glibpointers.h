@@ -1,10 +1,8 @@
 #pragma once
 
-// Before anything of Qt, whose keyword "signals" is a name in GLib.
-#include <arv.h>
-
 #include <QString>
 
+#include <arv.h>
 #include <memory>
 
 namespace Viewer::Camera::GenICam {

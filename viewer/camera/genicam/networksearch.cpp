@@ -1,6 +1,6 @@
-#include "glibpointers.h"
-
 #include "networksearch.h"
+
+#include "glibpointers.h"
 #include "unicastdiscovery.h"
 
 #include "viewer/text/visibletext.h"
