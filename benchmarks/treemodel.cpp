@@ -35,8 +35,8 @@ using Entity = CUpdaterFixture::Entity;
 using Model = CUpdaterFixture::Model;
 using Layers = QVector<Plugin::CameraPool::TransportLayerInfoPtr>;
 
-static constexpr int IdRole = Qt::UserRole + 1;
-static constexpr int VersionRole = Qt::UserRole + 2;
+static constexpr int ID_ROLE = Qt::UserRole + 1;
+static constexpr int VERSION_ROLE = Qt::UserRole + 2;
 
 static void check(bool isAsExpected, const char *text)
 {
@@ -64,9 +64,9 @@ static Layers makeLayers(int cameraCount, int layerCount = 1)
 static QStandardItem *makeItem(const QString &text, const QString &id, const QString &version)
 {
     auto *const item = new QStandardItem(text);
-    item->setData(id, IdRole);
+    item->setData(id, ID_ROLE);
     item->setCheckState(Qt::Unchecked);
-    item->setData(version, VersionRole);
+    item->setData(version, VERSION_ROLE);
     return item;
 }
 

@@ -17,7 +17,7 @@
 
 using Viewer::UpdateFile::CUpdateFileCache;
 
-static constexpr int MebiByte = 1024 * 1024;
+static constexpr int MEBI_BYTE = 1024 * 1024;
 
 [[noreturn]] static void fail(const QString &text)
 {
@@ -48,16 +48,16 @@ static QByteArray makeIncompressible(int size)
 // them. Packs to about half its size.
 static QByteArray makeCompressible(int size)
 {
-    constexpr int wordSize = 12;
-    constexpr int wordCount = 4096;
-    const QByteArray store = makeIncompressible(wordCount * wordSize);
+    constexpr int WORD_SIZE = 12;
+    constexpr int WORD_COUNT = 4096;
+    const QByteArray store = makeIncompressible(WORD_COUNT * WORD_SIZE);
     QByteArray bytes;
-    bytes.reserve(size + wordSize + 4);
+    bytes.reserve(size + WORD_SIZE + 4);
     std::mt19937 random(2);
     std::geometric_distribution<int> pick(0.01);
     while (bytes.size() < size) {
-        const int word = std::min(pick(random), wordCount - 1);
-        bytes.append(store.constData() + word * wordSize, wordSize);
+        const int word = std::min(pick(random), WORD_COUNT - 1);
+        bytes.append(store.constData() + word * WORD_SIZE, WORD_SIZE);
         const auto number = static_cast<quint32>(random());
         bytes.append(reinterpret_cast<const char *>(&number), sizeof number);
     }
@@ -125,7 +125,7 @@ int main(int argc, char **argv)
     Benchmark::printHeader();
     for (const auto &payload : payloads) {
         const QTemporaryDir folder;
-        const QString path = pack(folder, payload.make(payload.size * MebiByte));
+        const QString path = pack(folder, payload.make(payload.size * MEBI_BYTE));
         QByteArray sha256;
         Benchmark::compare(
             qPrintable(QString("first look at a file, %1, ms").arg(payload.name)),

@@ -19,8 +19,8 @@ using TestSupport::CUpdaterFixture;
 
 namespace {
 
-constexpr int LineCount = 10000;
-constexpr unsigned int EstimateMs = 8000;
+constexpr int LINE_COUNT = 10000;
+constexpr unsigned int ESTIMATE_MS = 8000;
 
 /// Step 4 with its page on the screen, ready for a series.
 class CSeries
@@ -78,7 +78,7 @@ double writeBare(const QString &folder, const std::string &line)
     const std::string path = QFile::encodeName(folder + QStringLiteral("/bare")).toStdString();
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     const double ms = Benchmark::measureThreadMs([file, &line] {
-        for (int i = 0; i < LineCount; ++i)
+        for (int i = 0; i < LINE_COUNT; ++i)
             if (write(file, line.data(), line.size()) != static_cast<ssize_t>(line.size()))
                 qFatal("cannot write");
     });
@@ -94,7 +94,7 @@ void compareLogLines(const char *measure, const char *zone)
     const auto logLines = [&] {
         fixture.service->openTemporaryLogFile();
         return Benchmark::measureThreadMs([&] {
-            for (int i = 0; i < LineCount; ++i)
+            for (int i = 0; i < LINE_COUNT; ++i)
                 fixture.service->addTemporaryLogMessage(Core::Logging::ELogLevel::Info, message);
         });
     };
@@ -109,7 +109,7 @@ void compareProgress()
 {
     CSeries series;
     auto *const job = new CScriptedUpdate;
-    job->begin(EstimateMs).beginStep(EStep::FileUpload, EstimateMs).hold();
+    job->begin(ESTIMATE_MS).beginStep(EStep::FileUpload, ESTIMATE_MS).hold();
     series.enter(1, [job] { return job; });
     while (!job->isHeld())
         QCoreApplication::processEvents();
@@ -117,9 +117,9 @@ void compareProgress()
 
     const auto tellProgress = [&] {
         return Benchmark::measureThreadMs([&] {
-            for (int i = 0; i < LineCount; ++i) {
+            for (int i = 0; i < LINE_COUNT; ++i) {
                 series.step().onFirmwareUpdateProgressStepProgressChanged(EStep::FileUpload,
-                                                                          i * 100.0 / LineCount);
+                                                                          i * 100.0 / LINE_COUNT);
             }
         });
     };
@@ -140,10 +140,10 @@ double updateCameras(int cameraCount)
     return Benchmark::measureThreadMs([&] {
                series.enter(cameraCount, [] {
                    auto *const job = new CScriptedUpdate;
-                   job->begin(EstimateMs)
-                       .beginStep(EStep::FileUpload, EstimateMs)
+                   job->begin(ESTIMATE_MS)
+                       .beginStep(EStep::FileUpload, ESTIMATE_MS)
                        .progress(EStep::FileUpload, 50)
-                       .endStep(EStep::FileUpload, EstimateMs)
+                       .endStep(EStep::FileUpload, ESTIMATE_MS)
                        .done();
                    return job;
                });

@@ -27,9 +27,9 @@ using TestSupport::CVirtualCameraProcess;
 using Viewer::Camera::ICameraDevice;
 using Viewer::Camera::GenICam::CGenICam;
 
-static constexpr int ImageSize = 8 * 1024 * 1024;
-static constexpr int MemoryBlock = 512; // what the library puts into one command
-static constexpr double RoundTripMs = 0.2; // of a quiet network
+static constexpr int IMAGE_SIZE = 8 * 1024 * 1024;
+static constexpr int MEMORY_BLOCK = 512; // what the library puts into one command
+static constexpr double ROUND_TRIP_MS = 0.2; // of a quiet network
 
 [[noreturn]] static void fail(const char *text)
 {
@@ -102,7 +102,7 @@ private:
 
 static double megabytesPerSecond(qint64 nanoseconds)
 {
-    return ImageSize / 1e6 / (static_cast<double>(nanoseconds) / 1e9);
+    return IMAGE_SIZE / 1e6 / (static_cast<double>(nanoseconds) / 1e9);
 }
 
 static std::unique_ptr<ICameraDevice> openDevice(const QHostAddress &address)
@@ -142,9 +142,9 @@ static double runBareLoop(const QHostAddress &address, const QByteArray &image, 
     timer.start();
     for (int offset = 0; offset < image.size(); offset += bufferLength) {
         client.writeWord(MemoryMap::FILE_ACCESS_OFFSET, static_cast<quint32>(offset));
-        for (int i = 0; i < bufferLength; i += MemoryBlock)
+        for (int i = 0; i < bufferLength; i += MEMORY_BLOCK)
             client.write(MemoryMap::FILE_ACCESS_BUFFER + static_cast<quint32>(i),
-                         image.mid(offset + i, MemoryBlock));
+                         image.mid(offset + i, MEMORY_BLOCK));
         client.writeWord(MemoryMap::FILE_OPERATION_EXECUTE, 1);
         if (client.readWord(MemoryMap::FILE_OPERATION_RESULT) != static_cast<quint32>(bufferLength))
             fail("The virtual camera has not taken a block.");
@@ -166,7 +166,7 @@ static qint64 countCommands(CVirtualCameraProcess &camera)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QByteArray image(ImageSize, 'x');
+    const QByteArray image(IMAGE_SIZE, 'x');
 
     Benchmark::printHeader();
     int host = 0;
@@ -188,8 +188,8 @@ int main(int argc, char **argv)
         upload(address, image);
         const qint64 commands = countCommands(camera) - others;
         std::printf("  %.2f commands per block; %.1f s at a round trip of 0.2 ms\n",
-                    static_cast<double>(commands) / (ImageSize / bufferLength),
-                    static_cast<double>(commands) * RoundTripMs / 1000.0);
+                    static_cast<double>(commands) / (IMAGE_SIZE / bufferLength),
+                    static_cast<double>(commands) * ROUND_TRIP_MS / 1000.0);
     }
     return EXIT_SUCCESS;
 }

@@ -22,7 +22,7 @@
 using namespace Viewer;
 using Text::CLanguage;
 
-static constexpr int UsageError = 2;
+static constexpr int USAGE_ERROR = 2;
 
 static void printError(const QString &text)
 {
@@ -91,7 +91,7 @@ static std::optional<int> answerWithoutDisplay(int argc, char **argv)
         return EXIT_SUCCESS;
     case AppCore::CCommandLine::EResult::Error:
         printError(commandLine->getMessage());
-        return UsageError;
+        return USAGE_ERROR;
     case AppCore::CCommandLine::EResult::Start:
         break;
     }
@@ -157,9 +157,9 @@ int main(int argc, char **argv)
     const QString fault = AppCore::CStartGuard::findFault(argc, argv);
     if (!fault.isEmpty()) {
         printError(fault);
-        return UsageError;
+        return USAGE_ERROR;
     }
-    std::optional<AppCore::CStartGuard> startGuard(std::in_place, argc, argv, UsageError);
+    std::optional<AppCore::CStartGuard> startGuard(std::in_place, argc, argv, USAGE_ERROR);
     const QApplication application(argc, argv);
     startGuard.reset();
     if (!QGuiApplication::primaryScreen()) {
@@ -172,7 +172,7 @@ int main(int argc, char **argv)
     std::unique_ptr<AppCore::CCommandLine> commandLine;
     if (readCommandLine(commandLine, language) != AppCore::CCommandLine::EResult::Start) {
         printError(commandLine->getMessage());
-        return UsageError;
+        return USAGE_ERROR;
     }
     const QString languageCode = CLanguage::choose(commandLine->getLanguage());
     AppCore::CCommandLineOptions options = commandLine->takeOptions();

@@ -12,8 +12,8 @@ namespace VirtualCamera {
 using Gvcp::EStatus;
 
 // Values of FileOperationStatus.
-static constexpr quint32 FileSuccess = 0;
-static constexpr quint32 FileFailure = 1;
+static constexpr quint32 FILE_SUCCESS = 0;
+static constexpr quint32 FILE_FAILURE = 1;
 
 CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer)
     : m_settings(settings)
@@ -137,7 +137,7 @@ quint32 CCameraMemory::readFeatureWord(quint32 address, Time now)
     case MemoryMap::FILE_OPERATION_EXECUTE:
         return findRunning(m_operation, now) ? 1 : 0;
     case MemoryMap::FILE_OPERATION_STATUS:
-        return findRunning(m_operation, now) ? FileFailure : getWord(address);
+        return findRunning(m_operation, now) ? FILE_FAILURE : getWord(address);
     case MemoryMap::FILE_OPERATION_RESULT:
         return findRunning(m_operation, now) ? 0 : getWord(address);
     default:
@@ -260,7 +260,7 @@ CCameraMemory::CWriteResult CCameraMemory::executeFileOperation()
     quint32 result = 0;
     const bool succeeded = runFileOperation(result);
     m_operation.reads = m_settings.operationReads;
-    setWord(MemoryMap::FILE_OPERATION_STATUS, succeeded ? FileSuccess : FileFailure);
+    setWord(MemoryMap::FILE_OPERATION_STATUS, succeeded ? FILE_SUCCESS : FILE_FAILURE);
     setWord(MemoryMap::FILE_OPERATION_RESULT, result);
     setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
     const bool isOpening

@@ -36,8 +36,8 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
 
 QVector<COption> CCommandLine::getOptions()
 {
-    constexpr qint64 longest = 3'600'000; // an hour
-    constexpr qint64 largest = std::numeric_limits<int>::max();
+    constexpr qint64 LONGEST = 3'600'000; // an hour
+    constexpr qint64 LARGEST = std::numeric_limits<int>::max();
     const auto takeAddress = [](quint32 &target) {
         return [&target](const QString &text) {
             bool isAddress = false;
@@ -50,10 +50,10 @@ QVector<COption> CCommandLine::getOptions()
             settings.description = *description;
             return true;
         }
-        constexpr qint64 longestDescription = 64 * 1024 * 1024;
+        constexpr qint64 LONGEST_DESCRIPTION = 64 * 1024 * 1024;
         QFile file(text);
         if (!QFileInfo(text).isFile() || !file.open(QIODevice::ReadOnly)
-            || file.size() > longestDescription)
+            || file.size() > LONGEST_DESCRIPTION)
             return false;
         settings.description = EDescription::Given;
         settings.descriptionName = QFileInfo(text).fileName().toUtf8();
@@ -71,7 +71,7 @@ QVector<COption> CCommandLine::getOptions()
     };
 
     const auto takeBytes
-        = [](std::optional<qint64> &target) { return takeInteger(target, 0, largest); };
+        = [](std::optional<qint64> &target) { return takeInteger(target, 0, LARGEST); };
 
     const auto option = [](const char *name, const char *valueName, const QByteArray &description,
                            const Viewer::CommandLine::CTaker &take) {
@@ -87,7 +87,7 @@ QVector<COption> CCommandLine::getOptions()
         option("user-name", "TEXT", "Name given by the user.", takeUtf8(settings.userName, 15)),
         option("firmware", "VERSION", "Firmware version.", takeUtf8(settings.firmwareVersion, 31)),
         option("status", "NUMBER", "Status; 0: can be updated.",
-               takeInteger(settings.status, 0, largest)),
+               takeInteger(settings.status, 0, LARGEST)),
         option("buffer", "BYTES", "File access buffer, 512 to 65536.",
                takeInteger(settings.bufferLength, 512, 65536)),
         option("flash", "FILE", "Keep what was uploaded in FILE.", takeFlashFile),
@@ -95,15 +95,15 @@ QVector<COption> CCommandLine::getOptions()
                "Description of the features: " + getDescriptionNames() + ", or the path of a file.",
                takeDescription),
         option("reset-delay-ms", "MS", "Answer on for so long after the command for a reset.",
-               takeInteger(settings.resetDelay, 0, longest)),
+               takeInteger(settings.resetDelay, 0, LONGEST)),
         option("reset-ms", "MS", "Silence during a reset.",
-               takeInteger(settings.resetDuration, 0, longest)),
+               takeInteger(settings.resetDuration, 0, LONGEST)),
         option("activate-ms", "MS", "Duration of the command FirmwareActivate.",
-               takeInteger(settings.activationDuration, 0, longest)),
+               takeInteger(settings.activationDuration, 0, LONGEST)),
         option("activate-reads", "N", "Let FirmwareActivate read as running N times.",
-               takeInteger(settings.activationReads, 0, largest)),
+               takeInteger(settings.activationReads, 0, LARGEST)),
         option("operation-reads", "N", "Let each file operation read as running N times.",
-               takeInteger(settings.operationReads, 0, largest)),
+               takeInteger(settings.operationReads, 0, LARGEST)),
         option("open-ms", "MS", "Announce the opening of the file as pending for so long.",
                takeInteger(settings.openDuration, 0, 65535)),
         option("die-after", "BYTES", "Fall silent for ever after so many uploaded bytes.",
@@ -127,9 +127,9 @@ QVector<COption> CCommandLine::getOptions()
         option("refuse", "COMMAND", "Refuse DeviceReset, FirmwareActivate or FileOperationExecute.",
                takeRefusedCommand),
         option("lose-every", "N", "Lose each N-th request.",
-               takeInteger(settings.losesEvery, 2, largest)),
+               takeInteger(settings.losesEvery, 2, LARGEST)),
         option("lose-ack", "N", "Lose the answer to the N-th write of memory.",
-               takeInteger(settings.losesAcknowledge, 1, largest)),
+               takeInteger(settings.losesAcknowledge, 1, LARGEST)),
         option("max-seconds", "S", "End by itself after so long, otherwise after 600.",
                takeInteger(maximumSeconds, 1, 86400)),
     };

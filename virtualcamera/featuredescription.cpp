@@ -11,9 +11,9 @@
 
 namespace VirtualCamera {
 
-static const QByteArray XmlName = "camera.xml";
+static const QByteArray XML_NAME = "camera.xml";
 
-static constexpr std::pair<const char *, EDescription> Names[] = {
+static constexpr std::pair<const char *, EDescription> NAMES[] = {
     {"sound", EDescription::Sound},
     {"zip", EDescription::Zipped},
     {"self-value", EDescription::SelfValue},
@@ -29,7 +29,7 @@ static constexpr std::pair<const char *, EDescription> Names[] = {
 
 std::optional<EDescription> findDescription(const QByteArray &name)
 {
-    for (const auto &[known, description] : Names) {
+    for (const auto &[known, description] : NAMES) {
         if (name == known)
             return description;
     }
@@ -39,7 +39,7 @@ std::optional<EDescription> findDescription(const QByteArray &name)
 QByteArray getDescriptionNames()
 {
     QList<QByteArray> names;
-    for (const auto &[name, description] : Names)
+    for (const auto &[name, description] : NAMES)
         names.append(name);
     return names.join(", ");
 }
@@ -97,14 +97,14 @@ static CFeatureDescription makeLocal(const QByteArray &name, QByteArray bytes)
 static CFeatureDescription makeZipped(const QByteArray &xml, qint64 size = 0)
 {
     CZipWriter writer;
-    writer.add(XmlName, xml, size);
+    writer.add(XML_NAME, xml, size);
     return makeLocal("camera.zip", writer.getArchive());
 }
 
 CFeatureDescription makeFeatureDescription(const CCameraSettings &settings)
 {
-    constexpr qint64 bombUnit = 1'000'000;
-    constexpr int mebibyte = 1024 * 1024;
+    constexpr qint64 BOMB_UNIT = 1'000'000;
+    constexpr int MEBIBYTE = 1024 * 1024;
     const QByteArray sound = readSound(settings);
     switch (settings.description) {
     case EDescription::Sound:
@@ -114,23 +114,23 @@ CFeatureDescription makeFeatureDescription(const CCameraSettings &settings)
     case EDescription::SelfValue:
     case EDescription::SelfAddress:
     case EDescription::SelfFeature:
-        return makeLocal(XmlName, tieKnot(sound, settings.description));
+        return makeLocal(XML_NAME, tieKnot(sound, settings.description));
     case EDescription::File:
         return {"File:///dev/zero", {}};
     case EDescription::Http:
         return {"http://127.0.0.1:9/camera.xml", {}};
     case EDescription::Bomb100:
-        return makeZipped(sound, 100 * bombUnit);
+        return makeZipped(sound, 100 * BOMB_UNIT);
     case EDescription::Bomb1000:
-        return makeZipped(sound, 1000 * bombUnit);
+        return makeZipped(sound, 1000 * BOMB_UNIT);
     case EDescription::Large:
-        return makeLocal(XmlName, sound.leftJustified(16 * mebibyte + 4, ' '));
+        return makeLocal(XML_NAME, sound.leftJustified(16 * MEBIBYTE + 4, ' '));
     case EDescription::Broken:
-        return makeLocal(XmlName, sound.left(sound.size() / 2));
+        return makeLocal(XML_NAME, sound.left(sound.size() / 2));
     case EDescription::Given:
         return makeLocal(settings.descriptionName, settings.descriptionContent);
     }
-    return makeLocal(XmlName, sound);
+    return makeLocal(XML_NAME, sound);
 }
 
 } // namespace VirtualCamera

@@ -19,7 +19,7 @@ struct CLimits
     bool isFloat = false; ///< the register holds a number of 32 bits by IEEE 754
 };
 
-constexpr CLimits Limits[] = {
+constexpr CLimits LIMITS[] = {
     {MemoryMap::FIRMWARE_UPDATE_MODE, 0, 1},
     {MemoryMap::EXPOSURE_TIME, 10, 1'000'000, true},
     {MemoryMap::REVERSE_X, 0, 1},
@@ -42,7 +42,7 @@ float toFloat(quint32 bits)
 
 bool isWithinLimits(quint32 address, quint32 value)
 {
-    for (const CLimits &limits : Limits) {
+    for (const CLimits &limits : LIMITS) {
         if (limits.address != address)
             continue;
         const double number = limits.isFloat ? static_cast<double>(toFloat(value)) : value;

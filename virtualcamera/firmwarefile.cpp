@@ -86,8 +86,8 @@ QByteArray CFirmwareFile::getVersion() const
 
 QByteArray CFirmwareFile::readHeader(const QByteArray &name) const
 {
-    constexpr int maximumHeaderSize = 4096;
-    const QList<QByteArray> lines = m_content.left(maximumHeaderSize).split('\n');
+    constexpr int MAXIMUM_HEADER_SIZE = 4096;
+    const QList<QByteArray> lines = m_content.left(MAXIMUM_HEADER_SIZE).split('\n');
     for (const QByteArray &line : lines) {
         if (line.trimmed().isEmpty())
             break;

@@ -4,8 +4,8 @@
 
 namespace VirtualCamera::Gvcp {
 
-static constexpr quint8 Key = 0x42;
-static constexpr quint8 AcknowledgeFlag = 0x01;
+static constexpr quint8 KEY = 0x42;
+static constexpr quint8 ACKNOWLEDGE_FLAG = 0x01;
 
 static quint16 readHalfWord(const QByteArray &bytes, int offset)
 {
@@ -14,11 +14,11 @@ static quint16 readHalfWord(const QByteArray &bytes, int offset)
 
 std::optional<CRequest> parseRequest(const QByteArray &datagram)
 {
-    if (datagram.size() < HEADER_SIZE || static_cast<quint8>(datagram.at(0)) != Key)
+    if (datagram.size() < HEADER_SIZE || static_cast<quint8>(datagram.at(0)) != KEY)
         return {};
 
     CRequest request;
-    request.wantsAnswer = (static_cast<quint8>(datagram.at(1)) & AcknowledgeFlag) != 0;
+    request.wantsAnswer = (static_cast<quint8>(datagram.at(1)) & ACKNOWLEDGE_FLAG) != 0;
     request.command = readHalfWord(datagram, 2);
     request.id = readHalfWord(datagram, 6);
     request.payload = datagram.mid(HEADER_SIZE);
@@ -30,7 +30,7 @@ std::optional<CRequest> parseRequest(const QByteArray &datagram)
 QByteArray makeOrder(ECommand command)
 {
     QByteArray order;
-    appendHalfWord(order, Key << 8);
+    appendHalfWord(order, KEY << 8);
     appendHalfWord(order, static_cast<quint16>(command));
     appendHalfWord(order, 0);
     appendHalfWord(order, 1);

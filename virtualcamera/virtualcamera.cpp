@@ -11,8 +11,8 @@ using Gvcp::ECommand;
 using Gvcp::EStatus;
 
 // Bits of the control channel privilege.
-static constexpr quint32 ExclusiveBit = 0x1;
-static constexpr quint32 ControlBit = 0x2;
+static constexpr quint32 EXCLUSIVE_BIT = 0x1;
+static constexpr quint32 CONTROL_BIT = 0x2;
 
 static bool isAligned(quint32 number)
 {
@@ -124,12 +124,12 @@ QVector<CDatagram> CVirtualCamera::answer(const QByteArray &datagram, const Gvcp
 
 void CVirtualCamera::remember(const CLastRequest &request)
 {
-    constexpr int mostSenders = 8;
+    constexpr int MOST_SENDERS = 8;
     m_last.erase(
         std::remove_if(m_last.begin(), m_last.end(),
                        [&](const CLastRequest &last) { return last.sender == request.sender; }),
         m_last.end());
-    if (m_last.size() == mostSenders)
+    if (m_last.size() == MOST_SENDERS)
         m_last.removeFirst();
     m_last.append(request);
 }
@@ -298,7 +298,7 @@ EStatus CVirtualCamera::setPrivilege(quint32 value, const CPeer &sender, Time no
 {
     if (m_controller && m_controller != sender)
         return EStatus::AccessDenied;
-    if ((value & (ExclusiveBit | ControlBit)) == 0) {
+    if ((value & (EXCLUSIVE_BIT | CONTROL_BIT)) == 0) {
         if (m_controller)
             loseControl("released");
         return EStatus::Success;
@@ -306,7 +306,7 @@ EStatus CVirtualCamera::setPrivilege(quint32 value, const CPeer &sender, Time no
     if (!m_controller)
         m_observer.onEvent("control " + getText(sender));
     m_controller = sender;
-    m_isExclusive = (value & ExclusiveBit) != 0;
+    m_isExclusive = (value & EXCLUSIVE_BIT) != 0;
     m_lastHeard = now;
     m_memory.setControlPrivilege(value);
     return EStatus::Success;
@@ -324,10 +324,10 @@ void CVirtualCamera::loseControl(const char *cause)
 void CVirtualCamera::handControlToSomebodyElse(Time now)
 {
     // Somebody who never says anything, and so loses it again in time.
-    constexpr CPeer somebody{0x7f000001, 9};
+    constexpr CPeer SOMEBODY{0x7f000001, 9};
     m_hasLostControl = true;
     loseControl("taken");
-    static_cast<void>(setPrivilege(ControlBit, somebody, now));
+    static_cast<void>(setPrivilege(CONTROL_BIT, SOMEBODY, now));
 }
 
 QVector<CDatagram> CVirtualCamera::leaveInTime(Time now)

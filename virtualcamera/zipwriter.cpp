@@ -24,12 +24,12 @@ struct CPiece
         : size(bytes.size())
     {
         z_stream stream{};
-        constexpr int noHeader = -15;
-        constexpr int usualMemory = 8;
-        deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, noHeader, usualMemory,
+        constexpr int NO_HEADER = -15;
+        constexpr int USUAL_MEMORY = 8;
+        deflateInit2(&stream, Z_BEST_COMPRESSION, Z_DEFLATED, NO_HEADER, USUAL_MEMORY,
                      Z_DEFAULT_STRATEGY);
-        constexpr int flushMarker = 16;
-        packed.resize(static_cast<int>(deflateBound(&stream, uLong(size))) + flushMarker);
+        constexpr int FLUSH_MARKER = 16;
+        packed.resize(static_cast<int>(deflateBound(&stream, uLong(size))) + FLUSH_MARKER);
         stream.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(bytes.constData()));
         stream.avail_in = uInt(size);
         stream.next_out = reinterpret_cast<Bytef *>(packed.data());
@@ -113,8 +113,8 @@ QByteArray CZipWriter::getArchive() const
     append<quint16>(end, static_cast<quint16>(m_count));
     append<quint32>(end, static_cast<quint32>(m_directory.size()));
     append<quint32>(end, static_cast<quint32>(m_files.size()));
-    constexpr int commentLengthSize = 2;
-    const int length = m_files.size() + m_directory.size() + end.size() + commentLengthSize;
+    constexpr int COMMENT_LENGTH_SIZE = 2;
+    const int length = m_files.size() + m_directory.size() + end.size() + COMMENT_LENGTH_SIZE;
     const int comment = (4 - length % 4) % 4;
     append<quint16>(end, static_cast<quint16>(comment));
     return m_files + m_directory + end + QByteArray(comment, ' ');

@@ -13,7 +13,7 @@ using Entity::CFirmwareUpdateEntity;
 using Plugin::CameraPool::EFirmwareUpdateStep;
 
 // Logged as it stands; who asks the service for its failure message gets it in the user's language.
-static const char *const MissingUpdateText
+static const char *const MISSING_UPDATE_TEXT
     = QT_TRANSLATE_NOOP("Plugin::FirmwareUpdater::Internal::Service::CFirmwareUpdaterService",
                         "Internal error: Firmware update is missing and could not be applied.");
 
@@ -146,7 +146,7 @@ void CFirmwareUpdatingStep::startUpdate()
     }
 
     if (!m_currentUpdate) {
-        onFirmwareUpdateError(QLatin1String(MissingUpdateText));
+        onFirmwareUpdateError(QLatin1String(MISSING_UPDATE_TEXT));
         emit firmwareUpdateDone();
         return;
     }

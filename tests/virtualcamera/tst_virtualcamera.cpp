@@ -79,8 +79,8 @@ QByteArray unpack(const QByteArray &archive, qint64 enough, qint64 &size)
     return length == 0 ? content.trimmed() : QByteArray();
 }
 
-constexpr CPeer Owner{0x7f000001, 4000};
-constexpr CPeer Stranger{0x7f000001, 4001};
+constexpr CPeer OWNER{0x7f000001, 4000};
+constexpr CPeer STRANGER{0x7f000001, 4001};
 
 const QByteArray OPEN
     = makeRequest(ECommand::WriteRegister, 99, words({MemoryMap::FILE_OPERATION_EXECUTE, 1}));
@@ -112,10 +112,10 @@ private slots:
     void givesOutAFile();
 
 private:
-    QByteArray ask(const QByteArray &datagram, const CPeer &sender = Owner);
-    QByteArray ask(ECommand command, const QByteArray &payload, const CPeer &sender = Owner);
-    int write(quint32 address, quint32 value, const CPeer &sender = Owner);
-    quint32 read(quint32 address, const CPeer &sender = Owner);
+    QByteArray ask(const QByteArray &datagram, const CPeer &sender = OWNER);
+    QByteArray ask(ECommand command, const QByteArray &payload, const CPeer &sender = OWNER);
+    int write(quint32 address, quint32 value, const CPeer &sender = OWNER);
+    quint32 read(quint32 address, const CPeer &sender = OWNER);
     int writeMemory(quint32 address, const QByteArray &bytes);
     QByteArray readMemory(quint32 address, int size);
     bool operate(EFileOperation operation);
@@ -255,7 +255,7 @@ void CVirtualCameraTest::answersByteByByte()
 void CVirtualCameraTest::dropsWhatIsNoRequest()
 {
     const QByteArray discovery = makeRequest(ECommand::Discovery, 1, {});
-    const auto drop = [this](const QByteArray &datagram, quint32 sender = Owner.address) {
+    const auto drop = [this](const QByteArray &datagram, quint32 sender = OWNER.address) {
         make();
         QVERIFY(ask(datagram, {sender, 4000}).isEmpty());
         QCOMPARE(m_camera->getStatistics().dropped, 1);
@@ -274,17 +274,17 @@ void CVirtualCameraTest::dropsWhatIsNoRequest()
 void CVirtualCameraTest::givesControlToOneAtATime()
 {
     QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2), 0);
-    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, Stranger), 0x8006);
-    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 0, Stranger), 0x8006);
-    QCOMPARE(write(MemoryMap::REVERSE_X, 1, Stranger), 0x8006);
-    QCOMPARE(read(MemoryMap::HEARTBEAT_TIMEOUT, Stranger), 3000U);
+    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, STRANGER), 0x8006);
+    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 0, STRANGER), 0x8006);
+    QCOMPARE(write(MemoryMap::REVERSE_X, 1, STRANGER), 0x8006);
+    QCOMPARE(read(MemoryMap::HEARTBEAT_TIMEOUT, STRANGER), 3000U);
     QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 1), 0);
-    QCOMPARE(read(MemoryMap::HEARTBEAT_TIMEOUT, Stranger), 0xdeadbeef);
-    QCOMPARE(read(MemoryMap::CONTROL_PRIVILEGE, Stranger), 1U);
+    QCOMPARE(read(MemoryMap::HEARTBEAT_TIMEOUT, STRANGER), 0xdeadbeef);
+    QCOMPARE(read(MemoryMap::CONTROL_PRIVILEGE, STRANGER), 1U);
     QCOMPARE(write(MemoryMap::REVERSE_X, 1), 0);
     QCOMPARE(write(MemoryMap::DEVICE_STATUS, 1), 0x8004);
     QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 0), 0);
-    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, Stranger), 0);
+    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, STRANGER), 0);
 }
 
 void CVirtualCameraTest::takesControlFromASilentApplication()
@@ -294,12 +294,12 @@ void CVirtualCameraTest::takesControlFromASilentApplication()
     read(MemoryMap::CONTROL_PRIVILEGE); // any request is a sign of life
     m_now += 2999ms;
     QCOMPARE(*m_camera->getNextDeadline(), m_now + 1ms);
-    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, Stranger), 0x8006);
+    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, STRANGER), 0x8006);
     m_now += 1ms;
     QVERIFY(m_camera->tick(m_now).isEmpty());
     QVERIFY(m_recorder.events.contains("control timeout"));
     QCOMPARE(write(MemoryMap::REVERSE_X, 1), 0x8006);
-    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, Stranger), 0);
+    QCOMPARE(write(MemoryMap::CONTROL_PRIVILEGE, 2, STRANGER), 0);
 }
 
 void CVirtualCameraTest::executesARepeatedRequestOnce()
@@ -312,7 +312,7 @@ void CVirtualCameraTest::executesARepeatedRequestOnce()
     QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
     QCOMPARE(m_camera->getStatistics().repeated, 1);
     // The same bytes of somebody else are another request, and do not displace the first one.
-    QCOMPARE(statusOf(ask(OPEN, Stranger)), 0x8006);
+    QCOMPARE(statusOf(ask(OPEN, STRANGER)), 0x8006);
     QCOMPARE(ask(OPEN), first);
     QCOMPARE(m_recorder.events.count("open FirmwareImage"), 1);
 
@@ -399,14 +399,14 @@ void CVirtualCameraTest::restartsAnotherCamera()
         parse({"--serial", "1", "--return-serial", "2", "--restart-too", "127.0.0.3"}), m_recorder);
     const auto tell = [&](quint32 address, quint32 value) {
         return first.handle(makeRequest(ECommand::WriteRegister, ++m_id, words({address, value})),
-                            Owner, m_now);
+                            OWNER, m_now);
     };
     tell(MemoryMap::CONTROL_PRIVILEGE, 2);
     const QVector<CDatagram> sent = tell(MemoryMap::DEVICE_RESET, 1);
     QCOMPARE(sent.size(), 2);
     QCOMPARE(sent[0].receiver, (CPeer{0x7f000003, 3956}));
     QCOMPARE(sent[0].bytes.toHex(), QByteArray("4200c00000000001"));
-    QVERIFY(ask(sent[0].bytes, Stranger).isEmpty());
+    QVERIFY(ask(sent[0].bytes, STRANGER).isEmpty());
     QVERIFY(ask(ECommand::Discovery, {}).isEmpty());
     m_now += CCameraSettings().resetDuration;
     QCOMPARE(ask(ECommand::Discovery, {}).mid(8 + 0xd8, 2), QByteArray("1\0", 2));
@@ -482,15 +482,15 @@ void CVirtualCameraTest::keepsItsLimits()
         QVERIFY(isGood || writeMemory(address - 4, words({1, value})) != 0);
         QCOMPARE(read(address), isGood ? value : before);
     };
-    constexpr quint32 exposure = MemoryMap::EXPOSURE_TIME, gain = MemoryMap::GAIN;
+    constexpr quint32 EXPOSURE = MemoryMap::EXPOSURE_TIME, GAIN = MemoryMap::GAIN;
     for (const float good : {10.F, 1e6F})
-        check(exposure, toBits(good), true);
+        check(EXPOSURE, toBits(good), true);
     for (const float bad : {9.99F, 1e30F, std::numeric_limits<float>::quiet_NaN()})
-        check(exposure, toBits(bad), false);
+        check(EXPOSURE, toBits(bad), false);
     for (const float good : {0.F, 24.F})
-        check(gain, toBits(good), true);
+        check(GAIN, toBits(good), true);
     for (const float bad : {-0.1F, std::numeric_limits<float>::infinity()})
-        check(gain, toBits(bad), false);
+        check(GAIN, toBits(bad), false);
     check(MemoryMap::FIRMWARE_UPDATE_MODE, 1, true);
     check(MemoryMap::FIRMWARE_UPDATE_MODE, 2, false);
     check(MemoryMap::REVERSE_X, 2, false);

@@ -17,7 +17,7 @@ namespace Viewer::AppCore {
 
 using Camera::ECameraActivity;
 
-static const QLatin1String RecordingFolderKey("recordingFolder");
+static const QLatin1String RECORDING_FOLDER_KEY("recordingFolder");
 
 CAcquisitionController::CAcquisitionController(CameraPool::CCameraPool &pool, CImageView &view,
                                                QWidget *window)
@@ -68,7 +68,7 @@ void CAcquisitionController::addActions(QToolBar *toolBar, QMenu *fileMenu,
     toolBar->addActions(actions);
     fileMenu->addActions(actions);
     for (QAction *const action : actions)
-        contextMenu.addOwnAction(action, Ids::SelectorAcquisitionGroup);
+        contextMenu.addOwnAction(action, Ids::SELECTOR_ACQUISITION_GROUP);
 }
 
 void CAcquisitionController::setCamera(const Plugin::CameraPool::CameraInfoPtr &camera)
@@ -121,7 +121,7 @@ void CAcquisitionController::chooseRecordingFolder()
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     auto *const dialog
         = new QFileDialog(m_window, tr("Record into folder"),
-                          QSettings().value(RecordingFolderKey, pictures).toString());
+                          QSettings().value(RECORDING_FOLDER_KEY, pictures).toString());
     dialog->setObjectName(QStringLiteral("recordingFolderDialog"));
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
@@ -135,7 +135,7 @@ void CAcquisitionController::startRecording(const QString &folder)
 {
     if (!m_camera)
         return;
-    QSettings().setValue(RecordingFolderKey, folder);
+    QSettings().setValue(RECORDING_FOLDER_KEY, folder);
     QString error;
     if (m_pool.startRecording(m_camera->getId(), folder, &error)) {
         emit message(tr("Recording %1 to %2.")

@@ -44,17 +44,17 @@ CCloseSignals::CCloseSignals(QObject *parent)
     action.sa_handler = handleSignal;
     // A system call of a job on a camera goes on as if nothing had happened.
     action.sa_flags = SA_RESTART;
-    for (std::size_t i = 0; i < Signals.size(); ++i) {
-        sigaction(Signals[i], nullptr, &m_previous[i]);
+    for (std::size_t i = 0; i < SIGNALS.size(); ++i) {
+        sigaction(SIGNALS[i], nullptr, &m_previous[i]);
         if (m_previous[i].sa_handler != SIG_IGN)
-            sigaction(Signals[i], &action, nullptr);
+            sigaction(SIGNALS[i], &action, nullptr);
     }
 }
 
 CCloseSignals::~CCloseSignals()
 {
-    for (std::size_t i = 0; i < Signals.size(); ++i)
-        sigaction(Signals[i], &m_previous[i], nullptr);
+    for (std::size_t i = 0; i < SIGNALS.size(); ++i)
+        sigaction(SIGNALS[i], &m_previous[i], nullptr);
     sigaction(SIGPIPE, &m_previousPipe, nullptr);
     m_notifier.reset();
     close(writeEnd.exchange(-1));

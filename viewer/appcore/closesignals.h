@@ -33,9 +33,9 @@ signals:
 private:
     void onReadable();
 
-    static constexpr std::array<int, 3> Signals{SIGTERM, SIGHUP, SIGINT};
+    static constexpr std::array<int, 3> SIGNALS{SIGTERM, SIGHUP, SIGINT};
 
-    std::array<struct sigaction, Signals.size()> m_previous{};
+    std::array<struct sigaction, SIGNALS.size()> m_previous{};
     struct sigaction m_previousPipe = {};
     int m_readEnd = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;

@@ -6,11 +6,11 @@
 namespace Viewer::AppCore {
 
 // A neutral dark surround, on which neither a bright nor a dark image glares.
-static const QColor Background(0x26, 0x2a, 0x30);
-static const QColor TitleColor(0xd5, 0xda, 0xe1);
-static const QColor HintColor(0x8d, 0x96, 0xa3);
-static constexpr int IconExtent = 64;
-static constexpr int Margin = 16;
+static const QColor BACKGROUND(0x26, 0x2a, 0x30);
+static const QColor TITLE_COLOR(0xd5, 0xda, 0xe1);
+static const QColor HINT_COLOR(0x8d, 0x96, 0xa3);
+static constexpr int ICON_EXTENT = 64;
+static constexpr int MARGIN = 16;
 
 CImageView::CImageView(QWidget *parent)
     : QWidget(parent)
@@ -51,7 +51,7 @@ QSize CImageView::sizeHint() const
 void CImageView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Background);
+    painter.fillRect(rect(), BACKGROUND);
     if (m_image.isNull()) {
         paintPlaceholder(painter);
         return;
@@ -66,23 +66,24 @@ void CImageView::paintPlaceholder(QPainter &painter)
 {
     QFont titleFont = font();
     titleFont.setPointSizeF(titleFont.pointSizeF() * 1.4);
-    const QRect area = rect().adjusted(Margin, Margin, -Margin, -Margin);
+    const QRect area = rect().adjusted(MARGIN, MARGIN, -MARGIN, -MARGIN);
     const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     const int titleHeight = QFontMetrics(titleFont).boundingRect(area, flags, m_title).height();
     const int hintHeight = fontMetrics().boundingRect(area, flags, m_hint).height();
-    const int totalHeight = IconExtent + Margin + titleHeight + Margin / 2 + hintHeight;
+    const int totalHeight = ICON_EXTENT + MARGIN + titleHeight + MARGIN / 2 + hintHeight;
     QRect line = area;
     line.setTop(qMax(area.top(), area.center().y() - totalHeight / 2));
 
     const QIcon icon(QStringLiteral(":/viewer/icons/placeholder.png"));
-    icon.paint(&painter, QRect(line.left(), line.top(), line.width(), IconExtent), Qt::AlignCenter);
-    line.setTop(line.top() + IconExtent + Margin);
+    icon.paint(&painter, QRect(line.left(), line.top(), line.width(), ICON_EXTENT),
+               Qt::AlignCenter);
+    line.setTop(line.top() + ICON_EXTENT + MARGIN);
     painter.setFont(titleFont);
-    painter.setPen(TitleColor);
+    painter.setPen(TITLE_COLOR);
     painter.drawText(line, flags, m_title);
-    line.setTop(line.top() + titleHeight + Margin / 2);
+    line.setTop(line.top() + titleHeight + MARGIN / 2);
     painter.setFont(font());
-    painter.setPen(HintColor);
+    painter.setPen(HINT_COLOR);
     painter.drawText(line, flags, m_hint);
 }
 

@@ -8,7 +8,7 @@
 
 namespace Viewer::AppCore {
 
-static constexpr int DetailsRole = Qt::UserRole;
+static constexpr int DETAILS_ROLE = Qt::UserRole;
 
 CListDialog::CListDialog(const QString &title, const QStringList &columns, QWidget *parent)
     : QDialog(parent)
@@ -55,7 +55,7 @@ CListDialog::~CListDialog() = default;
 QTreeWidgetItem *CListDialog::addRow(const QStringList &texts, const QString &details)
 {
     auto *const item = new QTreeWidgetItem(m_tree, texts);
-    item->setData(0, DetailsRole, details);
+    item->setData(0, DETAILS_ROLE, details);
     if (!m_tree->currentItem())
         m_tree->setCurrentItem(item);
     return item;
@@ -85,7 +85,7 @@ QDialogButtonBox *CListDialog::getButtonBox() const
 void CListDialog::onCurrentChanged()
 {
     const QTreeWidgetItem *const item = m_tree->currentItem();
-    setDetails(item ? item->data(0, DetailsRole).toString() : QString());
+    setDetails(item ? item->data(0, DETAILS_ROLE).toString() : QString());
 }
 
 } // namespace Viewer::AppCore

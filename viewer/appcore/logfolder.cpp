@@ -18,15 +18,15 @@
 
 namespace Viewer::AppCore {
 
-static const char *const Variable = "TMPDIR";
-static const char *const DefaultTemporaryFolder = "/tmp";
+static const char *const VARIABLE = "TMPDIR";
+static const char *const DEFAULT_TEMPORARY_FOLDER = "/tmp";
 // A path at which nothing can be made, whoever asks; a missing folder would not do, because Qt
 // takes the root folder for it.
-static const char *const Nowhere = "/dev/null";
-static const QLatin1String LockName(".lock");
-static const QLatin1String NewLockName(".lock.new");
-static const QLatin1String TimeFormat("yyyyMMdd_HHmmss");
-static constexpr qint64 TrialSize = 64 * 1024; // bytes; about the log of two cameras
+static const char *const NOWHERE = "/dev/null";
+static const QLatin1String LOCK_NAME(".lock");
+static const QLatin1String NEW_LOCK_NAME(".lock.new");
+static const QLatin1String TIME_FORMAT("yyyyMMdd_HHmmss");
+static constexpr qint64 TRIAL_SIZE = 64 * 1024; // bytes; about the log of two cameras
 
 namespace {
 
@@ -66,7 +66,7 @@ int makeFolder(const QString &path)
 /// or nobody can tell. Closing what comes back unlocks it.
 int lockEndedFolder(const QString &folder, int operation)
 {
-    const QByteArray name = QFile::encodeName(folder + QLatin1Char('/') + LockName);
+    const QByteArray name = QFile::encodeName(folder + QLatin1Char('/') + LOCK_NAME);
     const int lock = ::open(name.constData(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     struct stat info = {};
     if (lock < 0
@@ -102,9 +102,9 @@ void removeIfEmpty(const QString &folder)
 {
     const QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     QDir directory(folder);
-    if (directory.entryList(all) != QStringList(LockName))
+    if (directory.entryList(all) != QStringList(LOCK_NAME))
         return;
-    directory.remove(LockName);
+    directory.remove(LOCK_NAME);
     QDir().rmdir(folder);
 }
 
@@ -140,17 +140,17 @@ CLogFolder::CLogFolder()
     , m_root(findRoot())
 {
     // A variable that exists is changed in its place; only a new one moves the environment.
-    if (qEnvironmentVariableIsEmpty(Variable))
-        qputenv(Variable, DefaultTemporaryFolder);
+    if (qEnvironmentVariableIsEmpty(VARIABLE))
+        qputenv(VARIABLE, DEFAULT_TEMPORARY_FOLDER);
 }
 
 CLogFolder::~CLogFolder()
 {
-    const QLatin1String name(Variable);
+    const QLatin1String name(VARIABLE);
     if (m_outsideEnvironment.contains(name))
-        qputenv(Variable, QFile::encodeName(m_outsideEnvironment.value(name)));
+        qputenv(VARIABLE, QFile::encodeName(m_outsideEnvironment.value(name)));
     else
-        qunsetenv(Variable);
+        qunsetenv(VARIABLE);
     if (m_lock < 0)
         return;
     removeIfEmpty(m_ownFolder);
@@ -168,7 +168,7 @@ bool CLogFolder::open()
                          "%2.")
                           .arg(QDir::toNativeSeparators(m_root), reason);
     }
-    qputenv(Variable, m_fault.isEmpty() ? QFile::encodeName(m_ownFolder) : QByteArray(Nowhere));
+    qputenv(VARIABLE, m_fault.isEmpty() ? QFile::encodeName(m_ownFolder) : QByteArray(NOWHERE));
     if (m_fault.isEmpty())
         removeOldLogs();
     return m_fault.isEmpty();
@@ -182,7 +182,7 @@ QString CLogFolder::makeOwnFolder()
     const QString fault = PluginSystem::CPathTrust::findFault(m_root);
     if (!fault.isEmpty())
         return fault;
-    const QString time = QDateTime::currentDateTime().toString(TimeFormat);
+    const QString time = QDateTime::currentDateTime().toString(TIME_FORMAT);
     QByteArray name
         = QFile::encodeName(m_root + QLatin1Char('/') + time + QLatin1String("_XXXXXX"));
     if (!mkdtemp(name.data()))
@@ -194,7 +194,7 @@ QString CLogFolder::makeOwnFolder()
     if (m_lock >= 0)
         close(m_lock);
     m_lock = -1;
-    QFile::remove(m_ownFolder + QLatin1Char('/') + NewLockName);
+    QFile::remove(m_ownFolder + QLatin1Char('/') + NEW_LOCK_NAME);
     QDir().rmdir(m_ownFolder);
     return qt_error_string(lockError);
 }
@@ -202,13 +202,13 @@ QString CLogFolder::makeOwnFolder()
 int CLogFolder::lockOwnFolder()
 {
     const QString path = m_ownFolder + QLatin1Char('/');
-    const QByteArray newName = QFile::encodeName(path + NewLockName);
+    const QByteArray newName = QFile::encodeName(path + NEW_LOCK_NAME);
     m_lock = ::open(newName.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
     if (m_lock < 0)
         return errno;
     // Where the file system has no locks, nobody can remove the folder either.
     flock(m_lock, LOCK_EX | LOCK_NB);
-    const QByteArray trial(TrialSize, '\0');
+    const QByteArray trial(TRIAL_SIZE, '\0');
     for (int position = 0; position < trial.size();) {
         const auto count = write(m_lock, trial.constData() + position, trial.size() - position);
         if (count < 0)
@@ -218,15 +218,16 @@ int CLogFolder::lockOwnFolder()
     if (fsync(m_lock) != 0 || ftruncate(m_lock, 0) != 0)
         return errno;
     // Under its name the lock is held from the first moment.
-    return rename(newName.constData(), QFile::encodeName(path + LockName).constData()) == 0 ? 0
-                                                                                            : errno;
+    return rename(newName.constData(), QFile::encodeName(path + LOCK_NAME).constData()) == 0
+        ? 0
+        : errno;
 }
 
 void CLogFolder::removeOldLogs() const
 {
     const QVector<CFolder> folders = findFolders(m_root);
     QHash<QString, QStringList> tooMany; // by folder
-    const QVector<CLogFile> oldLogs = findLogs(folders).mid(MaximumCount);
+    const QVector<CLogFile> oldLogs = findLogs(folders).mid(MAXIMUM_COUNT);
     for (const CLogFile &log : oldLogs)
         tooMany[QFileInfo(log.path).path()].append(log.path);
     for (const CFolder &folder : folders) {

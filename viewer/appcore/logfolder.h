@@ -25,7 +25,7 @@ class CLogFolder
 
 public:
     /// How many logs of all viewers are kept.
-    static constexpr int MaximumCount = 200;
+    static constexpr int MAXIMUM_COUNT = 200;
 
     /// Remembers the environment. Create it before there are threads, which may read the
     /// environment while open() changes it.

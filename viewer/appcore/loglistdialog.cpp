@@ -17,9 +17,9 @@
 
 namespace Viewer::AppCore {
 
-static constexpr int CamerasColumn = 1;
-static constexpr int PathRole = Qt::UserRole + 1;
-static constexpr int MaximumNamesLength = 300;
+static constexpr int CAMERAS_COLUMN = 1;
+static constexpr int PATH_ROLE = Qt::UserRole + 1;
+static constexpr int MAXIMUM_NAMES_LENGTH = 300;
 
 CLogListDialog::CLogListDialog(const CLogFolder &folder, QWidget *parent)
     : CListDialog(tr("Logs of firmware updates"), {tr("Time"), tr("Cameras"), tr("Outcome")},
@@ -30,8 +30,8 @@ CLogListDialog::CLogListDialog(const CLogFolder &folder, QWidget *parent)
     resize(640, 420);
     getTree()->setObjectName(QStringLiteral("logTree"));
     getTree()->header()->setStretchLastSection(false);
-    getTree()->header()->setSectionResizeMode(CamerasColumn, QHeaderView::Stretch);
-    const QVector<CLogFile> logs = folder.getLogs().mid(0, CLogFolder::MaximumCount);
+    getTree()->header()->setSectionResizeMode(CAMERAS_COLUMN, QHeaderView::Stretch);
+    const QVector<CLogFile> logs = folder.getLogs().mid(0, CLogFolder::MAXIMUM_COUNT);
     for (const CLogFile &log : logs)
         addEntry(log);
     if (logs.isEmpty())
@@ -83,11 +83,11 @@ static QString getOutcomeText(const CLogSummary &summary, bool isInUse)
 
 void CLogListDialog::addEntry(const CLogFile &log)
 {
-    const CFileEnd end = CFileEnd::read(log.path, MaximumLogSize);
+    const CFileEnd end = CFileEnd::read(log.path, MAXIMUM_LOG_SIZE);
     const CLogSummary summary = CLogSummary::parse(end.text);
     QString names = summary.cameraNames.join(QStringLiteral(", "));
-    if (names.size() > MaximumNamesLength)
-        names = names.left(MaximumNamesLength) + QStringLiteral("...");
+    if (names.size() > MAXIMUM_NAMES_LENGTH)
+        names = names.left(MAXIMUM_NAMES_LENGTH) + QStringLiteral("...");
     QString outcome = getOutcomeText(summary, log.inUse);
     QStringList details{QDir::toNativeSeparators(log.path)};
     if (!end.error.isEmpty()) {
@@ -95,13 +95,13 @@ void CLogListDialog::addEntry(const CLogFile &log)
         details.append(end.error);
     } else if (end.isPartial) {
         details.append(
-            tr("The log is longer than %1 bytes; only its end was read.").arg(MaximumLogSize));
+            tr("The log is longer than %1 bytes; only its end was read.").arg(MAXIMUM_LOG_SIZE));
     }
     if (!names.isEmpty())
         details.append(names);
     addRow({log.time.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), names, outcome},
            details.join(QLatin1Char('\n')))
-        ->setData(0, PathRole, log.path);
+        ->setData(0, PATH_ROLE, log.path);
 }
 
 void CLogListDialog::openCurrent()
@@ -111,7 +111,7 @@ void CLogListDialog::openCurrent()
 
 void CLogListDialog::copyCurrent()
 {
-    const CFileEnd end = CFileEnd::read(getCurrentPath(), CTextDialog::MaximumFileSize);
+    const CFileEnd end = CFileEnd::read(getCurrentPath(), CTextDialog::MAXIMUM_FILE_SIZE);
     if (end.error.isEmpty())
         QGuiApplication::clipboard()->setText(QString::fromUtf8(end.text));
     else
@@ -125,7 +125,7 @@ void CLogListDialog::openFolder() const
 
 QString CLogListDialog::getCurrentPath() const
 {
-    return getTree()->currentItem()->data(0, PathRole).toString();
+    return getTree()->currentItem()->data(0, PATH_ROLE).toString();
 }
 
 } // namespace Viewer::AppCore

@@ -12,7 +12,7 @@ class CLogListDialog : public CListDialog
 
 public:
     /// Longest part of a log that is read for the list, in bytes; about 35 cameras.
-    static constexpr qint64 MaximumLogSize = 1024 * 1024;
+    static constexpr qint64 MAXIMUM_LOG_SIZE = 1024 * 1024;
 
     /// Reads the logs of @p folder, which is used by nothing after the constructor.
     explicit CLogListDialog(const CLogFolder &folder, QWidget *parent = nullptr);

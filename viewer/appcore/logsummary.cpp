@@ -9,8 +9,8 @@
 
 namespace Viewer::AppCore {
 
-static constexpr int MaximumNameLength = 80;
-static constexpr qint64 MaximumCount = 999999;
+static constexpr int MAXIMUM_NAME_LENGTH = 80;
+static constexpr qint64 MAXIMUM_COUNT = 999999;
 
 namespace {
 
@@ -78,7 +78,7 @@ void CLogFollower::addCamera(const QRegularExpressionMatch &match)
     // A series ends with the first camera that fails.
     series.updated = number - 1;
     if (begins) {
-        const QString name = Text::toSingleLine(match.captured(5).left(MaximumNameLength));
+        const QString name = Text::toSingleLine(match.captured(5).left(MAXIMUM_NAME_LENGTH));
         if (!m_cameraNames.contains(name))
             m_cameraNames.append(name);
     } else if (match.capturedLength(4) == 0) {
@@ -100,8 +100,8 @@ CLogSummary CLogFollower::getSummary() const
         cameraCount += series.total;
         updatedCount += series.updated;
     }
-    summary.cameraCount = static_cast<int>(std::min(cameraCount, MaximumCount));
-    summary.updatedCount = static_cast<int>(std::min(updatedCount, MaximumCount));
+    summary.cameraCount = static_cast<int>(std::min(cameraCount, MAXIMUM_COUNT));
+    summary.updatedCount = static_cast<int>(std::min(updatedCount, MAXIMUM_COUNT));
     const auto any = [this](bool CSeries::*flag, bool value) {
         return std::any_of(m_series.cbegin(), m_series.cend(),
                            [=](const CSeries &series) { return series.*flag == value; });

@@ -19,9 +19,9 @@ namespace Viewer::AppCore {
 using Text::CLanguage;
 using Text::CLanguageEntry;
 
-static const QLatin1String GeometryKey("mainWindow/geometry");
-static const QLatin1String StateKey("mainWindow/state");
-static constexpr int MessageTime = 8000; // milliseconds
+static const QLatin1String GEOMETRY_KEY("mainWindow/geometry");
+static const QLatin1String STATE_KEY("mainWindow/state");
+static constexpr int MESSAGE_TIME = 8000; // milliseconds
 
 CMainWindow::CMainWindow(CMenuService &menus, QWidget *parent)
     : QMainWindow(parent)
@@ -53,9 +53,9 @@ void CMainWindow::createMenus(CMenuService &menus)
     m_selectorMenu = new QMenu(this);
     m_toolsMenu->setObjectName(QStringLiteral("toolsMenu"));
     m_selectorMenu->setObjectName(QStringLiteral("selectorMenu"));
-    menus.addMenu(Ids::ToolsMenu, m_toolsMenu, {Ids::ToolsGroup});
-    menus.addMenu(Ids::CameraSelectorContextMenu, m_selectorMenu,
-                  {Ids::SelectorAcquisitionGroup, Ids::SelectorMiscGroup});
+    menus.addMenu(Ids::TOOLS_MENU, m_toolsMenu, {Ids::TOOLS_GROUP});
+    menus.addMenu(Ids::CAMERA_SELECTOR_CONTEXT_MENU, m_selectorMenu,
+                  {Ids::SELECTOR_ACQUISITION_GROUP, Ids::SELECTOR_MISC_GROUP});
 }
 
 void CMainWindow::setViews(QWidget *cameraTree, QWidget *imageView)
@@ -116,13 +116,13 @@ QString CMainWindow::refuseClose()
 void CMainWindow::restorePlace()
 {
     const QSettings settings;
-    restoreGeometry(settings.value(GeometryKey).toByteArray());
-    restoreState(settings.value(StateKey).toByteArray());
+    restoreGeometry(settings.value(GEOMETRY_KEY).toByteArray());
+    restoreState(settings.value(STATE_KEY).toByteArray());
 }
 
 void CMainWindow::showMessage(const QString &message)
 {
-    statusBar()->showMessage(message, MessageTime);
+    statusBar()->showMessage(message, MESSAGE_TIME);
 }
 
 void CMainWindow::setStatus(const QString &text)
@@ -137,8 +137,8 @@ void CMainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     QSettings settings;
-    settings.setValue(GeometryKey, saveGeometry());
-    settings.setValue(StateKey, saveState());
+    settings.setValue(GEOMETRY_KEY, saveGeometry());
+    settings.setValue(STATE_KEY, saveState());
     event->accept();
     emit closed();
 }

@@ -43,7 +43,7 @@ CMenuService::registerAction(QAction *action, const Core::CId &commandId,
                              const QList<Core::CId> &contexts)
 {
     // The viewer knows one context only, the one that is always active.
-    const bool active = contexts.contains(Core::CId(Ids::GlobalContext));
+    const bool active = contexts.contains(Core::CId(Ids::GLOBAL_CONTEXT));
     const QSharedPointer<Plugin::AppCore::ICommand> command
         = QSharedPointer<CCommand>::create(action, commandId, active);
     m_commands.insert(commandId, command);

@@ -15,13 +15,13 @@ class CActionContainer;
 
 /// The names of the viewer's menus, groups and contexts.
 namespace Ids {
-constexpr const char *ToolsMenu = "NuvexViewer.Menu.Tools";
-constexpr const char *CameraSelectorContextMenu = "NuvexViewer.CameraSelectorContextMenu";
-constexpr const char *ToolsGroup = "NuvexViewer.Group.Tools.Tools";
-constexpr const char *SelectorAcquisitionGroup
+constexpr const char *TOOLS_MENU = "NuvexViewer.Menu.Tools";
+constexpr const char *CAMERA_SELECTOR_CONTEXT_MENU = "NuvexViewer.CameraSelectorContextMenu";
+constexpr const char *TOOLS_GROUP = "NuvexViewer.Group.Tools.Tools";
+constexpr const char *SELECTOR_ACQUISITION_GROUP
     = "NuvexViewer.Group.CameraSelectorContextMenu.Acquisition";
-constexpr const char *SelectorMiscGroup = "NuvexViewer.Group.CameraSelectorContextMenu.Misc";
-constexpr const char *GlobalContext = "AppCore.Global.Context";
+constexpr const char *SELECTOR_MISC_GROUP = "NuvexViewer.Group.CameraSelectorContextMenu.Misc";
+constexpr const char *GLOBAL_CONTEXT = "AppCore.Global.Context";
 } // namespace Ids
 
 /// Keeps the viewer's menus and the commands that plug-ins add to them.

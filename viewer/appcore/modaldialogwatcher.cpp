@@ -8,14 +8,14 @@
 
 namespace Viewer::AppCore {
 
-static const char *const OwnDialogProperty = "nuvexViewerOwnDialog";
+static const char *const OWN_DIALOG_PROPERTY = "nuvexViewerOwnDialog";
 
 static bool isAnyModalDialogVisible()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     return std::any_of(windows.cbegin(), windows.cend(), [](const QWidget *window) {
         return window->isVisible() && window->isModal()
-            && !window->property(OwnDialogProperty).toBool();
+            && !window->property(OWN_DIALOG_PROPERTY).toBool();
     });
 }
 
@@ -32,7 +32,7 @@ CModalDialogWatcher::~CModalDialogWatcher() = default;
 
 void CModalDialogWatcher::markAsOwn(QWidget *dialog)
 {
-    dialog->setProperty(OwnDialogProperty, true);
+    dialog->setProperty(OWN_DIALOG_PROPERTY, true);
 }
 
 bool CModalDialogWatcher::isDialogVisible() const

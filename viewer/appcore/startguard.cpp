@@ -15,7 +15,7 @@
 namespace Viewer::AppCore {
 
 // Far more than any style sheet has.
-static constexpr qint64 MaximumStyleSheetSize = 4 * 1024 * 1024;
+static constexpr qint64 MAXIMUM_STYLE_SHEET_SIZE = 4 * 1024 * 1024;
 
 namespace {
 
@@ -96,10 +96,10 @@ QString CStartGuard::findFault(int argc, char **argv)
             equals >= 0 ? argument.mid(equals + 1) : QByteArray(i + 1 < argc ? argv[i + 1] : ""));
         const QFileInfo file(path);
         // Qt reads it whole: a device would never end.
-        if (!file.isFile() || file.size() > MaximumStyleSheetSize)
+        if (!file.isFile() || file.size() > MAXIMUM_STYLE_SHEET_SIZE)
             return QStringLiteral("The style sheet \"%1\" is not a file of at most %2 bytes.")
                 .arg(Text::toSingleLine(QDir::toNativeSeparators(path)))
-                .arg(MaximumStyleSheetSize);
+                .arg(MAXIMUM_STYLE_SHEET_SIZE);
     }
     return {};
 }

@@ -17,7 +17,7 @@ public:
     ~CTextDialog() override;
 
     /// Longest part of a file that is shown, in bytes; of a longer one the end.
-    static constexpr qint64 MaximumFileSize = 4 * 1024 * 1024;
+    static constexpr qint64 MAXIMUM_FILE_SIZE = 4 * 1024 * 1024;
 
     /// Shows the file @p path, or why it cannot be read, beside the modal dialog @p parent: not
     /// modal itself, and a child of that one, so that it is not blocked by it.

@@ -47,7 +47,7 @@ static QString withoutMnemonic(QString text)
     return text.remove(mnemonic);
 }
 
-static constexpr int NextReasonTime = 1000; // milliseconds
+static constexpr int NEXT_REASON_TIME = 1000; // milliseconds
 
 /// The kinds with their switches as the user left them. A search by broadcast, for example, reaches
 /// devices of others: it is asked for, now or once for all.
@@ -96,7 +96,7 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
             &CViewer::closeIfRequested, Qt::QueuedConnection);
     // Between two cameras of a series no update runs either; only what lasts is told.
     m_nextReasonTimer.setSingleShot(true);
-    m_nextReasonTimer.setInterval(NextReasonTime);
+    m_nextReasonTimer.setInterval(NEXT_REASON_TIME);
     connect(&m_nextReasonTimer, &QTimer::timeout, this, [this] {
         if (getReasonToStayOpen() != m_toldReason)
             requestClose();
@@ -144,7 +144,7 @@ void CViewer::createWindow()
 void CViewer::fillMenus()
 {
     QMenu *const fileMenu = m_window->getFileMenu();
-    const auto contextMenu = m_menuService->getActionContainer(Ids::CameraSelectorContextMenu)
+    const auto contextMenu = m_menuService->getActionContainer(Ids::CAMERA_SELECTOR_CONTEXT_MENU)
                                  .staticCast<CActionContainer>();
     m_acquisition->addActions(m_window->getToolBar(), fileMenu, *contextMenu);
 

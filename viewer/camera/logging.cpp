@@ -2,6 +2,6 @@
 
 namespace Viewer::Camera {
 
-Q_LOGGING_CATEGORY(cameraPoolLog, "viewer.camerapool", QtInfoMsg)
+Q_LOGGING_CATEGORY(cameraLog, "viewer.camera", QtInfoMsg)
 
 } // namespace Viewer::Camera

@@ -4,7 +4,8 @@
 
 namespace Viewer::Camera {
 
-/// "viewer.camerapool", from level info on.
-Q_DECLARE_LOGGING_CATEGORY(cameraPoolLog)
+/// "viewer.camera": what is remembered of cameras. Debug lines only where QT_LOGGING_RULES asks for
+/// them.
+Q_DECLARE_LOGGING_CATEGORY(cameraLog)
 
 } // namespace Viewer::Camera

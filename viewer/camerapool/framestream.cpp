@@ -26,7 +26,7 @@ CFrameStream::CFrameStream(QObject *parent)
     : QObject(parent)
     , m_timer(new QTimer)
 {
-    m_timer->setInterval(FrameIntervalMs);
+    m_timer->setInterval(FRAME_INTERVAL_MS);
     m_timer->moveToThread(&m_thread);
     // The timer is the context, so the frames are made on its thread.
     connect(m_timer, &QTimer::timeout, m_timer, [this] { makeFrames(); });
@@ -89,7 +89,7 @@ void CFrameStream::makeFrames()
                 ++it->savedCount;
             camera = *it;
         }
-        const QImage frame = makeTestPattern(QSize(FrameWidth, FrameHeight), camera.frameNumber,
+        const QImage frame = makeTestPattern(QSize(FRAME_WIDTH, FRAME_HEIGHT), camera.frameNumber,
                                              static_cast<int>(qHash(cameraId) % 360));
         QString cause;
         if (!camera.folder.isEmpty()) {

@@ -19,9 +19,9 @@ class CFrameStream : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int FrameWidth = 640;
-    static constexpr int FrameHeight = 480;
-    static constexpr int FrameIntervalMs = 40;
+    static constexpr int FRAME_WIDTH = 640;
+    static constexpr int FRAME_HEIGHT = 480;
+    static constexpr int FRAME_INTERVAL_MS = 40;
 
     explicit CFrameStream(QObject *parent = nullptr);
     ~CFrameStream() override;

@@ -7,8 +7,8 @@
 
 namespace Viewer::CameraPool {
 
-static constexpr int BarWidth = 128; // in pixels, from dark to bright
-static constexpr int PixelsPerFrame = 4;
+static constexpr int BAR_WIDTH = 128; // in pixels, from dark to bright
+static constexpr int PIXELS_PER_FRAME = 4;
 
 QImage makeTestPattern(QSize size, int frameNumber, int hue)
 {
@@ -16,11 +16,11 @@ QImage makeTestPattern(QSize size, int frameNumber, int hue)
     if (frame.isNull())
         return frame;
     // One row that is longer by a bar; every row of the picture is a window into it.
-    QVector<QRgb> row(size.width() + BarWidth);
+    QVector<QRgb> row(size.width() + BAR_WIDTH);
     for (int x = 0; x < row.size(); ++x)
-        row[x] = QColor::fromHsv(hue, 110, 60 + 180 * (x % BarWidth) / BarWidth).rgb();
+        row[x] = QColor::fromHsv(hue, 110, 60 + 180 * (x % BAR_WIDTH) / BAR_WIDTH).rgb();
     for (int y = 0; y < size.height(); ++y) {
-        const int offset = (y + frameNumber % BarWidth * PixelsPerFrame) % BarWidth;
+        const int offset = (y + frameNumber % BAR_WIDTH * PIXELS_PER_FRAME) % BAR_WIDTH;
         std::memcpy(frame.scanLine(y), row.constData() + offset,
                     static_cast<size_t>(size.width()) * sizeof(QRgb));
     }

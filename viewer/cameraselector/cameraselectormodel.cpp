@@ -8,7 +8,7 @@ using Plugin::CameraPool::CameraInfoPtr;
 using Plugin::CameraPool::TransportLayerInfoPtr;
 
 // The internal id of a layer's index; that of a camera's index is the row of its layer.
-static constexpr quintptr LayerId = ~quintptr(0);
+static constexpr quintptr LAYER_ID = ~quintptr(0);
 
 CCameraSelectorModel::CCameraSelectorModel(QObject *parent)
     : QAbstractItemModel(parent)
@@ -58,7 +58,7 @@ CCameraSelectorModel::getInfo(const QModelIndex &index) const
 {
     if (!index.isValid())
         return {};
-    if (index.internalId() == LayerId)
+    if (index.internalId() == LAYER_ID)
         return m_layers.at(index.row());
     return getCamera(index);
 }
@@ -81,21 +81,21 @@ QModelIndex CCameraSelectorModel::index(int row, int column, const QModelIndex &
 {
     if (!hasIndex(row, column, parent))
         return {};
-    return createIndex(row, column, parent.isValid() ? quintptr(parent.row()) : LayerId);
+    return createIndex(row, column, parent.isValid() ? quintptr(parent.row()) : LAYER_ID);
 }
 
 QModelIndex CCameraSelectorModel::parent(const QModelIndex &child) const
 {
-    if (!child.isValid() || child.internalId() == LayerId)
+    if (!child.isValid() || child.internalId() == LAYER_ID)
         return {};
-    return createIndex(static_cast<int>(child.internalId()), NameColumn, LayerId);
+    return createIndex(static_cast<int>(child.internalId()), NameColumn, LAYER_ID);
 }
 
 int CCameraSelectorModel::rowCount(const QModelIndex &parent) const
 {
     if (!parent.isValid())
         return m_layers.size();
-    if (parent.internalId() != LayerId || parent.column() != NameColumn)
+    if (parent.internalId() != LAYER_ID || parent.column() != NameColumn)
         return 0;
     return m_layers.at(parent.row())->getCameraInfoList().size();
 }
@@ -109,7 +109,7 @@ QVariant CCameraSelectorModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    if (index.internalId() == LayerId)
+    if (index.internalId() == LAYER_ID)
         return getLayerData(index.row(), index.column(), role);
     return getCameraData(getCamera(index), index.column(), role);
 }

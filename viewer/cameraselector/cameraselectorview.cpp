@@ -11,7 +11,7 @@
 
 namespace Viewer::CameraSelector {
 
-static constexpr int ColumnSpace = 16;
+static constexpr int COLUMN_SPACE = 16;
 
 CCameraSelectorView::CCameraSelectorView(
     const QSharedPointer<Plugin::CameraPool::ICameraEnumerationService> &enumeration,
@@ -109,8 +109,8 @@ void CCameraSelectorView::fitColumn(int column)
     // The last column takes what is left, but never less than it has been given. A long reason
     // is elided there rather than scrolled to; the tool tip has all of it.
     const bool isLast = column == CCameraSelectorModel::StateColumn;
-    setColumnWidth(column,
-                   isLast ? titleWidth : qMax(sizeHintForColumn(column), titleWidth) + ColumnSpace);
+    setColumnWidth(
+        column, isLast ? titleWidth : qMax(sizeHintForColumn(column), titleWidth) + COLUMN_SPACE);
 }
 
 void CCameraSelectorView::currentChanged(const QModelIndex &current, const QModelIndex &previous)

@@ -15,7 +15,7 @@ using namespace Plugin::CameraPool;
 using CameraList = QVector<CameraInfoPtr>;
 
 // The model of the built-in cameras that the demonstration takes when it is there.
-static const QLatin1String PreferredModel("VX-1400M");
+static const QLatin1String PREFERRED_MODEL("VX-1400M");
 
 static QMap<QString, CameraList> groupByModel(const ICameraEnumerationService &enumeration)
 {
@@ -61,8 +61,8 @@ CDemoPlan CDemoPlan::create(ICameraEnumerationService &enumeration,
     const QMap<QString, CameraList> groups = groupByModel(enumeration);
     QStringList models = groups.keys();
     std::stable_sort(models.begin(), models.end(), [&groups](const auto &left, const auto &right) {
-        if ((left == PreferredModel) != (right == PreferredModel))
-            return left == PreferredModel;
+        if ((left == PREFERRED_MODEL) != (right == PREFERRED_MODEL))
+            return left == PREFERRED_MODEL;
         return groups.value(left).size() > groups.value(right).size();
     });
     const QFileInfoList files

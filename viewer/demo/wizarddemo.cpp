@@ -27,11 +27,11 @@ namespace Viewer::Demo {
 using Plugin::CameraPool::CameraInfoPtr;
 using Plugin::CameraPool::ICameraEnumerationService;
 
-static constexpr int PollTime = 50; // milliseconds
-static constexpr std::chrono::seconds HangTime(60);
+static constexpr int POLL_TIME = 50; // milliseconds
+static constexpr std::chrono::seconds HANG_TIME(60);
 // How long the cameras' new versions, and then an image, may take to arrive; nothing else runs.
-static constexpr qint64 ArrivalTime = 10000; // milliseconds
-static constexpr int FramesBeforePicture = 3;
+static constexpr qint64 ARRIVAL_TIME = 10000; // milliseconds
+static constexpr int FRAMES_BEFORE_PICTURE = 3;
 
 static void print(const QString &line)
 {
@@ -65,9 +65,9 @@ CWizardDemo::CWizardDemo(AppCore::CViewer &viewer, const QString &samplesDirecto
     : m_viewer(viewer)
     , m_samplesDirectory(samplesDirectory)
     , m_pictureDirectory(pictureDirectory)
-    , m_watchdog(HangTime)
+    , m_watchdog(HANG_TIME)
 {
-    m_timer.setInterval(PollTime);
+    m_timer.setInterval(POLL_TIME);
     connect(&m_timer, &QTimer::timeout, this, &CWizardDemo::poll);
     connect(m_viewer.getEnumerationService().data(), &ICameraEnumerationService::enumerationChanged,
             this, [this] { m_enumerated = true; });
@@ -264,7 +264,7 @@ void CWizardDemo::doWaitForVersions()
         updatedCount += now && now->getFirmwareVersion() == m_plan.targetVersion ? 1 : 0;
     }
     const bool complete = updatedCount == m_plan.cameras.size();
-    if (!complete && m_phaseTime.elapsed() < ArrivalTime)
+    if (!complete && m_phaseTime.elapsed() < ARRIVAL_TIME)
         return;
     for (const CameraInfoPtr &before : qAsConst(m_plan.cameras)) {
         const CameraInfoPtr now = findCamera(before->getId());
@@ -294,7 +294,7 @@ void CWizardDemo::doWaitForVersions()
 
 void CWizardDemo::doWaitForImage()
 {
-    if (m_frameCount < FramesBeforePicture && m_phaseTime.elapsed() < ArrivalTime)
+    if (m_frameCount < FRAMES_BEFORE_PICTURE && m_phaseTime.elapsed() < ARRIVAL_TIME)
         return;
     savePicture(&m_viewer.getMainWindow(), QStringLiteral("viewer"));
     end(m_pictureMissing ? 1 : m_exitCode);

@@ -224,9 +224,9 @@ void CJsonScanner::begin(char bracket, bool isArray)
         failExpected(isArray ? CErrorText::tr("a list that begins with \"[\"")
                              : CErrorText::tr("an object that begins with \"{\""));
     // Keeps the recursion of skipValue() short, too.
-    if (m_levels.size() == MaximumNesting)
+    if (m_levels.size() == MAXIMUM_NESTING)
         fail(CErrorText::tr("lists and objects stand in each other more than %1 deep")
-                 .arg(QString::number(MaximumNesting)));
+                 .arg(QString::number(MAXIMUM_NESTING)));
     ++m_offset;
     CLevel level;
     level.isArray = isArray;

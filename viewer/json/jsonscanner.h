@@ -22,7 +22,7 @@ namespace Viewer::Json {
 class CJsonScanner
 {
 public:
-    static constexpr int MaximumNesting = 16;
+    static constexpr int MAXIMUM_NESTING = 16;
 
     explicit CJsonScanner(const QByteArray &text);
 

@@ -1,6 +1,7 @@
 #include "pluginmanager.h"
 
 #include "dependencyresolver.h"
+#include "logging.h"
 #include "plugininitializer.h"
 #include "pluginscanner.h"
 
@@ -48,6 +49,9 @@ bool CPluginManager::start(const QStringList &directories, const QString &langua
 {
     m_specs.append(CPluginScanner::scan(directories));
     m_order = CDependencyResolver::resolve(m_specs);
+    for (const CPluginSpec &spec : qAsConst(m_specs))
+        qCDebug(pluginLog).noquote() << "found" << spec.getName() << spec.getVersion().toString()
+                                     << spec.getFilePath() << spec.getError();
     m_plugins.resize(m_specs.size());
     // Known before any code of a plug-in runs.
     if (hasRequiredFailure())
@@ -55,6 +59,9 @@ bool CPluginManager::start(const QStringList &directories, const QString &langua
 
     for (const int place : qAsConst(m_order)) {
         const QString error = load(place);
+        qCDebug(pluginLog).noquote()
+            << (error.isEmpty() ? "loaded" : "cannot load") << m_specs.at(place).getName()
+            << m_specs.at(place).getFilePath();
         if (!error.isEmpty())
             fail(place, error);
     }
@@ -133,6 +140,7 @@ void CPluginManager::fail(int place, const QString &error)
 {
     const bool initialized = m_specs.at(place).getState() == EPluginState::Running;
     m_specs[place].setError(error);
+    qCDebug(pluginLog).noquote() << "refused" << m_specs.at(place).getName() << error;
     Core::Plugin::IPlugin *const plugin = m_plugins.at(place);
     if (initialized && plugin) {
         QString ignored;

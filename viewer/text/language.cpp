@@ -8,7 +8,7 @@
 
 namespace Viewer::Text {
 
-static const QLatin1String LanguageKey("language");
+static const QLatin1String LANGUAGE_KEY("language");
 
 QList<CLanguageEntry> CLanguage::getEntries()
 {
@@ -57,12 +57,12 @@ QString CLanguage::getSystem()
 
 QString CLanguage::getRemembered()
 {
-    return QSettings().value(LanguageKey).toString();
+    return QSettings().value(LANGUAGE_KEY).toString();
 }
 
 void CLanguage::remember(const QString &code)
 {
-    QSettings().setValue(LanguageKey, code);
+    QSettings().setValue(LANGUAGE_KEY, code);
 }
 
 CLanguage::CLanguage(const QString &code)

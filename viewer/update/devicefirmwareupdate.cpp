@@ -2,11 +2,11 @@
 
 #include "errortranslator.h"
 #include "firmwareupdateinfo.h"
+#include "logging.h"
 #include "updateestimate.h"
 #include "viewer/camera/cameraactivities.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/icameradevice.h"
-#include "viewer/camera/logging.h"
 #include "viewer/updatefile/firmwareversion.h"
 
 #include "viewer/text/visibletext.h"
@@ -68,6 +68,10 @@ void CDeviceFirmwareUpdate::executeFirmwareUpdate()
     }
     bool claimed = false;
     const CErrorText error = execute(claimed);
+    qCDebug(updateLog).noquote() << m_camera.name
+                                 << (error.isEmpty() ? QStringLiteral("is updated, version")
+                                                     : error.getEnglish())
+                                 << getFirmwareVersion();
     m_device.reset();
     announceEnd(error);
     if (claimed)
@@ -156,8 +160,7 @@ void CDeviceFirmwareUpdate::announceEnd(const CErrorText &error) noexcept
         else
             emit firmwareUpdateError(error.getEnglish());
     } catch (...) {
-        qCCritical(Camera::cameraPoolLog,
-                   "a receiver of the update's last signal has thrown an exception");
+        qCCritical(updateLog, "a receiver of the update's last signal has thrown an exception");
     }
 }
 

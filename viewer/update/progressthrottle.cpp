@@ -2,8 +2,8 @@
 
 namespace Viewer::Update {
 
-static constexpr std::chrono::milliseconds Interval(100);
-static constexpr int LastPercent = 100;
+static constexpr std::chrono::milliseconds INTERVAL(100);
+static constexpr int LAST_PERCENT = 100;
 
 CProgressThrottle::CProgressThrottle(Clock::time_point start)
     : m_lastTime(start)
@@ -15,7 +15,7 @@ bool CProgressThrottle::passes(double percent, Clock::time_point now)
     const int wholePercent = static_cast<int>(percent);
     if (wholePercent <= m_lastPercent)
         return false;
-    if (wholePercent < LastPercent && now - m_lastTime < Interval)
+    if (wholePercent < LAST_PERCENT && now - m_lastTime < INTERVAL)
         return false;
     m_lastPercent = wholePercent;
     m_lastTime = now;

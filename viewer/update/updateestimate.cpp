@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 using Plugin::CameraPool::EFirmwareUpdateStep;
 using std::chrono::milliseconds;
 
-static constexpr milliseconds LongestEstimate(std::numeric_limits<int>::max());
+static constexpr milliseconds LONGEST_ESTIMATE(std::numeric_limits<int>::max());
 
 static milliseconds getUsualTime(const UpdateFile::CUpdateStep &step, qint64 uploadRate)
 {
@@ -27,7 +27,7 @@ static milliseconds getUsualTime(const UpdateFile::CUpdateStep &step, qint64 upl
         const double seconds = static_cast<double>(step.payload.size)
             / static_cast<double>(std::max<qint64>(uploadRate, 1));
         return milliseconds(static_cast<qint64>(
-            std::min(seconds * 1000.0, static_cast<double>(LongestEstimate.count()))));
+            std::min(seconds * 1000.0, static_cast<double>(LONGEST_ESTIMATE.count()))));
     }
     case EFirmwareUpdateStep::DeviceReset:
         return 5s;
@@ -41,14 +41,14 @@ milliseconds estimateStep(const UpdateFile::CUpdateStep &step, qint64 uploadRate
 {
     const milliseconds estimate
         = step.estimatedMs ? milliseconds(*step.estimatedMs) : getUsualTime(step, uploadRate);
-    return std::clamp(estimate, milliseconds(1), LongestEstimate);
+    return std::clamp(estimate, milliseconds(1), LONGEST_ESTIMATE);
 }
 
 milliseconds estimateEntry(const UpdateFile::CUpdateEntry &entry, qint64 uploadRate)
 {
     milliseconds total = 0ms;
     for (const UpdateFile::CUpdateStep &step : entry.steps)
-        total = std::min(total + estimateStep(step, uploadRate), LongestEstimate);
+        total = std::min(total + estimateStep(step, uploadRate), LONGEST_ESTIMATE);
     return total;
 }
 

@@ -1,10 +1,12 @@
 #include "updaterun.h"
 
+#include "logging.h"
 #include "progressthrottle.h"
 #include "updateestimate.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/icameradevice.h"
 #include "viewer/updatefile/firmwareversion.h"
+#include "viewer/updatefile/manifestparser.h"
 #include "viewer/updatefile/updatearchive.h"
 #include "viewer/updatefile/updatefileerror.h"
 
@@ -24,8 +26,8 @@ using Plugin::CameraPool::EFirmwareUpdateStep;
 using UpdateFile::CFeatureValue;
 using UpdateFile::CUpdateStep;
 
-static constexpr std::chrono::milliseconds OpenLimit = 10s;
-static constexpr std::chrono::milliseconds FeatureLimit = 5s;
+static constexpr std::chrono::milliseconds OPEN_LIMIT = 10s;
+static constexpr std::chrono::milliseconds FEATURE_LIMIT = 5s;
 
 CUpdateRun::CUpdateRun(const QString &cameraName, const UpdateFile::CUpdateEntry &entry,
                        const QString &filePath, Camera::ICameraDevice &device, IListener &listener)
@@ -41,10 +43,14 @@ CUpdateRun::~CUpdateRun() = default;
 
 void CUpdateRun::execute()
 {
-    m_device.open(OpenLimit);
+    m_device.open(OPEN_LIMIT);
     for (m_currentStep = 0; m_currentStep < m_entry.steps.size(); ++m_currentStep) {
         const CUpdateStep &step = m_entry.steps.at(m_currentStep);
         const std::chrono::milliseconds estimate = estimateStep(step, m_device.getUploadRate());
+        qCDebug(updateLog).noquote().nospace()
+            << m_cameraName << ": step " << m_currentStep + 1 << " of " << m_entry.steps.size()
+            << ", " << UpdateFile::getStepKindName(step.kind) << ", may take "
+            << getTimeLimit(estimate).count() << " ms";
         m_listener.stepBegun(step, estimate);
         executeStep(step);
         m_listener.stepDone(step, estimate);
@@ -229,7 +235,7 @@ QString CUpdateRun::readFirmwareVersion()
 
 QString CUpdateRun::readFeature(const QString &name)
 {
-    return m_device.readFeature(name, FeatureLimit);
+    return m_device.readFeature(name, FEATURE_LIMIT);
 }
 
 void CUpdateRun::fail(const CErrorText &cause) const

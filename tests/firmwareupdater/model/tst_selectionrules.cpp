@@ -110,7 +110,7 @@ void CSelectionRulesTest::spreadsTicks()
 
 void CSelectionRulesTest::announcesASpreadOnce()
 {
-    constexpr int rowCount = 9;
+    constexpr int ROW_COUNT = 9;
     QSignalSpy spy(m_model.get(), &QAbstractItemModel::dataChanged);
     const auto check = [&](const char *name, int count, const QVector<int> &roles) {
         tick(name, true);
@@ -118,9 +118,9 @@ void CSelectionRulesTest::announcesASpreadOnce()
         QCOMPARE(spy.last().at(2).value<QVector<int>>(), roles);
         spy.clear();
     };
-    check("l1/a1", 1 + rowCount, {0, 8});
+    check("l1/a1", 1 + ROW_COUNT, {0, 8});
     check("l1/a2", 1, {0});
-    check("group:l1/M", 1 + rowCount, {0, 8, 2});
+    check("group:l1/M", 1 + ROW_COUNT, {0, 8, 2});
     m_model->updateAllNodesBySelection(m_model->index(0, 0));
     m_model->updateAllNodesBySelection({});
     QCOMPARE(spy.count(), 0);

@@ -15,7 +15,7 @@ using TestSupport::CUpdaterFixture;
 
 namespace {
 
-const QString refusal = "The series of updates was stopped before this camera";
+const QString REFUSAL = "The series of updates was stopped before this camera";
 
 /// What the log says about camera @p number of @p count, whose job has one step and succeeds.
 QStringList getLines(int number, int count)
@@ -259,10 +259,10 @@ void CFirmwareUpdatingStepTest::stopsAfterTheCurrentCameraOnCancel()
              QStringList({"WARNING User canceled firmware update"}));
     const QStringList expectedEnd
         = {"INFO Finished firmware update (1/3)",
-           "INFO Firmware updates have been canceled by the user", "CRITICAL " + refusal,
+           "INFO Firmware updates have been canceled by the user", "CRITICAL " + REFUSAL,
            "CRITICAL Firmware update (2/3) failed.", "INFO Finished all firmware updates"};
     QCOMPARE(getLogEnd(expectedEnd.size()), expectedEnd);
-    QCOMPARE(m_fixture->service->getUpdateFailureMessage(), refusal);
+    QCOMPARE(m_fixture->service->getUpdateFailureMessage(), REFUSAL);
 }
 
 void CFirmwareUpdatingStepTest::succeedsWhenCanceledDuringTheLastCamera()

@@ -130,7 +130,7 @@ void CLogsTest::removesOldLogsAndNothingElse()
     makeFile(makeFolder("20200101_000000_single") + old.arg(5));
     makeFolder("20200101_000000_emptyX");
     const QString recent = makeFolder("20260101_000000_recent");
-    for (int i = 0; i < CLogFolder::MaximumCount; ++i)
+    for (int i = 0; i < CLogFolder::MAXIMUM_COUNT; ++i)
         makeFile(recent + "NuvexFirmwareUpdaterGUI_20260101_"
                  + QTime(0, 0).addSecs(i).toString("HHmmss") + ".log");
 
@@ -139,7 +139,7 @@ void CLogsTest::removesOldLogsAndNothingElse()
     for (const QString &kept : {inUse, unknown, behindLink, notes})
         QVERIFY2(QFile::exists(kept), qPrintable(kept));
     QVERIFY(QFileInfo(link).isSymLink());
-    QCOMPARE(find("*20260101_*.log").size(), CLogFolder::MaximumCount);
+    QCOMPARE(find("*20260101_*.log").size(), CLogFolder::MAXIMUM_COUNT);
     QCOMPARE(find(old.arg(4)) + find(old.arg(5)), QStringList());
     QCOMPARE(find("*single") + find("*emptyX"), QStringList());
 }
@@ -241,7 +241,7 @@ void CLogsTest::listsShowsAndCopies()
     const QString ended = makeFolder("20260115_064211_endedX");
     makeFile(ended + "NuvexFirmwareUpdaterGUI_20260115_064211.log", text);
     makeFile(ended + "NuvexFirmwareUpdaterGUI_20260331_020000.log",
-             QByteArray(CLogListDialog::MaximumLogSize, 'x') + '\n' + text + end);
+             QByteArray(CLogListDialog::MAXIMUM_LOG_SIZE, 'x') + '\n' + text + end);
     CLogFolder folder;
     QVERIFY(folder.open());
     makeFile(QDir::tempPath() + "/NuvexFirmwareUpdaterGUI_20260201_000000.log", text);

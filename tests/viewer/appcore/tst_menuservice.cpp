@@ -38,7 +38,7 @@ void CMenuServiceTest::commandStandsForItsSource()
 {
     CMenuService service;
     QAction source("Before");
-    const auto command = service.registerAction(&source, "Entry", {Ids::GlobalContext});
+    const auto command = service.registerAction(&source, "Entry", {Ids::GLOBAL_CONTEXT});
     const QAction *const action = command->getAction();
     for (const bool on : {false, true}) {
         source.setEnabled(on);

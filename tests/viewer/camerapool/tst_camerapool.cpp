@@ -30,8 +30,8 @@ using namespace Plugin::CameraPool;
 class CCameraPoolTest;
 Q_DECLARE_METATYPE(std::function<void(CCameraPoolTest &)>)
 
-static const QString FirstId = "gige-40012345";
-static const QString SecondId = "gige-40012346";
+static const QString FIRST_ID = "gige-40012345";
+static const QString SECOND_ID = "gige-40012346";
 
 class CCameraPoolTest : public QObject
 {
@@ -97,29 +97,29 @@ void CCameraPoolTest::startsAndStopsCameras()
         = [this](const QString &id, bool on) { QVERIFY(TestSupport::setSwitch(*m_pool, id, on)); };
     const auto verifyRefused = [this](const char *cause) {
         QString error;
-        QVERIFY(!m_pool->startAcquisition(FirstId, &error));
-        QVERIFY(!m_pool->startRecording(FirstId, m_folder->path(), &error));
+        QVERIFY(!m_pool->startAcquisition(FIRST_ID, &error));
+        QVERIFY(!m_pool->startRecording(FIRST_ID, m_folder->path(), &error));
         QVERIFY2(error.contains(cause), qPrintable(error));
     };
-    set("busy:" + FirstId, true);
+    set("busy:" + FIRST_ID, true);
     verifyRefused("in use by another application");
-    set("busy:" + FirstId, false);
+    set("busy:" + FIRST_ID, false);
 
     QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
-    QVERIFY(m_pool->startAcquisition(FirstId));
-    set("plugged:" + FirstId, false);
+    QVERIFY(m_pool->startAcquisition(FIRST_ID));
+    set("plugged:" + FIRST_ID, false);
     QTRY_COMPARE(m_announced->count(), 2);
-    QVERIFY(!find(FirstId));
+    QVERIFY(!find(FIRST_ID));
     QCOMPARE(failed.count(), 1);
-    QCOMPARE(m_pool->getActivity(FirstId), ECameraActivity::Idle);
+    QCOMPARE(m_pool->getActivity(FIRST_ID), ECameraActivity::Idle);
     verifyRefused("does not answer");
-    set("plugged:" + FirstId, true);
+    set("plugged:" + FIRST_ID, true);
     QTRY_COMPARE(m_announced->count(), 3);
 
     const auto status = getService<ICameraStatusService>();
-    const QStringList ids{FirstId, SecondId, "cxp-50300021"};
-    QVERIFY(m_pool->startAcquisition(FirstId));
-    QVERIFY(m_pool->startRecording(SecondId, m_folder->path()));
+    const QStringList ids{FIRST_ID, SECOND_ID, "cxp-50300021"};
+    QVERIFY(m_pool->startAcquisition(FIRST_ID));
+    QVERIFY(m_pool->startRecording(SECOND_ID, m_folder->path()));
     set("busy:" + ids.last(), true);
     for (const QString &id : ids)
         QVERIFY(status->isCameraBusy(find(id)));
@@ -136,15 +136,15 @@ void CCameraPoolTest::whatIsStoppedMakesNoPictures_data()
     const auto add = [](const char *name, bool acquires, const Stop &stop) {
         QTest::newRow(name) << stop << acquires;
     };
-    add("recording stopped", true, [](auto &test) { test.m_pool->stopRecording(FirstId); });
-    add("acquisition stopped", false, [](auto &test) { test.m_pool->stopAcquisition(FirstId); });
+    add("recording stopped", true, [](auto &test) { test.m_pool->stopRecording(FIRST_ID); });
+    add("acquisition stopped", false, [](auto &test) { test.m_pool->stopAcquisition(FIRST_ID); });
     add("unplugged", false, [](auto &test) {
-        TestSupport::setSwitch(*test.m_pool, "plugged:" + FirstId, false);
+        TestSupport::setSwitch(*test.m_pool, "plugged:" + FIRST_ID, false);
         QTRY_COMPARE(test.m_announced->count(), 2);
     });
     add("before an update", false, [](auto &test) {
         test.template getService<ICameraStreamControlService>()->stopAllCameras();
-        const auto job = test.createJob(FirstId, 20'000);
+        const auto job = test.createJob(FIRST_ID, 20'000);
         const CJobRecorder recorder(*job);
         executeOnThread(*job);
         QCOMPARE(recorder.getAll("done").size(), 1);
@@ -157,7 +157,7 @@ void CCameraPoolTest::whatIsStoppedMakesNoPictures()
     QFETCH(bool, acquires);
     const QTemporaryDir folder;
     const auto countFiles = [&folder] { return QDir(folder.path()).entryList(QDir::Files).size(); };
-    QVERIFY(m_pool->startRecording(FirstId, folder.path()));
+    QVERIFY(m_pool->startRecording(FIRST_ID, folder.path()));
     QTRY_VERIFY(countFiles() > 0);
     QHash<QString, int> frames; // by camera
     connect(m_pool.get(), &CCameraPool::frameReady, this,
@@ -166,30 +166,30 @@ void CCameraPoolTest::whatIsStoppedMakesNoPictures()
     const int fileCount = countFiles();
     frames.clear();
     // Another camera shows that time goes by.
-    QVERIFY(m_pool->startAcquisition(SecondId));
-    QTRY_VERIFY(frames.value(SecondId) >= 3);
+    QVERIFY(m_pool->startAcquisition(SECOND_ID));
+    QTRY_VERIFY(frames.value(SECOND_ID) >= 3);
     m_pool->disconnect(this);
-    QCOMPARE(frames.contains(FirstId), acquires);
+    QCOMPARE(frames.contains(FIRST_ID), acquires);
     QCOMPARE(countFiles(), fileCount);
 }
 
 void CCameraPoolTest::updateIsAnnouncedOnceAtItsEnd()
 {
     createPool(20.0);
-    const CameraInfoPtr before = find(FirstId);
-    const auto job = createJob(FirstId, 20'000);
+    const CameraInfoPtr before = find(FIRST_ID);
+    const auto job = createJob(FIRST_ID, 20'000);
     QSignalSpy running(m_pool.get(), &CCameraPool::updateRunningChanged);
     QStringList versions;
     connect(getService<ICameraEnumerationService>().data(),
             &ICameraEnumerationService::enumerationChanged, this, [this, &versions] {
                 versions.append(m_pool->isUpdateRunning() ? "too early"
-                                                          : find(FirstId)->getFirmwareVersion());
+                                                          : find(FIRST_ID)->getFirmwareVersion());
             });
     std::thread thread([&job] { job->executeFirmwareUpdate(); });
     // Waited for below whatever happens, so nothing may return before.
     const bool begun = QTest::qWaitFor([&running] { return running.count() > 0; });
     const bool busy = getService<ICameraStatusService>()->isCameraBusy(before);
-    const bool startable = m_pool->startAcquisition(FirstId);
+    const bool startable = m_pool->startAcquisition(FIRST_ID);
     getService<CCameraEnumerationService>()->refreshEnumeration(); // an impatient user
     const QString versionMeanwhile = job->getFirmwareVersion();
     thread.join();
@@ -200,29 +200,29 @@ void CCameraPoolTest::updateIsAnnouncedOnceAtItsEnd()
     QCOMPARE(before->getFirmwareVersion(), QString("1.2.0"));
 
     createPool(); // the next start
-    QCOMPARE(find(FirstId)->getFirmwareVersion(), QString("2.0.0"));
-    QCOMPARE(find(SecondId)->getFirmwareVersion(), QString("1.2.0"));
+    QCOMPARE(find(FIRST_ID)->getFirmwareVersion(), QString("2.0.0"));
+    QCOMPARE(find(SECOND_ID)->getFirmwareVersion(), QString("1.2.0"));
 }
 
 void CCameraPoolTest::unpluggingEndsAnUpdate()
 {
     createPool(1.0); // the upload alone would take the half of a minute
-    const auto job = createJob(FirstId, 3'000'000);
+    const auto job = createJob(FIRST_ID, 3'000'000);
     const CJobRecorder recorder(*job);
     std::thread thread([&job] { job->executeFirmwareUpdate(); });
     // Told long before the end of the upload.
     const bool progressed
         = QTest::qWaitFor([&] { return !recorder.getAll("progress").isEmpty(); }, 20'000);
-    QVERIFY(TestSupport::setSwitch(*m_pool, "plugged:" + FirstId, false));
+    QVERIFY(TestSupport::setSwitch(*m_pool, "plugged:" + FIRST_ID, false));
     thread.join();
     QVERIFY(progressed);
     QVERIFY2(recorder.getError().contains("connection was lost"), qPrintable(recorder.getError()));
-    QTRY_VERIFY(!find(FirstId));
+    QTRY_VERIFY(!find(FIRST_ID));
 }
 
 void CCameraPoolTest::jobOutlivesThePool()
 {
-    const auto job = createJob(FirstId, 20'000);
+    const auto job = createJob(FIRST_ID, 20'000);
     m_announced.reset();
     m_pool.reset();
     const CJobRecorder recorder(*job);

@@ -13,7 +13,7 @@
 
 using Viewer::AppCore::CLogSummary;
 
-static constexpr int ProgramTime = 90000; // milliseconds; far more than it needs
+static constexpr int PROGRAM_TIME = 90000; // milliseconds; far more than it needs
 
 /// Runs the finished viewer in a home of its own.
 class CNuvexViewerTest : public QObject
@@ -72,7 +72,7 @@ void CNuvexViewerTest::run(const QStringList &arguments, int exitCode, const QSt
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.setWorkingDirectory(m_home.path());
     process.start(VIEWER, arguments);
-    QVERIFY2(process.waitForFinished(ProgramTime), "the viewer did not end");
+    QVERIFY2(process.waitForFinished(PROGRAM_TIME), "the viewer did not end");
     m_output = QString::fromUtf8(process.readAll());
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QVERIFY2(process.exitCode() == exitCode, qPrintable(m_output));
@@ -172,9 +172,9 @@ void CNuvexViewerTest::signalsCloseTheViewer()
     QProcess viewer;
     viewer.start(VIEWER, {"--no-simulation"});
     const QDir logs(m_home.filePath("nuvexviewer/logs"));
-    QTRY_VERIFY_WITH_TIMEOUT(!logs.isEmpty(QDir::Dirs | QDir::NoDotAndDotDot), ProgramTime);
+    QTRY_VERIFY_WITH_TIMEOUT(!logs.isEmpty(QDir::Dirs | QDir::NoDotAndDotDot), PROGRAM_TIME);
     kill(static_cast<pid_t>(viewer.processId()), signal);
-    QVERIFY(viewer.waitForFinished(ProgramTime));
+    QVERIFY(viewer.waitForFinished(PROGRAM_TIME));
     QCOMPARE(viewer.exitStatus(), QProcess::NormalExit);
     QCOMPARE(viewer.exitCode(), 0);
     QVERIFY2(logs.isEmpty(), "a folder without a log is left");
@@ -188,7 +188,7 @@ void CNuvexViewerTest::signalsWaitForTheUpdate()
     viewer.start(VIEWER, {"--samples=" SAMPLES, "--speed=10", "--demo=pictures"});
     QByteArray output;
     const auto waitFor = [&viewer, &output](const char *text, int count) {
-        while (output.count(text) < count && viewer.waitForReadyRead(ProgramTime))
+        while (output.count(text) < count && viewer.waitForReadyRead(PROGRAM_TIME))
             output += viewer.readAll();
         return output.count(text) == count;
     };
@@ -203,7 +203,7 @@ void CNuvexViewerTest::signalsWaitForTheUpdate()
     // As with a terminal that is closed: nobody reads on.
     viewer.closeReadChannel(QProcess::StandardOutput);
     kill(process, SIGTERM);
-    QVERIFY(viewer.waitForFinished(ProgramTime));
+    QVERIFY(viewer.waitForFinished(PROGRAM_TIME));
     QCOMPARE(viewer.exitStatus(), QProcess::NormalExit);
     // The update of all cameras went on, the demonstration behind it did not.
     QCOMPARE(viewer.exitCode(), 1);

@@ -30,7 +30,7 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 
 // Two blanks, of which messages show one.
-static const QString CameraName = "Scripted  camera";
+static const QString CAMERA_NAME = "Scripted  camera";
 
 /// What a CScriptedDevice does and what was done to it; outlives the device, which a job owns.
 struct CDeviceScript
@@ -88,7 +88,7 @@ public:
             m_script->uploaded += source.read(10);
             progress(m_script->uploaded.size());
             if (m_script->uploaded.size() == m_script->refusesAtByte)
-                throw CCameraError(CameraName, Viewer::Text::CErrorText("no more"),
+                throw CCameraError(CAMERA_NAME, Viewer::Text::CErrorText("no more"),
                                    CCameraError::EChange::None);
         }
     }
@@ -162,7 +162,7 @@ QSharedPointer<CDeviceFirmwareUpdate> CDeviceFirmwareUpdateTest::makeJob() const
 {
     const auto manifest = QSharedPointer<CUpdateManifest>::create(m_manifest);
     return QSharedPointer<CDeviceFirmwareUpdate>(new CDeviceFirmwareUpdate(
-        {"id", CameraName, "1.2.0"},
+        {"id", CAMERA_NAME, "1.2.0"},
         QSharedPointer<CFirmwareUpdateInfo>::create(manifest, 0, m_path),
         std::make_unique<CScriptedDevice>(m_script), m_activities, nullptr));
 }
@@ -233,7 +233,7 @@ void CDeviceFirmwareUpdateTest::everyFailingOperationGivesOneError()
             init();
             m_script->before = [this, failing, change](const QString &call) {
                 if (m_script->calls.size() == failing)
-                    throw CCameraError(CameraName, Viewer::Text::CErrorText("no " + call), change);
+                    throw CCameraError(CAMERA_NAME, Viewer::Text::CErrorText("no " + call), change);
             };
             const bool refusesFirst
                 = failing == firstWrite && change == CCameraError::EChange::None;
@@ -325,7 +325,7 @@ void CDeviceFirmwareUpdateTest::showsWhatTheCameraSaysOnOneLine()
     }
     init();
     m_script->before = [](const QString &) {
-        throw CCameraError(CameraName, Viewer::Text::CErrorText("a\u202Eb"));
+        throw CCameraError(CAMERA_NAME, Viewer::Text::CErrorText("a\u202Eb"));
     };
     verifyFailure("a?b", false);
     init();

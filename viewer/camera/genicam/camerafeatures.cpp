@@ -38,7 +38,7 @@ CErrorText getInUseText()
 }
 
 /// Characters of what the library says, which may repeat what the camera says.
-static constexpr int MaximumReasonLength = 300;
+static constexpr int MAXIMUM_REASON_LENGTH = 300;
 
 static CErrorText describe(const CErrorGuard &error)
 {
@@ -51,7 +51,7 @@ static CErrorText describe(const CErrorGuard &error)
     if (error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR_BUSY))
         return CErrorText::tr("it is busy; try again later");
     return CErrorText::tr("it refused (%1)")
-        .arg(Text::shorten(error.getMessage().simplified(), MaximumReasonLength));
+        .arg(Text::shorten(error.getMessage().simplified(), MAXIMUM_REASON_LENGTH));
 }
 
 static EReason findReason(const CErrorGuard &error, EReason refusal)

@@ -12,18 +12,18 @@ using Text::CErrorText;
 using namespace std::chrono_literals;
 
 // Names that the standard gives.
-static const QByteArray AccessBuffer = QByteArrayLiteral("FileAccessBuffer");
-static const QByteArray AccessLength = QByteArrayLiteral("FileAccessLength");
-static const QByteArray AccessOffset = QByteArrayLiteral("FileAccessOffset");
-static const QByteArray OpenMode = QByteArrayLiteral("FileOpenMode");
-static const QByteArray OperationExecute = QByteArrayLiteral("FileOperationExecute");
-static const QByteArray OperationResult = QByteArrayLiteral("FileOperationResult");
-static const QByteArray OperationSelector = QByteArrayLiteral("FileOperationSelector");
-static const QByteArray OperationStatus = QByteArrayLiteral("FileOperationStatus");
-static const QByteArray Selector = QByteArrayLiteral("FileSelector");
+static const QByteArray ACCESS_BUFFER = QByteArrayLiteral("FileAccessBuffer");
+static const QByteArray ACCESS_LENGTH = QByteArrayLiteral("FileAccessLength");
+static const QByteArray ACCESS_OFFSET = QByteArrayLiteral("FileAccessOffset");
+static const QByteArray OPEN_MODE = QByteArrayLiteral("FileOpenMode");
+static const QByteArray OPERATION_EXECUTE = QByteArrayLiteral("FileOperationExecute");
+static const QByteArray OPERATION_RESULT = QByteArrayLiteral("FileOperationResult");
+static const QByteArray OPERATION_SELECTOR = QByteArrayLiteral("FileOperationSelector");
+static const QByteArray OPERATION_STATUS = QByteArrayLiteral("FileOperationStatus");
+static const QByteArray SELECTOR = QByteArrayLiteral("FileSelector");
 
 /// More than one block at a time would only lengthen the wait for each single one.
-static constexpr quint64 MaximumBlockSize = 1024 * 1024;
+static constexpr quint64 MAXIMUM_BLOCK_SIZE = 1024 * 1024;
 
 [[noreturn]] static void fail(const CErrorText &cause)
 {
@@ -43,8 +43,8 @@ CFileUpload::~CFileUpload()
     if (!m_mayBeOpen)
         return;
     try {
-        m_features.write(OperationSelector, QStringLiteral("Close"));
-        m_features.execute(OperationExecute);
+        m_features.write(OPERATION_SELECTOR, QStringLiteral("Close"));
+        m_features.execute(OPERATION_EXECUTE);
     } catch (const CFeatureError &) {
         // The failure that led here says more.
     }
@@ -103,32 +103,32 @@ void CFileUpload::attempt(Describe describe, Action action)
 
 void CFileUpload::prepare()
 {
-    m_buffer = m_features.findRegister(AccessBuffer);
+    m_buffer = m_features.findRegister(ACCESS_BUFFER);
     // Whole words only: the last block is filled up to one.
-    m_buffer.length = std::min(m_buffer.length, MaximumBlockSize) / 4 * 4;
+    m_buffer.length = std::min(m_buffer.length, MAXIMUM_BLOCK_SIZE) / 4 * 4;
     if (m_buffer.length == 0)
         fail(CErrorText::tr("its buffer for files has no room (length 0)"));
-    m_hasOffset = m_features.has(AccessOffset);
-    m_features.write(Selector, m_fileName);
-    m_features.write(OpenMode, QStringLiteral("Write"));
+    m_hasOffset = m_features.has(ACCESS_OFFSET);
+    m_features.write(SELECTOR, m_fileName);
+    m_features.write(OPEN_MODE, QStringLiteral("Write"));
 }
 
 void CFileUpload::write(const QByteArray &block)
 {
     if (!m_isWriteSelected) {
-        m_features.write(OperationSelector, QStringLiteral("Write"));
+        m_features.write(OPERATION_SELECTOR, QStringLiteral("Write"));
         m_isWriteSelected = true;
     }
     if (m_hasOffset)
-        m_features.writeInteger(AccessOffset, m_offset);
+        m_features.writeInteger(ACCESS_OFFSET, m_offset);
     if (m_length != block.size()) {
-        m_features.writeInteger(AccessLength, block.size());
+        m_features.writeInteger(ACCESS_LENGTH, block.size());
         m_length = block.size();
     }
     m_features.writeMemory(m_buffer.address, block.leftJustified((block.size() + 3) / 4 * 4, '\0'));
     execute();
     // The number of bytes says it all; the status is asked for only when they do not fit.
-    const qint64 written = m_features.readInteger(OperationResult);
+    const qint64 written = m_features.readInteger(OPERATION_RESULT);
     if (written != block.size()) {
         checkStatus();
         fail(CErrorText::tr("it accepted only %1 of %2 bytes")
@@ -139,15 +139,15 @@ void CFileUpload::write(const QByteArray &block)
 
 void CFileUpload::operate(const QByteArray &operation)
 {
-    m_features.write(OperationSelector, QString::fromLatin1(operation));
+    m_features.write(OPERATION_SELECTOR, QString::fromLatin1(operation));
     execute();
     checkStatus();
 }
 
 void CFileUpload::execute()
 {
-    m_features.execute(OperationExecute);
-    while (!m_features.isDone(OperationExecute)) {
+    m_features.execute(OPERATION_EXECUTE);
+    while (!m_features.isDone(OPERATION_EXECUTE)) {
         if (m_deadline.hasExpired())
             throw CFeatureError(CErrorText::tr("it took too long"),
                                 CFeatureError::EReason::Unknown);
@@ -157,7 +157,7 @@ void CFileUpload::execute()
 
 void CFileUpload::checkStatus() const
 {
-    const QString status = m_features.read(OperationStatus);
+    const QString status = m_features.read(OPERATION_STATUS);
     if (status != QLatin1String("Success"))
         fail(CErrorText::tr("it reports the status \"%1\"").arg(Text::shorten(status)));
 }

@@ -2,6 +2,7 @@
 
 #include "genicamdevice.h"
 #include "genicamkind.h"
+#include "logging.h"
 #include "networksearch.h"
 #include "unicastdiscovery.h"
 
@@ -15,7 +16,7 @@ namespace Viewer::Camera::GenICam {
 
 using Text::CErrorText;
 /// Two cameras say that they are the same one: nobody can tell which one an update would reach.
-static constexpr qint32 AmbiguousIdentityStatus = 1001;
+static constexpr qint32 AMBIGUOUS_IDENTITY_STATUS = 1001;
 
 std::unique_ptr<ICameraKind> makeKind()
 {
@@ -105,6 +106,11 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
             m_found.insert(camera.id, camera);
     }
 
+    for (const CFoundCamera &camera : qAsConst(found))
+        qCDebug(genICamLog).noquote()
+            << "found" << camera.id << "at" << camera.address << camera.hardwareAddress << "version"
+            << camera.version << (camera.isAmbiguous ? "with a twin" : "");
+
     // Named unlike the simulation's layers, which may stand beside them.
     CTransportLayerSnapshot ethernet{QString::fromLatin1(Plugin::CameraPool::TLTypeGigE),
                                      QStringLiteral("GigE Vision (network)"),
@@ -125,7 +131,7 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
             snapshot.macAddress = camera.hardwareAddress;
         }
         if (camera.isAmbiguous) {
-            snapshot.statusCode = AmbiguousIdentityStatus;
+            snapshot.statusCode = AMBIGUOUS_IDENTITY_STATUS;
             snapshot.statusReason
                 = CErrorText::tr("same serial number as another camera").getLocalized();
         }

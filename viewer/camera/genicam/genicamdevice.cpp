@@ -1,6 +1,7 @@
 #include "genicamdevice.h"
 
 #include "fileupload.h"
+#include "logging.h"
 #include "memoryreader.h"
 #include "unicastdiscovery.h"
 
@@ -18,14 +19,14 @@ using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 
 /// How long a camera may take to say who it is before it is opened.
-static constexpr milliseconds IdentityLimit = 1s;
+static constexpr milliseconds IDENTITY_LIMIT = 1s;
 
 /// How often a camera is looked at that is busy with something.
-static constexpr milliseconds PollInterval = 50ms;
+static constexpr milliseconds POLL_INTERVAL = 50ms;
 
 /// Bytes a second: an 8 MiB image in half a minute, what a block of 512 bytes and three more
 /// commands, each with its way to the camera and back, come to.
-static constexpr qint64 UsualUploadRate = 300'000;
+static constexpr qint64 USUAL_UPLOAD_RATE = 300'000;
 
 CGenICamDevice::CGenICamDevice(const CFoundCamera &camera)
     : m_camera(camera)
@@ -53,8 +54,9 @@ void CGenICamDevice::open(milliseconds timeLimit)
     // its own limits count: 2.5 s for each answer that does not come, and no end for a camera that
     // announces its answer again and again.
     const QDeadlineTimer deadline(timeLimit);
-    checkIdentity(std::min(timeLimit, IdentityLimit));
+    checkIdentity(std::min(timeLimit, IDENTITY_LIMIT));
     m_device = translate([this, &deadline] { return makeDevice(deadline); });
+    qCDebug(genICamLog).noquote() << getName() << "is open";
 }
 
 void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
@@ -158,13 +160,14 @@ void CGenICamDevice::executeCommand(const QString &name, milliseconds timeLimit)
     translate([this, &name, &deadline] {
         const CFeatures features = getFeatures();
         const QByteArray command = name.toUtf8();
+        qCDebug(genICamLog).noquote() << getName() << "command" << name;
         features.execute(command);
         while (!features.isDone(command)) {
             if (deadline.hasExpired())
                 fail(CErrorText::tr("its command \"%1\" took too long; switch the camera off and "
                                     "on and repeat the update")
                          .arg(name));
-            QThread::msleep(PollInterval.count());
+            QThread::msleep(POLL_INTERVAL.count());
         }
     });
 }
@@ -177,6 +180,8 @@ void CGenICamDevice::uploadFile(const QString &fileName, QIODevice &source, qint
         const CFeatures features = getFeatures();
         CFileUpload upload(features, fileName, deadline);
         upload.open();
+        qCDebug(genICamLog).noquote() << getName() << "takes" << size << "bytes for" << fileName
+                                      << "in blocks of" << upload.getBlockSize();
         for (qint64 done = 0; done < size;) {
             if (deadline.hasExpired())
                 fail(CErrorText::tr("the upload of its file \"%1\" took too long; it was broken "
@@ -204,6 +209,7 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
         QString oldVersion;
         if (!isPresent(oldVersion))
             oldVersion = m_camera.version;
+        qCDebug(genICamLog).noquote() << getName() << "is reset, version" << oldVersion;
         try {
             getFeatures().execute(QByteArrayLiteral("DeviceReset"));
         } catch (const CFeatureError &error) {
@@ -221,7 +227,7 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
                 // It answers questions for its name a little before it can be opened.
                 if (deadline.hasExpired())
                     fail(error.getText());
-                QThread::msleep(PollInterval.count());
+                QThread::msleep(POLL_INTERVAL.count());
             }
         }
     });
@@ -231,18 +237,21 @@ void CGenICamDevice::waitForReturn(const QString &oldVersion, const QDeadlineTim
 {
     // Right after the command the camera is still there: only one that has been away, or is
     // another than before, has returned. One missing answer may just be lost on the way.
-    constexpr int sureSilence = 2;
+    constexpr int SURE_SILENCE = 2;
     int silence = 0;
     while (!deadline.hasExpired()) {
         QString version;
         const bool isThere = isPresent(version);
-        if (isThere && (silence >= sureSilence || version != oldVersion))
+        if (isThere && (silence >= SURE_SILENCE || version != oldVersion)) {
+            qCDebug(genICamLog).noquote()
+                << getName() << "is back, version" << version << "unanswered" << silence;
             return;
+        }
         if (!isThere)
             ++silence;
         else
             silence = 0;
-        QThread::msleep(PollInterval.count());
+        QThread::msleep(POLL_INTERVAL.count());
     }
     fail(silence > 0 ? CErrorText::tr("it did not come back from its reset; switch it off and on "
                                       "and check its firmware version")
@@ -266,7 +275,7 @@ bool CGenICamDevice::isPresent(QString &version) const
 
 qint64 CGenICamDevice::getUploadRate() const
 {
-    return UsualUploadRate;
+    return USUAL_UPLOAD_RATE;
 }
 
 milliseconds CGenICamDevice::getShortestResetLimit() const
@@ -297,7 +306,10 @@ std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
 
 void CGenICamDevice::fail(const CErrorText &cause, CCameraError::EChange change) const
 {
-    throw CCameraError(getName(), cause, change);
+    const CCameraError error(getName(), cause, change);
+    qCDebug(genICamLog).noquote() << error.getMessage()
+                                  << (change == CCameraError::EChange::None ? "(unchanged)" : "");
+    throw error;
 }
 
 } // namespace Viewer::Camera::GenICam

@@ -11,11 +11,11 @@
 namespace Viewer::Camera::GenICam {
 
 // The control protocol of GigE Vision: the only question that is asked here, and its answer.
-static constexpr quint16 ControlPort = 3956;
-static constexpr int HeaderSize = 8;
-static constexpr int DiscoverySize = 0xF8;
-static const QByteArray DiscoveryRequest = QByteArray::fromHex("4201000200000001");
-static const QByteArray DiscoveryAnswerHeader = QByteArray::fromHex("0000000300f80001");
+static constexpr quint16 CONTROL_PORT = 3956;
+static constexpr int HEADER_SIZE = 8;
+static constexpr int DISCOVERY_SIZE = 0xF8;
+static const QByteArray DISCOVERY_REQUEST = QByteArray::fromHex("4201000200000001");
+static const QByteArray DISCOVERY_ANSWER_HEADER = QByteArray::fromHex("0000000300f80001");
 
 static QString readText(const QByteArray &payload, int offset, int size)
 {
@@ -35,10 +35,10 @@ static QString readHardwareAddress(const QByteArray &payload)
 std::optional<CFoundCamera> readDiscoveryAnswer(const QByteArray &datagram,
                                                 const QHostAddress &sender)
 {
-    if (datagram.size() != HeaderSize + DiscoverySize
-        || !datagram.startsWith(DiscoveryAnswerHeader))
+    if (datagram.size() != HEADER_SIZE + DISCOVERY_SIZE
+        || !datagram.startsWith(DISCOVERY_ANSWER_HEADER))
         return {};
-    const QByteArray payload = datagram.mid(HeaderSize);
+    const QByteArray payload = datagram.mid(HEADER_SIZE);
     CFoundCamera camera;
     camera.address = sender.toString();
     camera.hardwareAddress = readHardwareAddress(payload);
@@ -51,7 +51,7 @@ std::optional<CFoundCamera> readDiscoveryAnswer(const QByteArray &datagram,
 }
 
 // Datagrams get lost: whoever has not answered by half-time is asked once more.
-static constexpr int Rounds = 2;
+static constexpr int ROUNDS = 2;
 
 QVector<CFoundCamera> discoverUnicast(const QVector<QHostAddress> &addresses,
                                       std::chrono::milliseconds limit)
@@ -62,11 +62,11 @@ QVector<CFoundCamera> discoverUnicast(const QVector<QHostAddress> &addresses,
     for (const QHostAddress &address : addresses)
         missing.insert(address.toIPv4Address());
 
-    for (int round = 0; round < Rounds && !missing.isEmpty(); ++round) {
+    for (int round = 0; round < ROUNDS && !missing.isEmpty(); ++round) {
         for (const quint32 address : qAsConst(missing))
-            socket.writeDatagram(DiscoveryRequest, QHostAddress(address), ControlPort);
+            socket.writeDatagram(DISCOVERY_REQUEST, QHostAddress(address), CONTROL_PORT);
 
-        const QDeadlineTimer deadline(limit / Rounds);
+        const QDeadlineTimer deadline(limit / ROUNDS);
         // Whoever floods this socket does not prolong the wait.
         while (!missing.isEmpty() && !deadline.hasExpired()
                && (socket.hasPendingDatagrams()

@@ -63,10 +63,10 @@ private:
     {
         m_scanner.beginArray();
         while (m_scanner.nextElement()) {
-            if (description.layers.size() == CCameraDescriptionReader::MaximumLayerCount)
+            if (description.layers.size() == CCameraDescriptionReader::MAXIMUM_LAYER_COUNT)
                 m_scanner.fail(
                     CErrorText::tr("more than %1 transport layers")
-                        .arg(QString::number(CCameraDescriptionReader::MaximumLayerCount)));
+                        .arg(QString::number(CCameraDescriptionReader::MAXIMUM_LAYER_COUNT)));
             description.layers.append(readLayer());
         }
     }
@@ -93,10 +93,10 @@ private:
     {
         m_scanner.beginArray();
         while (m_scanner.nextElement()) {
-            if (++m_cameraCount > CCameraDescriptionReader::MaximumCameraCount)
+            if (++m_cameraCount > CCameraDescriptionReader::MAXIMUM_CAMERA_COUNT)
                 m_scanner.fail(
                     CErrorText::tr("more than %1 cameras")
-                        .arg(QString::number(CCameraDescriptionReader::MaximumCameraCount)));
+                        .arg(QString::number(CCameraDescriptionReader::MAXIMUM_CAMERA_COUNT)));
             layer.cameras.append(readCamera());
         }
     }
@@ -105,7 +105,7 @@ private:
     {
         CCameraDescriptionEntry entry;
         CCameraSnapshot &camera = entry.camera;
-        entry.uploadSpeed = CCameraDescriptionReader::DefaultUploadSpeed;
+        entry.uploadSpeed = CCameraDescriptionReader::DEFAULT_UPLOAD_SPEED;
         static const CJsonFields FIELDS{{QStringLiteral("id"), QStringLiteral("displayName"),
                                          QStringLiteral("model"), QStringLiteral("serialNumber"),
                                          QStringLiteral("deviceVersion"),
@@ -132,7 +132,7 @@ private:
                     std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()));
             else if (name == QLatin1String("uploadSpeed"))
                 entry.uploadSpeed
-                    = m_scanner.readInteger(1, CCameraDescriptionReader::MaximumUploadSpeed);
+                    = m_scanner.readInteger(1, CCameraDescriptionReader::MAXIMUM_UPLOAD_SPEED);
             else if (name == QLatin1String("faults"))
                 entry.faults = readFaults();
         }
@@ -185,7 +185,7 @@ private:
     QString readText()
     {
         CTextRule rule;
-        rule.maximumLength = CCameraDescriptionReader::MaximumTextLength;
+        rule.maximumLength = CCameraDescriptionReader::MAXIMUM_TEXT_LENGTH;
         rule.mayHaveSpaceAround = true;
         return m_scanner.readText(rule);
     }
@@ -223,7 +223,7 @@ CCameraDescription CCameraDescriptionReader::readFile(const QString &path)
     if (!file.open(QIODevice::ReadOnly))
         fail(unreadable.arg(name, file.errorString()));
     // One byte more than allowed is enough to know, whatever size the file claims to have.
-    const QByteArray text = file.read(MaximumFileSize + 1);
+    const QByteArray text = file.read(MAXIMUM_FILE_SIZE + 1);
     if (file.error() != QFileDevice::NoError)
         fail(unreadable.arg(name, file.errorString()));
     return read(text, name);
@@ -231,9 +231,9 @@ CCameraDescription CCameraDescriptionReader::readFile(const QString &path)
 
 CCameraDescription CCameraDescriptionReader::read(const QByteArray &text, const QString &name)
 {
-    if (text.size() > MaximumFileSize)
+    if (text.size() > MAXIMUM_FILE_SIZE)
         fail(CErrorText::tr("Camera description \"%1\" is larger than %2 bytes")
-                 .arg(name, QString::number(MaximumFileSize)));
+                 .arg(name, QString::number(MAXIMUM_FILE_SIZE)));
     try {
         return CReader(text).read();
     } catch (const Json::CJsonFault &fault) {

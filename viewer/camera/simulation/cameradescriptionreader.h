@@ -12,12 +12,12 @@ namespace Viewer::Camera::Simulation {
 class CCameraDescriptionReader
 {
 public:
-    static constexpr qint64 MaximumFileSize = 64 * 1024 * 1024;
-    static constexpr int MaximumLayerCount = 100;
-    static constexpr int MaximumCameraCount = 200'000;
-    static constexpr int MaximumTextLength = 200;
-    static constexpr qint64 MaximumUploadSpeed = 1'000'000'000;
-    static constexpr qint64 DefaultUploadSpeed = 100'000;
+    static constexpr qint64 MAXIMUM_FILE_SIZE = 64 * 1024 * 1024;
+    static constexpr int MAXIMUM_LAYER_COUNT = 100;
+    static constexpr int MAXIMUM_CAMERA_COUNT = 200'000;
+    static constexpr int MAXIMUM_TEXT_LENGTH = 200;
+    static constexpr qint64 MAXIMUM_UPLOAD_SPEED = 1'000'000'000;
+    static constexpr qint64 DEFAULT_UPLOAD_SPEED = 100'000;
 
     /// The description that is compiled in: three layers, four models, twelve cameras.
     [[nodiscard]] static CCameraDescription readBuiltIn();

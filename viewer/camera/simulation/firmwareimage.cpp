@@ -20,7 +20,7 @@ CFirmwareImage CFirmwareImage::parse(const QByteArray &beginning)
     while (true) {
         const int end = beginning.indexOf('\n', start);
         // A line that has no end within the header's size is not one.
-        if (end < 0 || end > MaximumHeaderSize)
+        if (end < 0 || end > MAXIMUM_HEADER_SIZE)
             break;
         const QByteArray line = beginning.mid(start, end - start).trimmed();
         start = end + 1;

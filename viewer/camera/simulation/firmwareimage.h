@@ -11,7 +11,7 @@ namespace Viewer::Camera::Simulation {
 /// it is. Keys are not case-sensitive, and others may stand between them.
 struct CFirmwareImage
 {
-    static constexpr int MaximumHeaderSize = 1024;
+    static constexpr int MAXIMUM_HEADER_SIZE = 1024;
 
     QString version; ///< empty: the file is not a firmware image
     QString model; ///< empty: for any model
@@ -21,6 +21,6 @@ struct CFirmwareImage
 };
 
 /// The command feature that makes the next reset install the uploaded image.
-constexpr const char *ActivateCommand = "FirmwareActivate";
+constexpr const char *ACTIVATE_COMMAND = "FirmwareActivate";
 
 } // namespace Viewer::Camera::Simulation

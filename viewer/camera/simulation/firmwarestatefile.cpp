@@ -15,10 +15,10 @@
 namespace Viewer::Camera::Simulation {
 
 // 200,000 cameras with long ids fit; anything larger is not ours.
-static constexpr qint64 MaximumSize = 64 * 1024 * 1024;
-static constexpr int MaximumVersionLength = 200;
+static constexpr qint64 MAXIMUM_SIZE = 64 * 1024 * 1024;
+static constexpr int MAXIMUM_VERSION_LENGTH = 200;
 // At the start, where somebody waits for the window.
-static constexpr std::chrono::milliseconds StartPatience(1000);
+static constexpr std::chrono::milliseconds START_PATIENCE(1000);
 
 static QHash<QString, QString> readVersions(Json::CJsonScanner &scanner)
 {
@@ -26,7 +26,7 @@ static QHash<QString, QString> readVersions(Json::CJsonScanner &scanner)
     QString camera;
     scanner.beginObject();
     while (scanner.nextMember(camera))
-        versions.insert(camera, scanner.readText({MaximumVersionLength}));
+        versions.insert(camera, scanner.readText({MAXIMUM_VERSION_LENGTH}));
     return versions;
 }
 
@@ -111,12 +111,12 @@ void CFirmwareStateFile::clear()
     m_unsaved.clear();
     if (m_path.isEmpty() || !QFile::exists(m_path))
         return;
-    const CStateFileLock fileLock(m_path, StartPatience);
+    const CStateFileLock fileLock(m_path, START_PATIENCE);
     QString fault = fileLock.getFault();
     if (fault.isEmpty() && !QFile::remove(m_path))
         fault = QStringLiteral("the file cannot be removed");
     if (!fault.isEmpty())
-        qCWarning(cameraPoolLog).noquote()
+        qCWarning(cameraLog).noquote()
             << QStringLiteral("The firmware versions of the simulated cameras in \"%1\" cannot be "
                               "forgotten: %2")
                    .arg(QDir::toNativeSeparators(m_path), fault);
@@ -133,8 +133,8 @@ QString CFirmwareStateFile::read(Versions &versions) const
         return QStringLiteral("it is not a regular file");
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
-    if (file.size() > MaximumSize)
-        return QStringLiteral("it is larger than %1 bytes").arg(MaximumSize);
+    if (file.size() > MAXIMUM_SIZE)
+        return QStringLiteral("it is larger than %1 bytes").arg(MAXIMUM_SIZE);
     try {
         versions = parse(file.readAll());
         return {};
@@ -148,7 +148,7 @@ void CFirmwareStateFile::load()
     if (m_path.isEmpty() || read(m_versions).isEmpty())
         return;
     // Another viewer may have replaced the damaged file in the meantime.
-    const CStateFileLock fileLock(m_path, StartPatience);
+    const CStateFileLock fileLock(m_path, START_PATIENCE);
     const QString fault = read(m_versions);
     if (!fault.isEmpty())
         putAside(fault, fileLock.getFault().isEmpty());
@@ -202,7 +202,7 @@ void CFirmwareStateFile::putAside(const QString &fault, bool locked) const
             rescue
                 = QStringLiteral("it was renamed to \"%1\"").arg(QDir::toNativeSeparators(aside));
     }
-    qCWarning(cameraPoolLog).noquote()
+    qCWarning(cameraLog).noquote()
         << QStringLiteral("The firmware versions of the simulated cameras in \"%1\" cannot be "
                           "read (%2); the cameras start as described, and %3")
                .arg(QDir::toNativeSeparators(m_path), fault, rescue);
@@ -210,7 +210,7 @@ void CFirmwareStateFile::putAside(const QString &fault, bool locked) const
 
 void CFirmwareStateFile::warnAboutWriting(const QString &reason) const
 {
-    qCWarning(cameraPoolLog).noquote()
+    qCWarning(cameraLog).noquote()
         << QStringLiteral("The firmware versions of the simulated cameras cannot be written to "
                           "\"%1\" (%2); the next start will show the old ones")
                .arg(QDir::toNativeSeparators(m_path), reason);

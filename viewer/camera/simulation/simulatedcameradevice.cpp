@@ -17,15 +17,15 @@ using std::chrono::milliseconds;
 using EChange = CCameraError::EChange;
 
 // What real cameras take, about.
-static constexpr milliseconds OpenDuration = 200ms;
-static constexpr milliseconds ReadDuration = 20ms;
-static constexpr milliseconds WriteDuration = 60ms;
-static constexpr milliseconds CommandDuration = 900ms;
-static constexpr milliseconds ResetDuration = 4s;
-static constexpr milliseconds LateResetDuration = 5 * ResetDuration;
-static constexpr milliseconds EndlessDuration = milliseconds::max();
+static constexpr milliseconds OPEN_DURATION = 200ms;
+static constexpr milliseconds READ_DURATION = 20ms;
+static constexpr milliseconds WRITE_DURATION = 60ms;
+static constexpr milliseconds COMMAND_DURATION = 900ms;
+static constexpr milliseconds RESET_DURATION = 4s;
+static constexpr milliseconds LATE_RESET_DURATION = 5 * RESET_DURATION;
+static constexpr milliseconds ENDLESS_DURATION = milliseconds::max();
 
-static constexpr qint64 BlockSize = 16 * 1024;
+static constexpr qint64 BLOCK_SIZE = 16 * 1024;
 
 static QString getSeconds(milliseconds time)
 {
@@ -67,7 +67,7 @@ void CSimulatedCameraDevice::open(milliseconds timeLimit)
     m_image.clear();
     m_activatedVersion.clear();
     m_uploaded = false;
-    work(OpenDuration, timeLimit);
+    work(OPEN_DURATION, timeLimit);
 }
 
 void CSimulatedCameraDevice::close() noexcept
@@ -80,7 +80,7 @@ void CSimulatedCameraDevice::close() noexcept
 
 QString CSimulatedCameraDevice::readFeature(const QString &name, milliseconds timeLimit)
 {
-    work(ReadDuration, timeLimit);
+    work(READ_DURATION, timeLimit);
     const CCameraSnapshot &camera = m_camera->getDescription().camera;
     const CScriptedFaults &faults = m_camera->getDescription().faults;
     if (m_uploaded && faults.assertFails)
@@ -104,7 +104,7 @@ QString CSimulatedCameraDevice::readFeature(const QString &name, milliseconds ti
 void CSimulatedCameraDevice::writeFeature(const QString &name, const QString &value,
                                           milliseconds timeLimit)
 {
-    work(WriteDuration, timeLimit);
+    work(WRITE_DURATION, timeLimit);
     if (m_camera->getDescription().faults.writeRefused)
         refuse(CErrorText::tr("it refuses to write the feature \"%1\"").arg(name));
     if (!isFeatureName(name) || name.startsWith(QLatin1String("Device")))
@@ -114,10 +114,10 @@ void CSimulatedCameraDevice::writeFeature(const QString &name, const QString &va
 
 void CSimulatedCameraDevice::executeCommand(const QString &name, milliseconds timeLimit)
 {
-    work(CommandDuration, timeLimit);
+    work(COMMAND_DURATION, timeLimit);
     if (!isFeatureName(name))
         refuse(CErrorText::tr("it has no command \"%1\"").arg(name));
-    if (name == QLatin1String(ActivateCommand))
+    if (name == QLatin1String(ACTIVATE_COMMAND))
         activate();
 }
 
@@ -125,7 +125,7 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
                                         const ProgressFunction &progress, milliseconds timeLimit)
 {
     const CScriptedFaults &faults = m_camera->getDescription().faults;
-    work(WriteDuration, timeLimit);
+    work(WRITE_DURATION, timeLimit);
     if (faults.writeRefused)
         refuse(CErrorText::tr("it refuses to write the file \"%1\"").arg(fileName));
 
@@ -137,7 +137,7 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
     qint64 done = 0;
     const auto getChange = [&done] { return done > 0 ? EChange::Possible : EChange::None; };
     while (done < size) {
-        qint64 wanted = std::min(BlockSize, size - done);
+        qint64 wanted = std::min(BLOCK_SIZE, size - done);
         for (const std::optional<qint64> &end : {faults.uploadFailsAtByte, faults.vanishesAtByte}) {
             if (end && *end >= done)
                 wanted = std::min(wanted, *end - done);
@@ -149,8 +149,8 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
                          .arg(fileName, QString::number(done), QString::number(size),
                               source.errorString()),
                      getChange());
-            if (m_image.size() < CFirmwareImage::MaximumHeaderSize)
-                m_image += block.left(CFirmwareImage::MaximumHeaderSize - m_image.size());
+            if (m_image.size() < CFirmwareImage::MAXIMUM_HEADER_SIZE)
+                m_image += block.left(CFirmwareImage::MAXIMUM_HEADER_SIZE - m_image.size());
             done += block.size();
             const std::chrono::microseconds sent(
                 static_cast<qint64>(static_cast<double>(done) * 1e6 / getUploadRate()));
@@ -174,11 +174,11 @@ void CSimulatedCameraDevice::uploadFile(const QString &fileName, QIODevice &sour
 
 void CSimulatedCameraDevice::resetAndWait(milliseconds timeLimit)
 {
-    work(WriteDuration, timeLimit);
+    work(WRITE_DURATION, timeLimit);
     const CScriptedFaults &faults = m_camera->getDescription().faults;
-    const milliseconds duration = faults.neverReturnsFromReset ? EndlessDuration
-        : faults.returnsLate                                   ? LateResetDuration
-                                                               : ResetDuration;
+    const milliseconds duration = faults.neverReturnsFromReset ? ENDLESS_DURATION
+        : faults.returnsLate                                   ? LATE_RESET_DURATION
+                                                               : RESET_DURATION;
     const QString version = faults.returnsWithOldVersion ? QString() : m_activatedVersion;
     m_activatedVersion.clear();
     m_features.clear();

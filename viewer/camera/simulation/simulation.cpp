@@ -17,11 +17,11 @@
 
 namespace Viewer::Camera::Simulation {
 
-static constexpr double SlowestSpeed = 0.01;
-static constexpr double FastestSpeed = 10000.0;
+static constexpr double SLOWEST_SPEED = 0.01;
+static constexpr double FASTEST_SPEED = 10000.0;
 
 // Layers are asked side by side; the slowest one counts.
-static constexpr std::chrono::milliseconds EnumerationDuration(150);
+static constexpr std::chrono::milliseconds ENUMERATION_DURATION(150);
 
 struct CSimulation::CPrivate
 {
@@ -67,7 +67,7 @@ QVector<CommandLine::COption> CSimulation::getOptions()
     const auto takeSpeed = [this](const QString &text) {
         bool isNumber = false;
         m_askedSpeed = text.toDouble(&isNumber);
-        return isNumber && *m_askedSpeed >= SlowestSpeed && *m_askedSpeed <= FastestSpeed;
+        return isNumber && *m_askedSpeed >= SLOWEST_SPEED && *m_askedSpeed <= FASTEST_SPEED;
     };
     return {
         {QStringLiteral("cameras"), tr("file"), tr("Simulate the cameras described in <file>."),
@@ -79,7 +79,7 @@ QVector<CommandLine::COption> CSimulation::getOptions()
         {QStringLiteral("speed"), tr("n"),
          tr("Let the simulated cameras work <n> times as fast as real ones (default 1; with --demo "
             "%1).")
-             .arg(DemonstrationSpeed),
+             .arg(DEMONSTRATION_SPEED),
          takeSpeed, tr("The speed \"%1\" is not a number from 0.01 to 10000.")},
         {QStringLiteral("no-simulation"),
          {},
@@ -95,7 +95,7 @@ void CSimulation::setDataFolder(const QString &folder)
 
 void CSimulation::prepareDemonstration()
 {
-    m_options.speedFactor = DemonstrationSpeed;
+    m_options.speedFactor = DEMONSTRATION_SPEED;
 }
 
 void CSimulation::start()
@@ -194,7 +194,7 @@ QVector<CTransportLayerSnapshot> CSimulation::enumerate()
     {
         std::unique_lock lock(d->cancelMutex);
         const auto duration = std::chrono::duration_cast<std::chrono::microseconds>(
-            std::chrono::duration<double, std::milli>(EnumerationDuration) / d->speedFactor);
+            std::chrono::duration<double, std::milli>(ENUMERATION_DURATION) / d->speedFactor);
         d->cancelCondition.wait_for(lock, duration, [this] { return d->cancelled; });
         if (d->cancelled)
             return {};

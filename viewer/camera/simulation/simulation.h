@@ -27,7 +27,7 @@ class CSimulation : public ICameraKind
 
 public:
     /// How many times faster than real cameras a demonstration runs unless told otherwise.
-    static constexpr double DemonstrationSpeed = 4.0;
+    static constexpr double DEMONSTRATION_SPEED = 4.0;
 
     explicit CSimulation(const CSimulationOptions &options = {}, QObject *parent = nullptr);
     ~CSimulation() override;

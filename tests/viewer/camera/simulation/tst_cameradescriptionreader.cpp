@@ -7,7 +7,7 @@
 using namespace Viewer::Camera::Simulation;
 
 /// A faultless description of one camera; tests replace parts of it.
-static const char *const Valid = R"({
+static const char *const VALID = R"({
   "format": 1,
   "layers": [
     { "id": "layer", "displayName": "Layer", "cameras": [
@@ -43,7 +43,7 @@ void CCameraDescriptionReaderTest::refusesFaultsWithPlaceAndField()
 {
     const auto refuse = [](const char *before, const char *after, const QString &place,
                            const char *fault) {
-        QByteArray text = Valid;
+        QByteArray text = VALID;
         QVERIFY(text.contains(before));
         const QString message = readFault(text.replace(before, after));
         const QString beginning = QString("Camera description \"cams.json\", line %1, "
@@ -70,7 +70,7 @@ void CCameraDescriptionReaderTest::refusesFaultsWithPlaceAndField()
 
 void CCameraDescriptionReaderTest::refusesEveryTruncation()
 {
-    const QByteArray text = Valid;
+    const QByteArray text = VALID;
     for (int size = 0; size < text.size(); ++size)
         QVERIFY2(readFault(text.left(size)).contains(", line "), qPrintable(text.left(size)));
 }

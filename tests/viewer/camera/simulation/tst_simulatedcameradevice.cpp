@@ -81,7 +81,7 @@ private slots:
 void CSimulatedCameraDeviceTest::installsOnlyWhatWasUploadedActivatedAndRestarted()
 {
     CBench bench;
-    const auto activate = [&bench] { bench.device.executeCommand(ActivateCommand, 5s); };
+    const auto activate = [&bench] { bench.device.executeCommand(ACTIVATE_COMMAND, 5s); };
     verifyFault("no complete firmware image", activate);
     bench.upload("just some text\n\n");
     verifyFault("does not accept the uploaded file", activate);
@@ -114,7 +114,7 @@ void CSimulatedCameraDeviceTest::tellsWhetherItMayHaveChanged()
 {
     CBench bench;
     verifyChange(false, [&] { bench.device.writeFeature("Device1", "", 5s); });
-    verifyChange(false, [&] { bench.device.executeCommand(ActivateCommand, 5s); });
+    verifyChange(false, [&] { bench.device.executeCommand(ACTIVATE_COMMAND, 5s); });
     verifyChange(true, [&] { bench.device.writeFeature("Any", "", 10ms); });
     verifyChange(true, [&] { bench.device.resetAndWait(100ms); });
     verifyChange(false, [&] { bench.device.close(), bench.device.writeFeature("Any", "", 5s); });

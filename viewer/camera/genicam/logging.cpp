@@ -1,0 +1,7 @@
+#include "logging.h"
+
+namespace Viewer::Camera::GenICam {
+
+Q_LOGGING_CATEGORY(genICamLog, "viewer.camera.genicam", QtInfoMsg)
+
+} // namespace Viewer::Camera::GenICam

@@ -1,0 +1,7 @@
+#include "logging.h"
+
+namespace Viewer::PluginSystem {
+
+Q_LOGGING_CATEGORY(pluginLog, "viewer.plugins", QtInfoMsg)
+
+} // namespace Viewer::PluginSystem
