@@ -10,7 +10,7 @@ namespace Plugin::AppCore {
 
 class ICommand;
 
-/// A menu, or a context menu, of the host. Its entries stand in named groups.
+/// A menu, or a context menu, of the host. Its entries stand in named groups. GUI thread.
 class HOSTAPI_EXPORT IActionContainer : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     ~IActionContainer() override;
 
     /// Places @p command behind the entries that its group already has. An unknown group is added
-    /// at the end of the menu. A null command is ignored.
+    /// at the end of the menu. A null command, and one without an action, is ignored.
     virtual void addAction(QSharedPointer<Plugin::AppCore::ICommand> command,
                            const Core::CId &groupId)
         = 0;

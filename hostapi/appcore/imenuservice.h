@@ -12,7 +12,7 @@ class QAction;
 
 namespace Plugin::AppCore {
 
-/// Gives plug-ins their places in the host's menus.
+/// Gives plug-ins their places in the host's menus. GUI thread.
 class HOSTAPI_EXPORT IMenuService : public Core::Service::IService
 {
     Q_OBJECT
@@ -29,6 +29,11 @@ public:
     /// Wraps @p action, which stays the caller's, as the host command @p commandId, active in
     /// @p contexts. The command outlives neither the host nor the action: a deleted action takes
     /// its menu entries with it.
+    ///
+    /// Never null. A null action gives a command without an action, which no menu shows. While
+    /// @p commandId stands for one action it goes on doing so: the command of a second one works in
+    /// menus, but is not what the host finds under the id. The id of a deleted action is free
+    /// again.
     virtual QSharedPointer<Plugin::AppCore::ICommand>
     registerAction(QAction *action, const Core::CId &commandId, const QList<Core::CId> &contexts)
         = 0;

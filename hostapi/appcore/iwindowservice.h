@@ -6,7 +6,7 @@ class QWidget;
 
 namespace Plugin::AppCore {
 
-/// Access to the host's windows.
+/// Access to the host's windows. GUI thread.
 class HOSTAPI_EXPORT IWindowService : public Core::Service::IService
 {
     Q_OBJECT

@@ -1,10 +1,13 @@
-# Installs the contract from PROJECT_BUILD below WORK and builds the project SOURCE against it.
+# Installs the contract from PROJECT_BUILD below WORK and builds each of the projects SOURCES against it.
 function(run)
   execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
 run(${CMAKE_COMMAND} --install ${PROJECT_BUILD} --prefix ${WORK}/installed)
-run(${CMAKE_COMMAND} -S ${SOURCE} -B ${WORK}/build -G ${GENERATOR}
-  -D CMAKE_PREFIX_PATH=${WORK}/installed)
-run(${CMAKE_COMMAND} --build ${WORK}/build)
+foreach(source IN LISTS SOURCES)
+  get_filename_component(name ${source} NAME)
+  run(${CMAKE_COMMAND} -S ${source} -B ${WORK}/${name} -G ${GENERATOR}
+    -D CMAKE_PREFIX_PATH=${WORK}/installed)
+  run(${CMAKE_COMMAND} --build ${WORK}/${name})
+endforeach()

@@ -51,17 +51,6 @@ void CActionContainer::addOwnAction(QAction *action, const Core::CId &groupId)
     updateVisibility();
 }
 
-QMenu *CActionContainer::getMenu() const
-{
-    return m_menu;
-}
-
-bool CActionContainer::hasVisibleEntries() const
-{
-    return std::any_of(m_groups.cbegin(), m_groups.cend(),
-                       [](const CGroup &group) { return showsSomething(group.actions); });
-}
-
 int CActionContainer::findOrAddGroup(const Core::CId &groupId)
 {
     for (int place = 0; place < m_groups.size(); ++place) {

@@ -28,12 +28,6 @@ public:
     /// Places an action of the viewer's own, which stays the caller's.
     void addOwnAction(QAction *action, const Core::CId &groupId);
 
-    /// Null once the menu is gone.
-    [[nodiscard]] QMenu *getMenu() const;
-
-    /// True when the menu shows at least one entry.
-    [[nodiscard]] bool hasVisibleEntries() const;
-
 private:
     struct CGroup
     {

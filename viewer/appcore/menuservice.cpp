@@ -46,7 +46,12 @@ CMenuService::registerAction(QAction *action, const Core::CId &commandId,
     const bool active = contexts.contains(Core::CId(Ids::GLOBAL_CONTEXT));
     const QSharedPointer<Plugin::AppCore::ICommand> command
         = QSharedPointer<CCommand>::create(action, commandId, active);
-    m_commands.insert(commandId, command);
+    // Who looks for an id finds the same entry whatever comes later, also another plug-in of a
+    // careless author.
+    if (findAction(commandId))
+        qWarning("The command id \"%s\" is taken.", qUtf8Printable(commandId.toString()));
+    else
+        m_commands.insert(commandId, command);
     return command;
 }
 

@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <vector>
 
 using namespace Viewer::AppCore;
 
@@ -20,6 +21,8 @@ class CMenuServiceTest : public QObject
 private slots:
     void commandStandsForItsSource();
     void deletedSourceTakesItsEntryAlong();
+    void idStaysWithItsAction_data();
+    void idStaysWithItsAction();
 };
 
 // Texts, and "-" for a separator.
@@ -77,6 +80,55 @@ void CMenuServiceTest::deletedSourceTakesItsEntryAlong()
     container->addAction(command, "plug-ins");
     container->addAction({}, "plug-ins");
     QCOMPARE(look(menu), QStringList({"Own"}));
+}
+
+void CMenuServiceTest::idStaysWithItsAction_data()
+{
+    // Registered under one id, in this order: "0" is no action; "-" deletes the first one.
+    QTest::addColumn<QString>("registered");
+    QTest::addColumn<QString>("found");
+    QTest::addColumn<QStringList>("shown");
+    QTest::newRow("no action") << "0" << QString() << QStringList();
+    QTest::newRow("no action leaves the id free") << "0a"
+                                                  << "a" << QStringList{"a"};
+    QTest::newRow("no action takes no id away") << "a0"
+                                                << "a" << QStringList{"a"};
+    QTest::newRow("taken") << "ab"
+                           << "a" << QStringList{"a", "b"};
+    QTest::newRow("free again") << "a-b"
+                                << "b" << QStringList{"b"};
+}
+
+void CMenuServiceTest::idStaysWithItsAction()
+{
+    QFETCH(QString, registered);
+    QMenu menu;
+    CMenuService service;
+    service.addMenu("Menu", &menu, {"group"});
+    std::vector<std::unique_ptr<QAction>> sources;
+    QStringList triggered;
+    for (const QChar name : registered) {
+        if (name == '-') {
+            sources.front().reset();
+            continue;
+        }
+        if (name != '0') {
+            sources.push_back(std::make_unique<QAction>(QString(name)));
+            connect(sources.back().get(), &QAction::triggered,
+                    [&triggered, name] { triggered.append(name); });
+        }
+        if (service.findAction("Entry"))
+            QTest::ignoreMessage(QtWarningMsg, "The command id \"Entry\" is taken.");
+        const auto command = service.registerAction(name == '0' ? nullptr : sources.back().get(),
+                                                    "Entry", {Ids::GlobalContext});
+        service.getActionContainer("Menu")->addAction(command, "group");
+    }
+    const QAction *const found = service.findAction("Entry");
+    QTEST(found ? found->text() : QString(), "found");
+    QTEST(look(menu), "shown");
+    for (QAction *const entry : menu.actions())
+        entry->trigger();
+    QTEST(triggered, "shown");
 }
 
 QTEST_MAIN(CMenuServiceTest)

@@ -16,6 +16,8 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -29,7 +31,8 @@
 using namespace Viewer::AppCore;
 using Plugin::CameraPool::ICameraEnumerationService;
 
-/// The viewer put together with its real cameras, but without a plug-in: none lies beside the test.
+/// The viewer put together with its real cameras and with the plug-in of the samples; no other lies
+/// beside the test.
 class CViewerTest : public QObject
 {
     Q_OBJECT
@@ -38,6 +41,7 @@ private slots:
     void initTestCase();
     void init();
     void readsItsCommandLine();
+    void samplePluginCountsAndLeavesNothing();
     void acquiresAndRecords();
     void wizardLocksStartsAndClosing();
     void runningUpdateKeepsTheWindowOpen_data();
@@ -72,7 +76,8 @@ void CViewerTest::initTestCase()
 void CViewerTest::init()
 {
     m_viewer.reset();
-    m_viewer = std::make_unique<CViewer>(TestSupport::readOptions({"--speed", "100"}), "en");
+    m_viewer = std::make_unique<CViewer>(
+        TestSupport::readOptions({"--speed", "100", "--plugins", SAMPLE_PLUGIN_FOLDER}), "en");
     m_window = &m_viewer->getMainWindow();
     m_pool = &m_viewer->getCameraPool();
     m_tree = &m_viewer->getCameraSelector();
@@ -126,6 +131,25 @@ void CViewerTest::readsItsCommandLine()
     };
     QVERIFY(isSearching(viewer.getMainWindow()));
     QVERIFY(!isSearching(*m_window));
+}
+
+void CViewerTest::samplePluginCountsAndLeavesNothing()
+{
+    auto *const menu = m_window->findChild<QMenu *>("toolsMenu");
+    QAction *const entry = menu->actions().constLast();
+    QCOMPARE(entry->text(), "Count Cameras");
+    menu->popup({});
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+    const auto *const box = m_window->findChild<QMessageBox *>();
+    QVERIFY(box);
+    QCOMPARE(box->text(), "Cameras: 12");
+    // Seen while the window, which would take everything along, is still there.
+    bool left = true;
+    connect(box, &QObject::destroyed, [this, menu, &left] {
+        left = !m_window->isVisible() || menu->menuAction()->isVisible();
+    });
+    m_viewer.reset();
+    QVERIFY(!left);
 }
 
 void CViewerTest::acquiresAndRecords()
