@@ -120,7 +120,7 @@ void CMenuServiceTest::idStaysWithItsAction()
         if (service.findAction("Entry"))
             QTest::ignoreMessage(QtWarningMsg, "The command id \"Entry\" is taken.");
         const auto command = service.registerAction(name == '0' ? nullptr : sources.back().get(),
-                                                    "Entry", {Ids::GlobalContext});
+                                                    "Entry", {Ids::GLOBAL_CONTEXT});
         service.getActionContainer("Menu")->addAction(command, "group");
     }
     const QAction *const found = service.findAction("Entry");
