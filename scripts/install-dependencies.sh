@@ -31,6 +31,7 @@ run_packages=(
 test_packages=(
   ccache
   clang-format
+  clang-tidy
   git
   iproute2
   unzip
