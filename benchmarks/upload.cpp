@@ -188,7 +188,7 @@ int main(int argc, char **argv)
         upload(address, image);
         const qint64 commands = countCommands(camera) - others;
         std::printf("  %.2f commands per block; %.1f s at a round trip of 0.2 ms\n",
-                    static_cast<double>(commands) / (IMAGE_SIZE / bufferLength),
+                    static_cast<double>(commands * bufferLength) / IMAGE_SIZE,
                     static_cast<double>(commands) * ROUND_TRIP_MS / 1000.0);
     }
     return EXIT_SUCCESS;

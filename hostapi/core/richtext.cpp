@@ -106,7 +106,7 @@ public:
         if (parents == getTableParts().constEnd() ? !isInText() : !leaveTo(*parents))
             return false;
         if (m_open.size() >= MAXIMUM_DEPTH
-            || (element == TABLE && m_open.count(TABLE) >= MAXIMUM_TABLE_DEPTH))
+            || (element == m_table && m_open.count(m_table) >= MAXIMUM_TABLE_DEPTH))
             return false;
         m_open.append(element);
         return true;
@@ -118,7 +118,7 @@ public:
         if (isFlat(element))
             return true;
         const int place = m_open.lastIndexOf(element);
-        if (place < 0 || (element != TABLE && place < m_open.lastIndexOf(TABLE)))
+        if (place < 0 || (element != m_table && place < m_open.lastIndexOf(m_table)))
             return false;
         keep(place);
         return true;
@@ -151,7 +151,7 @@ private:
         for (auto open = m_open.crbegin(); open != m_open.crend(); ++open) {
             if (*open == QLatin1String("td") || *open == QLatin1String("th"))
                 return true;
-            if (*open == TABLE || getTableParts().contains(*open))
+            if (*open == m_table || getTableParts().contains(*open))
                 return false;
         }
         return true;
@@ -165,7 +165,7 @@ private:
                 keep(place + 1);
                 return true;
             }
-            if (m_open.at(place) == TABLE)
+            if (m_open.at(place) == m_table)
                 return false;
         }
         return false;
@@ -173,7 +173,7 @@ private:
 
     void keep(int count) { m_open.erase(m_open.begin() + count, m_open.end()); }
 
-    const QString TABLE = QStringLiteral("table");
+    const QString m_table = QStringLiteral("table");
     QStringList m_open; ///< the outermost first
 };
 

@@ -12,7 +12,6 @@
 using namespace VirtualCamera;
 using namespace std::chrono_literals;
 using Gvcp::ECommand;
-using Gvcp::EStatus;
 
 namespace {
 
