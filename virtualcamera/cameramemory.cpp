@@ -21,7 +21,7 @@ CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &o
     , m_description(makeFeatureDescription(settings))
     , m_bootstrap(MemoryMap::BOOTSTRAP_SIZE, '\0')
     , m_features(MemoryMap::FEATURES_SIZE, '\0')
-    , m_buffer((settings.bufferLength + 3) / 4 * 4, '\0')
+    , m_buffer(settings.bufferLength, '\0')
     , m_model(settings.model)
     , m_serialNumber(settings.serialNumber)
     , m_firmwareVersion(settings.firmwareVersion)

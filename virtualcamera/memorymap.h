@@ -57,7 +57,8 @@ inline constexpr quint32 FILE_OPERATION_RESULT = FEATURES + 0x5C;
 inline constexpr quint32 FILE_SIZE = FEATURES + 0x60;
 inline constexpr int FEATURES_SIZE = 0x64;
 
-/// Whole words, also where the buffer's length is none.
+/// Exactly as long as the buffer: where that is no whole number of words, its last bytes cannot be
+/// written.
 inline constexpr quint32 FILE_ACCESS_BUFFER = 0x00200000;
 
 /// The description of the features, filled up to a whole word. Behind everything else, since it may

@@ -104,7 +104,7 @@ void CFileUpload::attempt(Describe describe, Action action)
 void CFileUpload::prepare()
 {
     m_buffer = m_features.findRegister(ACCESS_BUFFER);
-    // Whole words only: the last block is filled up to one.
+    // Whole words only: the library fills the last block up to one.
     m_buffer.length = std::min(m_buffer.length, MAXIMUM_BLOCK_SIZE) / 4 * 4;
     if (m_buffer.length == 0)
         fail(CErrorText::tr("its buffer for files has no room (length 0)"));
@@ -125,7 +125,7 @@ void CFileUpload::write(const QByteArray &block)
         m_features.writeInteger(ACCESS_LENGTH, block.size());
         m_length = block.size();
     }
-    m_features.writeMemory(m_buffer.address, block.leftJustified((block.size() + 3) / 4 * 4, '\0'));
+    m_features.writeMemory(m_buffer.address, block);
     execute();
     // The number of bytes says it all; the status is asked for only when they do not fit.
     const qint64 written = m_features.readInteger(OPERATION_RESULT);
