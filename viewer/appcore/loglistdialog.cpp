@@ -1,8 +1,9 @@
 #include "loglistdialog.h"
 
-#include "fileend.h"
 #include "logsummary.h"
 #include "textdialog.h"
+
+#include "viewer/files/fileend.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -83,7 +84,7 @@ static QString getOutcomeText(const CLogSummary &summary, bool isInUse)
 
 void CLogListDialog::addEntry(const CLogFile &log)
 {
-    const CFileEnd end = CFileEnd::read(log.path, MAXIMUM_LOG_SIZE);
+    const Files::CFileEnd end = Files::CFileEnd::read(log.path, MAXIMUM_LOG_SIZE);
     const CLogSummary summary = CLogSummary::parse(end.text);
     QString names = summary.cameraNames.join(QStringLiteral(", "));
     if (names.size() > MAXIMUM_NAMES_LENGTH)
@@ -111,7 +112,8 @@ void CLogListDialog::openCurrent()
 
 void CLogListDialog::copyCurrent()
 {
-    const CFileEnd end = CFileEnd::read(getCurrentPath(), CTextDialog::MAXIMUM_FILE_SIZE);
+    const Files::CFileEnd end
+        = Files::CFileEnd::read(getCurrentPath(), CTextDialog::MAXIMUM_FILE_SIZE);
     if (end.error.isEmpty())
         QGuiApplication::clipboard()->setText(QString::fromUtf8(end.text));
     else

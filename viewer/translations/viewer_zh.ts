@@ -123,7 +123,7 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CFileEnd</name>
+    <name>Viewer::Files::CFileEnd</name>
     <message>
         <source>It is not a regular file.</source>
         <translation>不是普通文件。</translation>

@@ -3,7 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace Viewer::AppCore {
+namespace Viewer::Files {
 
 CFileEnd CFileEnd::read(const QString &path, qint64 maximumSize)
 {
@@ -27,4 +27,4 @@ CFileEnd CFileEnd::read(const QString &path, qint64 maximumSize)
     return end;
 }
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Files
