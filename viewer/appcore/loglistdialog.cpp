@@ -7,7 +7,6 @@
 
 #include <QClipboard>
 #include <QDesktopServices>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -46,8 +45,7 @@ CLogListDialog::~CLogListDialog() = default;
 void CLogListDialog::createButtons()
 {
     const auto create = [this](const QString &text, const char *name, auto slot, bool isEnabled) {
-        QPushButton *const button = getButtonBox()->addButton(text, QDialogButtonBox::ActionRole);
-        button->setObjectName(QLatin1String(name));
+        QPushButton *const button = addButton(text, name);
         button->setEnabled(isEnabled);
         connect(button, &QPushButton::clicked, this, slot);
     };
