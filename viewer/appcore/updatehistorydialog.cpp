@@ -25,7 +25,7 @@ namespace Viewer::AppCore {
 using Update::CUpdateHistory;
 using Update::CUpdateRecord;
 
-static constexpr int MAXIMUM_COLUMN_WIDTH = 40; // characters; the details have more
+static constexpr int MAXIMUM_COLUMN_WIDTH = 24; // letters; of all columns but the camera's
 static constexpr int MAXIMUM_LINE_LENGTH = 300;
 
 CUpdateHistoryDialog::CUpdateHistoryDialog(const CUpdateHistory::CContent &content,
@@ -45,9 +45,13 @@ CUpdateHistoryDialog::CUpdateHistoryDialog(const CUpdateHistory::CContent &conte
     QTreeView *const view = getView();
     view->setObjectName(QStringLiteral("historyView"));
     view->setModel(m_sorter);
+    QHeaderView *const header = view->header();
+    header->setSortIndicator(CUpdateHistoryModel::TimeColumn, Qt::DescendingOrder);
     view->setSortingEnabled(true);
-    view->sortByColumn(CUpdateHistoryModel::TimeColumn, Qt::DescendingOrder);
-    view->header()->setMaximumSectionSize(MAXIMUM_COLUMN_WIDTH * fontMetrics().averageCharWidth());
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(CUpdateHistoryModel::CameraColumn, QHeaderView::Stretch);
+    header->setMaximumSectionSize(MAXIMUM_COLUMN_WIDTH
+                                  * fontMetrics().horizontalAdvance(QLatin1Char('x')));
     connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &CUpdateHistoryDialog::onCurrentChanged);
     connect(view, &QTreeView::activated, this, &CUpdateHistoryDialog::openLog);
@@ -106,7 +110,7 @@ void CUpdateHistoryDialog::onCurrentChanged()
     if (current.isValid()) {
         const CUpdateRecord &record = getRecord(current);
         for (const QString &line :
-             {record.modelName, record.address, record.error,
+             {record.cameraName, record.modelName, record.address, record.error,
               QDir::toNativeSeparators(record.filePath), QDir::toNativeSeparators(record.logPath)})
             if (!line.isEmpty())
                 lines.append(Text::shorten(line, MAXIMUM_LINE_LENGTH));

@@ -114,7 +114,7 @@ void CUpdateHistoryDialogTest::showsTextsOfCamerasAsPlainText()
     show(m_content);
     QCOMPARE(getColumn(0), "<b>?\?</b>|VX-1400M 9|VX-1400M 2");
     const auto *const details = TestSupport::find<QLabel>(*m_dialog, "detailsLabel");
-    QCOMPARE(details->text(), "VX-1400M\n<b>?\?</b>\n/files/vx-1400m.guf");
+    QCOMPARE(details->text(), "<b>?\?</b>\nVX-1400M\n<b>?\?</b>\n/files/vx-1400m.guf");
     QCOMPARE(details->textFormat(), Qt::PlainText);
     QCOMPARE(getColumn(4), "Updated|Updated|Updated");
     QCOMPARE(getColumn(5), "1/25/26 3:42 PM|1/24/26 3:42 PM|1/17/26 3:42 PM");
@@ -125,7 +125,7 @@ void CUpdateHistoryDialogTest::showsTextsOfCamerasAsPlainText()
     QTest::keyClick(edit, Qt::Key_Tab);
     QVERIFY(m_view->hasFocus());
     QTest::keyClick(m_view, Qt::Key_Down);
-    QCOMPARE(details->text(), "VX-1400M\n/files/vx-1400m.guf");
+    QCOMPARE(details->text(), "VX-1400M 9\nVX-1400M\n/files/vx-1400m.guf");
     for (QWidget *const widget : {static_cast<QWidget *>(edit), static_cast<QWidget *>(m_view)})
         QVERIFY(!QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).isEmpty());
 }
