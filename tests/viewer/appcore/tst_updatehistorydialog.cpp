@@ -133,6 +133,9 @@ void CUpdateHistoryDialogTest::showsTextsOfCamerasAsPlainText()
 void CUpdateHistoryDialogTest::sortsByWhatTheTextsMean()
 {
     m_content.records[1].end = QDateTime(); // the duration is unknown
+    // The text of the last time would be the first one.
+    m_content.records[0].begin = QDateTime({2027, 1, 5}, {0, 0}, Qt::UTC);
+    m_content.records[0].end = m_content.records[0].begin.addSecs(601);
     show(m_content);
     for (const auto &[column, order] :
          {std::pair(0, "2|9|10"), std::pair(1, "2|9|10"), std::pair(3, "2|9|10"),
