@@ -11,6 +11,7 @@
 #include "viewer/appcore/logfolder.h"
 #include "viewer/appcore/loglistdialog.h"
 #include "viewer/appcore/mainwindow.h"
+#include "viewer/appcore/updatehistorydialog.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/text/language.h"
@@ -316,11 +317,15 @@ void CTranslationsTest::viewerSpeaksTheLanguage()
     qputenv("XDG_STATE_HOME", m_folder.path().toUtf8());
     const Viewer::AppCore::CLogFolder logs;
     Viewer::AppCore::CLogListDialog logList(logs);
-    logList.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&logList));
-    QCOMPARE(findEnglish(getTexts(logList)), QString());
-    QCOMPARE(findCutText(logList), QString());
-    logList.close();
+    Viewer::AppCore::CUpdateHistoryDialog history({{}, 2, {}}, QLocale(language));
+    for (QDialog *const dialog :
+         {static_cast<QDialog *>(&logList), static_cast<QDialog *>(&history)}) {
+        dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        QCOMPARE(findEnglish(getTexts(*dialog)), QString());
+        QCOMPARE(findCutText(*dialog), QString());
+        dialog->close();
+    }
 
     Viewer::AppCore::CViewer viewer(
         TestSupport::readOptions({"--speed", "1000", "--samples", m_folder.path()}), language,

@@ -1,12 +1,12 @@
 #include "loglistdialog.h"
 
-#include "fileend.h"
 #include "logsummary.h"
 #include "textdialog.h"
 
+#include "viewer/files/fileend.h"
+
 #include <QClipboard>
 #include <QDesktopServices>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -45,8 +45,7 @@ CLogListDialog::~CLogListDialog() = default;
 void CLogListDialog::createButtons()
 {
     const auto create = [this](const QString &text, const char *name, auto slot, bool isEnabled) {
-        QPushButton *const button = getButtonBox()->addButton(text, QDialogButtonBox::ActionRole);
-        button->setObjectName(QLatin1String(name));
+        QPushButton *const button = addButton(text, name);
         button->setEnabled(isEnabled);
         connect(button, &QPushButton::clicked, this, slot);
     };
@@ -83,7 +82,7 @@ static QString getOutcomeText(const CLogSummary &summary, bool isInUse)
 
 void CLogListDialog::addEntry(const CLogFile &log)
 {
-    const CFileEnd end = CFileEnd::read(log.path, MAXIMUM_LOG_SIZE);
+    const Files::CFileEnd end = Files::CFileEnd::read(log.path, MAXIMUM_LOG_SIZE);
     const CLogSummary summary = CLogSummary::parse(end.text);
     QString names = summary.cameraNames.join(QStringLiteral(", "));
     if (names.size() > MAXIMUM_NAMES_LENGTH)
@@ -111,7 +110,8 @@ void CLogListDialog::openCurrent()
 
 void CLogListDialog::copyCurrent()
 {
-    const CFileEnd end = CFileEnd::read(getCurrentPath(), CTextDialog::MAXIMUM_FILE_SIZE);
+    const Files::CFileEnd end
+        = Files::CFileEnd::read(getCurrentPath(), CTextDialog::MAXIMUM_FILE_SIZE);
     if (end.error.isEmpty())
         QGuiApplication::clipboard()->setText(QString::fromUtf8(end.text));
     else

@@ -1,6 +1,6 @@
 #include "textdialog.h"
 
-#include "fileend.h"
+#include "viewer/files/fileend.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -49,7 +49,7 @@ CTextDialog::~CTextDialog() = default;
 
 void CTextDialog::showFile(const QString &path, QWidget *parent)
 {
-    const CFileEnd end = CFileEnd::read(path, MAXIMUM_FILE_SIZE);
+    const Files::CFileEnd end = Files::CFileEnd::read(path, MAXIMUM_FILE_SIZE);
     auto *const dialog
         = new CTextDialog(QDir::toNativeSeparators(path),
                           end.error.isEmpty() ? QString::fromUtf8(end.text) : end.error, parent);

@@ -11,6 +11,7 @@
 #include "modaldialogwatcher.h"
 #include "pluginlistdialog.h"
 #include "switchmenu.h"
+#include "updatehistorydialog.h"
 #include "windowservice.h"
 
 #include "camerapool/icameraenumerationservice.h"
@@ -178,6 +179,8 @@ void CViewer::fillMenus()
         helpMenu->addAction(tr("&Logs..."), this, &CViewer::showLogs)
             ->setObjectName(QStringLiteral("logs"));
     }
+    helpMenu->addAction(tr("&Update history..."), this, &CViewer::showUpdateHistory)
+        ->setObjectName(QStringLiteral("updateHistory"));
     helpMenu->addAction(tr("&Plug-ins..."), this, &CViewer::showPlugins)
         ->setObjectName(QStringLiteral("plugins"));
     helpMenu->addAction(tr("&About"), this, &CViewer::showAbout)
@@ -296,6 +299,12 @@ static void openOwn(QDialog *dialog)
 void CViewer::showLogs()
 {
     openOwn(new CLogListDialog(*m_logs, m_window.get()));
+}
+
+void CViewer::showUpdateHistory()
+{
+    openOwn(new CUpdateHistoryDialog(Update::CUpdateHistory().read(), QLocale(m_language),
+                                     m_window.get()));
 }
 
 void CViewer::showPlugins()

@@ -87,6 +87,7 @@ private:
     void closeIfRequested();
     void onEnumerationChanged();
     void showLogs();
+    void showUpdateHistory();
     void showPlugins();
     void showAbout();
 

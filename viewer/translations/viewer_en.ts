@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
+    <name>Viewer::AppCore::CUpdateHistoryDialog</name>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>%n damaged line of the history was skipped.</numerusform>
+            <numerusform>%n damaged lines of the history were skipped.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) were written to &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%n update was written to &quot;%1&quot;.</numerusform>
+            <numerusform>%n updates were written to &quot;%1&quot;.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CViewer</name>
     <message numerus="yes">
         <source>%n camera(s) found.</source>

@@ -123,17 +123,6 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CFileEnd</name>
-    <message>
-        <source>It is not a regular file.</source>
-        <translation>通常のファイルではありません。</translation>
-    </message>
-    <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>ファイルを読み取れません: %1。</translation>
-    </message>
-</context>
-<context>
     <name>Viewer::AppCore::CImageView</name>
     <message>
         <source>Image</source>
@@ -327,6 +316,100 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CUpdateHistoryDialog</name>
+    <message>
+        <source>Update history</source>
+        <translation>更新履歴</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>ログを開く(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>エクスポート(&amp;E)...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>更新履歴の破損した %n 行を読み飛ばしました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No updates yet.</source>
+        <translation>更新はまだありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>絞り込み(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Export update history</source>
+        <translation>更新履歴のエクスポート</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) were written to &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>%n 件の更新を「%1」に保存しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>ファイル「%1」に書き込めません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateHistoryModel</name>
+    <message>
+        <source>Running</source>
+        <translation>実行中</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>更新済み</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>更新前</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>更新後</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>所要時間</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
@@ -401,6 +484,10 @@
     <message>
         <source>%1 Then the viewer closes by itself.</source>
         <translation>%1 その後、ビューアーは自動的に終了します。</translation>
+    </message>
+    <message>
+        <source>&amp;Update history...</source>
+        <translation>更新履歴(&amp;U)...</translation>
     </message>
 </context>
 <context>
@@ -617,6 +704,17 @@ Firmware: %5</source>
     <message>
         <source>&quot;%1&quot; is no good value for --%2.</source>
         <translation>「%1」は --%2 の値として使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Files::CFileEnd</name>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>通常のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>ファイルを読み取れません: %1。</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1666,37 @@ Update %1
     <message>
         <source>lists and objects stand in each other more than %1 deep</source>
         <translation>リストとオブジェクトが %1 階層より深く入れ子になっています</translation>
+    </message>
+    <message>
+        <source>there is room for %1 of its %2 bytes</source>
+        <translation>%2 バイトのうち %1 バイト分の空きしかありません</translation>
+    </message>
+    <message>
+        <source>The history of updates is not kept: there is no home folder.</source>
+        <translation>ホームフォルダーがないため、更新履歴は保存されません。</translation>
+    </message>
+    <message>
+        <source>The history of updates &quot;%1&quot; cannot be written: %2.</source>
+        <translation>更新履歴「%1」に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>expected a time like 2026-01-31T12:00:00Z</source>
+        <translation>2026-01-31T12:00:00Z のような日時が必要です</translation>
+    </message>
+    <message>
+        <source>unknown outcome</source>
+        <translation>不明な結果です</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Update::CUpdateHistory</name>
+    <message>
+        <source>The history of updates &quot;%1&quot; cannot be shown: %2</source>
+        <translation>更新履歴「%1」を表示できません: %2</translation>
     </message>
 </context>
 </TS>

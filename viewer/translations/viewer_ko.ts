@@ -123,17 +123,6 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CFileEnd</name>
-    <message>
-        <source>It is not a regular file.</source>
-        <translation>일반 파일이 아닙니다.</translation>
-    </message>
-    <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>파일을 읽을 수 없습니다: %1.</translation>
-    </message>
-</context>
-<context>
     <name>Viewer::AppCore::CImageView</name>
     <message>
         <source>Image</source>
@@ -327,6 +316,100 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CUpdateHistoryDialog</name>
+    <message>
+        <source>Update history</source>
+        <translation>업데이트 기록</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>로그 열기(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>내보내기(&amp;E)...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>업데이트 기록에서 손상된 줄 %n개를 건너뛰었습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No updates yet.</source>
+        <translation>아직 업데이트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>필터(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Export update history</source>
+        <translation>업데이트 기록 내보내기</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) were written to &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>업데이트 %n건을 &quot;%1&quot;에 저장했습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>파일 &quot;%1&quot;에 쓸 수 없습니다: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateHistoryModel</name>
+    <message>
+        <source>Running</source>
+        <translation>실행 중</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>업데이트됨</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>카메라</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>일련번호</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>이전 버전</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>새 버전</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>소요 시간</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
@@ -401,6 +484,10 @@
     <message>
         <source>%1 Then the viewer closes by itself.</source>
         <translation>%1 그 후 뷰어가 자동으로 종료됩니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Update history...</source>
+        <translation>업데이트 기록(&amp;U)...</translation>
     </message>
 </context>
 <context>
@@ -617,6 +704,17 @@ Firmware: %5</source>
     <message>
         <source>&quot;%1&quot; is no good value for --%2.</source>
         <translation>&quot;%1&quot;은(는) --%2에 사용할 수 없는 값입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Files::CFileEnd</name>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>일반 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>파일을 읽을 수 없습니다: %1.</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1666,37 @@ Update %1
     <message>
         <source>lists and objects stand in each other more than %1 deep</source>
         <translation>목록과 개체가 %1단계보다 깊게 중첩되어 있습니다</translation>
+    </message>
+    <message>
+        <source>there is room for %1 of its %2 bytes</source>
+        <translation>%2바이트 중 %1바이트만 쓸 공간이 있습니다</translation>
+    </message>
+    <message>
+        <source>The history of updates is not kept: there is no home folder.</source>
+        <translation>홈 폴더가 없어 업데이트 기록이 보관되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The history of updates &quot;%1&quot; cannot be written: %2.</source>
+        <translation>업데이트 기록 &quot;%1&quot;에 쓸 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>expected a time like 2026-01-31T12:00:00Z</source>
+        <translation>2026-01-31T12:00:00Z와 같은 시간이 필요합니다</translation>
+    </message>
+    <message>
+        <source>unknown outcome</source>
+        <translation>알 수 없는 결과입니다</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Update::CUpdateHistory</name>
+    <message>
+        <source>The history of updates &quot;%1&quot; cannot be shown: %2</source>
+        <translation>업데이트 기록 &quot;%1&quot;을(를) 표시할 수 없습니다: %2</translation>
     </message>
 </context>
 </TS>

@@ -123,17 +123,6 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CFileEnd</name>
-    <message>
-        <source>It is not a regular file.</source>
-        <translation>不是普通文件。</translation>
-    </message>
-    <message>
-        <source>The file cannot be read: %1.</source>
-        <translation>无法读取文件：%1。</translation>
-    </message>
-</context>
-<context>
     <name>Viewer::AppCore::CImageView</name>
     <message>
         <source>Image</source>
@@ -327,6 +316,100 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CUpdateHistoryDialog</name>
+    <message>
+        <source>Update history</source>
+        <translation>更新历史</translation>
+    </message>
+    <message>
+        <source>Open &amp;log</source>
+        <translation>打开日志(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>导出(&amp;E)...</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>已跳过更新历史中 %n 个损坏的行。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No updates yet.</source>
+        <translation>还没有更新。</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>筛选(&amp;F)：</translation>
+    </message>
+    <message>
+        <source>Export update history</source>
+        <translation>导出更新历史</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) were written to &quot;%1&quot;.</source>
+        <translation>
+            <numerusform>已将 %n 次更新写入“%1”。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>无法写入文件“%1”：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateHistoryModel</name>
+    <message>
+        <source>Running</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>已更新</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>更新前</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>更新后</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>用时</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
@@ -401,6 +484,10 @@
     <message>
         <source>%1 Then the viewer closes by itself.</source>
         <translation>%1 之后查看器将自动关闭。</translation>
+    </message>
+    <message>
+        <source>&amp;Update history...</source>
+        <translation>更新历史(&amp;U)...</translation>
     </message>
 </context>
 <context>
@@ -617,6 +704,17 @@ Firmware: %5</source>
     <message>
         <source>&quot;%1&quot; is no good value for --%2.</source>
         <translation>“%1”不是 --%2 的有效值。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Files::CFileEnd</name>
+    <message>
+        <source>It is not a regular file.</source>
+        <translation>不是普通文件。</translation>
+    </message>
+    <message>
+        <source>The file cannot be read: %1.</source>
+        <translation>无法读取文件：%1。</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1666,37 @@ Update %1
     <message>
         <source>lists and objects stand in each other more than %1 deep</source>
         <translation>列表和对象嵌套超过 %1 层</translation>
+    </message>
+    <message>
+        <source>there is room for %1 of its %2 bytes</source>
+        <translation>%2 字节中只有 %1 字节的空间</translation>
+    </message>
+    <message>
+        <source>The history of updates is not kept: there is no home folder.</source>
+        <translation>没有主文件夹，更新历史将不会保存。</translation>
+    </message>
+    <message>
+        <source>The history of updates &quot;%1&quot; cannot be written: %2.</source>
+        <translation>无法写入更新历史“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>it is not a regular file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>expected a time like 2026-01-31T12:00:00Z</source>
+        <translation>应为 2026-01-31T12:00:00Z 这样的时间</translation>
+    </message>
+    <message>
+        <source>unknown outcome</source>
+        <translation>未知的结果</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Update::CUpdateHistory</name>
+    <message>
+        <source>The history of updates &quot;%1&quot; cannot be shown: %2</source>
+        <translation>无法显示更新历史“%1”：%2</translation>
     </message>
 </context>
 </TS>

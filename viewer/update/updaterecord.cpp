@@ -102,8 +102,11 @@ QByteArray toJson(const CUpdateRecord &record)
         {QStringLiteral("begin"), record.begin.toUTC().toString(Qt::ISODate)},
         {QStringLiteral("outcome"),
          QString::fromLatin1(OUTCOMES[static_cast<std::size_t>(record.outcome)])}};
-    for (const CTextField &field : TEXT_FIELDS)
-        object.insert(QString::fromLatin1(field.name), (record.*field.member).left(MAXIMUM_TEXT));
+    for (const CTextField &field : TEXT_FIELDS) {
+        // Through UTF-8, since half a surrogate pair could be written, but not be read again.
+        const QByteArray text = (record.*field.member).left(MAXIMUM_TEXT).toUtf8();
+        object.insert(QString::fromLatin1(field.name), QString::fromUtf8(text));
+    }
     if (record.end.isValid())
         object.insert(QStringLiteral("end"), record.end.toUTC().toString(Qt::ISODate));
     return QJsonDocument(object).toJson(QJsonDocument::Compact);

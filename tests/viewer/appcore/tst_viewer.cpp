@@ -276,10 +276,14 @@ void CViewerTest::tellsWhyNoLogsAreKept()
     QCOMPARE(failures, QStringList(logs.getFault()));
     CMainWindow &window = viewer.getMainWindow();
     QVERIFY(window.statusBar()->currentMessage().contains(logs.getFault()));
-    window.findChild<QAction *>("logs")->trigger();
-    auto *const dialog = window.findChild<QDialog *>("logListDialog");
-    QVERIFY(dialog && dialog->isVisible());
-    // It is the viewer's own and keeps nothing from being closed.
+    for (const char *const action : {"logs", "updateHistory"})
+        window.findChild<QAction *>(action)->trigger();
+    for (const char *const name : {"logListDialog", "updateHistoryDialog"}) {
+        const auto *const dialog = window.findChild<QDialog *>(name);
+        QVERIFY(dialog && dialog->isVisible());
+        QVERIFY(dialog->findChild<QLabel *>("hintLabel")->text().contains("Not a directory"));
+    }
+    // They are the viewer's own and keep nothing from being closed.
     QVERIFY(window.close());
 }
 

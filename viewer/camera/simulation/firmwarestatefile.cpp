@@ -1,6 +1,7 @@
 #include "firmwarestatefile.h"
 
 #include "viewer/camera/logging.h"
+#include "viewer/files/replacefile.h"
 #include "viewer/json/jsonfault.h"
 #include "viewer/json/jsonmembers.h"
 
@@ -10,7 +11,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLockFile>
-#include <QSaveFile>
 
 namespace Viewer::Camera::Simulation {
 
@@ -179,17 +179,11 @@ void CFirmwareStateFile::save()
         firmware.insert(it.key(), it.value());
     const QJsonObject root{{QStringLiteral("format"), 1}, {QStringLiteral("firmware"), firmware}};
     const QByteArray text = QJsonDocument(root).toJson();
-    QSaveFile file(m_path);
-    // Behind a buffer, Qt takes the first part of a text that found no more room for the whole.
-    const bool opened = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-    const qint64 written = opened ? file.write(text) : -1;
-    if (written == text.size() && file.commit())
+    const Text::CErrorText writeFault = Files::replaceFile(m_path, text);
+    if (writeFault.isEmpty())
         m_unsaved.clear();
-    else if (written >= 0 && written < text.size())
-        warnAboutWriting(
-            QStringLiteral("there is room for %1 of its %2 bytes").arg(written).arg(text.size()));
     else
-        warnAboutWriting(file.errorString());
+        warnAboutWriting(writeFault.getEnglish());
 }
 
 void CFirmwareStateFile::putAside(const QString &fault, bool locked) const

@@ -3,7 +3,9 @@
 #include <QFile>
 #include <QFileInfo>
 
-namespace Viewer::AppCore {
+#include <algorithm>
+
+namespace Viewer::Files {
 
 CFileEnd CFileEnd::read(const QString &path, qint64 maximumSize)
 {
@@ -18,13 +20,15 @@ CFileEnd CFileEnd::read(const QString &path, qint64 maximumSize)
         end.error = tr("The file cannot be read: %1.").arg(file.errorString());
         return end;
     }
-    end.isPartial = file.size() > maximumSize;
+    const qint64 size = file.size();
+    end.isPartial = size > maximumSize;
     if (end.isPartial)
-        file.seek(file.size() - maximumSize);
-    end.text = file.read(maximumSize);
+        file.seek(size - maximumSize);
+    // Memory is taken for as much as is asked for.
+    end.text = file.read(std::min(size, maximumSize));
     if (end.isPartial)
         end.text.remove(0, end.text.indexOf('\n') + 1);
     return end;
 }
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Files

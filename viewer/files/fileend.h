@@ -4,12 +4,12 @@
 #include <QCoreApplication>
 #include <QString>
 
-namespace Viewer::AppCore {
+namespace Viewer::Files {
 
 /// The end of a text file, so that a huge one costs no more than its end.
 class CFileEnd
 {
-    Q_DECLARE_TR_FUNCTIONS(Viewer::AppCore::CFileEnd)
+    Q_DECLARE_TR_FUNCTIONS(Viewer::Files::CFileEnd)
 
 public:
     /// Reads at most @p maximumSize bytes. Of a longer file the last whole lines; what is no
@@ -21,4 +21,4 @@ public:
     QString error; ///< one sentence in the user's language; empty: the text is there
 };
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Files
