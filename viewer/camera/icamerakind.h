@@ -6,6 +6,7 @@
 #include "icameraenumerator.h"
 #include "viewer/commandline/option.h"
 
+#include <QCborMap>
 #include <QObject>
 #include <QVector>
 
@@ -24,6 +25,9 @@ class ICameraKind : public QObject, public ICameraDeviceFactory, public ICameraE
 public:
     explicit ICameraKind(QObject *parent = nullptr);
     ~ICameraKind() override;
+
+    /// "simulation", "genicam": the kind among others, the same in every version.
+    [[nodiscard]] virtual QString getName() const = 0;
 
     // Before start():
 
@@ -48,6 +52,16 @@ public:
     [[nodiscard]] virtual QVector<CCameraSwitch> getSwitches();
 
     // After start():
+
+    /// All that another process needs to make the device of the camera with createDevice(); empty:
+    /// there is no such camera.
+    [[nodiscard]] virtual QCborMap describeCamera(const QString &cameraId) const = 0;
+
+    /// The device of a camera that describeCamera() has described in another process, maybe of
+    /// another version: anything may be in @p description. Null: it is no description. Needs no
+    /// start().
+    [[nodiscard]] virtual std::unique_ptr<ICameraDevice>
+    makeDevice(const QCborMap &description) const = 0;
 
     /// Does not ask the camera.
     [[nodiscard]] virtual ECameraPresence getPresence(const QString &cameraId) const = 0;

@@ -32,6 +32,24 @@ CGenICam::CGenICam(const CSearchOptions &options, QObject *parent)
 
 CGenICam::~CGenICam() = default;
 
+QString CGenICam::getName() const
+{
+    return QStringLiteral("genicam");
+}
+
+QCborMap CGenICam::describeCamera(const QString &cameraId) const
+{
+    const std::lock_guard lock(m_mutex);
+    const auto camera = m_found.constFind(cameraId);
+    return camera == m_found.constEnd() ? QCborMap() : camera->toCbor();
+}
+
+std::unique_ptr<ICameraDevice> CGenICam::makeDevice(const QCborMap &description) const
+{
+    const std::optional<CFoundCamera> camera = CFoundCamera::fromCbor(description);
+    return camera ? std::make_unique<CGenICamDevice>(*camera) : nullptr;
+}
+
 QVector<CommandLine::COption> CGenICam::getOptions()
 {
     return getSearchOptions(m_options);

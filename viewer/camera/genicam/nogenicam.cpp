@@ -24,6 +24,12 @@ public:
         return options;
     }
 
+    [[nodiscard]] QString getName() const override { return QStringLiteral("genicam"); }
+    [[nodiscard]] QCborMap describeCamera(const QString &) const override { return {}; }
+    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &) const override
+    {
+        return nullptr;
+    }
     [[nodiscard]] ECameraPresence getPresence(const QString &) const override
     {
         return ECameraPresence::Unknown;

@@ -17,6 +17,12 @@
 
 namespace Viewer::Camera::Simulation {
 
+// Beside the description of the camera itself.
+static const QString SPEED = QStringLiteral("speed");
+static const QString STATE_FILE = QStringLiteral("stateFile");
+static const QString IS_PLUGGED = QStringLiteral("isPlugged");
+static const QString IS_BUSY = QStringLiteral("isBusy");
+
 static constexpr double SLOWEST_SPEED = 0.01;
 static constexpr double FASTEST_SPEED = 10000.0;
 
@@ -60,6 +66,42 @@ CSimulation::CSimulation(const CSimulationOptions &options, QObject *parent)
 CSimulation::~CSimulation()
 {
     d->notifier->setListener({});
+}
+
+QString CSimulation::getName() const
+{
+    return QStringLiteral("simulation");
+}
+
+QCborMap CSimulation::describeCamera(const QString &cameraId) const
+{
+    const auto camera = d->find(cameraId);
+    if (!camera)
+        return {};
+    CCameraDescriptionEntry entry = camera->getDescription();
+    entry.camera.firmwareVersion = camera->getFirmwareVersion();
+    QCborMap map = entry.toCbor();
+    map.insert(SPEED, d->speedFactor);
+    map.insert(STATE_FILE, m_options.stateFile);
+    map.insert(IS_PLUGGED, camera->isPlugged());
+    map.insert(IS_BUSY, camera->isBusy());
+    return map;
+}
+
+std::unique_ptr<ICameraDevice> CSimulation::makeDevice(const QCborMap &description) const
+{
+    const std::optional<CCameraDescriptionEntry> entry
+        = CCameraDescriptionEntry::fromCbor(description);
+    const double speed = description.value(SPEED).toDouble();
+    if (!entry || !(speed >= SLOWEST_SPEED && speed <= FASTEST_SPEED))
+        return nullptr;
+    const auto camera = std::make_shared<CSimulatedCamera>(
+        *entry, speed,
+        std::make_shared<CFirmwareStateFile>(description.value(STATE_FILE).toString()),
+        std::make_shared<CSimulationNotifier>());
+    camera->setBusy(description.value(IS_BUSY).toBool());
+    camera->setPlugged(description.value(IS_PLUGGED).toBool());
+    return std::make_unique<CSimulatedCameraDevice>(camera);
 }
 
 QVector<CommandLine::COption> CSimulation::getOptions()

@@ -33,6 +33,10 @@ public:
     ~CSimulation() override;
 
     // ICameraKind
+    [[nodiscard]] QString getName() const override;
+    [[nodiscard]] QCborMap describeCamera(const QString &cameraId) const override;
+    [[nodiscard]] std::unique_ptr<ICameraDevice>
+    makeDevice(const QCborMap &description) const override;
     [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
     void setDataFolder(const QString &folder) override;
     void prepareDemonstration() override;

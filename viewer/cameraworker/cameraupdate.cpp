@@ -1,0 +1,161 @@
+#include "cameraupdate.h"
+
+#include "viewer/camera/cameraerror.h"
+#include "viewer/camera/camerakinds.h"
+#include "viewer/update/updateestimate.h"
+#include "viewer/updatefile/manifestparser.h"
+#include "viewer/updatefile/updatearchive.h"
+#include "viewer/updatefile/updatefileerror.h"
+#include "viewer/updatefile/updatefilereader.h"
+
+#include <QCryptographicHash>
+
+#include <algorithm>
+#include <cstdlib>
+#include <new>
+
+namespace Viewer::CameraWorker {
+
+using namespace std::chrono_literals;
+using Camera::CCameraError;
+using Plugin::CameraPool::EFirmwareUpdateStep;
+using Text::CErrorText;
+using Update::CWorkerEvent;
+using UpdateFile::CUpdateStep;
+
+/// What a library gets beyond the limit of an operation, which it should have kept itself.
+static constexpr std::chrono::milliseconds GRACE = 10s;
+
+/// Reading the file, opening the camera and finding out its version at the end.
+static constexpr std::chrono::milliseconds AROUND_STEPS = 60s;
+
+CCameraUpdate::CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled)
+    : m_events(events)
+    , m_isCanceled(isCanceled)
+    , m_watchdog([this] { onExpired(); })
+{
+}
+
+CCameraUpdate::~CCameraUpdate() = default;
+
+bool CCameraUpdate::perform(const Update::CWorkerTask &task)
+{
+    m_events.write(makeEvent(CWorkerEvent::EType::Hello));
+    const CErrorText error = update(task);
+    if (m_device)
+        m_device->close();
+    m_events.write(error.isEmpty() ? makeEvent(CWorkerEvent::EType::Done) : makeFailure(error));
+    return error.isEmpty();
+}
+
+static std::unique_ptr<Camera::ICameraDevice> makeDevice(const Update::CWorkerTask &task)
+{
+    const Camera::CCameraKinds kinds = Camera::makeCameraKinds();
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : kinds) {
+        if (kind->getName() == task.kind)
+            return kind->makeDevice(task.camera);
+    }
+    return nullptr;
+}
+
+CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
+{
+    try {
+        m_watchdog.watch(AROUND_STEPS);
+        m_device = makeDevice(task);
+        if (!m_device)
+            return CErrorText::tr("the update program does not know a camera of this kind");
+        const UpdateFile::CUpdateArchive archive(task.filePath);
+        const QByteArray digest
+            = QCryptographicHash::hash(archive.readManifest(), QCryptographicHash::Sha256);
+        if (digest != task.manifestDigest)
+            return CErrorText::tr("the update file is another one than the one that was shown; "
+                                  "select it again");
+        m_manifest = UpdateFile::CUpdateFileReader::read(archive);
+        if (task.entry >= m_manifest.updates.size())
+            return CErrorText::tr("the update file has no such update");
+        Update::CUpdateRun::IListener &listener = *this;
+        m_run = std::make_unique<Update::CUpdateRun>(m_device->getName(),
+                                                     m_manifest.updates.at(task.entry),
+                                                     task.filePath, *m_device, listener);
+        m_run->execute();
+        return {};
+    } catch (const std::bad_alloc &) {
+        return CErrorText::tr("out of memory");
+    } catch (const CCameraError &error) {
+        return error.getText();
+    } catch (const UpdateFile::CUpdateFileError &error) {
+        return error.getText();
+    } catch (const std::exception &exception) {
+        return CErrorText(QString::fromLocal8Bit(exception.what()));
+    } catch (...) {
+        return CErrorText::tr("the update failed for an unknown reason");
+    }
+}
+
+void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds estimate)
+{
+    if (m_isCanceled != 0 && !m_run->hasWritten())
+        throw CCameraError(m_device->getName(), CErrorText::tr("the update was canceled"),
+                           CCameraError::EChange::None);
+    std::chrono::milliseconds limit = Update::getTimeLimit(estimate);
+    if (step.kind == EFirmwareUpdateStep::DeviceReset)
+        limit = std::max(limit, m_device->getShortestResetLimit());
+    // The first step that writes repeats the checks before it.
+    m_watchdog.watch(limit + GRACE + AROUND_STEPS);
+    m_mayHaveWritten = m_mayHaveWritten || UpdateFile::changesCamera(step.kind);
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepBegun);
+    event.kind = step.kind;
+    event.estimate = estimate;
+    event.description = step.description;
+    m_events.write(event);
+}
+
+void CCameraUpdate::stepProgressed(const CUpdateStep &step, double percent)
+{
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepProgressed);
+    event.kind = step.kind;
+    event.percent = percent;
+    m_events.write(event);
+}
+
+void CCameraUpdate::stepDone(const CUpdateStep &step, std::chrono::milliseconds estimate)
+{
+    m_watchdog.watch(AROUND_STEPS);
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepDone);
+    event.kind = step.kind;
+    event.estimate = estimate;
+    m_events.write(event);
+}
+
+void CCameraUpdate::onExpired()
+{
+    CWorkerEvent event;
+    event.type = CWorkerEvent::EType::Failed;
+    const CErrorText error
+        = CErrorText::tr("it did not answer in time; switch it off and on and check its "
+                         "firmware version");
+    event.error = error.getEnglish();
+    event.localizedError = error.getLocalized();
+    event.hasWritten = m_mayHaveWritten;
+    m_events.writeLast(event, EXIT_FAILURE);
+}
+
+CWorkerEvent CCameraUpdate::makeEvent(CWorkerEvent::EType type) const
+{
+    CWorkerEvent event;
+    event.type = type;
+    event.hasWritten = m_run && m_run->hasWritten();
+    event.version = m_run ? m_run->getReportedVersion() : QString();
+    return event;
+}
+
+CWorkerEvent CCameraUpdate::makeFailure(const CErrorText &error) const
+{
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::Failed);
+    event.error = error.getEnglish();
+    event.localizedError = error.getLocalized();
+    return event;
+}
+
+} // namespace Viewer::CameraWorker
