@@ -4,6 +4,7 @@
 #include "ecamerapresence.h"
 #include "icameradevicefactory.h"
 #include "icameraenumerator.h"
+#include "icamerahandle.h"
 #include "viewer/commandline/option.h"
 
 #include <QCborMap>
@@ -53,15 +54,9 @@ public:
 
     // After start():
 
-    /// All that another process needs to make the device of the camera with createDevice(); empty:
-    /// there is no such camera.
-    [[nodiscard]] virtual QCborMap describeCamera(const QString &cameraId) const = 0;
-
-    /// The device of a camera that describeCamera() has described in another process, maybe of
-    /// another version: anything may be in @p description. Null: it is no description. Needs no
-    /// start().
-    [[nodiscard]] virtual std::unique_ptr<ICameraDevice>
-    makeDevice(const QCborMap &description) const = 0;
+    /// For having another process work with the camera. Null: there is no such camera.
+    [[nodiscard]] virtual std::unique_ptr<ICameraHandle>
+    createHandle(const QString &cameraId) const = 0;
 
     /// Does not ask the camera.
     [[nodiscard]] virtual ECameraPresence getPresence(const QString &cameraId) const = 0;
@@ -71,6 +66,19 @@ public:
 
     /// Ends what other applications do with the cameras, as far as that can be done from here.
     virtual void freeCameras();
+
+    // In the other process, instead of all that stands above:
+
+    /// The device of the camera that an ICameraHandle has described, maybe of another version of
+    /// this program: anything may be in @p description. Null: it is no description.
+    [[nodiscard]] virtual std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description)
+        = 0;
+
+    /// How the camera of makeDevice() is now, for ICameraHandle::end(). Any thread.
+    [[nodiscard]] virtual QCborMap describeMade() const;
+
+    /// The camera of makeDevice() was taken away, which its device does not know. Any thread.
+    virtual void loseMade();
 
 Q_SIGNALS:
     /// Another enumeration would have another result.

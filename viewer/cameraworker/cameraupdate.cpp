@@ -32,6 +32,7 @@ static constexpr std::chrono::milliseconds AROUND_STEPS = 60s;
 CCameraUpdate::CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled)
     : m_events(events)
     , m_isCanceled(isCanceled)
+    , m_kinds(Camera::makeCameraKinds())
     , m_watchdog([this] { onExpired(); })
 {
 }
@@ -48,21 +49,27 @@ bool CCameraUpdate::perform(const Update::CWorkerTask &task)
     return error.isEmpty();
 }
 
-static std::unique_ptr<Camera::ICameraDevice> makeDevice(const Update::CWorkerTask &task)
+void CCameraUpdate::loseCamera()
 {
-    const Camera::CCameraKinds kinds = Camera::makeCameraKinds();
-    for (const std::unique_ptr<Camera::ICameraKind> &kind : kinds) {
-        if (kind->getName() == task.kind)
-            return kind->makeDevice(task.camera);
+    if (Camera::ICameraKind *const kind = m_kind)
+        kind->loseMade();
+}
+
+void CCameraUpdate::makeDevice(const Update::CWorkerTask &task)
+{
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : m_kinds) {
+        if (kind->getName() != task.kind)
+            continue;
+        m_device = kind->makeDevice(task.camera);
+        m_kind = kind.get();
     }
-    return nullptr;
 }
 
 CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
 {
     try {
         m_watchdog.watch(AROUND_STEPS);
-        m_device = makeDevice(task);
+        makeDevice(task);
         if (!m_device)
             return CErrorText::tr("the update program does not know a camera of this kind");
         const UpdateFile::CUpdateArchive archive(task.filePath);
@@ -104,26 +111,23 @@ void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds
     // The first step that writes repeats the checks before it.
     m_watchdog.watch(limit + GRACE + AROUND_STEPS);
     m_mayHaveWritten = m_mayHaveWritten || UpdateFile::changesCamera(step.kind);
+    ++m_step;
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepBegun);
-    event.kind = step.kind;
     event.estimate = estimate;
-    event.description = step.description;
     m_events.write(event);
 }
 
-void CCameraUpdate::stepProgressed(const CUpdateStep &step, double percent)
+void CCameraUpdate::stepProgressed(const CUpdateStep &, double percent)
 {
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepProgressed);
-    event.kind = step.kind;
     event.percent = percent;
     m_events.write(event);
 }
 
-void CCameraUpdate::stepDone(const CUpdateStep &step, std::chrono::milliseconds estimate)
+void CCameraUpdate::stepDone(const CUpdateStep &, std::chrono::milliseconds estimate)
 {
     m_watchdog.watch(AROUND_STEPS);
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepDone);
-    event.kind = step.kind;
     event.estimate = estimate;
     m_events.write(event);
 }
@@ -147,6 +151,9 @@ CWorkerEvent CCameraUpdate::makeEvent(CWorkerEvent::EType type) const
     event.type = type;
     event.hasWritten = m_run && m_run->hasWritten();
     event.version = m_run ? m_run->getReportedVersion() : QString();
+    event.step = std::max(m_step, 0);
+    if (const Camera::ICameraKind *const kind = m_kind)
+        event.camera = kind->describeMade();
     return event;
 }
 

@@ -3,7 +3,7 @@
 #include "eventwriter.h"
 #include "watchdog.h"
 
-#include "viewer/camera/icameradevice.h"
+#include "viewer/camera/icamerakind.h"
 #include "viewer/text/errortext.h"
 #include "viewer/update/updaterun.h"
 #include "viewer/update/workertask.h"
@@ -25,6 +25,9 @@ public:
     /// Performs @p task; its last event is always sent. True: the camera has the new firmware.
     [[nodiscard]] bool perform(const Update::CWorkerTask &task);
 
+    /// The camera was taken away, which its device does not know. Any thread.
+    void loseCamera();
+
 private:
     void stepBegun(const UpdateFile::CUpdateStep &step,
                    std::chrono::milliseconds estimate) override;
@@ -32,13 +35,17 @@ private:
     void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
 
     [[nodiscard]] Text::CErrorText update(const Update::CWorkerTask &task);
+    void makeDevice(const Update::CWorkerTask &task);
     void onExpired();
     [[nodiscard]] Update::CWorkerEvent makeEvent(Update::CWorkerEvent::EType type) const;
     [[nodiscard]] Update::CWorkerEvent makeFailure(const Text::CErrorText &error) const;
 
     CEventWriter &m_events;
     const volatile std::sig_atomic_t &m_isCanceled;
+    Camera::CCameraKinds m_kinds;
+    std::atomic<Camera::ICameraKind *> m_kind{nullptr}; ///< that of the camera
     UpdateFile::CUpdateManifest m_manifest;
+    int m_step = -1; ///< the current one, from 0
     std::unique_ptr<Camera::ICameraDevice> m_device;
     std::unique_ptr<Update::CUpdateRun> m_run;
     std::atomic<bool> m_mayHaveWritten{false}; ///< known to the watchdog's thread

@@ -11,7 +11,9 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <memory>
+#include <functional>
+#include <optional>
+#include <thread>
 #include <unistd.h>
 
 using namespace Viewer;
@@ -69,6 +71,28 @@ static std::optional<CWorkerTask> readTask(QString &fault)
     }
 }
 
+/// Reads what comes behind the task, until nobody can send anything any more.
+static void readControl(CameraWorker::CCameraUpdate &update)
+{
+    QByteArray bytes;
+    char block[256];
+    while (true) {
+        const ssize_t count = ::read(STDIN_FILENO, block, sizeof(block));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return;
+        bytes.append(block, static_cast<int>(count));
+        QCborParserError error;
+        const QCborValue value = QCborValue::fromCbor(bytes, &error);
+        if (error.error == QCborError::EndOfFile && bytes.size() <= CWorkerTask::MAXIMUM_SIZE)
+            continue;
+        if (value.toMap().value(QStringLiteral("lost")).toBool())
+            update.loseCamera();
+        bytes.clear();
+    }
+}
+
 int main(int argc, char **argv)
 {
     CameraWorker::confineProcess();
@@ -89,5 +113,8 @@ int main(int argc, char **argv)
     const Text::CLanguage language(task->language);
     CameraWorker::CEventWriter events(STDOUT_FILENO);
     CameraWorker::CCameraUpdate update(events, isCanceled);
-    return update.perform(*task) ? EXIT_SUCCESS : EXIT_FAILURE;
+    // It waits in read(2) at the end, so the process ends without it.
+    std::thread(readControl, std::ref(update)).detach();
+    const bool isUpdated = update.perform(*task);
+    std::_Exit(isUpdated ? EXIT_SUCCESS : EXIT_FAILURE);
 }

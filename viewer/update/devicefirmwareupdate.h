@@ -1,7 +1,8 @@
 #pragma once
 
-#include "updaterun.h"
+#include "iupdaterun.h"
 #include "viewer/text/errortext.h"
+#include "workerrun.h"
 
 #include "camerapool/idevicefirmwareupdate.h"
 
@@ -10,10 +11,12 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 namespace Viewer::Camera {
 class CCameraActivities;
-}
+class ICameraDevice;
+} // namespace Viewer::Camera
 
 namespace Viewer::Update {
 
@@ -22,7 +25,7 @@ class CFirmwareUpdateInfo;
 
 /// The update job of one camera, whatever camera that is.
 class CDeviceFirmwareUpdate : public Plugin::CameraPool::IDeviceFirmwareUpdate,
-                              private CUpdateRun::IListener
+                              private IUpdateRun::IListener
 {
     Q_OBJECT
 
@@ -35,11 +38,13 @@ public:
     };
 
     /// @p info and @p device are not null; the device is closed. @p errors, which may be null, gets
-    /// to know the error before it is emitted.
+    /// to know the error before it is emitted. With @p worker the update runs in a process of its
+    /// own, and the device only tells its name and speed.
     CDeviceFirmwareUpdate(const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
                           std::unique_ptr<Camera::ICameraDevice> device,
                           const std::shared_ptr<Camera::CCameraActivities> &activities,
-                          const std::shared_ptr<CErrorTranslator> &errors);
+                          const std::shared_ptr<CErrorTranslator> &errors,
+                          const std::optional<CWorkerStart> &worker = std::nullopt);
     ~CDeviceFirmwareUpdate() override;
 
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
@@ -59,7 +64,8 @@ private:
     /// counts as being updated.
     [[nodiscard]] Text::CErrorText execute(bool &claimed) noexcept;
     /// The same, but throws when memory runs out.
-    [[nodiscard]] Text::CErrorText attempt(CUpdateRun &run, bool &claimed);
+    [[nodiscard]] Text::CErrorText attempt(std::unique_ptr<IUpdateRun> &run, bool &claimed);
+    [[nodiscard]] std::unique_ptr<IUpdateRun> makeRun();
     void announceEnd(const Text::CErrorText &error) noexcept;
     [[nodiscard]] Text::CErrorText getErrorText(const Text::CErrorText &message,
                                                 bool written) const;
@@ -72,6 +78,7 @@ private:
     // Made beforehand: when memory runs out there is none for a message.
     const Text::CErrorText m_outOfMemoryText;
     const Text::CErrorText m_outOfMemoryWrittenText;
+    const std::optional<CWorkerStart> m_worker;
     std::unique_ptr<Camera::ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;
     mutable std::mutex m_versionMutex;

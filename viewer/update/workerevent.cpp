@@ -6,14 +6,12 @@
 
 namespace Viewer::Update {
 
-using Plugin::CameraPool::EFirmwareUpdateStep;
-
 static const QString PROTOCOL = QStringLiteral("protocol");
 static const QString TYPE = QStringLiteral("event");
-static const QString KIND = QStringLiteral("kind");
+static const QString STEP = QStringLiteral("step");
 static const QString ESTIMATE = QStringLiteral("estimateMs");
 static const QString PERCENT = QStringLiteral("percent");
-static const QString DESCRIPTION = QStringLiteral("description");
+static const QString CAMERA = QStringLiteral("camera");
 static const QString ERROR_TEXT = QStringLiteral("error");
 static const QString LOCALIZED_ERROR = QStringLiteral("localizedError");
 static const QString HAS_WRITTEN = QStringLiteral("hasWritten");
@@ -27,21 +25,20 @@ QCborMap CWorkerEvent::toCbor() const
         map.insert(PROTOCOL, CWorkerTask::PROTOCOL);
         break;
     case EType::StepBegun:
-        map.insert(DESCRIPTION, description);
-        Q_FALLTHROUGH();
     case EType::StepDone:
         map.insert(ESTIMATE, static_cast<qint64>(estimate.count()));
-        map.insert(KIND, static_cast<int>(kind));
+        map.insert(STEP, step);
         break;
     case EType::StepProgressed:
         map.insert(PERCENT, percent);
-        map.insert(KIND, static_cast<int>(kind));
+        map.insert(STEP, step);
         break;
     case EType::Failed:
         map.insert(ERROR_TEXT, error);
         map.insert(LOCALIZED_ERROR, localizedError);
-        break;
+        Q_FALLTHROUGH();
     case EType::Done:
+        map.insert(CAMERA, camera);
         break;
     }
     return map;
@@ -50,19 +47,19 @@ QCborMap CWorkerEvent::toCbor() const
 std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
 {
     const qint64 type = map.value(TYPE).toInteger(-1);
-    const qint64 kind = map.value(KIND).toInteger(static_cast<int>(EFirmwareUpdateStep::Invalid));
+    const qint64 step = map.value(STEP).toInteger();
     const qint64 estimate = map.value(ESTIMATE).toInteger();
     CWorkerEvent event;
     event.percent = map.value(PERCENT).toDouble();
-    if (type < 0 || type > static_cast<int>(EType::Failed) || kind < 0
-        || kind > static_cast<int>(EFirmwareUpdateStep::Invalid) || estimate < 0
+    if (type < 0 || type > static_cast<int>(EType::Failed) || step < 0
+        || step > std::numeric_limits<int>::max() || estimate < 0
         || estimate > std::numeric_limits<int>::max()
         || !(event.percent >= 0 && event.percent <= 100))
         return std::nullopt;
     event.type = static_cast<EType>(type);
-    event.kind = static_cast<EFirmwareUpdateStep>(kind);
+    event.step = static_cast<int>(step);
     event.estimate = std::chrono::milliseconds(estimate);
-    event.description = map.value(DESCRIPTION).toString();
+    event.camera = map.value(CAMERA).toMap();
     event.error = map.value(ERROR_TEXT).toString();
     event.localizedError = map.value(LOCALIZED_ERROR).toString();
     event.hasWritten = map.value(HAS_WRITTEN).toBool(true);

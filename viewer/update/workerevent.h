@@ -1,9 +1,5 @@
 #pragma once
 
-#include "viewer/text/errortext.h"
-
-#include "camerapool/efirmwareupdatestep.h"
-
 #include <QCborMap>
 #include <QString>
 
@@ -25,13 +21,13 @@ struct CWorkerEvent
     };
 
     EType type = EType::Hello;
-    Plugin::CameraPool::EFirmwareUpdateStep kind = Plugin::CameraPool::EFirmwareUpdateStep::Invalid;
+    int step = 0; ///< of the update's steps, from 0
     std::chrono::milliseconds estimate{0}; ///< StepBegun and StepDone
     double percent = 0; ///< StepProgressed, 0 to 100
-    QString description; ///< StepBegun; may be empty
     QString error; ///< Failed: English, one line
     QString localizedError; ///< Failed: the same in the language of the task
     bool hasWritten = false; ///< the camera has, or may have, changed
+    QCborMap camera; ///< Done and Failed: by ICameraKind::describeMade(); may be empty
     QString version; ///< that the camera reported last; empty: it was not asked
 
     [[nodiscard]] QCborMap toCbor() const;

@@ -27,9 +27,9 @@ public:
 
     // ICameraKind
     [[nodiscard]] QString getName() const override;
-    [[nodiscard]] QCborMap describeCamera(const QString &cameraId) const override;
-    [[nodiscard]] std::unique_ptr<ICameraDevice>
-    makeDevice(const QCborMap &description) const override;
+    [[nodiscard]] std::unique_ptr<ICameraHandle>
+    createHandle(const QString &cameraId) const override;
+    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description) override;
     [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
     void start() override;
     [[nodiscard]] QVector<CCameraSwitch> getSwitches() override;

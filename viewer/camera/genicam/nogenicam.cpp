@@ -25,8 +25,11 @@ public:
     }
 
     [[nodiscard]] QString getName() const override { return QStringLiteral("genicam"); }
-    [[nodiscard]] QCborMap describeCamera(const QString &) const override { return {}; }
-    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &) const override
+    [[nodiscard]] std::unique_ptr<ICameraHandle> createHandle(const QString &) const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &) override
     {
         return nullptr;
     }

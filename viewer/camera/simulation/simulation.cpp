@@ -5,6 +5,7 @@
 #include "firmwarestatefile.h"
 #include "simulatedcamera.h"
 #include "simulatedcameradevice.h"
+#include "simulatedcamerahandle.h"
 #include "simulationnotifier.h"
 #include "viewer/commandline/takers.h"
 
@@ -16,12 +17,6 @@
 #include <mutex>
 
 namespace Viewer::Camera::Simulation {
-
-// Beside the description of the camera itself.
-static const QString SPEED = QStringLiteral("speed");
-static const QString STATE_FILE = QStringLiteral("stateFile");
-static const QString IS_PLUGGED = QStringLiteral("isPlugged");
-static const QString IS_BUSY = QStringLiteral("isBusy");
 
 static constexpr double SLOWEST_SPEED = 0.01;
 static constexpr double FASTEST_SPEED = 10000.0;
@@ -50,6 +45,7 @@ struct CSimulation::CPrivate
     std::shared_ptr<CFirmwareStateFile> stateFile;
     std::shared_ptr<CSimulationNotifier> notifier = std::make_shared<CSimulationNotifier>();
     double speedFactor = 1.0;
+    std::shared_ptr<CSimulatedCamera> made; ///< for an update in this process alone
 
     std::mutex cancelMutex;
     std::condition_variable cancelCondition;
@@ -71,37 +67,6 @@ CSimulation::~CSimulation()
 QString CSimulation::getName() const
 {
     return QStringLiteral("simulation");
-}
-
-QCborMap CSimulation::describeCamera(const QString &cameraId) const
-{
-    const auto camera = d->find(cameraId);
-    if (!camera)
-        return {};
-    CCameraDescriptionEntry entry = camera->getDescription();
-    entry.camera.firmwareVersion = camera->getFirmwareVersion();
-    QCborMap map = entry.toCbor();
-    map.insert(SPEED, d->speedFactor);
-    map.insert(STATE_FILE, m_options.stateFile);
-    map.insert(IS_PLUGGED, camera->isPlugged());
-    map.insert(IS_BUSY, camera->isBusy());
-    return map;
-}
-
-std::unique_ptr<ICameraDevice> CSimulation::makeDevice(const QCborMap &description) const
-{
-    const std::optional<CCameraDescriptionEntry> entry
-        = CCameraDescriptionEntry::fromCbor(description);
-    const double speed = description.value(SPEED).toDouble();
-    if (!entry || !(speed >= SLOWEST_SPEED && speed <= FASTEST_SPEED))
-        return nullptr;
-    const auto camera = std::make_shared<CSimulatedCamera>(
-        *entry, speed,
-        std::make_shared<CFirmwareStateFile>(description.value(STATE_FILE).toString()),
-        std::make_shared<CSimulationNotifier>());
-    camera->setBusy(description.value(IS_BUSY).toBool());
-    camera->setPlugged(description.value(IS_PLUGGED).toBool());
-    return std::make_unique<CSimulatedCameraDevice>(camera);
 }
 
 QVector<CommandLine::COption> CSimulation::getOptions()
@@ -213,6 +178,31 @@ ECameraPresence CSimulation::getPresence(const QString &cameraId) const
 bool CSimulation::hasImages() const
 {
     return true;
+}
+
+std::unique_ptr<ICameraHandle> CSimulation::createHandle(const QString &cameraId) const
+{
+    const auto camera = d->find(cameraId);
+    if (!camera)
+        return nullptr;
+    return std::make_unique<CSimulatedCameraHandle>(camera, d->speedFactor, m_options.stateFile);
+}
+
+std::unique_ptr<ICameraDevice> CSimulation::makeDevice(const QCborMap &description)
+{
+    d->made = CSimulatedCameraHandle::makeCamera(description, SLOWEST_SPEED, FASTEST_SPEED);
+    return d->made ? std::make_unique<CSimulatedCameraDevice>(d->made) : nullptr;
+}
+
+QCborMap CSimulation::describeMade() const
+{
+    return d->made ? CSimulatedCameraHandle::describeState(*d->made) : QCborMap();
+}
+
+void CSimulation::loseMade()
+{
+    if (d->made)
+        d->made->setPlugged(false);
 }
 
 void CSimulation::freeCameras()

@@ -34,9 +34,6 @@ public:
 
     // ICameraKind
     [[nodiscard]] QString getName() const override;
-    [[nodiscard]] QCborMap describeCamera(const QString &cameraId) const override;
-    [[nodiscard]] std::unique_ptr<ICameraDevice>
-    makeDevice(const QCborMap &description) const override;
     [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
     void setDataFolder(const QString &folder) override;
     void prepareDemonstration() override;
@@ -46,6 +43,11 @@ public:
     [[nodiscard]] ECameraPresence getPresence(const QString &cameraId) const override;
     [[nodiscard]] bool hasImages() const override;
     void freeCameras() override;
+    [[nodiscard]] std::unique_ptr<ICameraHandle>
+    createHandle(const QString &cameraId) const override;
+    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description) override;
+    [[nodiscard]] QCborMap describeMade() const override;
+    void loseMade() override;
 
     // ICameraDeviceFactory
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &cameraId) override;
