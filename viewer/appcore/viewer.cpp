@@ -69,7 +69,8 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
     , m_logs(logs)
     , m_dialogWatcher(std::make_unique<CModalDialogWatcher>())
     , m_linkOpener(std::make_unique<CLinkOpener>())
-    , m_pool(std::make_unique<CameraPool::CCameraPool>(takeKinds(m_options)))
+    , m_pool(
+          std::make_unique<CameraPool::CCameraPool>(takeKinds(m_options), m_options.journalFolder))
     , m_menuService(QSharedPointer<CMenuService>::create())
     , m_selectorService(QSharedPointer<CameraSelector::CDeviceSelectorService>::create())
     , m_window(std::make_unique<CMainWindow>(*m_menuService))

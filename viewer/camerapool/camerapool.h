@@ -24,8 +24,10 @@ class CCameraPool : public QObject
 
 public:
     /// Takes over @p kinds and starts them; throws `Core::Exception::BaseException` when one cannot
-    /// be started. Nothing is enumerated before start().
-    explicit CCameraPool(Camera::CCameraKinds kinds, QObject *parent = nullptr);
+    /// be started. Nothing is enumerated before start(). Updates keep their journals in
+    /// @p journalFolder; empty: nowhere.
+    explicit CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolder = QString(),
+                         QObject *parent = nullptr);
     ~CCameraPool() override;
 
     /// Begins the first enumeration. Its result is announced even if no camera is found.

@@ -1,5 +1,6 @@
 #include "devicefirmwareupdateservice.h"
 
+#include "camerainfo.h"
 #include "viewer/camera/icameradevice.h"
 #include "viewer/camera/icameradevicefactory.h"
 #include "viewer/update/devicefirmwareupdate.h"
@@ -41,12 +42,14 @@ static bool isNewer(const QSharedPointer<IFirmwareUpdateInfo> &left,
 CDeviceFirmwareUpdateService::CDeviceFirmwareUpdateService(
     Camera::ICameraDeviceFactory &factory, const CameraFinder &findCamera,
     const std::shared_ptr<Camera::CCameraActivities> &activities,
-    const std::shared_ptr<Update::CErrorTranslator> &errors, QObject *parent)
+    const std::shared_ptr<Update::CErrorTranslator> &errors, const QString &journalFolder,
+    QObject *parent)
     : IDeviceFirmwareUpdateService(parent)
     , m_factory(factory)
     , m_findCamera(findCamera)
     , m_activities(activities)
     , m_errors(errors)
+    , m_journalFolder(journalFolder)
 {
 }
 
@@ -107,11 +110,18 @@ QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDevice
         return {};
     // The caller may hold an information object from before an update. A camera that has just been
     // unplugged gets its job too; that one can say what is wrong.
-    const QSharedPointer<ICameraInfo> current = m_findCamera(camera->getId());
-    const Update::CDeviceFirmwareUpdate::CCamera description{
-        camera->getId(), device->getName(), (current ? current : camera)->getFirmwareVersion()};
+    const QSharedPointer<ICameraInfo> found = m_findCamera(camera->getId());
+    const QSharedPointer<ICameraInfo> current = found ? found : camera;
+    const auto *const own = dynamic_cast<const CCameraInfo *>(current.data());
+    const Update::CDeviceFirmwareUpdate::CCamera description{camera->getId(),
+                                                             device->getName(),
+                                                             current->getFirmwareVersion(),
+                                                             current->getModelName(),
+                                                             current->getSerialNumber(),
+                                                             own ? own->getSnapshot().ipAddress
+                                                                 : QString()};
     return QSharedPointer<IDeviceFirmwareUpdate>(new Update::CDeviceFirmwareUpdate(
-        description, info, std::move(device), m_activities, m_errors));
+        description, info, std::move(device), m_activities, m_errors, m_journalFolder));
 }
 
 } // namespace Viewer::CameraPool

@@ -27,11 +27,13 @@ public:
     /// The camera as last enumerated, or null.
     using CameraFinder = std::function<Plugin::CameraPool::CameraInfoPtr(const QString &cameraId)>;
 
-    /// @p factory is borrowed and outlives this object.
+    /// @p factory is borrowed and outlives this object. Jobs keep their journals in
+    /// @p journalFolder; empty: nowhere.
     CDeviceFirmwareUpdateService(Camera::ICameraDeviceFactory &factory,
                                  const CameraFinder &findCamera,
                                  const std::shared_ptr<Camera::CCameraActivities> &activities,
                                  const std::shared_ptr<Update::CErrorTranslator> &errors,
+                                 const QString &journalFolder = QString(),
                                  QObject *parent = nullptr);
     ~CDeviceFirmwareUpdateService() override;
 
@@ -56,6 +58,7 @@ private:
     const CameraFinder m_findCamera;
     const std::shared_ptr<Camera::CCameraActivities> m_activities;
     const std::shared_ptr<Update::CErrorTranslator> m_errors;
+    const QString m_journalFolder;
     UpdateFile::CUpdateFileCache m_cache;
 };
 

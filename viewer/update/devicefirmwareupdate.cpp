@@ -4,12 +4,16 @@
 #include "firmwareupdateinfo.h"
 #include "logging.h"
 #include "updateestimate.h"
+#include "updatejournal.h"
 #include "viewer/camera/cameraactivities.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/icameradevice.h"
 #include "viewer/updatefile/firmwareversion.h"
+#include "viewer/updatefile/manifestparser.h"
 
 #include "viewer/text/visibletext.h"
+
+#include <QFileInfo>
 
 namespace Viewer::Update {
 
@@ -26,7 +30,7 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
     const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
     std::unique_ptr<Camera::ICameraDevice> device,
     const std::shared_ptr<Camera::CCameraActivities> &activities,
-    const std::shared_ptr<CErrorTranslator> &errors)
+    const std::shared_ptr<CErrorTranslator> &errors, const QString &journalFolder)
     : m_camera(camera)
     , m_info(info)
     , m_direction(UpdateFile::getDirection(camera.firmwareVersion, info->getVersion()))
@@ -34,6 +38,7 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
     , m_errors(errors)
     , m_outOfMemoryText(getErrorText(CErrorText::tr("out of memory"), false))
     , m_outOfMemoryWrittenText(getErrorText(CErrorText::tr("out of memory"), true))
+    , m_journalFolder(journalFolder)
     , m_device(std::move(device))
     , m_firmwareVersion(camera.firmwareVersion)
 {
@@ -81,12 +86,19 @@ void CDeviceFirmwareUpdate::executeFirmwareUpdate()
 void CDeviceFirmwareUpdate::stepBegun(const UpdateFile::CUpdateStep &step,
                                       std::chrono::milliseconds estimate)
 {
+    m_journal->beginStep(UpdateFile::getStepKindName(step.kind));
     emit firmwareUpdateProgressStepBegin(step.kind, toUnsigned(estimate), step.description);
 }
 
 void CDeviceFirmwareUpdate::stepProgressed(const UpdateFile::CUpdateStep &step, double percent)
 {
+    m_journal->setPercent(static_cast<int>(percent));
     emit firmwareUpdateProgressStepProgressChanged(step.kind, percent);
+}
+
+void CDeviceFirmwareUpdate::writing()
+{
+    m_journal->beginWriting();
 }
 
 void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
@@ -110,6 +122,7 @@ CErrorText CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
         const std::lock_guard lock(m_versionMutex);
         m_firmwareVersion = Text::shorten(run.getReportedVersion());
     }
+    endJournal(run, error);
     return error;
 }
 
@@ -131,6 +144,10 @@ CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
                 m_camera.name,
                 CErrorText::tr("it is acquiring images; stop that and start the "
                                "update again"));
+        m_journal = std::make_unique<CUpdateJournal>(m_journalFolder, makeRecord());
+        if (m_journal->isForeign())
+            throw Camera::CCameraError(m_camera.name,
+                                       CErrorText::tr("it is already being updated"));
         run.execute();
     } catch (const std::bad_alloc &) {
         throw;
@@ -144,6 +161,35 @@ CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
         return getErrorText({}, run.hasWritten());
     }
     return {};
+}
+
+CUpdateRecord CDeviceFirmwareUpdate::makeRecord() const
+{
+    CUpdateRecord record;
+    record.cameraId = m_camera.id;
+    record.cameraName = m_camera.name;
+    record.modelName = m_camera.modelName;
+    record.serialNumber = m_camera.serialNumber;
+    record.address = m_camera.address;
+    record.oldVersion = m_camera.firmwareVersion;
+    record.newVersion = m_info->getVersion();
+    record.filePath = QFileInfo(m_info->getFileName()).absoluteFilePath();
+    record.manifestDigest = m_info->getManifestDigest();
+    record.stepCount = m_info->getEntry().steps.size();
+    record.begin = QDateTime::currentDateTimeUtc();
+    return record;
+}
+
+void CDeviceFirmwareUpdate::endJournal(const CUpdateRun &run, const CErrorText &error) noexcept
+{
+    try {
+        if (m_journal)
+            m_journal->finish(error.isEmpty() ? EUpdateOutcome::Updated : EUpdateOutcome::Failed,
+                              run.hasWritten(), error.getEnglish(), run.getReportedVersion());
+    } catch (...) {
+        qCCritical(updateLog, "the end of an update could not be written into its journal");
+    }
+    m_journal.reset();
 }
 
 void CDeviceFirmwareUpdate::announceEnd(const CErrorText &error) noexcept

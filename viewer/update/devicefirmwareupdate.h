@@ -18,6 +18,8 @@ class CCameraActivities;
 namespace Viewer::Update {
 
 class CErrorTranslator;
+class CUpdateJournal;
+struct CUpdateRecord;
 class CFirmwareUpdateInfo;
 
 /// The update job of one camera, whatever camera that is.
@@ -32,14 +34,19 @@ public:
         QString id;
         QString name; ///< what messages call it
         QString firmwareVersion; ///< the current one
+        QString modelName;
+        QString serialNumber;
+        QString address; ///< empty: none, or unknown
     };
 
     /// @p info and @p device are not null; the device is closed. @p errors, which may be null, gets
-    /// to know the error before it is emitted.
+    /// to know the error before it is emitted. The update keeps its journal in @p journalFolder;
+    /// empty: nowhere.
     CDeviceFirmwareUpdate(const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
                           std::unique_ptr<Camera::ICameraDevice> device,
                           const std::shared_ptr<Camera::CCameraActivities> &activities,
-                          const std::shared_ptr<CErrorTranslator> &errors);
+                          const std::shared_ptr<CErrorTranslator> &errors,
+                          const QString &journalFolder = QString());
     ~CDeviceFirmwareUpdate() override;
 
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
@@ -53,6 +60,7 @@ private:
     void stepBegun(const UpdateFile::CUpdateStep &step,
                    std::chrono::milliseconds estimate) override;
     void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) override;
+    void writing() override;
     void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
 
     /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
@@ -60,6 +68,8 @@ private:
     [[nodiscard]] Text::CErrorText execute(bool &claimed) noexcept;
     /// The same, but throws when memory runs out.
     [[nodiscard]] Text::CErrorText attempt(CUpdateRun &run, bool &claimed);
+    [[nodiscard]] CUpdateRecord makeRecord() const;
+    void endJournal(const CUpdateRun &run, const Text::CErrorText &error) noexcept;
     void announceEnd(const Text::CErrorText &error) noexcept;
     [[nodiscard]] Text::CErrorText getErrorText(const Text::CErrorText &message,
                                                 bool written) const;
@@ -72,7 +82,9 @@ private:
     // Made beforehand: when memory runs out there is none for a message.
     const Text::CErrorText m_outOfMemoryText;
     const Text::CErrorText m_outOfMemoryWrittenText;
+    const QString m_journalFolder;
     std::unique_ptr<Camera::ICameraDevice> m_device; // until the execution has ended
+    std::unique_ptr<CUpdateJournal> m_journal; // while this camera is updated by this job
     std::atomic<bool> m_executed = false;
     mutable std::mutex m_versionMutex;
     QString m_firmwareVersion;

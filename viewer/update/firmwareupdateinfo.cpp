@@ -18,6 +18,11 @@ const UpdateFile::CUpdateEntry &CFirmwareUpdateInfo::getEntry() const
     return m_manifest->updates.at(m_index);
 }
 
+QByteArray CFirmwareUpdateInfo::getManifestDigest() const
+{
+    return m_manifest->sha256;
+}
+
 QString CFirmwareUpdateInfo::getVersion() const
 {
     return getEntry().version;

@@ -19,6 +19,9 @@ public:
 
     [[nodiscard]] const UpdateFile::CUpdateEntry &getEntry() const;
 
+    /// See UpdateFile::CUpdateManifest.
+    [[nodiscard]] QByteArray getManifestDigest() const;
+
     [[nodiscard]] QString getVersion() const override;
     [[nodiscard]] QString getDescription() const override;
     [[nodiscard]] QString getReleaseNotes() const override;
