@@ -1,5 +1,6 @@
 #include "logfolder.h"
 
+#include "viewer/files/statefolder.h"
 #include "viewer/pluginsystem/pathtrust.h"
 
 #include <QDir>
@@ -35,32 +36,6 @@ struct CFolder
     QString path;
     bool inUse = false;
 };
-
-QString findRoot()
-{
-    QString stateHome = QFile::decodeName(qgetenv("XDG_STATE_HOME"));
-    if (!QDir::isAbsolutePath(stateHome)) {
-        const QString home = QFile::decodeName(qgetenv("HOME"));
-        if (!QDir::isAbsolutePath(home))
-            return {};
-        stateHome = home + QLatin1String("/.local/state");
-    }
-    return QDir::cleanPath(stateHome) + QLatin1String("/nuvexviewer/logs");
-}
-
-/// With folders above it that are missing. An error number, or 0.
-int makeFolder(const QString &path)
-{
-    const QByteArray name = QFile::encodeName(path);
-    if (mkdir(name.constData(), S_IRWXU) == 0 || errno == EEXIST)
-        return 0;
-    if (errno != ENOENT || path == QLatin1String("/"))
-        return errno;
-    const int error = makeFolder(QFileInfo(path).path());
-    if (error != 0)
-        return error;
-    return mkdir(name.constData(), S_IRWXU) == 0 || errno == EEXIST ? 0 : errno;
-}
 
 /// Locks the folder of a viewer that has ended, for oneself alone with LOCK_EX; -1: it still runs,
 /// or nobody can tell. Closing what comes back unlocks it.
@@ -137,7 +112,7 @@ QVector<CLogFile> findLogs(const QVector<CFolder> &folders)
 
 CLogFolder::CLogFolder()
     : m_outsideEnvironment(QProcessEnvironment::systemEnvironment())
-    , m_root(findRoot())
+    , m_root(Files::getStateFolder(QStringLiteral("logs")))
 {
     // A variable that exists is changed in its place; only a new one moves the environment.
     if (qEnvironmentVariableIsEmpty(VARIABLE))
@@ -176,7 +151,7 @@ bool CLogFolder::open()
 
 QString CLogFolder::makeOwnFolder()
 {
-    const int error = makeFolder(m_root);
+    const int error = Files::makePrivateFolder(m_root);
     if (error != 0)
         return qt_error_string(error);
     const QString fault = PluginSystem::CPathTrust::findFault(m_root);

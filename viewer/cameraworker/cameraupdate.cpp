@@ -2,13 +2,13 @@
 
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/camerakinds.h"
+#include "viewer/json/jsonfault.h"
+#include "viewer/update/journaledrun.h"
 #include "viewer/update/updateestimate.h"
-#include "viewer/updatefile/manifestparser.h"
+#include "viewer/update/updaterun.h"
 #include "viewer/updatefile/updatearchive.h"
 #include "viewer/updatefile/updatefileerror.h"
 #include "viewer/updatefile/updatefilereader.h"
-
-#include <QCryptographicHash>
 
 #include <algorithm>
 #include <cstdlib>
@@ -73,18 +73,21 @@ CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
         if (!m_device)
             return CErrorText::tr("the update program does not know a camera of this kind");
         const UpdateFile::CUpdateArchive archive(task.filePath);
-        const QByteArray digest
-            = QCryptographicHash::hash(archive.readManifest(), QCryptographicHash::Sha256);
-        if (digest != task.manifestDigest)
+        m_manifest = UpdateFile::CUpdateFileReader::read(archive);
+        if (m_manifest.sha256 != task.manifestDigest)
             return CErrorText::tr("the update file is another one than the one that was shown; "
                                   "select it again");
-        m_manifest = UpdateFile::CUpdateFileReader::read(archive);
         if (task.entry >= m_manifest.updates.size())
             return CErrorText::tr("the update file has no such update");
-        Update::CUpdateRun::IListener &listener = *this;
-        m_run = std::make_unique<Update::CUpdateRun>(m_device->getName(),
-                                                     m_manifest.updates.at(task.entry),
-                                                     task.filePath, *m_device, listener);
+        Json::CJsonScanner scanner(task.record);
+        IListener &listener = *this;
+        m_run = std::make_unique<Update::CJournaledRun>(
+            task.journalFolder, Update::readUpdateRecord(scanner), listener,
+            [this, &task](IListener &journal) {
+                return std::make_unique<Update::CUpdateRun>(m_device->getName(),
+                                                            m_manifest.updates.at(task.entry),
+                                                            task.filePath, *m_device, journal);
+            });
         m_run->execute();
         return {};
     } catch (const std::bad_alloc &) {
@@ -93,6 +96,8 @@ CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
         return error.getText();
     } catch (const UpdateFile::CUpdateFileError &error) {
         return error.getText();
+    } catch (const Json::CJsonFault &fault) {
+        return fault.describe();
     } catch (const std::exception &exception) {
         return CErrorText(QString::fromLocal8Bit(exception.what()));
     } catch (...) {
@@ -102,7 +107,7 @@ CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
 
 void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds estimate)
 {
-    if (m_isCanceled != 0 && !m_run->hasWritten())
+    if (m_isCanceled != 0 && !m_mayHaveWritten)
         throw CCameraError(m_device->getName(), CErrorText::tr("the update was canceled"),
                            CCameraError::EChange::None);
     std::chrono::milliseconds limit = Update::getTimeLimit(estimate);
@@ -110,7 +115,6 @@ void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds
         limit = std::max(limit, m_device->getShortestResetLimit());
     // The first step that writes repeats the checks before it.
     m_watchdog.watch(limit + GRACE + AROUND_STEPS);
-    m_mayHaveWritten = m_mayHaveWritten || UpdateFile::changesCamera(step.kind);
     ++m_step;
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepBegun);
     event.estimate = estimate;
@@ -122,6 +126,11 @@ void CCameraUpdate::stepProgressed(const CUpdateStep &, double percent)
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepProgressed);
     event.percent = percent;
     m_events.write(event);
+}
+
+void CCameraUpdate::writing()
+{
+    m_mayHaveWritten = true;
 }
 
 void CCameraUpdate::stepDone(const CUpdateStep &, std::chrono::milliseconds estimate)

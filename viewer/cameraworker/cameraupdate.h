@@ -5,7 +5,7 @@
 
 #include "viewer/camera/icamerakind.h"
 #include "viewer/text/errortext.h"
-#include "viewer/update/updaterun.h"
+#include "viewer/update/iupdaterun.h"
 #include "viewer/update/workertask.h"
 
 #include <atomic>
@@ -15,7 +15,7 @@
 namespace Viewer::CameraWorker {
 
 /// One update of one camera, told in events.
-class CCameraUpdate : private Update::CUpdateRun::IListener
+class CCameraUpdate : private Update::IUpdateRun::IListener
 {
 public:
     /// Both are borrowed. @p isCanceled becomes true when somebody wants the process to end.
@@ -32,6 +32,7 @@ private:
     void stepBegun(const UpdateFile::CUpdateStep &step,
                    std::chrono::milliseconds estimate) override;
     void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) override;
+    void writing() override;
     void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
 
     [[nodiscard]] Text::CErrorText update(const Update::CWorkerTask &task);
@@ -47,7 +48,7 @@ private:
     UpdateFile::CUpdateManifest m_manifest;
     int m_step = -1; ///< the current one, from 0
     std::unique_ptr<Camera::ICameraDevice> m_device;
-    std::unique_ptr<Update::CUpdateRun> m_run;
+    std::unique_ptr<Update::IUpdateRun> m_run;
     std::atomic<bool> m_mayHaveWritten{false}; ///< known to the watchdog's thread
     CWatchdog m_watchdog; ///< the last one, as its thread uses what stands above
 };

@@ -2,6 +2,7 @@
 
 #include "errortranslator.h"
 #include "firmwareupdateinfo.h"
+#include "journaledrun.h"
 #include "logging.h"
 #include "updateestimate.h"
 #include "updaterun.h"
@@ -11,6 +12,8 @@
 #include "viewer/updatefile/firmwareversion.h"
 
 #include "viewer/text/visibletext.h"
+
+#include <QFileInfo>
 
 namespace Viewer::Update {
 
@@ -27,7 +30,8 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
     const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
     std::unique_ptr<Camera::ICameraDevice> device,
     const std::shared_ptr<Camera::CCameraActivities> &activities,
-    const std::shared_ptr<CErrorTranslator> &errors, const std::optional<CWorkerStart> &worker)
+    const std::shared_ptr<CErrorTranslator> &errors, const QString &journalFolder,
+    const std::optional<CWorkerStart> &worker)
     : m_camera(camera)
     , m_info(info)
     , m_direction(UpdateFile::getDirection(camera.firmwareVersion, info->getVersion()))
@@ -35,6 +39,7 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
     , m_errors(errors)
     , m_outOfMemoryText(getErrorText(CErrorText::tr("out of memory"), false))
     , m_outOfMemoryWrittenText(getErrorText(CErrorText::tr("out of memory"), true))
+    , m_journalFolder(journalFolder)
     , m_worker(worker)
     , m_device(std::move(device))
     , m_firmwareVersion(camera.firmwareVersion)
@@ -91,6 +96,10 @@ void CDeviceFirmwareUpdate::stepProgressed(const UpdateFile::CUpdateStep &step, 
     emit firmwareUpdateProgressStepProgressChanged(step.kind, percent);
 }
 
+void CDeviceFirmwareUpdate::writing()
+{
+}
+
 void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
                                      std::chrono::milliseconds estimate)
 {
@@ -118,10 +127,17 @@ CErrorText CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
 std::unique_ptr<IUpdateRun> CDeviceFirmwareUpdate::makeRun()
 {
     IUpdateRun::IListener &listener = *this;
-    if (m_worker)
-        return std::make_unique<CWorkerRun>(m_camera.name, m_info->getEntry(), *m_worker, listener);
-    return std::make_unique<CUpdateRun>(m_camera.name, m_info->getEntry(), m_info->getFileName(),
-                                        *m_device, listener);
+    if (m_worker) {
+        CWorkerStart start = *m_worker;
+        start.task.journalFolder = m_journalFolder;
+        start.task.record = toJson(makeRecord());
+        return std::make_unique<CWorkerRun>(m_camera.name, m_info->getEntry(), start, listener);
+    }
+    return std::make_unique<CJournaledRun>(
+        m_journalFolder, makeRecord(), listener, [this](IUpdateRun::IListener &journal) {
+            return std::make_unique<CUpdateRun>(m_camera.name, m_info->getEntry(),
+                                                m_info->getFileName(), *m_device, journal);
+        });
 }
 
 CErrorText CDeviceFirmwareUpdate::attempt(std::unique_ptr<IUpdateRun> &run, bool &claimed)
@@ -157,6 +173,23 @@ CErrorText CDeviceFirmwareUpdate::attempt(std::unique_ptr<IUpdateRun> &run, bool
         return getErrorText({}, run->hasWritten());
     }
     return {};
+}
+
+CUpdateRecord CDeviceFirmwareUpdate::makeRecord() const
+{
+    CUpdateRecord record;
+    record.cameraId = m_camera.id;
+    record.cameraName = m_camera.name;
+    record.modelName = m_camera.modelName;
+    record.serialNumber = m_camera.serialNumber;
+    record.address = m_camera.address;
+    record.oldVersion = m_camera.firmwareVersion;
+    record.newVersion = m_info->getVersion();
+    record.filePath = QFileInfo(m_info->getFileName()).absoluteFilePath();
+    record.manifestDigest = m_info->getManifestDigest();
+    record.stepCount = m_info->getEntry().steps.size();
+    record.begin = QDateTime::currentDateTimeUtc();
+    return record;
 }
 
 void CDeviceFirmwareUpdate::announceEnd(const CErrorText &error) noexcept

@@ -21,6 +21,7 @@ class ICameraDevice;
 namespace Viewer::Update {
 
 class CErrorTranslator;
+struct CUpdateRecord;
 class CFirmwareUpdateInfo;
 
 /// The update job of one camera, whatever camera that is.
@@ -35,15 +36,20 @@ public:
         QString id;
         QString name; ///< what messages call it
         QString firmwareVersion; ///< the current one
+        QString modelName;
+        QString serialNumber;
+        QString address; ///< empty: none, or unknown
     };
 
     /// @p info and @p device are not null; the device is closed. @p errors, which may be null, gets
-    /// to know the error before it is emitted. With @p worker the update runs in a process of its
+    /// to know the error before it is emitted. The update keeps its journal in
+    /// @p journalFolder; empty: nowhere. With @p worker the update runs in a process of its
     /// own, and the device only tells its name and speed.
     CDeviceFirmwareUpdate(const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
                           std::unique_ptr<Camera::ICameraDevice> device,
                           const std::shared_ptr<Camera::CCameraActivities> &activities,
                           const std::shared_ptr<CErrorTranslator> &errors,
+                          const QString &journalFolder = QString(),
                           const std::optional<CWorkerStart> &worker = std::nullopt);
     ~CDeviceFirmwareUpdate() override;
 
@@ -58,6 +64,7 @@ private:
     void stepBegun(const UpdateFile::CUpdateStep &step,
                    std::chrono::milliseconds estimate) override;
     void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) override;
+    void writing() override;
     void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
 
     /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
@@ -66,6 +73,7 @@ private:
     /// The same, but throws when memory runs out.
     [[nodiscard]] Text::CErrorText attempt(std::unique_ptr<IUpdateRun> &run, bool &claimed);
     [[nodiscard]] std::unique_ptr<IUpdateRun> makeRun();
+    [[nodiscard]] CUpdateRecord makeRecord() const;
     void announceEnd(const Text::CErrorText &error) noexcept;
     [[nodiscard]] Text::CErrorText getErrorText(const Text::CErrorText &message,
                                                 bool written) const;
@@ -78,6 +86,7 @@ private:
     // Made beforehand: when memory runs out there is none for a message.
     const Text::CErrorText m_outOfMemoryText;
     const Text::CErrorText m_outOfMemoryWrittenText;
+    const QString m_journalFolder;
     const std::optional<CWorkerStart> m_worker;
     std::unique_ptr<Camera::ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;

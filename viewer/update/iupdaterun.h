@@ -23,6 +23,8 @@ public:
             = 0;
         /// Called for a selection of the reports that the camera makes; see CProgressThrottle.
         virtual void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) = 0;
+        /// Called before each operation that changes the camera.
+        virtual void writing() = 0;
         virtual void stepDone(const UpdateFile::CUpdateStep &step,
                               std::chrono::milliseconds estimate)
             = 0;

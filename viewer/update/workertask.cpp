@@ -14,6 +14,8 @@ static const QString CAMERA = QStringLiteral("camera");
 static const QString FILE = QStringLiteral("file");
 static const QString MANIFEST_DIGEST = QStringLiteral("manifestSha256");
 static const QString ENTRY = QStringLiteral("entry");
+static const QString JOURNAL_FOLDER = QStringLiteral("journalFolder");
+static const QString RECORD = QStringLiteral("record");
 static const QString LANGUAGE = QStringLiteral("language");
 
 static constexpr int DIGEST_SIZE = 32;
@@ -27,7 +29,9 @@ QCborMap CWorkerTask::toCbor() const
             {FILE, filePath},
             {MANIFEST_DIGEST, manifestDigest},
             {ENTRY, entry},
-            {LANGUAGE, language}};
+            {LANGUAGE, language},
+            {JOURNAL_FOLDER, journalFolder},
+            {RECORD, record}};
 }
 
 std::optional<CWorkerTask> CWorkerTask::fromCbor(const QCborMap &map, QString &fault)
@@ -37,6 +41,8 @@ std::optional<CWorkerTask> CWorkerTask::fromCbor(const QCborMap &map, QString &f
     task.camera = map.value(CAMERA).toMap();
     task.filePath = map.value(FILE).toString();
     task.manifestDigest = map.value(MANIFEST_DIGEST).toByteArray();
+    task.journalFolder = map.value(JOURNAL_FOLDER).toString();
+    task.record = map.value(RECORD).toByteArray();
     task.language = map.value(LANGUAGE).toString();
     const qint64 entry = map.value(ENTRY).toInteger(-1);
     if (map.value(PROTOCOL_FIELD).toInteger(-1) != PROTOCOL)

@@ -22,6 +22,8 @@ struct CWorkerTask
     QString filePath; ///< absolute
     QByteArray manifestDigest; ///< SHA-256 of the update.json that the user was shown, 32 bytes
     int entry = 0; ///< of the manifest's updates, from 0
+    QString journalFolder; ///< absolute; empty: no journal is kept
+    QByteArray record; ///< what the journal begins with, by toJson(CUpdateRecord)
     QString language; ///< code of the texts for the user
 
     [[nodiscard]] QCborMap toCbor() const;
