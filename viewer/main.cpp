@@ -5,6 +5,7 @@
 #include "viewer/appcore/startguard.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/demo/wizarddemo.h"
+#include "viewer/files/statefolder.h"
 #include "viewer/text/language.h"
 
 #include "core/baseexception.h"
@@ -178,6 +179,7 @@ int main(int argc, char **argv)
     AppCore::CCommandLineOptions options = commandLine->takeOptions();
     for (const std::unique_ptr<Camera::ICameraKind> &kind : options.kinds)
         kind->setDataFolder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    options.journalFolder = Files::getStateFolder(QStringLiteral("updates"));
     AppCore::chooseLanguageFont(languageCode);
     try {
         return runViewer(std::move(options), languageCode, logs);

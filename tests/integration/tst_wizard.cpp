@@ -90,6 +90,7 @@ void CWizardTest::openPool(const QStringList &arguments)
 {
     m_pool = std::make_unique<Viewer::CameraPool::CCameraPool>(
         TestSupport::makeCameraKinds(arguments));
+    m_pool->setWorker(WORKER, "en");
     const auto services = m_pool->getServices();
     for (const auto &service : services)
         m_host->initializer.addService(service);

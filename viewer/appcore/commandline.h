@@ -17,6 +17,7 @@ struct CCommandLineOptions
     QString language; ///< empty: as remembered
     QString samplesDirectory; ///< empty: none
     QString demoDirectory; ///< empty: no demonstration
+    QString journalFolder; ///< of running updates; not from the command line; empty: none
 };
 
 /// Reads the viewer's command line.

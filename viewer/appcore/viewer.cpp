@@ -25,6 +25,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QMenu>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -50,6 +51,13 @@ static QString withoutMnemonic(QString text)
 
 static constexpr int NEXT_REASON_TIME = 1000; // milliseconds
 
+// Beside the folder of the programs, since nobody else starts it.
+static QString getWorkerPath()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath()
+                           + QStringLiteral("/../libexec/nuvexcameraworker"));
+}
+
 /// The kinds with their switches as the user left them. A search by broadcast, for example, reaches
 /// devices of others: it is asked for, now or once for all.
 static Camera::CCameraKinds takeKinds(CCommandLineOptions &options)
@@ -70,7 +78,8 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
     , m_logs(logs)
     , m_dialogWatcher(std::make_unique<CModalDialogWatcher>())
     , m_linkOpener(std::make_unique<CLinkOpener>())
-    , m_pool(std::make_unique<CameraPool::CCameraPool>(takeKinds(m_options)))
+    , m_pool(
+          std::make_unique<CameraPool::CCameraPool>(takeKinds(m_options), m_options.journalFolder))
     , m_menuService(QSharedPointer<CMenuService>::create())
     , m_selectorService(QSharedPointer<CameraSelector::CDeviceSelectorService>::create())
     , m_window(std::make_unique<CMainWindow>(*m_menuService))
@@ -83,6 +92,7 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
         m_linkOpener->addFolder(m_logs->getRoot());
     }
     m_linkOpener->addFolder(m_options.samplesDirectory);
+    m_pool->setWorker(getWorkerPath(), language);
     createWindow();
     fillMenus();
     registerServices();

@@ -17,6 +17,11 @@ CCameraError::CCameraError(const CErrorText &text, EChange change)
 
 CCameraError::~CCameraError() = default;
 
+CCameraError CCameraError::fromText(const CErrorText &text)
+{
+    return {text, EChange::Possible};
+}
+
 CErrorText CCameraError::getText() const
 {
     return m_text;

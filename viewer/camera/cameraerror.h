@@ -22,6 +22,9 @@ public:
                  EChange change = EChange::Possible);
     ~CCameraError() override;
 
+    /// An error of another process, complete with the camera's name.
+    [[nodiscard]] static CCameraError fromText(const Text::CErrorText &text);
+
     /// The message, also in the user's language.
     [[nodiscard]] Text::CErrorText getText() const;
     [[nodiscard]] EChange getChange() const;

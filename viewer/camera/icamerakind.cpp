@@ -35,4 +35,13 @@ void ICameraKind::freeCameras()
 {
 }
 
+QCborMap ICameraKind::describeMade() const
+{
+    return {};
+}
+
+void ICameraKind::loseMade()
+{
+}
+
 } // namespace Viewer::Camera

@@ -4,8 +4,10 @@
 #include "ecamerapresence.h"
 #include "icameradevicefactory.h"
 #include "icameraenumerator.h"
+#include "icamerahandle.h"
 #include "viewer/commandline/option.h"
 
+#include <QCborMap>
 #include <QObject>
 #include <QVector>
 
@@ -24,6 +26,9 @@ class ICameraKind : public QObject, public ICameraDeviceFactory, public ICameraE
 public:
     explicit ICameraKind(QObject *parent = nullptr);
     ~ICameraKind() override;
+
+    /// "simulation", "genicam": the kind among others, the same in every version.
+    [[nodiscard]] virtual QString getName() const = 0;
 
     // Before start():
 
@@ -49,6 +54,10 @@ public:
 
     // After start():
 
+    /// For having another process work with the camera. Null: there is no such camera.
+    [[nodiscard]] virtual std::unique_ptr<ICameraHandle>
+    createHandle(const QString &cameraId) const = 0;
+
     /// Does not ask the camera.
     [[nodiscard]] virtual ECameraPresence getPresence(const QString &cameraId) const = 0;
 
@@ -57,6 +66,19 @@ public:
 
     /// Ends what other applications do with the cameras, as far as that can be done from here.
     virtual void freeCameras();
+
+    // In the other process, instead of all that stands above:
+
+    /// The device of the camera that an ICameraHandle has described, maybe of another version of
+    /// this program: anything may be in @p description. Null: it is no description.
+    [[nodiscard]] virtual std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description)
+        = 0;
+
+    /// How the camera of makeDevice() is now, for ICameraHandle::end(). Any thread.
+    [[nodiscard]] virtual QCborMap describeMade() const;
+
+    /// The camera of makeDevice() was taken away, which its device does not know. Any thread.
+    virtual void loseMade();
 
 Q_SIGNALS:
     /// Another enumeration would have another result.

@@ -55,7 +55,7 @@ struct CCameraPool::CPrivate
     int updateCount = 0; // of the updates that have been reacted to
 };
 
-CCameraPool::CCameraPool(Camera::CCameraKinds kinds, QObject *parent)
+CCameraPool::CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolder, QObject *parent)
     : QObject(parent)
     , d(std::make_unique<CPrivate>(std::move(kinds)))
 {
@@ -66,8 +66,8 @@ CCameraPool::CCameraPool(Camera::CCameraKinds kinds, QObject *parent)
     d->services
         = {d->enumeration, QSharedPointer<IService>(new CCameraStatusService(getActivityOf)),
            QSharedPointer<IService>(new CCameraStreamControlService([this] { stopAllCameras(); })),
-           QSharedPointer<IService>(
-               new CDeviceFirmwareUpdateService(d->cameras, findCamera, d->activities, d->errors))};
+           QSharedPointer<IService>(new CDeviceFirmwareUpdateService(
+               d->cameras, findCamera, d->activities, d->errors, journalFolder))};
 
     for (const std::unique_ptr<ICameraKind> &kind : d->kinds) {
         connect(kind.get(), &ICameraKind::camerasChanged, d->enumeration.data(),
@@ -91,6 +91,21 @@ CCameraPool::~CCameraPool()
 {
     QCoreApplication::removeTranslator(d->errors.get());
     d->activities->setListener({});
+}
+
+void CCameraPool::setWorker(const QString &program, const QString &language)
+{
+    const auto findCamera = [this](const QString &cameraId) {
+        CDeviceFirmwareUpdateService::CRemoteCamera camera;
+        for (const std::unique_ptr<ICameraKind> &kind : d->kinds) {
+            camera.kind = kind->getName();
+            camera.handle = kind->createHandle(cameraId);
+            if (camera.handle)
+                break;
+        }
+        return camera;
+    };
+    getService<CDeviceFirmwareUpdateService>()->setWorker(program, language, findCamera);
 }
 
 void CCameraPool::start()

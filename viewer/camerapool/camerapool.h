@@ -24,9 +24,15 @@ class CCameraPool : public QObject
 
 public:
     /// Takes over @p kinds and starts them; throws `Core::Exception::BaseException` when one cannot
-    /// be started. Nothing is enumerated before start().
-    explicit CCameraPool(Camera::CCameraKinds kinds, QObject *parent = nullptr);
+    /// be started. Nothing is enumerated before start(). Updates keep their journals in
+    /// @p journalFolder; empty: nowhere.
+    explicit CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolder = QString(),
+                         QObject *parent = nullptr);
     ~CCameraPool() override;
+
+    /// Each update runs in a process of its own from now on: nuvexcameraworker at the absolute path
+    /// @p program, which speaks the @p language. Without a call updates run on threads of this one.
+    void setWorker(const QString &program, const QString &language);
 
     /// Begins the first enumeration. Its result is announced even if no camera is found.
     void start();

@@ -1,12 +1,16 @@
 #include "devicefirmwareupdateservice.h"
 
+#include "camerainfo.h"
 #include "viewer/camera/icameradevice.h"
 #include "viewer/camera/icameradevicefactory.h"
+#include "viewer/camera/icamerahandle.h"
 #include "viewer/update/devicefirmwareupdate.h"
 #include "viewer/update/firmwareupdateinfo.h"
 #include "viewer/updatefile/firmwareversion.h"
 
 #include "core/baseexception.h"
+
+#include <QFileInfo>
 
 #include <QDir>
 
@@ -41,12 +45,14 @@ static bool isNewer(const QSharedPointer<IFirmwareUpdateInfo> &left,
 CDeviceFirmwareUpdateService::CDeviceFirmwareUpdateService(
     Camera::ICameraDeviceFactory &factory, const CameraFinder &findCamera,
     const std::shared_ptr<Camera::CCameraActivities> &activities,
-    const std::shared_ptr<Update::CErrorTranslator> &errors, QObject *parent)
+    const std::shared_ptr<Update::CErrorTranslator> &errors, const QString &journalFolder,
+    QObject *parent)
     : IDeviceFirmwareUpdateService(parent)
     , m_factory(factory)
     , m_findCamera(findCamera)
     , m_activities(activities)
     , m_errors(errors)
+    , m_journalFolder(journalFolder)
 {
 }
 
@@ -96,6 +102,32 @@ bool CDeviceFirmwareUpdateService::getCompatibleFirmwareUpdates(
     return true;
 }
 
+void CDeviceFirmwareUpdateService::setWorker(const QString &program, const QString &language,
+                                             const RemoteCameraFinder &findRemoteCamera)
+{
+    m_workerProgram = program;
+    m_workerLanguage = language;
+    m_findRemoteCamera = findRemoteCamera;
+}
+
+std::optional<Update::CWorkerStart>
+CDeviceFirmwareUpdateService::makeWorkerStart(const QString &cameraId,
+                                              const Update::CFirmwareUpdateInfo &info) const
+{
+    if (m_workerProgram.isEmpty())
+        return std::nullopt;
+    const CRemoteCamera camera = m_findRemoteCamera(cameraId);
+    if (!camera.handle)
+        return std::nullopt;
+    Update::CWorkerTask task;
+    task.kind = camera.kind;
+    task.filePath = QFileInfo(info.getFileName()).absoluteFilePath();
+    task.manifestDigest = info.getManifestDigest();
+    task.entry = info.getIndex();
+    task.language = m_workerLanguage;
+    return Update::CWorkerStart{m_workerProgram, task, camera.handle};
+}
+
 QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDeviceFirmwareUpdate(
     QSharedPointer<ICameraInfo> camera, const QSharedPointer<IFirmwareUpdateInfo> &updateInfo)
 {
@@ -107,11 +139,19 @@ QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDevice
         return {};
     // The caller may hold an information object from before an update. A camera that has just been
     // unplugged gets its job too; that one can say what is wrong.
-    const QSharedPointer<ICameraInfo> current = m_findCamera(camera->getId());
-    const Update::CDeviceFirmwareUpdate::CCamera description{
-        camera->getId(), device->getName(), (current ? current : camera)->getFirmwareVersion()};
+    const QSharedPointer<ICameraInfo> found = m_findCamera(camera->getId());
+    const QSharedPointer<ICameraInfo> current = found ? found : camera;
+    const auto *const own = dynamic_cast<const CCameraInfo *>(current.data());
+    const Update::CDeviceFirmwareUpdate::CCamera description{camera->getId(),
+                                                             device->getName(),
+                                                             current->getFirmwareVersion(),
+                                                             current->getModelName(),
+                                                             current->getSerialNumber(),
+                                                             own ? own->getSnapshot().ipAddress
+                                                                 : QString()};
     return QSharedPointer<IDeviceFirmwareUpdate>(new Update::CDeviceFirmwareUpdate(
-        description, info, std::move(device), m_activities, m_errors));
+        description, info, std::move(device), m_activities, m_errors, m_journalFolder,
+        makeWorkerStart(camera->getId(), *info)));
 }
 
 } // namespace Viewer::CameraPool

@@ -1,20 +1,24 @@
 #pragma once
 
+#include "viewer/update/workerrun.h"
 #include "viewer/updatefile/updatefilecache.h"
 
 #include "camerapool/idevicefirmwareupdateservice.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Viewer::Camera {
 class CCameraActivities;
 class ICameraDeviceFactory;
+class ICameraHandle;
 } // namespace Viewer::Camera
 
 namespace Viewer::Update {
 class CErrorTranslator;
-}
+class CFirmwareUpdateInfo;
+} // namespace Viewer::Update
 
 namespace Viewer::CameraPool {
 
@@ -27,11 +31,26 @@ public:
     /// The camera as last enumerated, or null.
     using CameraFinder = std::function<Plugin::CameraPool::CameraInfoPtr(const QString &cameraId)>;
 
-    /// @p factory is borrowed and outlives this object.
+    /// Which kind a camera is of, and the camera for a process of its own; null: there is none.
+    struct CRemoteCamera
+    {
+        QString kind;
+        std::shared_ptr<Camera::ICameraHandle> handle;
+    };
+    using RemoteCameraFinder = std::function<CRemoteCamera(const QString &cameraId)>;
+
+    /// Each update from now on runs in a process of its own, of the @p program, which speaks the
+    /// @p language. Without a call updates run in this process.
+    void setWorker(const QString &program, const QString &language,
+                   const RemoteCameraFinder &findRemoteCamera);
+
+    /// @p factory is borrowed and outlives this object. Jobs keep their journals in
+    /// @p journalFolder; empty: nowhere.
     CDeviceFirmwareUpdateService(Camera::ICameraDeviceFactory &factory,
                                  const CameraFinder &findCamera,
                                  const std::shared_ptr<Camera::CCameraActivities> &activities,
                                  const std::shared_ptr<Update::CErrorTranslator> &errors,
+                                 const QString &journalFolder = QString(),
                                  QObject *parent = nullptr);
     ~CDeviceFirmwareUpdateService() override;
 
@@ -52,10 +71,17 @@ public:
         const QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo> &updateInfo) override;
 
 private:
+    [[nodiscard]] std::optional<Update::CWorkerStart>
+    makeWorkerStart(const QString &cameraId, const Update::CFirmwareUpdateInfo &info) const;
+
     Camera::ICameraDeviceFactory &m_factory;
     const CameraFinder m_findCamera;
     const std::shared_ptr<Camera::CCameraActivities> m_activities;
     const std::shared_ptr<Update::CErrorTranslator> m_errors;
+    const QString m_journalFolder;
+    QString m_workerProgram; ///< empty: this process
+    QString m_workerLanguage;
+    RemoteCameraFinder m_findRemoteCamera;
     UpdateFile::CUpdateFileCache m_cache;
 };
 

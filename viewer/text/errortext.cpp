@@ -25,6 +25,11 @@ CErrorText::CErrorText(const QString &english, const QString &localized)
 {
 }
 
+CErrorText CErrorText::fromBoth(const QString &english, const QString &localized)
+{
+    return {english, localized};
+}
+
 CErrorText CErrorText::tr(const char *source)
 {
     return {QString::fromUtf8(source),

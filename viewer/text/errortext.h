@@ -14,6 +14,9 @@ public:
     /// A text that is the same in both: a name, or what a library says.
     explicit CErrorText(const QString &text);
 
+    /// A text that came from another process in both languages.
+    [[nodiscard]] static CErrorText fromBoth(const QString &english, const QString &localized);
+
     /// @p source is English; its translation comes from the application's catalogues. Any thread.
     [[nodiscard]] static CErrorText tr(const char *source);
 

@@ -2,14 +2,18 @@
 
 #include "errortranslator.h"
 #include "firmwareupdateinfo.h"
+#include "journaledrun.h"
 #include "logging.h"
 #include "updateestimate.h"
+#include "updaterun.h"
 #include "viewer/camera/cameraactivities.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/icameradevice.h"
 #include "viewer/updatefile/firmwareversion.h"
 
 #include "viewer/text/visibletext.h"
+
+#include <QFileInfo>
 
 namespace Viewer::Update {
 
@@ -26,7 +30,8 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
     const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
     std::unique_ptr<Camera::ICameraDevice> device,
     const std::shared_ptr<Camera::CCameraActivities> &activities,
-    const std::shared_ptr<CErrorTranslator> &errors)
+    const std::shared_ptr<CErrorTranslator> &errors, const QString &journalFolder,
+    const std::optional<CWorkerStart> &worker)
     : m_camera(camera)
     , m_info(info)
     , m_direction(UpdateFile::getDirection(camera.firmwareVersion, info->getVersion()))
@@ -34,6 +39,8 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
     , m_errors(errors)
     , m_outOfMemoryText(getErrorText(CErrorText::tr("out of memory"), false))
     , m_outOfMemoryWrittenText(getErrorText(CErrorText::tr("out of memory"), true))
+    , m_journalFolder(journalFolder)
+    , m_worker(worker)
     , m_device(std::move(device))
     , m_firmwareVersion(camera.firmwareVersion)
 {
@@ -89,6 +96,10 @@ void CDeviceFirmwareUpdate::stepProgressed(const UpdateFile::CUpdateStep &step, 
     emit firmwareUpdateProgressStepProgressChanged(step.kind, percent);
 }
 
+void CDeviceFirmwareUpdate::writing()
+{
+}
+
 void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
                                      std::chrono::milliseconds estimate)
 {
@@ -97,26 +108,43 @@ void CDeviceFirmwareUpdate::stepDone(const UpdateFile::CUpdateStep &step,
 
 CErrorText CDeviceFirmwareUpdate::execute(bool &claimed) noexcept
 {
-    CUpdateRun run(m_camera.name, m_info->getEntry(), m_info->getFileName(), *m_device, *this);
+    std::unique_ptr<IUpdateRun> run;
     CErrorText error;
     try {
         error = attempt(run, claimed);
     } catch (...) {
         // Memory ran out, maybe for the message about something else.
-        error = run.hasWritten() ? m_outOfMemoryWrittenText : m_outOfMemoryText;
+        error = run && run->hasWritten() ? m_outOfMemoryWrittenText : m_outOfMemoryText;
     }
     m_device->close();
-    if (!run.getReportedVersion().isEmpty()) {
+    if (run && !run->getReportedVersion().isEmpty()) {
         const std::lock_guard lock(m_versionMutex);
-        m_firmwareVersion = Text::shorten(run.getReportedVersion());
+        m_firmwareVersion = Text::shorten(run->getReportedVersion());
     }
     return error;
 }
 
-CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
+std::unique_ptr<IUpdateRun> CDeviceFirmwareUpdate::makeRun()
+{
+    IUpdateRun::IListener &listener = *this;
+    if (m_worker) {
+        CWorkerStart start = *m_worker;
+        start.task.journalFolder = m_journalFolder;
+        start.task.record = toJson(makeRecord());
+        return std::make_unique<CWorkerRun>(m_camera.name, m_info->getEntry(), start, listener);
+    }
+    return std::make_unique<CJournaledRun>(
+        m_journalFolder, makeRecord(), listener, [this](IUpdateRun::IListener &journal) {
+            return std::make_unique<CUpdateRun>(m_camera.name, m_info->getEntry(),
+                                                m_info->getFileName(), *m_device, journal);
+        });
+}
+
+CErrorText CDeviceFirmwareUpdate::attempt(std::unique_ptr<IUpdateRun> &run, bool &claimed)
 {
     // Whatever happens here, in libraries or in the receivers of signals, the wizard waits for one
     // last signal.
+    run = makeRun();
     try {
         const Camera::ECameraActivity other
             = m_activities->begin(m_camera.id, Camera::ECameraActivity::Updating);
@@ -131,19 +159,37 @@ CErrorText CDeviceFirmwareUpdate::attempt(CUpdateRun &run, bool &claimed)
                 m_camera.name,
                 CErrorText::tr("it is acquiring images; stop that and start the "
                                "update again"));
-        run.execute();
+        run->execute();
     } catch (const std::bad_alloc &) {
         throw;
     } catch (const Camera::CCameraError &error) {
-        return getErrorText(error.getText(), run.hasWritten());
+        return getErrorText(error.getText(), run->hasWritten());
     } catch (const Core::Exception::BaseException &exception) {
-        return getErrorText(CErrorText(exception.getMessage()), run.hasWritten());
+        return getErrorText(CErrorText(exception.getMessage()), run->hasWritten());
     } catch (const std::exception &exception) {
-        return getErrorText(CErrorText(QString::fromLocal8Bit(exception.what())), run.hasWritten());
+        return getErrorText(CErrorText(QString::fromLocal8Bit(exception.what())),
+                            run->hasWritten());
     } catch (...) {
-        return getErrorText({}, run.hasWritten());
+        return getErrorText({}, run->hasWritten());
     }
     return {};
+}
+
+CUpdateRecord CDeviceFirmwareUpdate::makeRecord() const
+{
+    CUpdateRecord record;
+    record.cameraId = m_camera.id;
+    record.cameraName = m_camera.name;
+    record.modelName = m_camera.modelName;
+    record.serialNumber = m_camera.serialNumber;
+    record.address = m_camera.address;
+    record.oldVersion = m_camera.firmwareVersion;
+    record.newVersion = m_info->getVersion();
+    record.filePath = QFileInfo(m_info->getFileName()).absoluteFilePath();
+    record.manifestDigest = m_info->getManifestDigest();
+    record.stepCount = m_info->getEntry().steps.size();
+    record.begin = QDateTime::currentDateTimeUtc();
+    return record;
 }
 
 void CDeviceFirmwareUpdate::announceEnd(const CErrorText &error) noexcept

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "updaterun.h"
+#include "iupdaterun.h"
 #include "viewer/text/errortext.h"
+#include "workerrun.h"
 
 #include "camerapool/idevicefirmwareupdate.h"
 
@@ -10,19 +11,22 @@
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 namespace Viewer::Camera {
 class CCameraActivities;
-}
+class ICameraDevice;
+} // namespace Viewer::Camera
 
 namespace Viewer::Update {
 
 class CErrorTranslator;
+struct CUpdateRecord;
 class CFirmwareUpdateInfo;
 
 /// The update job of one camera, whatever camera that is.
 class CDeviceFirmwareUpdate : public Plugin::CameraPool::IDeviceFirmwareUpdate,
-                              private CUpdateRun::IListener
+                              private IUpdateRun::IListener
 {
     Q_OBJECT
 
@@ -32,14 +36,21 @@ public:
         QString id;
         QString name; ///< what messages call it
         QString firmwareVersion; ///< the current one
+        QString modelName;
+        QString serialNumber;
+        QString address; ///< empty: none, or unknown
     };
 
     /// @p info and @p device are not null; the device is closed. @p errors, which may be null, gets
-    /// to know the error before it is emitted.
+    /// to know the error before it is emitted. The update keeps its journal in
+    /// @p journalFolder; empty: nowhere. With @p worker the update runs in a process of its
+    /// own, and the device only tells its name and speed.
     CDeviceFirmwareUpdate(const CCamera &camera, const QSharedPointer<CFirmwareUpdateInfo> &info,
                           std::unique_ptr<Camera::ICameraDevice> device,
                           const std::shared_ptr<Camera::CCameraActivities> &activities,
-                          const std::shared_ptr<CErrorTranslator> &errors);
+                          const std::shared_ptr<CErrorTranslator> &errors,
+                          const QString &journalFolder = QString(),
+                          const std::optional<CWorkerStart> &worker = std::nullopt);
     ~CDeviceFirmwareUpdate() override;
 
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
@@ -53,13 +64,16 @@ private:
     void stepBegun(const UpdateFile::CUpdateStep &step,
                    std::chrono::milliseconds estimate) override;
     void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) override;
+    void writing() override;
     void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
 
     /// Returns the error text; empty: the camera has the new firmware. @p claimed: the camera
     /// counts as being updated.
     [[nodiscard]] Text::CErrorText execute(bool &claimed) noexcept;
     /// The same, but throws when memory runs out.
-    [[nodiscard]] Text::CErrorText attempt(CUpdateRun &run, bool &claimed);
+    [[nodiscard]] Text::CErrorText attempt(std::unique_ptr<IUpdateRun> &run, bool &claimed);
+    [[nodiscard]] std::unique_ptr<IUpdateRun> makeRun();
+    [[nodiscard]] CUpdateRecord makeRecord() const;
     void announceEnd(const Text::CErrorText &error) noexcept;
     [[nodiscard]] Text::CErrorText getErrorText(const Text::CErrorText &message,
                                                 bool written) const;
@@ -72,6 +86,8 @@ private:
     // Made beforehand: when memory runs out there is none for a message.
     const Text::CErrorText m_outOfMemoryText;
     const Text::CErrorText m_outOfMemoryWrittenText;
+    const QString m_journalFolder;
+    const std::optional<CWorkerStart> m_worker;
     std::unique_ptr<Camera::ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;
     mutable std::mutex m_versionMutex;

@@ -13,9 +13,19 @@ CFirmwareUpdateInfo::CFirmwareUpdateInfo(
 
 CFirmwareUpdateInfo::~CFirmwareUpdateInfo() = default;
 
+int CFirmwareUpdateInfo::getIndex() const
+{
+    return m_index;
+}
+
 const UpdateFile::CUpdateEntry &CFirmwareUpdateInfo::getEntry() const
 {
     return m_manifest->updates.at(m_index);
+}
+
+QByteArray CFirmwareUpdateInfo::getManifestDigest() const
+{
+    return m_manifest->sha256;
 }
 
 QString CFirmwareUpdateInfo::getVersion() const

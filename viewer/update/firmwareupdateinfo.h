@@ -19,6 +19,12 @@ public:
 
     [[nodiscard]] const UpdateFile::CUpdateEntry &getEntry() const;
 
+    /// Of the entry among the manifest's, from 0.
+    [[nodiscard]] int getIndex() const;
+
+    /// See UpdateFile::CUpdateManifest.
+    [[nodiscard]] QByteArray getManifestDigest() const;
+
     [[nodiscard]] QString getVersion() const override;
     [[nodiscard]] QString getDescription() const override;
     [[nodiscard]] QString getReleaseNotes() const override;

@@ -170,6 +170,7 @@ template <typename Operation>
 void CUpdateRun::write(Operation operation)
 {
     prepareWriting();
+    m_listener.writing();
     try {
         operation();
     } catch (const Camera::CCameraError &error) {

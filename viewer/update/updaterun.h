@@ -1,5 +1,6 @@
 #pragma once
 
+#include "iupdaterun.h"
 #include "viewer/updatefile/updatemanifest.h"
 
 #include <QString>
@@ -25,38 +26,20 @@ namespace Viewer::Update {
 /// Takes one camera through the steps of one update, from opening the device to the proof that it
 /// has the new firmware. Lives and ends on the thread that executes it. Failures are thrown as
 /// `Core::Exception::BaseException` and end the run; the device may then still be open.
-class CUpdateRun
+class CUpdateRun : public IUpdateRun
 {
 public:
-    /// Learns how far the run has come, on its thread.
-    class IListener
-    {
-    public:
-        virtual ~IListener() = default;
-        virtual void stepBegun(const UpdateFile::CUpdateStep &step,
-                               std::chrono::milliseconds estimate)
-            = 0;
-        /// Called for a selection of the reports that the camera makes; see CProgressThrottle.
-        virtual void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) = 0;
-        virtual void stepDone(const UpdateFile::CUpdateStep &step,
-                              std::chrono::milliseconds estimate)
-            = 0;
-    };
-
     /// All references are borrowed. @p cameraName is what messages call the camera; @p filePath is
     /// the update file that @p entry was read from.
     CUpdateRun(const QString &cameraName, const UpdateFile::CUpdateEntry &entry,
                const QString &filePath, Camera::ICameraDevice &device, IListener &listener);
-    ~CUpdateRun();
+    ~CUpdateRun() override;
     Q_DISABLE_COPY(CUpdateRun)
 
-    void execute();
+    void execute() override;
 
-    /// True once the camera has, or may have, carried out something that changes it.
-    [[nodiscard]] bool hasWritten() const;
-
-    /// The firmware version that the camera reported last; empty: it was not asked.
-    [[nodiscard]] QString getReportedVersion() const;
+    [[nodiscard]] bool hasWritten() const override;
+    [[nodiscard]] QString getReportedVersion() const override;
 
 private:
     void executeStep(const UpdateFile::CUpdateStep &step);

@@ -85,12 +85,6 @@ CJsonFields getFields(EFirmwareUpdateStep kind, EPayloadFacts payloadFacts)
     return fields;
 }
 
-bool changesCamera(EFirmwareUpdateStep kind)
-{
-    return kind == EFirmwareUpdateStep::FeatureWrite || kind == EFirmwareUpdateStep::FeatureExecute
-        || kind == EFirmwareUpdateStep::FileUpload || kind == EFirmwareUpdateStep::DeviceReset;
-}
-
 /// The two preparing steps stand once and before what they prepare: conditions that are checked
 /// after the first change protect nothing.
 class CStepOrder
@@ -362,6 +356,12 @@ CManifestResult parseManifest(const QByteArray &json, EPayloadFacts payloadFacts
     } catch (const Json::CJsonFault &fault) {
         return {CUpdateManifest(), CErrorText::tr("update.json, %1").arg(fault.describe())};
     }
+}
+
+bool changesCamera(EFirmwareUpdateStep kind)
+{
+    return kind == EFirmwareUpdateStep::FeatureWrite || kind == EFirmwareUpdateStep::FeatureExecute
+        || kind == EFirmwareUpdateStep::FileUpload || kind == EFirmwareUpdateStep::DeviceReset;
 }
 
 QString getStepKindName(EFirmwareUpdateStep kind)

@@ -29,6 +29,9 @@ enum class EPayloadFacts { Required, Optional };
 [[nodiscard]] CManifestResult parseManifest(const QByteArray &json,
                                             EPayloadFacts payloadFacts = EPayloadFacts::Required);
 
+/// Whether steps of this @p kind change something in the camera.
+[[nodiscard]] bool changesCamera(Plugin::CameraPool::EFirmwareUpdateStep kind);
+
 /// The name of a kind in the manifest, like "FileUpload"; empty for EFirmwareUpdateStep::Invalid.
 [[nodiscard]] QString getStepKindName(Plugin::CameraPool::EFirmwareUpdateStep kind);
 

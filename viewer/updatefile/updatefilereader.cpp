@@ -2,6 +2,7 @@
 
 #include "entryname.h"
 #include "manifestparser.h"
+#include "sha256.h"
 #include "updatearchive.h"
 #include "updatefileerror.h"
 #include "viewer/text/visibletext.h"
@@ -51,7 +52,8 @@ CUpdateManifest CUpdateFileReader::read(const QString &path)
 
 CUpdateManifest CUpdateFileReader::read(const CUpdateArchive &archive)
 {
-    const CManifestResult result = parseManifest(archive.readManifest());
+    const QByteArray json = archive.readManifest();
+    CManifestResult result = parseManifest(json);
     if (!result.fault.isEmpty())
         throw CUpdateFileError(archive.getPath(), result.fault);
 
@@ -59,6 +61,9 @@ CUpdateManifest CUpdateFileReader::read(const CUpdateArchive &archive)
     for (const CPayload &payload : payloads)
         archive.checkPayload(payload);
     checkNothingIsLeftOver(archive, payloads);
+    CSha256 digest;
+    digest.addData(json.constData(), json.size());
+    result.manifest.sha256 = digest.takeResult();
     return result.manifest;
 }
 

@@ -61,6 +61,7 @@ struct CUpdateEntry
 struct CUpdateManifest
 {
     QVector<CUpdateEntry> updates; ///< at least one, in the file's order
+    QByteArray sha256; ///< of update.json, 32 raw bytes; empty: it does not come from a file
 };
 
 } // namespace Viewer::UpdateFile

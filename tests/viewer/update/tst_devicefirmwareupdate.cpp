@@ -10,8 +10,10 @@
 #include "viewer/update/firmwareupdateinfo.h"
 #include "viewer/update/progressthrottle.h"
 #include "viewer/update/updateestimate.h"
+#include "viewer/update/updatejournal.h"
 #include "viewer/updatefile/updatefilereader.h"
 
+#include <QDir>
 #include <QFile>
 #include <QIODevice>
 #include <QRegularExpression>
@@ -131,9 +133,11 @@ private slots:
     void touchesNeitherTwiceNorWhatIsInUse();
     void estimatesStayInTheirLimits();
     void passesProgressOnNowAndThen();
+    void keepsAJournal();
 
 private:
-    [[nodiscard]] QSharedPointer<CDeviceFirmwareUpdate> makeJob() const;
+    [[nodiscard]] QSharedPointer<CDeviceFirmwareUpdate> makeJob(const QString &journalFolder
+                                                                = {}) const;
 
     /// Executes @p job or a new one, which has to fail with one sentence that contains @p cause.
     void verifyFailure(const QString &cause, bool written,
@@ -158,13 +162,14 @@ void CDeviceFirmwareUpdateTest::init()
                           {"DeviceStatus", "0"}};
 }
 
-QSharedPointer<CDeviceFirmwareUpdate> CDeviceFirmwareUpdateTest::makeJob() const
+QSharedPointer<CDeviceFirmwareUpdate>
+CDeviceFirmwareUpdateTest::makeJob(const QString &journalFolder) const
 {
     const auto manifest = QSharedPointer<CUpdateManifest>::create(m_manifest);
     return QSharedPointer<CDeviceFirmwareUpdate>(new CDeviceFirmwareUpdate(
-        {"id", CAMERA_NAME, "1.2.0"},
+        {"id", CAMERA_NAME, "1.2.0", "VX-1400M", "40012345", "10.0.0.1"},
         QSharedPointer<CFirmwareUpdateInfo>::create(manifest, 0, m_path),
-        std::make_unique<CScriptedDevice>(m_script), m_activities, nullptr));
+        std::make_unique<CScriptedDevice>(m_script), m_activities, nullptr, journalFolder));
 }
 
 void CDeviceFirmwareUpdateTest::verifyFailure(const QString &cause, bool written,
@@ -400,6 +405,48 @@ void CDeviceFirmwareUpdateTest::passesProgressOnNowAndThen()
     report(950, 100);
     report(2000, 100);
     QCOMPARE(passed.join(' '), QString("5 10 15 20 25 26 100"));
+}
+
+void CDeviceFirmwareUpdateTest::keepsAJournal()
+{
+    const QString folder = m_folder.filePath("updates");
+    QStringList lines;
+    m_script->before = [&](const QString &call) {
+        const CJournalEntry entry = readJournals(folder).entries.value(0);
+        const CUpdateRecord &record = entry.record;
+        lines.append(QString("%1 %2/%3 %4%5")
+                         .arg(call.section(' ', 0, 0))
+                         .arg(record.step)
+                         .arg(record.stepCount)
+                         .arg(record.stepName, record.hasWritten ? " written" : ""));
+        if (call == "reset") {
+            QVERIFY(entry.isRunning);
+            QCOMPARE(
+                (QStringList{record.cameraId, record.modelName, record.serialNumber, record.address,
+                             record.oldVersion, record.newVersion, record.filePath}),
+                (QStringList{"id", "VX-1400M", "40012345", "10.0.0.1", "1.2.0", "2.0.0", m_path}));
+            QCOMPARE(record.manifestDigest, m_manifest.sha256);
+            QCOMPARE(m_manifest.sha256.size(), 32);
+        }
+    };
+    makeJob(folder)->executeFirmwareUpdate();
+    lines.removeDuplicates();
+    // What changes the camera is on the disk before it is done.
+    QCOMPARE(lines.join(", "),
+             QString("open 0/7 , read 1/7 CheckPreconditions, read 3/7 FeatureWrite, "
+                     "write 3/7 FeatureWrite written, upload 4/7 FileUpload written, "
+                     "execute 5/7 FeatureExecute written, reset 6/7 DeviceReset written, "
+                     "read 7/7 FeatureAssert written"));
+    QVERIFY(QDir(folder).isEmpty());
+
+    init();
+    CUpdateRecord other;
+    other.cameraId = "id";
+    other.begin = QDateTime::currentDateTimeUtc();
+    const CUpdateJournal elsewhere(folder, other);
+    verifyFailure("it is already being updated", false, makeJob(folder));
+    QCOMPARE(m_script->calls, QStringList());
+    QCOMPARE(readJournals(folder).entries.size(), 1);
 }
 
 QTEST_GUILESS_MAIN(CDeviceFirmwareUpdateTest)

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QCborMap>
 #include <QString>
+
+#include <optional>
 
 namespace Viewer::Camera::GenICam {
 
@@ -23,6 +26,11 @@ struct CFoundCamera
     QString userName; ///< given by the user; may be empty
     QString id; ///< by CCameraIdentities
     bool isAmbiguous = false; ///< another camera says that it is the same one
+
+    /// For another process.
+    [[nodiscard]] QCborMap toCbor() const;
+    /// Nothing: not what toCbor() gives.
+    [[nodiscard]] static std::optional<CFoundCamera> fromCbor(const QCborMap &map);
 
     /// Which camera it says it is: the same wherever it is found, and meant to be no other one's.
     [[nodiscard]] QString getIdentity() const

@@ -18,6 +18,27 @@ using Text::CErrorText;
 /// Two cameras say that they are the same one: nobody can tell which one an update would reach.
 static constexpr qint32 AMBIGUOUS_IDENTITY_STATUS = 1001;
 
+namespace {
+
+/// A real camera is what it is, whichever process talks to it.
+class CHandle : public ICameraHandle
+{
+public:
+    explicit CHandle(const QCborMap &description)
+        : m_description(description)
+    {
+    }
+    [[nodiscard]] QCborMap describe() const override { return m_description; }
+    void begin() override { }
+    [[nodiscard]] bool isLost() const override { return false; }
+    void end(const QCborMap &) override { }
+
+private:
+    const QCborMap m_description;
+};
+
+} // namespace
+
 std::unique_ptr<ICameraKind> makeKind()
 {
     return std::make_unique<CGenICam>();
@@ -31,6 +52,26 @@ CGenICam::CGenICam(const CSearchOptions &options, QObject *parent)
 }
 
 CGenICam::~CGenICam() = default;
+
+QString CGenICam::getName() const
+{
+    return QStringLiteral("genicam");
+}
+
+std::unique_ptr<ICameraHandle> CGenICam::createHandle(const QString &cameraId) const
+{
+    const std::lock_guard lock(m_mutex);
+    const auto camera = m_found.constFind(cameraId);
+    if (camera == m_found.constEnd())
+        return nullptr;
+    return std::make_unique<CHandle>(camera->toCbor());
+}
+
+std::unique_ptr<ICameraDevice> CGenICam::makeDevice(const QCborMap &description)
+{
+    const std::optional<CFoundCamera> camera = CFoundCamera::fromCbor(description);
+    return camera ? std::make_unique<CGenICamDevice>(*camera) : nullptr;
+}
 
 QVector<CommandLine::COption> CGenICam::getOptions()
 {

@@ -26,6 +26,10 @@ public:
     ~CGenICam() override;
 
     // ICameraKind
+    [[nodiscard]] QString getName() const override;
+    [[nodiscard]] std::unique_ptr<ICameraHandle>
+    createHandle(const QString &cameraId) const override;
+    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description) override;
     [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
     void start() override;
     [[nodiscard]] QVector<CCameraSwitch> getSwitches() override;

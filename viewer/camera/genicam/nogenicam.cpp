@@ -24,6 +24,15 @@ public:
         return options;
     }
 
+    [[nodiscard]] QString getName() const override { return QStringLiteral("genicam"); }
+    [[nodiscard]] std::unique_ptr<ICameraHandle> createHandle(const QString &) const override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &) override
+    {
+        return nullptr;
+    }
     [[nodiscard]] ECameraPresence getPresence(const QString &) const override
     {
         return ECameraPresence::Unknown;

@@ -2,6 +2,7 @@
 
 #include "viewer/camera/camerasnapshot.h"
 
+#include <QCborMap>
 #include <QString>
 #include <QVector>
 
@@ -27,6 +28,11 @@ struct CCameraDescriptionEntry
     CCameraSnapshot camera; ///< as it comes from the factory
     qint64 uploadSpeed = 0; ///< bytes per second, at least 1
     CScriptedFaults faults;
+
+    /// For another process.
+    [[nodiscard]] QCborMap toCbor() const;
+    /// Nothing: not what toCbor() gives.
+    [[nodiscard]] static std::optional<CCameraDescriptionEntry> fromCbor(const QCborMap &map);
 };
 
 struct CLayerDescription

@@ -106,6 +106,23 @@ void CSimulatedCamera::disconnect(Session session)
         m_session = 0;
 }
 
+bool CSimulatedCamera::isConnected(Session session) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_session == session;
+}
+
+void CSimulatedCamera::takeFirmware(Session session, const QString &version)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_session != session || m_firmwareVersion == version)
+            return;
+        m_firmwareVersion = version;
+    }
+    notify();
+}
+
 bool CSimulatedCamera::wait(Session session, std::chrono::microseconds duration)
 {
     return waitSince(session, Clock::now(), duration);

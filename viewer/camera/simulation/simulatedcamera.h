@@ -57,6 +57,10 @@ public:
     /// Begins a session, or says in @p cause why there is none.
     [[nodiscard]] Session connect(Text::CErrorText &cause);
     void disconnect(Session session);
+    [[nodiscard]] bool isConnected(Session session) const;
+
+    /// Another process has written @p version, and remembers it; ignored without the session.
+    void takeFirmware(Session session, const QString &version);
 
     /// Waits for so long; false as soon as the session has ended otherwise.
     [[nodiscard]] bool wait(Session session, std::chrono::microseconds duration);

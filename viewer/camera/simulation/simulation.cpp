@@ -5,6 +5,7 @@
 #include "firmwarestatefile.h"
 #include "simulatedcamera.h"
 #include "simulatedcameradevice.h"
+#include "simulatedcamerahandle.h"
 #include "simulationnotifier.h"
 #include "viewer/commandline/takers.h"
 
@@ -44,6 +45,7 @@ struct CSimulation::CPrivate
     std::shared_ptr<CFirmwareStateFile> stateFile;
     std::shared_ptr<CSimulationNotifier> notifier = std::make_shared<CSimulationNotifier>();
     double speedFactor = 1.0;
+    std::shared_ptr<CSimulatedCamera> made; ///< for an update in this process alone
 
     std::mutex cancelMutex;
     std::condition_variable cancelCondition;
@@ -60,6 +62,11 @@ CSimulation::CSimulation(const CSimulationOptions &options, QObject *parent)
 CSimulation::~CSimulation()
 {
     d->notifier->setListener({});
+}
+
+QString CSimulation::getName() const
+{
+    return QStringLiteral("simulation");
 }
 
 QVector<CommandLine::COption> CSimulation::getOptions()
@@ -171,6 +178,31 @@ ECameraPresence CSimulation::getPresence(const QString &cameraId) const
 bool CSimulation::hasImages() const
 {
     return true;
+}
+
+std::unique_ptr<ICameraHandle> CSimulation::createHandle(const QString &cameraId) const
+{
+    const auto camera = d->find(cameraId);
+    if (!camera)
+        return nullptr;
+    return std::make_unique<CSimulatedCameraHandle>(camera, d->speedFactor, m_options.stateFile);
+}
+
+std::unique_ptr<ICameraDevice> CSimulation::makeDevice(const QCborMap &description)
+{
+    d->made = CSimulatedCameraHandle::makeCamera(description, SLOWEST_SPEED, FASTEST_SPEED);
+    return d->made ? std::make_unique<CSimulatedCameraDevice>(d->made) : nullptr;
+}
+
+QCborMap CSimulation::describeMade() const
+{
+    return d->made ? CSimulatedCameraHandle::describeState(*d->made) : QCborMap();
+}
+
+void CSimulation::loseMade()
+{
+    if (d->made)
+        d->made->setPlugged(false);
 }
 
 void CSimulation::freeCameras()

@@ -33,6 +33,7 @@ public:
     ~CSimulation() override;
 
     // ICameraKind
+    [[nodiscard]] QString getName() const override;
     [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
     void setDataFolder(const QString &folder) override;
     void prepareDemonstration() override;
@@ -42,6 +43,11 @@ public:
     [[nodiscard]] ECameraPresence getPresence(const QString &cameraId) const override;
     [[nodiscard]] bool hasImages() const override;
     void freeCameras() override;
+    [[nodiscard]] std::unique_ptr<ICameraHandle>
+    createHandle(const QString &cameraId) const override;
+    [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description) override;
+    [[nodiscard]] QCborMap describeMade() const override;
+    void loseMade() override;
 
     // ICameraDeviceFactory
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &cameraId) override;

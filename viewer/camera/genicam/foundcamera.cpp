@@ -1,0 +1,55 @@
+#include "foundcamera.h"
+
+#include <QHostAddress>
+
+namespace Viewer::Camera::GenICam {
+
+namespace {
+
+const QString TRANSPORT = QStringLiteral("transport");
+const QString IS_AMBIGUOUS = QStringLiteral("isAmbiguous");
+
+struct CTextField
+{
+    const char *name;
+    QString CFoundCamera::*member;
+};
+
+const CTextField TEXT_FIELDS[] = {
+    {"address", &CFoundCamera::address},   {"hardwareAddress", &CFoundCamera::hardwareAddress},
+    {"vendor", &CFoundCamera::vendor},     {"model", &CFoundCamera::model},
+    {"version", &CFoundCamera::version},   {"serialNumber", &CFoundCamera::serialNumber},
+    {"userName", &CFoundCamera::userName}, {"id", &CFoundCamera::id},
+};
+
+} // namespace
+
+QCborMap CFoundCamera::toCbor() const
+{
+    QCborMap map{{TRANSPORT, static_cast<int>(transport)}, {IS_AMBIGUOUS, isAmbiguous}};
+    for (const CTextField &field : TEXT_FIELDS)
+        map.insert(QString::fromLatin1(field.name), this->*field.member);
+    return map;
+}
+
+std::optional<CFoundCamera> CFoundCamera::fromCbor(const QCborMap &map)
+{
+    CFoundCamera camera;
+    for (const CTextField &field : TEXT_FIELDS) {
+        const QCborValue value = map.value(QString::fromLatin1(field.name));
+        if (!value.isString())
+            return std::nullopt;
+        camera.*field.member = value.toString();
+    }
+    const qint64 transport = map.value(TRANSPORT).toInteger(-1);
+    const bool isEthernet = transport == static_cast<int>(ETransport::Ethernet);
+    if (!isEthernet && transport != static_cast<int>(ETransport::Usb))
+        return std::nullopt;
+    if (isEthernet && QHostAddress(camera.address).protocol() != QAbstractSocket::IPv4Protocol)
+        return std::nullopt;
+    camera.transport = isEthernet ? ETransport::Ethernet : ETransport::Usb;
+    camera.isAmbiguous = map.value(IS_AMBIGUOUS).toBool(true);
+    return camera;
+}
+
+} // namespace Viewer::Camera::GenICam

@@ -1,0 +1,177 @@
+#include "cameraupdate.h"
+
+#include "viewer/camera/cameraerror.h"
+#include "viewer/camera/camerakinds.h"
+#include "viewer/json/jsonfault.h"
+#include "viewer/update/journaledrun.h"
+#include "viewer/update/updateestimate.h"
+#include "viewer/update/updaterun.h"
+#include "viewer/updatefile/updatearchive.h"
+#include "viewer/updatefile/updatefileerror.h"
+#include "viewer/updatefile/updatefilereader.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <new>
+
+namespace Viewer::CameraWorker {
+
+using namespace std::chrono_literals;
+using Camera::CCameraError;
+using Plugin::CameraPool::EFirmwareUpdateStep;
+using Text::CErrorText;
+using Update::CWorkerEvent;
+using UpdateFile::CUpdateStep;
+
+/// What a library gets beyond the limit of an operation, which it should have kept itself.
+static constexpr std::chrono::milliseconds GRACE = 10s;
+
+/// Reading the file, opening the camera and finding out its version at the end.
+static constexpr std::chrono::milliseconds AROUND_STEPS = 60s;
+
+CCameraUpdate::CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled)
+    : m_events(events)
+    , m_isCanceled(isCanceled)
+    , m_kinds(Camera::makeCameraKinds())
+    , m_watchdog([this] { onExpired(); })
+{
+}
+
+CCameraUpdate::~CCameraUpdate() = default;
+
+bool CCameraUpdate::perform(const Update::CWorkerTask &task)
+{
+    m_events.write(makeEvent(CWorkerEvent::EType::Hello));
+    const CErrorText error = update(task);
+    if (m_device)
+        m_device->close();
+    m_events.write(error.isEmpty() ? makeEvent(CWorkerEvent::EType::Done) : makeFailure(error));
+    return error.isEmpty();
+}
+
+void CCameraUpdate::loseCamera()
+{
+    if (Camera::ICameraKind *const kind = m_kind)
+        kind->loseMade();
+}
+
+void CCameraUpdate::makeDevice(const Update::CWorkerTask &task)
+{
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : m_kinds) {
+        if (kind->getName() != task.kind)
+            continue;
+        m_device = kind->makeDevice(task.camera);
+        m_kind = kind.get();
+    }
+}
+
+CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
+{
+    try {
+        m_watchdog.watch(AROUND_STEPS);
+        makeDevice(task);
+        if (!m_device)
+            return CErrorText::tr("the update program does not know a camera of this kind");
+        const UpdateFile::CUpdateArchive archive(task.filePath);
+        m_manifest = UpdateFile::CUpdateFileReader::read(archive);
+        if (m_manifest.sha256 != task.manifestDigest)
+            return CErrorText::tr("the update file is another one than the one that was shown; "
+                                  "select it again");
+        if (task.entry >= m_manifest.updates.size())
+            return CErrorText::tr("the update file has no such update");
+        Json::CJsonScanner scanner(task.record);
+        IListener &listener = *this;
+        m_run = std::make_unique<Update::CJournaledRun>(
+            task.journalFolder, Update::readUpdateRecord(scanner), listener,
+            [this, &task](IListener &journal) {
+                return std::make_unique<Update::CUpdateRun>(m_device->getName(),
+                                                            m_manifest.updates.at(task.entry),
+                                                            task.filePath, *m_device, journal);
+            });
+        m_run->execute();
+        return {};
+    } catch (const std::bad_alloc &) {
+        return CErrorText::tr("out of memory");
+    } catch (const CCameraError &error) {
+        return error.getText();
+    } catch (const UpdateFile::CUpdateFileError &error) {
+        return error.getText();
+    } catch (const Json::CJsonFault &fault) {
+        return fault.describe();
+    } catch (const std::exception &exception) {
+        return CErrorText(QString::fromLocal8Bit(exception.what()));
+    } catch (...) {
+        return CErrorText::tr("the update failed for an unknown reason");
+    }
+}
+
+void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds estimate)
+{
+    if (m_isCanceled != 0 && !m_mayHaveWritten)
+        throw CCameraError(m_device->getName(), CErrorText::tr("the update was canceled"),
+                           CCameraError::EChange::None);
+    std::chrono::milliseconds limit = Update::getTimeLimit(estimate);
+    if (step.kind == EFirmwareUpdateStep::DeviceReset)
+        limit = std::max(limit, m_device->getShortestResetLimit());
+    // The first step that writes repeats the checks before it.
+    m_watchdog.watch(limit + GRACE + AROUND_STEPS);
+    ++m_step;
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepBegun);
+    event.estimate = estimate;
+    m_events.write(event);
+}
+
+void CCameraUpdate::stepProgressed(const CUpdateStep &, double percent)
+{
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepProgressed);
+    event.percent = percent;
+    m_events.write(event);
+}
+
+void CCameraUpdate::writing()
+{
+    m_mayHaveWritten = true;
+}
+
+void CCameraUpdate::stepDone(const CUpdateStep &, std::chrono::milliseconds estimate)
+{
+    m_watchdog.watch(AROUND_STEPS);
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepDone);
+    event.estimate = estimate;
+    m_events.write(event);
+}
+
+void CCameraUpdate::onExpired()
+{
+    CWorkerEvent event;
+    event.type = CWorkerEvent::EType::Failed;
+    const CErrorText error
+        = CErrorText::tr("it did not answer in time; switch it off and on and check its "
+                         "firmware version");
+    event.error = error.getEnglish();
+    event.localizedError = error.getLocalized();
+    event.hasWritten = m_mayHaveWritten;
+    m_events.writeLast(event, EXIT_FAILURE);
+}
+
+CWorkerEvent CCameraUpdate::makeEvent(CWorkerEvent::EType type) const
+{
+    CWorkerEvent event;
+    event.type = type;
+    event.hasWritten = m_run && m_run->hasWritten();
+    event.version = m_run ? m_run->getReportedVersion() : QString();
+    event.step = std::max(m_step, 0);
+    if (const Camera::ICameraKind *const kind = m_kind)
+        event.camera = kind->describeMade();
+    return event;
+}
+
+CWorkerEvent CCameraUpdate::makeFailure(const CErrorText &error) const
+{
+    CWorkerEvent event = makeEvent(CWorkerEvent::EType::Failed);
+    event.error = error.getEnglish();
+    event.localizedError = error.getLocalized();
+    return event;
+}
+
+} // namespace Viewer::CameraWorker

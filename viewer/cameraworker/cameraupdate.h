@@ -1,0 +1,56 @@
+#pragma once
+
+#include "eventwriter.h"
+#include "watchdog.h"
+
+#include "viewer/camera/icamerakind.h"
+#include "viewer/text/errortext.h"
+#include "viewer/update/iupdaterun.h"
+#include "viewer/update/workertask.h"
+
+#include <atomic>
+#include <csignal>
+#include <memory>
+
+namespace Viewer::CameraWorker {
+
+/// One update of one camera, told in events.
+class CCameraUpdate : private Update::IUpdateRun::IListener
+{
+public:
+    /// Both are borrowed. @p isCanceled becomes true when somebody wants the process to end.
+    CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled);
+    ~CCameraUpdate() override;
+
+    /// Performs @p task; its last event is always sent. True: the camera has the new firmware.
+    [[nodiscard]] bool perform(const Update::CWorkerTask &task);
+
+    /// The camera was taken away, which its device does not know. Any thread.
+    void loseCamera();
+
+private:
+    void stepBegun(const UpdateFile::CUpdateStep &step,
+                   std::chrono::milliseconds estimate) override;
+    void stepProgressed(const UpdateFile::CUpdateStep &step, double percent) override;
+    void writing() override;
+    void stepDone(const UpdateFile::CUpdateStep &step, std::chrono::milliseconds estimate) override;
+
+    [[nodiscard]] Text::CErrorText update(const Update::CWorkerTask &task);
+    void makeDevice(const Update::CWorkerTask &task);
+    void onExpired();
+    [[nodiscard]] Update::CWorkerEvent makeEvent(Update::CWorkerEvent::EType type) const;
+    [[nodiscard]] Update::CWorkerEvent makeFailure(const Text::CErrorText &error) const;
+
+    CEventWriter &m_events;
+    const volatile std::sig_atomic_t &m_isCanceled;
+    Camera::CCameraKinds m_kinds;
+    std::atomic<Camera::ICameraKind *> m_kind{nullptr}; ///< that of the camera
+    UpdateFile::CUpdateManifest m_manifest;
+    int m_step = -1; ///< the current one, from 0
+    std::unique_ptr<Camera::ICameraDevice> m_device;
+    std::unique_ptr<Update::IUpdateRun> m_run;
+    std::atomic<bool> m_mayHaveWritten{false}; ///< known to the watchdog's thread
+    CWatchdog m_watchdog; ///< the last one, as its thread uses what stands above
+};
+
+} // namespace Viewer::CameraWorker

@@ -1,0 +1,74 @@
+#include "workerevent.h"
+
+#include "workertask.h"
+
+#include <limits>
+
+namespace Viewer::Update {
+
+static const QString PROTOCOL = QStringLiteral("protocol");
+static const QString TYPE = QStringLiteral("event");
+static const QString STEP = QStringLiteral("step");
+static const QString ESTIMATE = QStringLiteral("estimateMs");
+static const QString PERCENT = QStringLiteral("percent");
+static const QString CAMERA = QStringLiteral("camera");
+static const QString ERROR_TEXT = QStringLiteral("error");
+static const QString LOCALIZED_ERROR = QStringLiteral("localizedError");
+static const QString HAS_WRITTEN = QStringLiteral("hasWritten");
+static const QString VERSION = QStringLiteral("version");
+
+QCborMap CWorkerEvent::toCbor() const
+{
+    QCborMap map{{TYPE, static_cast<int>(type)}, {HAS_WRITTEN, hasWritten}, {VERSION, version}};
+    switch (type) {
+    case EType::Hello:
+        map.insert(PROTOCOL, CWorkerTask::PROTOCOL);
+        break;
+    case EType::StepBegun:
+    case EType::StepDone:
+        map.insert(ESTIMATE, static_cast<qint64>(estimate.count()));
+        map.insert(STEP, step);
+        break;
+    case EType::StepProgressed:
+        map.insert(PERCENT, percent);
+        map.insert(STEP, step);
+        break;
+    case EType::Failed:
+        map.insert(ERROR_TEXT, error);
+        map.insert(LOCALIZED_ERROR, localizedError);
+        Q_FALLTHROUGH();
+    case EType::Done:
+        map.insert(CAMERA, camera);
+        break;
+    }
+    return map;
+}
+
+std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
+{
+    const qint64 type = map.value(TYPE).toInteger(-1);
+    const qint64 step = map.value(STEP).toInteger();
+    const qint64 estimate = map.value(ESTIMATE).toInteger();
+    CWorkerEvent event;
+    event.percent = map.value(PERCENT).toDouble();
+    if (type < 0 || type > static_cast<int>(EType::Failed) || step < 0
+        || step > std::numeric_limits<int>::max() || estimate < 0
+        || estimate > std::numeric_limits<int>::max()
+        || !(event.percent >= 0 && event.percent <= 100))
+        return std::nullopt;
+    event.type = static_cast<EType>(type);
+    event.step = static_cast<int>(step);
+    event.estimate = std::chrono::milliseconds(estimate);
+    event.camera = map.value(CAMERA).toMap();
+    event.error = map.value(ERROR_TEXT).toString();
+    event.localizedError = map.value(LOCALIZED_ERROR).toString();
+    event.hasWritten = map.value(HAS_WRITTEN).toBool(true);
+    event.version = map.value(VERSION).toString();
+    if (event.type == EType::Hello && map.value(PROTOCOL).toInteger(-1) != CWorkerTask::PROTOCOL)
+        return std::nullopt;
+    if (event.type == EType::Failed && event.error.isEmpty())
+        return std::nullopt;
+    return event;
+}
+
+} // namespace Viewer::Update
