@@ -141,6 +141,39 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CInterruptionBar</name>
+    <message>
+        <source>Firmware Updater...</source>
+        <translation>ファームウェア更新ツール...</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>ほかに %n 件あります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted before its first step.</source>
+        <translation>%2 に始まったカメラ %1 の更新は、最初のステップの前に中断されました。</translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted in step %3 of %4 (%5).</source>
+        <translation>%2 に始まったカメラ %1 の更新は、%4 ステップ中のステップ %3 (%5) で中断されました。</translation>
+    </message>
+    <message>
+        <source>It does not answer. Switch it off and on, then repeat the update with the file %1.</source>
+        <translation>カメラが応答しません。電源を入れ直してから、ファイル %1 で更新をやり直してください。</translation>
+    </message>
+    <message>
+        <source>It reports firmware version %1 now. Repeat the update with the file %2.</source>
+        <translation>現在のファームウェアバージョンは %1 です。ファイル %2 で更新をやり直してください。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CLinkOpener</name>
     <message>
         <source>Folder</source>
@@ -1568,6 +1601,14 @@ Update %1
     <message>
         <source>lists and objects stand in each other more than %1 deep</source>
         <translation>リストとオブジェクトが %1 階層より深く入れ子になっています</translation>
+    </message>
+    <message>
+        <source>expected a time like 2026-01-31T12:00:00Z</source>
+        <translation>2026-01-31T12:00:00Z のような日時が必要です</translation>
+    </message>
+    <message>
+        <source>unknown outcome</source>
+        <translation>不明な結果です</translation>
     </message>
 </context>
 </TS>
