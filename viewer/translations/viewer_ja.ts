@@ -510,6 +510,13 @@
     </message>
 </context>
 <context>
+    <name>Viewer::CameraPool::CCameraEnumerationService</name>
+    <message>
+        <source>being updated by another viewer</source>
+        <translation>別のビューアーで更新中</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraPool::CCameraPool</name>
     <message>
         <source>The folder &quot;%1&quot; does not exist; choose another one.</source>
