@@ -13,6 +13,7 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QVBoxLayout>
 
 namespace Viewer::AppCore {
 
@@ -58,7 +59,7 @@ void CMainWindow::createMenus(CMenuService &menus)
                   {Ids::SELECTOR_ACQUISITION_GROUP, Ids::SELECTOR_MISC_GROUP});
 }
 
-void CMainWindow::setViews(QWidget *cameraTree, QWidget *imageView)
+void CMainWindow::setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView)
 {
     auto *const dock = new QDockWidget(tr("Cameras"), this);
     dock->setObjectName(QStringLiteral("cameraDock"));
@@ -67,7 +68,12 @@ void CMainWindow::setViews(QWidget *cameraTree, QWidget *imageView)
     dock->setWidget(cameraTree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
     resizeDocks({dock}, {560}, Qt::Horizontal);
-    setCentralWidget(imageView);
+    auto *const middle = new QWidget(this);
+    auto *const layout = new QVBoxLayout(middle);
+    layout->setContentsMargins({});
+    layout->addWidget(bar);
+    layout->addWidget(imageView, 1);
+    setCentralWidget(middle);
 
     m_viewMenu->addAction(dock->toggleViewAction());
     dock->toggleViewAction()->setText(tr("&Cameras"));

@@ -27,8 +27,9 @@ public:
     explicit CMainWindow(CMenuService &menus, QWidget *parent = nullptr);
     ~CMainWindow() override;
 
-    /// Puts @p cameraTree into the dock and @p imageView into the middle; both become children.
-    void setViews(QWidget *cameraTree, QWidget *imageView);
+    /// Puts @p cameraTree into the dock and @p imageView into the middle, below @p bar; all become
+    /// children.
+    void setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView);
 
     void setCloseGuard(const CloseGuard &guard);
 

@@ -3,6 +3,7 @@
 #include "acquisitioncontroller.h"
 #include "actioncontainer.h"
 #include "imageview.h"
+#include "interruptionbar.h"
 #include "linkopener.h"
 #include "logfolder.h"
 #include "loglistdialog.h"
@@ -133,7 +134,13 @@ void CViewer::createWindow()
     m_selectorView->getModel()->setSnapshots(
         [this](const QString &cameraId) { return m_pool->getSnapshot(cameraId); });
     m_selectorView->setContextMenu(m_window->getSelectorMenu());
-    m_window->setViews(m_selectorView, imageView);
+    m_interruptionBar
+        = new CInterruptionBar(m_options.journalFolder, [this](const QString &cameraId) {
+              return m_pool->getSnapshot(cameraId);
+          });
+    m_window->setViews(m_selectorView, m_interruptionBar, imageView);
+    connect(m_pool.get(), &CameraPool::CCameraPool::updateRunningChanged, m_interruptionBar,
+            &CInterruptionBar::refresh);
     m_window->setCloseGuard([this] { return getReasonToStayOpen(); });
 
     m_acquisition = std::make_unique<CAcquisitionController>(*m_pool, *imageView, m_window.get());
@@ -244,6 +251,7 @@ bool CViewer::start(QStringList &failures)
     failures = m_pluginManager->getFailures();
     if (!complete)
         return false;
+    m_interruptionBar->setUpdateAction(m_menuService->findAction("FirmwareUpdater.Menu.Start"));
     m_window->restorePlace();
     m_window->show();
     QStringList messages;
@@ -296,6 +304,7 @@ void CViewer::onEnumerationChanged()
 {
     const int count = m_selectorView->getModel()->getCameraCount();
     m_acquisition->setCamerasAvailable(count > 0);
+    m_interruptionBar->refresh();
     m_window->setStatus(tr("%n camera(s) found.", nullptr, count));
 }
 

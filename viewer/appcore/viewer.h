@@ -31,6 +31,7 @@ class IDeviceFirmwareUpdateService;
 namespace Viewer::AppCore {
 
 class CAcquisitionController;
+class CInterruptionBar;
 class CLinkOpener;
 class CLogFolder;
 class CMainWindow;
@@ -106,6 +107,7 @@ private:
     std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;
     CameraSelector::CCameraSelectorView *m_selectorView = nullptr; ///< the window's child
+    CInterruptionBar *m_interruptionBar = nullptr; ///< the same
     bool m_closeRequested = false;
     QString m_toldReason; ///< why it was not closed, as last told
     QTimer m_nextReasonTimer;

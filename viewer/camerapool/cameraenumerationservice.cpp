@@ -5,18 +5,25 @@
 #include "transportlayerinfo.h"
 #include "viewer/camera/cameraactivities.h"
 #include "viewer/camera/icameraenumerator.h"
+#include "viewer/update/updatejournal.h"
 
 namespace Viewer::CameraPool {
+
+/// Another process updates the camera; the kinds of cameras use other codes.
+static constexpr qint32 UPDATED_ELSEWHERE_STATUS = 1002;
+static constexpr int JOURNAL_INTERVAL = 2000; // milliseconds
 
 using Plugin::CameraPool::CameraInfoPtr;
 using Plugin::CameraPool::TransportLayerInfoPtr;
 
 CCameraEnumerationService::CCameraEnumerationService(
     Camera::ICameraEnumerator &enumerator,
-    const std::shared_ptr<const Camera::CCameraActivities> &activities, QObject *parent)
+    const std::shared_ptr<const Camera::CCameraActivities> &activities,
+    const QString &journalFolder, QObject *parent)
     : ICameraEnumerationService(parent)
     , m_enumerator(enumerator)
     , m_activities(activities)
+    , m_journalFolder(journalFolder)
     , m_worker(new CEnumerationWorker(enumerator))
 {
     m_worker->moveToThread(&m_thread);
@@ -25,6 +32,9 @@ CCameraEnumerationService::CCameraEnumerationService(
             &CEnumerationWorker::onRequested);
     connect(m_worker, &CEnumerationWorker::enumerated, this,
             &CCameraEnumerationService::onEnumerated);
+    m_journalTimer.setSingleShot(true);
+    m_journalTimer.setInterval(JOURNAL_INTERVAL);
+    connect(&m_journalTimer, &QTimer::timeout, this, &CCameraEnumerationService::onJournalTimeout);
     m_thread.setObjectName(QStringLiteral("enumeration"));
     m_thread.start();
 }
@@ -79,7 +89,7 @@ void CCameraEnumerationService::request()
 
 void CCameraEnumerationService::onEnumerated()
 {
-    const QVector<Camera::CTransportLayerSnapshot> layers = m_worker->takeResult();
+    QVector<Camera::CTransportLayerSnapshot> layers = m_worker->takeResult();
     m_running = false;
     if (m_activities->isUpdateRunning()
         || m_activities->getUpdateCount() != m_updateCountAtRequest) {
@@ -88,12 +98,49 @@ void CCameraEnumerationService::onEnumerated()
         request();
         return;
     }
+    markUpdatedElsewhere(layers);
     const bool changed = replaceResult(layers);
     const bool announced = changed || m_runningAnnounced;
     if (m_wanted)
         request();
     if (announced)
         emit enumerationChanged();
+}
+
+QSet<QString> CCameraEnumerationService::findUpdatedElsewhere() const
+{
+    QSet<QString> ids;
+    const QVector<Update::CJournalEntry> entries = Update::readJournals(m_journalFolder).entries;
+    for (const Update::CJournalEntry &entry : entries) {
+        const QString &id = entry.record.cameraId;
+        if (entry.isRunning && m_activities->get(id) != Camera::ECameraActivity::Updating)
+            ids.insert(id);
+    }
+    return ids;
+}
+
+void CCameraEnumerationService::markUpdatedElsewhere(
+    QVector<Camera::CTransportLayerSnapshot> &layers)
+{
+    m_updatedElsewhere = findUpdatedElsewhere();
+    for (Camera::CTransportLayerSnapshot &layer : layers) {
+        for (Camera::CCameraSnapshot &camera : layer.cameras) {
+            if (!m_updatedElsewhere.contains(camera.id))
+                continue;
+            camera.statusCode = UPDATED_ELSEWHERE_STATUS;
+            camera.statusReason = tr("being updated by another viewer");
+        }
+    }
+    if (!m_updatedElsewhere.isEmpty())
+        m_journalTimer.start();
+}
+
+void CCameraEnumerationService::onJournalTimeout()
+{
+    if (findUpdatedElsewhere() == m_updatedElsewhere)
+        m_journalTimer.start();
+    else
+        request();
 }
 
 bool CCameraEnumerationService::replaceResult(

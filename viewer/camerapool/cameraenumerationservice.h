@@ -5,7 +5,9 @@
 #include "camerapool/icameraenumerationservice.h"
 
 #include <QHash>
+#include <QSet>
 #include <QThread>
+#include <QTimer>
 
 #include <memory>
 
@@ -26,10 +28,12 @@ class CCameraEnumerationService : public Plugin::CameraPool::ICameraEnumerationS
     Q_OBJECT
 
 public:
-    /// @p enumerator is borrowed and outlives this object, which cancels it.
+    /// @p enumerator is borrowed and outlives this object, which cancels it. Cameras that another
+    /// process updates, according to its journal in @p journalFolder, cannot be updated here until
+    /// it has ended.
     CCameraEnumerationService(Camera::ICameraEnumerator &enumerator,
                               const std::shared_ptr<const Camera::CCameraActivities> &activities,
-                              QObject *parent = nullptr);
+                              const QString &journalFolder = QString(), QObject *parent = nullptr);
     ~CCameraEnumerationService() override;
 
     /// The camera as found by the last enumeration; null when it was not.
@@ -55,10 +59,16 @@ private slots:
 
 private:
     void request();
+    [[nodiscard]] QSet<QString> findUpdatedElsewhere() const;
+    void markUpdatedElsewhere(QVector<Camera::CTransportLayerSnapshot> &layers);
+    void onJournalTimeout();
     [[nodiscard]] bool replaceResult(const QVector<Camera::CTransportLayerSnapshot> &layers);
 
     Camera::ICameraEnumerator &m_enumerator;
     const std::shared_ptr<const Camera::CCameraActivities> m_activities;
+    const QString m_journalFolder;
+    QSet<QString> m_updatedElsewhere; ///< ids of cameras, as of the last enumeration
+    QTimer m_journalTimer; ///< runs while there are any
     QThread m_thread;
     CEnumerationWorker *const m_worker; // lives in the thread and is deleted with it
 

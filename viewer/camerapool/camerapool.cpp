@@ -59,7 +59,7 @@ CCameraPool::CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolde
     : QObject(parent)
     , d(std::make_unique<CPrivate>(std::move(kinds)))
 {
-    d->enumeration.reset(new CCameraEnumerationService(d->cameras, d->activities));
+    d->enumeration.reset(new CCameraEnumerationService(d->cameras, d->activities, journalFolder));
     const auto getActivityOf = [this](const QString &cameraId) { return getActivity(cameraId); };
     const auto findCamera
         = [service = d->enumeration.data()](const QString &id) { return service->findCamera(id); };

@@ -19,6 +19,16 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CInterruptionBar</name>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>And one more.</numerusform>
+            <numerusform>And %n more.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CViewer</name>
     <message numerus="yes">
         <source>%n camera(s) found.</source>

@@ -130,6 +130,39 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CInterruptionBar</name>
+    <message>
+        <source>Firmware Updater...</source>
+        <translation>ファームウェア更新ツール...</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>閉じる</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>ほかに %n 件あります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted before its first step.</source>
+        <translation>%2 に始まったカメラ %1 の更新は、最初のステップの前に中断されました。</translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted in step %3 of %4 (%5).</source>
+        <translation>%2 に始まったカメラ %1 の更新は、%4 ステップ中のステップ %3 (%5) で中断されました。</translation>
+    </message>
+    <message>
+        <source>It does not answer. Switch it off and on, then repeat the update with the file %1.</source>
+        <translation>カメラが応答しません。電源を入れ直してから、ファイル %1 で更新をやり直してください。</translation>
+    </message>
+    <message>
+        <source>It reports firmware version %1 now. Repeat the update with the file %2.</source>
+        <translation>現在のファームウェアバージョンは %1 です。ファイル %2 で更新をやり直してください。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CLinkOpener</name>
     <message>
         <source>Folder</source>
@@ -561,6 +594,13 @@
     <message>
         <source>In &amp;use elsewhere</source>
         <translation>別のアプリで使用中(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool::CCameraEnumerationService</name>
+    <message>
+        <source>being updated by another viewer</source>
+        <translation>別のビューアーで更新中</translation>
     </message>
 </context>
 <context>

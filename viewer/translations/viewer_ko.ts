@@ -130,6 +130,39 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CInterruptionBar</name>
+    <message>
+        <source>Firmware Updater...</source>
+        <translation>펌웨어 업데이터...</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>닫기</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>그 밖에 %n건이 더 있습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted before its first step.</source>
+        <translation>%2에 시작된 카메라 %1의 업데이트가 첫 단계 전에 중단되었습니다.</translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted in step %3 of %4 (%5).</source>
+        <translation>%2에 시작된 카메라 %1의 업데이트가 총 %4단계 중 %3단계(%5)에서 중단되었습니다.</translation>
+    </message>
+    <message>
+        <source>It does not answer. Switch it off and on, then repeat the update with the file %1.</source>
+        <translation>카메라가 응답하지 않습니다. 카메라를 껐다가 다시 켠 후 파일 %1(으)로 업데이트를 다시 수행하십시오.</translation>
+    </message>
+    <message>
+        <source>It reports firmware version %1 now. Repeat the update with the file %2.</source>
+        <translation>현재 보고된 펌웨어 버전은 %1입니다. 파일 %2(으)로 업데이트를 다시 수행하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CLinkOpener</name>
     <message>
         <source>Folder</source>
@@ -561,6 +594,13 @@
     <message>
         <source>In &amp;use elsewhere</source>
         <translation>다른 곳에서 사용 중(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool::CCameraEnumerationService</name>
+    <message>
+        <source>being updated by another viewer</source>
+        <translation>다른 뷰어에서 업데이트 중</translation>
     </message>
 </context>
 <context>

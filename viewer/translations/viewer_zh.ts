@@ -130,6 +130,39 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CInterruptionBar</name>
+    <message>
+        <source>Firmware Updater...</source>
+        <translation>固件更新工具...</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>关闭</translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>另外还有 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted before its first step.</source>
+        <translation>相机 %1 于 %2 开始的更新在第一个步骤之前中断。</translation>
+    </message>
+    <message>
+        <source>The update of camera %1 that began at %2 was interrupted in step %3 of %4 (%5).</source>
+        <translation>相机 %1 于 %2 开始的更新在第 %3 个步骤（%5，共 %4 个）中断。</translation>
+    </message>
+    <message>
+        <source>It does not answer. Switch it off and on, then repeat the update with the file %1.</source>
+        <translation>相机没有响应，请将其关闭再打开，然后使用文件 %1 重新执行更新。</translation>
+    </message>
+    <message>
+        <source>It reports firmware version %1 now. Repeat the update with the file %2.</source>
+        <translation>现在报告的固件版本为 %1，请使用文件 %2 重新执行更新。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CLinkOpener</name>
     <message>
         <source>Folder</source>
@@ -561,6 +594,13 @@
     <message>
         <source>In &amp;use elsewhere</source>
         <translation>被其他程序占用(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool::CCameraEnumerationService</name>
+    <message>
+        <source>being updated by another viewer</source>
+        <translation>正由其他查看器更新</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
+#include "viewer/update/updatejournal.h"
 
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
@@ -18,6 +19,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
@@ -48,6 +50,7 @@ private slots:
     void runningUpdateKeepsTheWindowOpen();
     void closingEndsTheApplication();
     void opensItsOwnFoldersAndLogs();
+    void tellsOfInterruptedUpdates();
     void tellsWhyNoLogsAreKept();
 
 private:
@@ -285,6 +288,49 @@ void CViewerTest::tellsWhyNoLogsAreKept()
     }
     // They are the viewer's own and keep nothing from being closed.
     QVERIFY(window.close());
+}
+
+void CViewerTest::tellsOfInterruptedUpdates()
+{
+    using namespace Viewer::Update;
+    const QTemporaryDir folder;
+    CUpdateRecord record;
+    record.filePath = "/files/a.guf";
+    record.stepCount = 7;
+    for (const QString &id : {camera()->getId(), QString("nowhere"), QString("ended")}) {
+        record.cameraId = record.cameraName = id;
+        record.begin = QDateTime::currentDateTimeUtc().addSecs(id == "nowhere" ? 60 : 0);
+        record.outcome = id == "ended" ? EUpdateOutcome::Updated : EUpdateOutcome::Running;
+        CUpdateJournal(folder.path(), record).beginStep("FileUpload");
+    }
+    record.cameraId = "running";
+    record.outcome = EUpdateOutcome::Running;
+    const CUpdateJournal running(folder.path(), record);
+
+    CCommandLineOptions options = TestSupport::readOptions({});
+    options.journalFolder = folder.path();
+    const QString version = camera()->getFirmwareVersion();
+    const QString id = camera()->getId();
+    m_viewer = std::make_unique<CViewer>(std::move(options), "en");
+    QStringList failures;
+    QVERIFY(m_viewer->start(failures));
+    auto *const bar = m_viewer->getMainWindow().findChild<QWidget *>("interruptionBar");
+    QTRY_VERIFY(bar->isVisible());
+    const auto verifyText = [bar](const QStringList &parts) {
+        const QString text = bar->findChild<QLabel *>("interruptionText")->text();
+        for (const QString &part : parts)
+            QVERIFY2(text.contains(part), qPrintable(text));
+    };
+    verifyText({"camera " + id, "step 1 of 7 (FileUpload)", "version " + version + " now",
+                "with the file /files/a.guf.", "And 1 more."});
+    // There is no firmware updater beside this test.
+    QVERIFY(!bar->findChild<QWidget *>("interruptionUpdate")->isVisible());
+    auto *const dismiss = bar->findChild<QPushButton *>("interruptionDismiss");
+    QTest::mouseClick(dismiss, Qt::LeftButton);
+    verifyText({"camera nowhere", "does not answer. Switch it off and on"});
+    QTest::mouseClick(dismiss, Qt::LeftButton);
+    QVERIFY(!bar->isVisible());
+    QCOMPARE(readJournals(folder.path()).entries.size(), 2);
 }
 
 void CViewerTest::closingEndsTheApplication()

@@ -2,6 +2,7 @@
 #include "viewer/camerapool/camerainfo.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/update/firmwareupdateinfo.h"
+#include "viewer/update/updatejournal.h"
 
 #include "support/camerakinds.h"
 #include "tests/viewer/update/jobrecorder.h"
@@ -48,6 +49,7 @@ private slots:
     void whatIsStoppedMakesNoPictures();
     void updateIsAnnouncedOnceAtItsEnd();
     void unpluggingEndsAnUpdate();
+    void leavesWhatAnotherViewerUpdatesAlone();
     void jobOutlivesThePool();
     void findsWhatFitsNewestFirst();
 
@@ -75,7 +77,8 @@ void CCameraPoolTest::createPool(double speedFactor)
     m_announced.reset();
     m_pool.reset();
     m_pool = std::make_unique<CCameraPool>(
-        TestSupport::makeCameraKinds({"--speed", QString::number(speedFactor)}, m_folder->path()));
+        TestSupport::makeCameraKinds({"--speed", QString::number(speedFactor)}, m_folder->path()),
+        m_folder->filePath("updates"));
     m_announced = std::make_unique<QSignalSpy>(getService<ICameraEnumerationService>().data(),
                                                &ICameraEnumerationService::enumerationChanged);
     m_pool->start();
@@ -218,6 +221,24 @@ void CCameraPoolTest::unpluggingEndsAnUpdate()
     QVERIFY(progressed);
     QVERIFY2(recorder.getError().contains("connection was lost"), qPrintable(recorder.getError()));
     QTRY_VERIFY(!find(FIRST_ID));
+}
+
+void CCameraPoolTest::leavesWhatAnotherViewerUpdatesAlone()
+{
+    CUpdateRecord record;
+    record.cameraId = FIRST_ID;
+    record.begin = QDateTime::currentDateTimeUtc();
+    auto other = std::make_unique<CUpdateJournal>(m_folder->filePath("updates"), record);
+    getService<ICameraEnumerationService>()->refreshEnumeration();
+    QTRY_COMPARE(m_announced->count(), 2);
+    QCOMPARE(find(FIRST_ID)->getCameraStatusCode(), 1002);
+    QCOMPARE(m_pool->getSnapshot(FIRST_ID).statusReason,
+             QString("being updated by another viewer"));
+    QCOMPARE(find(SECOND_ID)->getCameraStatusCode(), 0);
+    // Nobody has to search again for its end.
+    other.reset();
+    QTRY_COMPARE(find(FIRST_ID)->getCameraStatusCode(), 0);
+    QCOMPARE(m_announced->count(), 3);
 }
 
 void CCameraPoolTest::jobOutlivesThePool()

@@ -1,5 +1,6 @@
 #include "viewer/appcore/logsummary.h"
 #include "viewer/text/language.h"
+#include "viewer/update/updatejournal.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -12,6 +13,7 @@
 #include <csignal>
 
 using Viewer::AppCore::CLogSummary;
+using namespace Viewer::Update;
 
 static constexpr int PROGRAM_TIME = 90000; // milliseconds; far more than it needs
 
@@ -30,6 +32,7 @@ private slots:
     void signalsCloseTheViewer_data();
     void signalsCloseTheViewer();
     void signalsWaitForTheUpdate();
+    void aKilledViewerLeavesItsJournal();
     void worksWithoutAFolderForLogs();
 
 private:
@@ -210,6 +213,25 @@ void CNuvexViewerTest::signalsWaitForTheUpdate()
     const CLogSummary summary = CLogSummary::parse(readFile(findLogs().value(0)));
     QCOMPARE(summary.outcome, CLogSummary::EOutcome::Successful);
     QCOMPARE(summary.updatedCount, 6);
+}
+
+void CNuvexViewerTest::aKilledViewerLeavesItsJournal()
+{
+    QProcess viewer;
+    viewer.setWorkingDirectory(m_home.path());
+    viewer.start(VIEWER, {"--samples=" SAMPLES, "--speed=10", "--demo=pictures"});
+    const QString folder = m_home.filePath("nuvexviewer/updates");
+    const auto getEntry = [&folder] { return readJournals(folder).entries.value(0); };
+    QTRY_VERIFY_WITH_TIMEOUT(getEntry().record.hasWritten, PROGRAM_TIME);
+    kill(static_cast<pid_t>(viewer.processId()), SIGKILL);
+    QVERIFY(viewer.waitForFinished(PROGRAM_TIME));
+    const CJournalEntry left = getEntry();
+    QVERIFY(!left.isRunning);
+    QCOMPARE(left.record.oldVersion, QString("1.2.0"));
+    QVERIFY(QFile::exists(left.record.filePath));
+    // Repeating the update settles it.
+    run(m_demonstration, 0, "Successful updates: 6");
+    QVERIFY(QDir(folder).isEmpty());
 }
 
 void CNuvexViewerTest::worksWithoutAFolderForLogs()

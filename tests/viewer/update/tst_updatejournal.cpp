@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <memory>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -139,6 +140,7 @@ void CUpdateJournalTest::outlivesAKilledProcess()
     QVERIFY(pipe(ends) == 0);
     const pid_t child = fork();
     if (child == 0) {
+        prctl(PR_SET_PDEATHSIG, SIGKILL); // should the test fail
         CUpdateJournal journal(getFolder(), makeRecord("gige-1"));
         journal.beginStep("FileUpload");
         journal.beginWriting();
