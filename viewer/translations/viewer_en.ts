@@ -2,6 +2,16 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
+    <name>Viewer::AppCore::CInterruptionBar</name>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>And one more.</numerusform>
+            <numerusform>And %n more.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CUpdateHistoryDialog</name>
     <message numerus="yes">
         <source>%n damaged line(s) of the history were skipped.</source>
@@ -15,16 +25,6 @@
         <translation>
             <numerusform>%n update was written to &quot;%1&quot;.</numerusform>
             <numerusform>%n updates were written to &quot;%1&quot;.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::AppCore::CInterruptionBar</name>
-    <message numerus="yes">
-        <source>And %n more.</source>
-        <translation>
-            <numerusform>And one more.</numerusform>
-            <numerusform>And %n more.</numerusform>
         </translation>
     </message>
 </context>

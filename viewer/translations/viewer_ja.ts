@@ -1731,6 +1731,46 @@ Update %1
         <source>unknown outcome</source>
         <translation>不明な結果です</translation>
     </message>
+    <message>
+        <source>the update program does not know a camera of this kind</source>
+        <translation>更新プログラムがこの種類のカメラに対応していません</translation>
+    </message>
+    <message>
+        <source>the update file is another one than the one that was shown; select it again</source>
+        <translation>更新ファイルが表示されたものと異なります。もう一度選択してください</translation>
+    </message>
+    <message>
+        <source>the update file has no such update</source>
+        <translation>更新ファイルに該当する更新がありません</translation>
+    </message>
+    <message>
+        <source>the update was canceled</source>
+        <translation>更新がキャンセルされました</translation>
+    </message>
+    <message>
+        <source>it did not answer in time; switch it off and on and check its firmware version</source>
+        <translation>時間内に応答しませんでした。電源を入れ直し、ファームウェアのバージョンを確認してください</translation>
+    </message>
+    <message>
+        <source>the update program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
+        <translation>更新プログラム「%1」を起動できません (%2)。ビューアーを再インストールしてください</translation>
+    </message>
+    <message>
+        <source>the update program ended unexpectedly (signal %1)</source>
+        <translation>更新プログラムが予期せず終了しました (シグナル %1)</translation>
+    </message>
+    <message>
+        <source>the update program ended unexpectedly (exit code %1)</source>
+        <translation>更新プログラムが予期せず終了しました (終了コード %1)</translation>
+    </message>
+    <message>
+        <source>the update program does not answer any more</source>
+        <translation>更新プログラムが応答しなくなりました</translation>
+    </message>
+    <message>
+        <source>the update program says something that is not understood; install the viewer again</source>
+        <translation>更新プログラムからの情報を解釈できません。ビューアーを再インストールしてください</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

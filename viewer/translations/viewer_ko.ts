@@ -1731,6 +1731,46 @@ Update %1
         <source>unknown outcome</source>
         <translation>알 수 없는 결과입니다</translation>
     </message>
+    <message>
+        <source>the update program does not know a camera of this kind</source>
+        <translation>업데이트 프로그램이 이 종류의 카메라를 알지 못합니다</translation>
+    </message>
+    <message>
+        <source>the update file is another one than the one that was shown; select it again</source>
+        <translation>업데이트 파일이 표시된 것과 다릅니다. 다시 선택하십시오</translation>
+    </message>
+    <message>
+        <source>the update file has no such update</source>
+        <translation>업데이트 파일에 해당 업데이트가 없습니다</translation>
+    </message>
+    <message>
+        <source>the update was canceled</source>
+        <translation>업데이트가 취소되었습니다</translation>
+    </message>
+    <message>
+        <source>it did not answer in time; switch it off and on and check its firmware version</source>
+        <translation>제한 시간 안에 응답하지 않았습니다. 전원을 껐다가 켜고 펌웨어 버전을 확인하십시오</translation>
+    </message>
+    <message>
+        <source>the update program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
+        <translation>업데이트 프로그램 &quot;%1&quot;을(를) 시작할 수 없습니다(%2). 뷰어를 다시 설치하십시오</translation>
+    </message>
+    <message>
+        <source>the update program ended unexpectedly (signal %1)</source>
+        <translation>업데이트 프로그램이 예기치 않게 종료되었습니다(시그널 %1)</translation>
+    </message>
+    <message>
+        <source>the update program ended unexpectedly (exit code %1)</source>
+        <translation>업데이트 프로그램이 예기치 않게 종료되었습니다(종료 코드 %1)</translation>
+    </message>
+    <message>
+        <source>the update program does not answer any more</source>
+        <translation>업데이트 프로그램이 더 이상 응답하지 않습니다</translation>
+    </message>
+    <message>
+        <source>the update program says something that is not understood; install the viewer again</source>
+        <translation>업데이트 프로그램의 메시지를 이해할 수 없습니다. 뷰어를 다시 설치하십시오</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

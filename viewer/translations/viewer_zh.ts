@@ -1731,6 +1731,46 @@ Update %1
         <source>unknown outcome</source>
         <translation>未知的结果</translation>
     </message>
+    <message>
+        <source>the update program does not know a camera of this kind</source>
+        <translation>更新进程不支持此类相机</translation>
+    </message>
+    <message>
+        <source>the update file is another one than the one that was shown; select it again</source>
+        <translation>更新文件与显示的文件不同，请重新选择</translation>
+    </message>
+    <message>
+        <source>the update file has no such update</source>
+        <translation>更新文件中没有该更新</translation>
+    </message>
+    <message>
+        <source>the update was canceled</source>
+        <translation>更新已取消</translation>
+    </message>
+    <message>
+        <source>it did not answer in time; switch it off and on and check its firmware version</source>
+        <translation>未在规定时间内响应，请关闭并重新打开电源，然后检查固件版本</translation>
+    </message>
+    <message>
+        <source>the update program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
+        <translation>无法启动更新进程“%1”(%2)，请重新安装查看器</translation>
+    </message>
+    <message>
+        <source>the update program ended unexpectedly (signal %1)</source>
+        <translation>更新进程意外结束(信号 %1)</translation>
+    </message>
+    <message>
+        <source>the update program ended unexpectedly (exit code %1)</source>
+        <translation>更新进程意外结束(退出代码 %1)</translation>
+    </message>
+    <message>
+        <source>the update program does not answer any more</source>
+        <translation>更新进程不再响应</translation>
+    </message>
+    <message>
+        <source>the update program says something that is not understood; install the viewer again</source>
+        <translation>无法理解更新进程发送的信息，请重新安装查看器</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

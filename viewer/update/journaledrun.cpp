@@ -1,6 +1,7 @@
 #include "journaledrun.h"
 
 #include "logging.h"
+#include "updatehistory.h"
 #include "updatejournal.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/updatefile/manifestparser.h"
@@ -76,7 +77,14 @@ void CJournaledRun::stepDone(const CUpdateStep &step, std::chrono::milliseconds 
 void CJournaledRun::finish(EUpdateOutcome outcome, const QString &error) noexcept
 {
     try {
-        static_cast<void>(m_journal->finish(outcome, hasWritten(), error, getReportedVersion()));
+        const CUpdateRecord record
+            = m_journal->finish(outcome, hasWritten(), error, getReportedVersion());
+        if (!m_journalFolder.isEmpty()) {
+            const CErrorText fault
+                = CUpdateHistory(CUpdateHistory::getPath(m_journalFolder)).append(record);
+            if (!fault.isEmpty())
+                qCWarning(updateLog).noquote() << fault.getEnglish();
+        }
     } catch (...) {
         qCCritical(updateLog, "the end of an update could not be written into its journal");
     }

@@ -12,8 +12,8 @@ namespace Viewer::Update {
 
 class CUpdateJournal;
 
-/// A run that says on the disk how far it is, see CUpdateJournal, in the process that talks to the
-/// camera.
+/// A run that says on the disk how far it is, see CUpdateJournal, and in the end what became of it,
+/// see CUpdateHistory, in the process that talks to the camera.
 class CJournaledRun : public IUpdateRun, private IUpdateRun::IListener
 {
 public:

@@ -74,10 +74,15 @@ std::optional<CUpdateRecord> parse(const QByteArray &line)
 
 } // namespace
 
+QString CUpdateHistory::getPath(const QString &folder)
+{
+    return folder.isEmpty() ? QString() : folder + QLatin1String("/history.jsonl");
+}
+
 QString CUpdateHistory::getDefaultPath()
 {
     const QString folder = Files::getStateFolder(QStringLiteral("updates"));
-    return folder.isEmpty() ? QString() : folder + QLatin1String("/history.jsonl");
+    return getPath(folder);
 }
 
 CUpdateHistory::CUpdateHistory(const QString &path)

@@ -29,6 +29,9 @@ public:
         QString error; ///< one sentence in the user's language; empty: the file was read
     };
 
+    /// The history in @p folder, beside the journals; empty: none.
+    [[nodiscard]] static QString getPath(const QString &folder);
+
     /// `updates/history.jsonl` in the folder of the viewer's state; empty if there is no place for
     /// it.
     [[nodiscard]] static QString getDefaultPath();
