@@ -1753,15 +1753,15 @@ Update %1
     </message>
     <message>
         <source>the update program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
-        <translation>无法启动更新进程“%1”(%2)，请重新安装查看器</translation>
+        <translation>无法启动更新进程“%1”（%2），请重新安装查看器</translation>
     </message>
     <message>
         <source>the update program ended unexpectedly (signal %1)</source>
-        <translation>更新进程意外结束(信号 %1)</translation>
+        <translation>更新进程意外结束（信号 %1）</translation>
     </message>
     <message>
         <source>the update program ended unexpectedly (exit code %1)</source>
-        <translation>更新进程意外结束(退出代码 %1)</translation>
+        <translation>更新进程意外结束（退出代码 %1）</translation>
     </message>
     <message>
         <source>the update program does not answer any more</source>
