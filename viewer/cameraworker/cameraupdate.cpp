@@ -113,8 +113,9 @@ void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds
     std::chrono::milliseconds limit = Update::getTimeLimit(estimate);
     if (step.kind == EFirmwareUpdateStep::DeviceReset)
         limit = std::max(limit, m_device->getShortestResetLimit());
+    m_limit = limit + GRACE;
     // The first step that writes repeats the checks before it.
-    m_watchdog.watch(limit + GRACE + AROUND_STEPS);
+    m_watchdog.watch(m_limit + AROUND_STEPS);
     ++m_step;
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepBegun);
     event.estimate = estimate;
@@ -131,6 +132,7 @@ void CCameraUpdate::stepProgressed(const CUpdateStep &, double percent)
 void CCameraUpdate::writing()
 {
     m_mayHaveWritten = true;
+    m_watchdog.watch(m_limit);
 }
 
 void CCameraUpdate::stepDone(const CUpdateStep &, std::chrono::milliseconds estimate)

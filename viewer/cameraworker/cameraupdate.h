@@ -47,6 +47,7 @@ private:
     std::atomic<Camera::ICameraKind *> m_kind{nullptr}; ///< that of the camera
     UpdateFile::CUpdateManifest m_manifest;
     int m_step = -1; ///< the current one, from 0
+    std::chrono::milliseconds m_limit{0}; ///< of the current step, with what a library gets beyond
     std::unique_ptr<Camera::ICameraDevice> m_device;
     std::unique_ptr<Update::IUpdateRun> m_run;
     std::atomic<bool> m_mayHaveWritten{false}; ///< known to the watchdog's thread
