@@ -40,6 +40,11 @@ QCborMap ICameraKind::describeMade() const
     return {};
 }
 
+double ICameraKind::getSlownessOfMade() const
+{
+    return 1.0;
+}
+
 void ICameraKind::loseMade()
 {
 }

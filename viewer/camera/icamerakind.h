@@ -77,6 +77,10 @@ public:
     /// How the camera of makeDevice() is now, for ICameraHandle::end(). Any thread.
     [[nodiscard]] virtual QCborMap describeMade() const;
 
+    /// How many times longer than they may, operations with the camera of makeDevice() take; at
+    /// least 1.
+    [[nodiscard]] virtual double getSlownessOfMade() const;
+
     /// The camera of makeDevice() was taken away, which its device does not know. Any thread.
     virtual void loseMade();
 

@@ -18,7 +18,6 @@ namespace Viewer::CameraWorker {
 
 using namespace std::chrono_literals;
 using Camera::CCameraError;
-using Plugin::CameraPool::EFirmwareUpdateStep;
 using Text::CErrorText;
 using Update::CWorkerEvent;
 using UpdateFile::CUpdateStep;
@@ -68,8 +67,8 @@ void CCameraUpdate::makeDevice(const Update::CWorkerTask &task)
 CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
 {
     try {
-        m_watchdog.watch(AROUND_STEPS);
         makeDevice(task);
+        watch(AROUND_STEPS);
         if (!m_device)
             return CErrorText::tr("the update program does not know a camera of this kind");
         const UpdateFile::CUpdateArchive archive(task.filePath);
@@ -110,12 +109,9 @@ void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds
     if (m_isCanceled != 0 && !m_mayHaveWritten)
         throw CCameraError(m_device->getName(), CErrorText::tr("the update was canceled"),
                            CCameraError::EChange::None);
-    std::chrono::milliseconds limit = Update::getTimeLimit(estimate);
-    if (step.kind == EFirmwareUpdateStep::DeviceReset)
-        limit = std::max(limit, m_device->getShortestResetLimit());
-    m_limit = limit + GRACE;
+    m_limit = Update::getTimeLimit(step, *m_device) + GRACE;
     // The first step that writes repeats the checks before it.
-    m_watchdog.watch(m_limit + AROUND_STEPS);
+    watch(m_limit + AROUND_STEPS);
     ++m_step;
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepBegun);
     event.estimate = estimate;
@@ -132,15 +128,23 @@ void CCameraUpdate::stepProgressed(const CUpdateStep &, double percent)
 void CCameraUpdate::writing()
 {
     m_mayHaveWritten = true;
-    m_watchdog.watch(m_limit);
+    watch(m_limit);
 }
 
 void CCameraUpdate::stepDone(const CUpdateStep &, std::chrono::milliseconds estimate)
 {
-    m_watchdog.watch(AROUND_STEPS);
+    watch(AROUND_STEPS);
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepDone);
     event.estimate = estimate;
     m_events.write(event);
+}
+
+void CCameraUpdate::watch(std::chrono::milliseconds limit)
+{
+    const Camera::ICameraKind *const kind = m_kind;
+    m_patience = std::chrono::duration_cast<std::chrono::milliseconds>(
+        limit * (kind ? kind->getSlownessOfMade() : 1.0));
+    m_watchdog.watch(m_patience);
 }
 
 void CCameraUpdate::onExpired()
@@ -160,6 +164,7 @@ CWorkerEvent CCameraUpdate::makeEvent(CWorkerEvent::EType type) const
 {
     CWorkerEvent event;
     event.type = type;
+    event.patience = m_patience;
     event.hasWritten = m_run && m_run->hasWritten();
     event.version = m_run ? m_run->getReportedVersion() : QString();
     event.step = std::max(m_step, 0);

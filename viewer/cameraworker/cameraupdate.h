@@ -37,6 +37,7 @@ private:
 
     [[nodiscard]] Text::CErrorText update(const Update::CWorkerTask &task);
     void makeDevice(const Update::CWorkerTask &task);
+    void watch(std::chrono::milliseconds limit);
     void onExpired();
     [[nodiscard]] Update::CWorkerEvent makeEvent(Update::CWorkerEvent::EType type) const;
     [[nodiscard]] Update::CWorkerEvent makeFailure(const Text::CErrorText &error) const;
@@ -47,6 +48,7 @@ private:
     std::atomic<Camera::ICameraKind *> m_kind{nullptr}; ///< that of the camera
     UpdateFile::CUpdateManifest m_manifest;
     int m_step = -1; ///< the current one, from 0
+    std::chrono::milliseconds m_patience{0}; ///< until the next event
     std::chrono::milliseconds m_limit{0}; ///< of the current step, with what a library gets beyond
     std::unique_ptr<Camera::ICameraDevice> m_device;
     std::unique_ptr<Update::IUpdateRun> m_run;

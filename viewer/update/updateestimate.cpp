@@ -1,5 +1,7 @@
 #include "updateestimate.h"
 
+#include "viewer/camera/icameradevice.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -55,6 +57,17 @@ milliseconds estimateEntry(const UpdateFile::CUpdateEntry &entry, qint64 uploadR
 milliseconds getTimeLimit(milliseconds estimate)
 {
     return std::max<milliseconds>(30s, std::min<milliseconds>(3 * estimate, estimate + 5min));
+}
+
+milliseconds getTimeLimit(const UpdateFile::CUpdateStep &step, const Camera::ICameraDevice &device)
+{
+    milliseconds estimate = estimateStep(step, device.getUploadRate());
+    if (step.kind == EFirmwareUpdateStep::FileUpload)
+        estimate = std::max(estimate, getUsualTime(step, device.getUploadRate()));
+    const milliseconds limit = getTimeLimit(estimate);
+    return step.kind == EFirmwareUpdateStep::DeviceReset
+        ? std::max(limit, device.getShortestResetLimit())
+        : limit;
 }
 
 } // namespace Viewer::Update

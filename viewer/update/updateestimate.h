@@ -4,6 +4,10 @@
 
 #include <chrono>
 
+namespace Viewer::Camera {
+class ICameraDevice;
+}
+
 namespace Viewer::Update {
 
 /// How long one step of an update takes, about: what the update file says, else a usual time; for
@@ -18,5 +22,11 @@ namespace Viewer::Update {
 /// How long to wait before a step that should take @p estimate is given up. Update files are
 /// written for ideal conditions, hence the factor; nobody wants to wait for hours, hence its limit.
 [[nodiscard]] std::chrono::milliseconds getTimeLimit(std::chrono::milliseconds estimate);
+
+/// How long @p step may take with @p device before it has failed: never less than an upload takes
+/// at the camera's best speed or a camera of this kind needs to restart, whatever the update file
+/// promises.
+[[nodiscard]] std::chrono::milliseconds getTimeLimit(const UpdateFile::CUpdateStep &step,
+                                                     const Camera::ICameraDevice &device);
 
 } // namespace Viewer::Update

@@ -70,8 +70,7 @@ QString CUpdateRun::getReportedVersion() const
 
 void CUpdateRun::executeStep(const CUpdateStep &step)
 {
-    const std::chrono::milliseconds limit
-        = getTimeLimit(estimateStep(step, m_device.getUploadRate()));
+    const std::chrono::milliseconds limit = getTimeLimit(step, m_device);
     switch (step.kind) {
     case EFirmwareUpdateStep::CheckPreconditions:
         checkPreconditions(&step);
@@ -93,7 +92,7 @@ void CUpdateRun::executeStep(const CUpdateStep &step)
         upload(step);
         return;
     case EFirmwareUpdateStep::DeviceReset:
-        write([&] { m_device.resetAndWait(std::max(limit, m_device.getShortestResetLimit())); });
+        write([&] { m_device.resetAndWait(limit); });
         return;
     case EFirmwareUpdateStep::Invalid:
         break;
@@ -210,13 +209,8 @@ void CUpdateRun::upload(const CUpdateStep &step)
         if (throttle.passes(percent, CProgressThrottle::Clock::now()))
             m_listener.stepProgressed(step, percent);
     };
-    // The rate is the camera's best one; a file may well promise less time than that takes.
-    const auto usual = std::chrono::milliseconds(static_cast<qint64>(
-        1000.0 * static_cast<double>(size) / static_cast<double>(m_device.getUploadRate())));
-    const std::chrono::milliseconds estimate
-        = std::max(usual, estimateStep(step, m_device.getUploadRate()));
     write([&] {
-        m_device.uploadFile(step.targetFile, *source, size, progress, getTimeLimit(estimate));
+        m_device.uploadFile(step.targetFile, *source, size, progress, getTimeLimit(step, m_device));
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include "workertask.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace Viewer::Update {
@@ -10,6 +11,7 @@ static const QString PROTOCOL = QStringLiteral("protocol");
 static const QString TYPE = QStringLiteral("event");
 static const QString STEP = QStringLiteral("step");
 static const QString ESTIMATE = QStringLiteral("estimateMs");
+static const QString PATIENCE = QStringLiteral("patienceMs");
 static const QString PERCENT = QStringLiteral("percent");
 static const QString CAMERA = QStringLiteral("camera");
 static const QString ERROR_TEXT = QStringLiteral("error");
@@ -19,7 +21,10 @@ static const QString VERSION = QStringLiteral("version");
 
 QCborMap CWorkerEvent::toCbor() const
 {
-    QCborMap map{{TYPE, static_cast<int>(type)}, {HAS_WRITTEN, hasWritten}, {VERSION, version}};
+    QCborMap map{{TYPE, static_cast<int>(type)},
+                 {PATIENCE, static_cast<qint64>(patience.count())},
+                 {HAS_WRITTEN, hasWritten},
+                 {VERSION, version}};
     switch (type) {
     case EType::Hello:
         map.insert(PROTOCOL, CWorkerTask::PROTOCOL);
@@ -58,6 +63,8 @@ std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
         return std::nullopt;
     event.type = static_cast<EType>(type);
     event.step = static_cast<int>(step);
+    event.patience = std::chrono::milliseconds(
+        std::clamp<qint64>(map.value(PATIENCE).toInteger(), 0, std::numeric_limits<int>::max()));
     event.estimate = std::chrono::milliseconds(estimate);
     event.camera = map.value(CAMERA).toMap();
     event.error = map.value(ERROR_TEXT).toString();

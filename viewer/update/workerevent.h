@@ -23,6 +23,7 @@ struct CWorkerEvent
     EType type = EType::Hello;
     int step = 0; ///< of the update's steps, from 0
     std::chrono::milliseconds estimate{0}; ///< StepBegun and StepDone
+    std::chrono::milliseconds patience{0}; ///< the next event comes until then, or never
     double percent = 0; ///< StepProgressed, 0 to 100
     QString error; ///< Failed: English, one line
     QString localizedError; ///< Failed: the same in the language of the task

@@ -1,7 +1,6 @@
 #include "workerrun.h"
 
 #include "logging.h"
-#include "updateestimate.h"
 #include "viewer/camera/cameraerror.h"
 #include "viewer/updatefile/manifestparser.h"
 
@@ -166,10 +165,10 @@ void CWorkerRun::take(const CWorkerEvent &event)
 {
     m_reportedVersion = event.version;
     m_hasWritten = event.hasWritten;
+    m_patience = event.patience + QUIET_TIME;
     switch (event.type) {
     case CWorkerEvent::EType::StepBegun: {
         const UpdateFile::CUpdateStep &step = getStep(event.step);
-        m_patience = getTimeLimit(event.estimate) + QUIET_TIME;
         m_listener.stepBegun(step, event.estimate);
         // Should the worker end now, nobody knows how far it has come.
         m_hasWritten = m_hasWritten || UpdateFile::changesCamera(step.kind);
@@ -179,7 +178,6 @@ void CWorkerRun::take(const CWorkerEvent &event)
         m_listener.stepProgressed(getStep(event.step), event.percent);
         break;
     case CWorkerEvent::EType::StepDone:
-        m_patience = QUIET_TIME;
         m_listener.stepDone(getStep(event.step), event.estimate);
         break;
     case CWorkerEvent::EType::Hello:

@@ -43,6 +43,11 @@ QString CSimulatedCamera::getFirmwareVersion() const
     return m_firmwareVersion;
 }
 
+double CSimulatedCamera::getSpeedFactor() const
+{
+    return m_speedFactor;
+}
+
 bool CSimulatedCamera::isPlugged() const
 {
     const std::lock_guard lock(m_mutex);

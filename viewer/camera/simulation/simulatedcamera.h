@@ -47,6 +47,9 @@ public:
 
     [[nodiscard]] QString getFirmwareVersion() const;
 
+    /// How many times faster than a real one it is.
+    [[nodiscard]] double getSpeedFactor() const;
+
     [[nodiscard]] bool isPlugged() const;
     void setPlugged(bool plugged);
 

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QHash>
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -197,6 +198,11 @@ std::unique_ptr<ICameraDevice> CSimulation::makeDevice(const QCborMap &descripti
 QCborMap CSimulation::describeMade() const
 {
     return d->made ? CSimulatedCameraHandle::describeState(*d->made) : QCborMap();
+}
+
+double CSimulation::getSlownessOfMade() const
+{
+    return d->made ? std::max(1.0, 1.0 / d->made->getSpeedFactor()) : 1.0;
 }
 
 void CSimulation::loseMade()

@@ -47,6 +47,7 @@ public:
     createHandle(const QString &cameraId) const override;
     [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description) override;
     [[nodiscard]] QCborMap describeMade() const override;
+    [[nodiscard]] double getSlownessOfMade() const override;
     void loseMade() override;
 
     // ICameraDeviceFactory
