@@ -1,7 +1,7 @@
 #include "interruptionbar.h"
 
 #include "viewer/text/visibletext.h"
-#include "viewer/update/updatejournal.h"
+#include "viewer/update/interruptedupdates.h"
 
 #include <QAction>
 #include <QDir>
@@ -10,8 +10,6 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QStyle>
-
-#include <algorithm>
 
 namespace Viewer::AppCore {
 
@@ -64,22 +62,15 @@ void CInterruptionBar::setUpdateAction(QAction *action)
 
 void CInterruptionBar::refresh()
 {
-    QVector<Update::CJournalEntry> entries = Update::readJournals(m_journalFolder).entries;
-    // One that has ended and whose process did not come to remove it is told by its outcome.
-    entries.erase(std::remove_if(entries.begin(), entries.end(),
-                                 [](const auto &entry) {
-                                     return entry.isRunning
-                                         || entry.record.outcome != Update::EUpdateOutcome::Running;
-                                 }),
-                  entries.end());
-    if (!entries.isEmpty()) {
-        m_cameraId = entries.constFirst().record.cameraId;
-        QString text = describe(entries.constFirst().record);
-        if (entries.size() > 1)
-            text += QLatin1Char('\n') + tr("And %n more.", nullptr, entries.size() - 1);
+    const QVector<Update::CUpdateRecord> updates = Update::takeInterruptedUpdates(m_journalFolder);
+    if (!updates.isEmpty()) {
+        m_told = updates.constFirst();
+        QString text = describe(m_told);
+        if (updates.size() > 1)
+            text += QLatin1Char('\n') + tr("And %n more.", nullptr, updates.size() - 1);
         m_label->setText(text);
     }
-    setVisible(!entries.isEmpty());
+    setVisible(!updates.isEmpty());
 }
 
 void CInterruptionBar::onUpdateActionChanged()
@@ -90,7 +81,7 @@ void CInterruptionBar::onUpdateActionChanged()
 
 void CInterruptionBar::dismiss()
 {
-    Update::removeJournal(m_journalFolder, m_cameraId);
+    Update::dismissInterruptedUpdate(m_journalFolder, m_told);
     refresh();
 }
 

@@ -43,7 +43,7 @@ private:
 
     const QString m_journalFolder;
     const SnapshotGetter m_getSnapshot;
-    QString m_cameraId; ///< of the update that is told
+    Update::CUpdateRecord m_told; ///< the update that is told
     QPointer<QAction> m_updateAction;
     QLabel *m_label = nullptr;
     QPushButton *m_updateButton = nullptr;

@@ -227,6 +227,11 @@ const QString &CLogFolder::getRoot() const
     return m_root;
 }
 
+QString CLogFolder::findOwnLog() const
+{
+    return m_ownFolder.isEmpty() ? QString() : findLogs({{m_ownFolder, true}}).value(0).path;
+}
+
 QVector<CLogFile> CLogFolder::getLogs() const
 {
     return findLogs(findFolders(m_root));

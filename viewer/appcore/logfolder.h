@@ -50,6 +50,9 @@ public:
     /// The folder with the folders of all viewers; empty if there is no place for it.
     [[nodiscard]] const QString &getRoot() const;
 
+    /// The path of the newest log of this process; empty: none. Any thread, after open().
+    [[nodiscard]] QString findOwnLog() const;
+
     /// The logs of all viewers, the newest one first.
     [[nodiscard]] QVector<CLogFile> getLogs() const;
 

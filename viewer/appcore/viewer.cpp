@@ -94,6 +94,8 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
     }
     m_linkOpener->addFolder(m_options.samplesDirectory);
     m_pool->setWorker(getWorkerPath(), language);
+    if (m_logs)
+        m_pool->setLogFinder([this] { return m_logs->findOwnLog(); });
     createWindow();
     fillMenus();
     registerServices();
@@ -155,6 +157,8 @@ void CViewer::createWindow()
             [this](const QString &cameraId) {
                 m_selectorView->getModel()->setActivity(cameraId, m_pool->getActivity(cameraId));
             });
+    connect(m_pool.get(), &CameraPool::CCameraPool::snapshotChanged, m_selectorView->getModel(),
+            &CameraSelector::CCameraSelectorModel::onSnapshotChanged);
     connect(getEnumerationService().data(), &ICameraEnumerationService::enumerationChanged, this,
             &CViewer::onEnumerationChanged);
 }

@@ -7,6 +7,8 @@
 #include "viewer/camera/icameraenumerator.h"
 #include "viewer/update/updatejournal.h"
 
+#include <algorithm>
+
 namespace Viewer::CameraPool {
 
 /// Another process updates the camera; the kinds of cameras use other codes.
@@ -49,6 +51,12 @@ CCameraEnumerationService::~CCameraEnumerationService()
 CameraInfoPtr CCameraEnumerationService::findCamera(const QString &cameraId) const
 {
     return m_cameras.value(cameraId);
+}
+
+std::optional<int> CCameraEnumerationService::getProgressElsewhere(const QString &cameraId) const
+{
+    const auto progress = m_updatedElsewhere.constFind(cameraId);
+    return progress == m_updatedElsewhere.constEnd() ? std::nullopt : std::optional(*progress);
 }
 
 QVector<QSharedPointer<Plugin::CameraPool::ITransportLayerInfo>>
@@ -107,16 +115,16 @@ void CCameraEnumerationService::onEnumerated()
         emit enumerationChanged();
 }
 
-QSet<QString> CCameraEnumerationService::findUpdatedElsewhere() const
+QHash<QString, int> CCameraEnumerationService::findUpdatedElsewhere() const
 {
-    QSet<QString> ids;
+    QHash<QString, int> progress;
     const QVector<Update::CJournalEntry> entries = Update::readJournals(m_journalFolder).entries;
     for (const Update::CJournalEntry &entry : entries) {
         const QString &id = entry.record.cameraId;
         if (entry.isRunning && m_activities->get(id) != Camera::ECameraActivity::Updating)
-            ids.insert(id);
+            progress.insert(id, Update::getTotalPercent(entry.record));
     }
-    return ids;
+    return progress;
 }
 
 void CCameraEnumerationService::markUpdatedElsewhere(
@@ -128,7 +136,7 @@ void CCameraEnumerationService::markUpdatedElsewhere(
             if (!m_updatedElsewhere.contains(camera.id))
                 continue;
             camera.statusCode = UPDATED_ELSEWHERE_STATUS;
-            camera.statusReason = tr("being updated by another viewer");
+            camera.statusReason = tr("being updated");
         }
     }
     if (!m_updatedElsewhere.isEmpty())
@@ -137,10 +145,20 @@ void CCameraEnumerationService::markUpdatedElsewhere(
 
 void CCameraEnumerationService::onJournalTimeout()
 {
-    if (findUpdatedElsewhere() == m_updatedElsewhere)
-        m_journalTimer.start();
-    else
+    const QHash<QString, int> before = m_updatedElsewhere;
+    const QHash<QString, int> now = findUpdatedElsewhere();
+    const auto isKnown = [&before](const auto &camera) { return before.contains(camera.first); };
+    if (now.size() != before.size()
+        || !std::all_of(now.constKeyValueBegin(), now.constKeyValueEnd(), isKnown)) {
         request();
+        return;
+    }
+    m_updatedElsewhere = now;
+    m_journalTimer.start();
+    for (auto camera = now.begin(); camera != now.end(); ++camera) {
+        if (camera.value() != before.value(camera.key()))
+            emit progressElsewhereChanged(camera.key());
+    }
 }
 
 bool CCameraEnumerationService::replaceResult(

@@ -5,11 +5,11 @@
 #include "camerapool/icameraenumerationservice.h"
 
 #include <QHash>
-#include <QSet>
 #include <QThread>
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace Viewer::Camera {
 class CCameraActivities;
@@ -39,6 +39,10 @@ public:
     /// The camera as found by the last enumeration; null when it was not.
     [[nodiscard]] Plugin::CameraPool::CameraInfoPtr findCamera(const QString &cameraId) const;
 
+    /// How far another process is with the update of the camera, in percent of its steps; nothing:
+    /// no other process updates it.
+    [[nodiscard]] std::optional<int> getProgressElsewhere(const QString &cameraId) const;
+
     [[nodiscard]] QVector<QSharedPointer<Plugin::CameraPool::ITransportLayerInfo>>
     getTransportLayerInfoVector() const override;
     void refreshEnumeration() override;
@@ -51,6 +55,9 @@ public slots:
     void onUpdatesEnded();
 
 signals:
+    /// getProgressElsewhere() tells something else of the camera.
+    void progressElsewhereChanged(const QString &cameraId);
+
     /// To the worker.
     void requested();
 
@@ -59,7 +66,7 @@ private slots:
 
 private:
     void request();
-    [[nodiscard]] QSet<QString> findUpdatedElsewhere() const;
+    [[nodiscard]] QHash<QString, int> findUpdatedElsewhere() const;
     void markUpdatedElsewhere(QVector<Camera::CTransportLayerSnapshot> &layers);
     void onJournalTimeout();
     [[nodiscard]] bool replaceResult(const QVector<Camera::CTransportLayerSnapshot> &layers);
@@ -67,7 +74,7 @@ private:
     Camera::ICameraEnumerator &m_enumerator;
     const std::shared_ptr<const Camera::CCameraActivities> m_activities;
     const QString m_journalFolder;
-    QSet<QString> m_updatedElsewhere; ///< ids of cameras, as of the last enumeration
+    QHash<QString, int> m_updatedElsewhere; ///< percent by id of camera
     QTimer m_journalTimer; ///< runs while there are any
     QThread m_thread;
     CEnumerationWorker *const m_worker; // lives in the thread and is deleted with it

@@ -77,6 +77,8 @@ CCameraPool::CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolde
         connect(kind.get(), &ICameraKind::cameraStateChanged, this,
                 &CCameraPool::onCameraStateChanged);
     }
+    connect(d->enumeration.data(), &CCameraEnumerationService::progressElsewhereChanged, this,
+            &CCameraPool::snapshotChanged);
     connect(&d->stream, &CFrameStream::frameReady, this, &CCameraPool::frameReady);
     connect(&d->stream, &CFrameStream::recordingFailed, this, &CCameraPool::onRecordingFailed);
     QCoreApplication::installTranslator(d->errors.get());
@@ -108,6 +110,11 @@ void CCameraPool::setWorker(const QString &program, const QString &language)
     getService<CDeviceFirmwareUpdateService>()->setWorker(program, language, findCamera);
 }
 
+void CCameraPool::setLogFinder(const std::function<QString()> &findLog)
+{
+    getService<CDeviceFirmwareUpdateService>()->setLogFinder(findLog);
+}
+
 void CCameraPool::start()
 {
     d->enumeration->refreshEnumeration();
@@ -121,8 +128,12 @@ QList<QSharedPointer<IService>> CCameraPool::getServices() const
 Camera::CCameraSnapshot CCameraPool::getSnapshot(const QString &cameraId) const
 {
     const Plugin::CameraPool::CameraInfoPtr camera = d->enumeration->findCamera(cameraId);
-    return camera ? static_cast<const CCameraInfo &>(*camera).getSnapshot()
-                  : Camera::CCameraSnapshot();
+    if (!camera)
+        return {};
+    Camera::CCameraSnapshot snapshot = static_cast<const CCameraInfo &>(*camera).getSnapshot();
+    if (const std::optional<int> percent = d->enumeration->getProgressElsewhere(cameraId))
+        snapshot.statusReason = tr("being updated (%1 %)").arg(*percent);
+    return snapshot;
 }
 
 ECameraActivity CCameraPool::getActivity(const QString &cameraId) const

@@ -11,6 +11,7 @@
 #include <QSharedPointer>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class QImage;
@@ -33,6 +34,10 @@ public:
     /// Each update runs in a process of its own from now on: nuvexcameraworker at the absolute path
     /// @p program, which speaks the @p language. Without a call updates run on threads of this one.
     void setWorker(const QString &program, const QString &language);
+
+    /// Where the log of an update lies, for its journal and the history: asked on the thread of the
+    /// job when that begins. Without a call nobody knows.
+    void setLogFinder(const std::function<QString()> &findLog);
 
     /// Begins the first enumeration. Its result is announced even if no camera is found.
     void start();
@@ -80,6 +85,10 @@ public:
 signals:
     /// GUI thread; the activity or the presence of a camera has changed.
     void activityChanged(const QString &cameraId);
+
+    /// GUI thread; getSnapshot() tells something else of the camera, although no enumeration has
+    /// changed.
+    void snapshotChanged(const QString &cameraId);
 
     /// GUI thread; one frame of an acquiring camera.
     void frameReady(const QString &cameraId, const QImage &frame);

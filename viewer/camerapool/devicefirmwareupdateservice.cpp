@@ -110,6 +110,11 @@ void CDeviceFirmwareUpdateService::setWorker(const QString &program, const QStri
     m_findRemoteCamera = findRemoteCamera;
 }
 
+void CDeviceFirmwareUpdateService::setLogFinder(const std::function<QString()> &findLog)
+{
+    m_findLog = findLog;
+}
+
 std::optional<Update::CWorkerStart>
 CDeviceFirmwareUpdateService::makeWorkerStart(const QString &cameraId,
                                               const Update::CFirmwareUpdateInfo &info) const
@@ -149,9 +154,11 @@ QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDevice
                                                              current->getSerialNumber(),
                                                              own ? own->getSnapshot().ipAddress
                                                                  : QString()};
-    return QSharedPointer<IDeviceFirmwareUpdate>(new Update::CDeviceFirmwareUpdate(
+    const auto job = QSharedPointer<Update::CDeviceFirmwareUpdate>::create(
         description, info, std::move(device), m_activities, m_errors, m_journalFolder,
-        makeWorkerStart(camera->getId(), *info)));
+        makeWorkerStart(camera->getId(), *info));
+    job->setLogFinder(m_findLog);
+    return job;
 }
 
 } // namespace Viewer::CameraPool

@@ -44,6 +44,9 @@ public:
     void setWorker(const QString &program, const QString &language,
                    const RemoteCameraFinder &findRemoteCamera);
 
+    /// See CCameraPool::setLogFinder().
+    void setLogFinder(const std::function<QString()> &findLog);
+
     /// @p factory is borrowed and outlives this object. Jobs keep their journals in
     /// @p journalFolder; empty: nowhere.
     CDeviceFirmwareUpdateService(Camera::ICameraDeviceFactory &factory,
@@ -82,6 +85,7 @@ private:
     QString m_workerProgram; ///< empty: this process
     QString m_workerLanguage;
     RemoteCameraFinder m_findRemoteCamera;
+    std::function<QString()> m_findLog;
     UpdateFile::CUpdateFileCache m_cache;
 };
 

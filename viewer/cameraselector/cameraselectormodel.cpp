@@ -46,6 +46,11 @@ void CCameraSelectorModel::setActivity(const QString &cameraId, Camera::ECameraA
     if (m_activities.value(cameraId, Camera::ECameraActivity::Idle) == activity)
         return;
     m_activities.insert(cameraId, activity);
+    onSnapshotChanged(cameraId);
+}
+
+void CCameraSelectorModel::onSnapshotChanged(const QString &cameraId)
+{
     const QModelIndex index = findId(cameraId);
     if (index.isValid()) {
         const QModelIndex stateIndex = index.siblingAtColumn(StateColumn);

@@ -45,6 +45,9 @@ public:
     /// Shows @p activity for the camera @p cameraId, which need not be in the tree (yet).
     void setActivity(const QString &cameraId, Camera::ECameraActivity activity);
 
+    /// The snapshot function tells something else of the state of the camera.
+    void onSnapshotChanged(const QString &cameraId);
+
     /// The layer or camera at @p index; null for an invalid one.
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IBaseInfo>
     getInfo(const QModelIndex &index) const;

@@ -599,8 +599,8 @@
 <context>
     <name>Viewer::CameraPool::CCameraEnumerationService</name>
     <message>
-        <source>being updated by another viewer</source>
-        <translation>別のビューアーで更新中</translation>
+        <source>being updated</source>
+        <translation>更新中</translation>
     </message>
 </context>
 <context>
@@ -636,6 +636,10 @@
     <message>
         <source>Camera %1 is in use by another application.</source>
         <translation>カメラ %1 は別のアプリケーションで使用中です。</translation>
+    </message>
+    <message>
+        <source>being updated (%1 %)</source>
+        <translation>更新中 (%1 %)</translation>
     </message>
 </context>
 <context>

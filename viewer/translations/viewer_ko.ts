@@ -599,8 +599,8 @@
 <context>
     <name>Viewer::CameraPool::CCameraEnumerationService</name>
     <message>
-        <source>being updated by another viewer</source>
-        <translation>다른 뷰어에서 업데이트 중</translation>
+        <source>being updated</source>
+        <translation>업데이트 중</translation>
     </message>
 </context>
 <context>
@@ -636,6 +636,10 @@
     <message>
         <source>Camera %1 is in use by another application.</source>
         <translation>카메라 %1을(를) 다른 응용 프로그램에서 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>being updated (%1 %)</source>
+        <translation>업데이트 중(%1 %)</translation>
     </message>
 </context>
 <context>

@@ -599,8 +599,8 @@
 <context>
     <name>Viewer::CameraPool::CCameraEnumerationService</name>
     <message>
-        <source>being updated by another viewer</source>
-        <translation>正由其他查看器更新</translation>
+        <source>being updated</source>
+        <translation>正在更新</translation>
     </message>
 </context>
 <context>
@@ -636,6 +636,10 @@
     <message>
         <source>Camera %1 is in use by another application.</source>
         <translation>相机 %1 正被另一个应用程序使用。</translation>
+    </message>
+    <message>
+        <source>being updated (%1 %)</source>
+        <translation>正在更新（%1 %）</translation>
     </message>
 </context>
 <context>

@@ -48,6 +48,11 @@ CDeviceFirmwareUpdate::CDeviceFirmwareUpdate(
 
 CDeviceFirmwareUpdate::~CDeviceFirmwareUpdate() = default;
 
+void CDeviceFirmwareUpdate::setLogFinder(const std::function<QString()> &findLog)
+{
+    m_findLog = findLog;
+}
+
 QSharedPointer<IFirmwareUpdateInfo> CDeviceFirmwareUpdate::getFirmwareUpdateInfo() const
 {
     return m_info;
@@ -189,6 +194,8 @@ CUpdateRecord CDeviceFirmwareUpdate::makeRecord() const
     record.manifestDigest = m_info->getManifestDigest();
     record.stepCount = m_info->getEntry().steps.size();
     record.begin = QDateTime::currentDateTimeUtc();
+    if (m_findLog)
+        record.logPath = m_findLog();
     return record;
 }
 

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -53,6 +54,9 @@ public:
                           const std::optional<CWorkerStart> &worker = std::nullopt);
     ~CDeviceFirmwareUpdate() override;
 
+    /// Before the execution. @p findLog is asked on the thread of that for the path of its log.
+    void setLogFinder(const std::function<QString()> &findLog);
+
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
     getFirmwareUpdateInfo() const override;
     [[nodiscard]] Plugin::CameraPool::EFirmwareUpdateDirection
@@ -88,6 +92,7 @@ private:
     const Text::CErrorText m_outOfMemoryWrittenText;
     const QString m_journalFolder;
     const std::optional<CWorkerStart> m_worker;
+    std::function<QString()> m_findLog;
     std::unique_ptr<Camera::ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;
     mutable std::mutex m_versionMutex;

@@ -79,12 +79,9 @@ void CJournaledRun::finish(EUpdateOutcome outcome, const QString &error) noexcep
     try {
         const CUpdateRecord record
             = m_journal->finish(outcome, hasWritten(), error, getReportedVersion());
-        if (!m_journalFolder.isEmpty()) {
-            const CErrorText fault
-                = CUpdateHistory(CUpdateHistory::getPath(m_journalFolder)).append(record);
-            if (!fault.isEmpty())
-                qCWarning(updateLog).noquote() << fault.getEnglish();
-        }
+        if (const std::optional<CUpdateRecord> replaced = m_journal->getReplaced())
+            CUpdateHistory::add(m_journalFolder, toInterrupted(*replaced));
+        CUpdateHistory::add(m_journalFolder, record);
     } catch (...) {
         qCCritical(updateLog, "the end of an update could not be written into its journal");
     }

@@ -1,5 +1,6 @@
 #include "updatehistory.h"
 
+#include "logging.h"
 #include "viewer/files/fileend.h"
 #include "viewer/files/statefolder.h"
 #include "viewer/json/jsonfault.h"
@@ -83,6 +84,15 @@ QString CUpdateHistory::getDefaultPath()
 {
     const QString folder = Files::getStateFolder(QStringLiteral("updates"));
     return getPath(folder);
+}
+
+void CUpdateHistory::add(const QString &folder, const CUpdateRecord &record)
+{
+    if (folder.isEmpty())
+        return;
+    const CErrorText fault = CUpdateHistory(getPath(folder)).append(record);
+    if (!fault.isEmpty())
+        qCWarning(updateLog).noquote() << fault.getEnglish();
 }
 
 CUpdateHistory::CUpdateHistory(const QString &path)

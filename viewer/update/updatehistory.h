@@ -36,6 +36,9 @@ public:
     /// it.
     [[nodiscard]] static QString getDefaultPath();
 
+    /// Adds @p record to the history in @p folder. What goes wrong is a warning for developers.
+    static void add(const QString &folder, const CUpdateRecord &record);
+
     explicit CUpdateHistory(const QString &path = getDefaultPath());
 
     /// Adds @p record and waits until the disk has it. Says why that failed, in one sentence;

@@ -123,6 +123,18 @@ QByteArray format(const CUpdateRecord &record, int &percentPosition)
 
 enum class ERead { Read, Damaged, Gone };
 
+bool parse(const QByteArray &text, CUpdateRecord &record)
+{
+    try {
+        Json::CJsonScanner scanner(text);
+        record = readUpdateRecord(scanner);
+        scanner.expectEnd();
+        return text.size() <= MAXIMUM_SIZE;
+    } catch (const Json::CJsonFault &) {
+        return false;
+    }
+}
+
 ERead readEntry(const QString &path, CJournalEntry &entry)
 {
     for (;;) {
@@ -141,19 +153,11 @@ ERead readEntry(const QString &path, CJournalEntry &entry)
         if (lock == ELock::Impossible)
             return ERead::Damaged;
         entry.isRunning = lock == ELock::Foreign;
-        const QByteArray text = file.read(MAXIMUM_SIZE + 1);
-        if (text.size() > MAXIMUM_SIZE)
-            return ERead::Damaged;
-        try {
-            Json::CJsonScanner scanner(text);
-            entry.record = readUpdateRecord(scanner);
-            scanner.expectEnd();
-        } catch (const Json::CJsonFault &) {
-            return ERead::Damaged;
-        }
         // Under another name nobody would find it again.
-        return getPath(QFileInfo(path).path(), entry.record.cameraId) == path ? ERead::Read
-                                                                              : ERead::Damaged;
+        return parse(file.read(MAXIMUM_SIZE + 1), entry.record)
+                && getPath(QFileInfo(path).path(), entry.record.cameraId) == path
+            ? ERead::Read
+            : ERead::Damaged;
     }
 }
 
@@ -165,16 +169,38 @@ CUpdateJournal::CUpdateJournal(const QString &folder, const CUpdateRecord &recor
     if (folder.isEmpty())
         return;
     m_path = getPath(folder, record.cameraId);
-    if (lock(folder))
-        save();
+    if (!lock(folder))
+        return;
+    readLeftBehind();
+    save();
 }
 
 CUpdateJournal::~CUpdateJournal()
 {
-    if (m_isFinished && m_file >= 0)
-        removeFiles(m_path);
+    if (m_isFinished && m_file >= 0) {
+        if (m_leftBehind && !getReplaced()) {
+            m_record = *m_leftBehind;
+            save();
+        } else {
+            removeFiles(m_path);
+        }
+    }
     if (m_file >= 0)
         close(m_file);
+}
+
+void CUpdateJournal::readLeftBehind()
+{
+    QFile file;
+    if (!file.open(m_file, QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return;
+    CUpdateRecord record;
+    if (!parse(file.read(MAXIMUM_SIZE + 1), record) || record.cameraId != m_record.cameraId
+        || record.outcome != EUpdateOutcome::Running || !record.hasWritten)
+        return;
+    m_leftBehind = record;
+    // What it has changed is still so should this process end before its own first write.
+    m_record.hasWritten = true;
 }
 
 bool CUpdateJournal::isForeign() const
@@ -196,6 +222,12 @@ void CUpdateJournal::beginWriting()
         return;
     m_record.hasWritten = true;
     save();
+}
+
+std::optional<CUpdateRecord> CUpdateJournal::getReplaced() const
+{
+    return m_record.hasWritten || m_record.outcome == EUpdateOutcome::Updated ? m_leftBehind
+                                                                              : std::nullopt;
 }
 
 void CUpdateJournal::setPercent(int percent)

@@ -6,6 +6,7 @@
 #include <QVector>
 
 #include <chrono>
+#include <optional>
 
 namespace Viewer::Update {
 
@@ -19,8 +20,9 @@ public:
     /// place of one that an update left behind. An empty folder: nothing is kept.
     CUpdateJournal(const QString &folder, const CUpdateRecord &record);
 
-    /// Removes the file of an update that has finished; any other stays, as of a process that
-    /// ended.
+    /// Removes the file of an update that has finished, or puts the one back that was left behind
+    /// where this update has not come to change the camera. That of an update that has not finished
+    /// stays, as of a process that ended.
     ~CUpdateJournal();
     Q_DISABLE_COPY(CUpdateJournal)
 
@@ -42,13 +44,19 @@ public:
     CUpdateRecord finish(EUpdateOutcome outcome, bool hasWritten, const QString &error,
                          const QString &reportedVersion);
 
+    /// After finish(): the update that was interrupted in the middle of its writing, and whose
+    /// place this one has taken for good. Nothing: there was none.
+    [[nodiscard]] std::optional<CUpdateRecord> getReplaced() const;
+
 private:
+    void readLeftBehind();
     [[nodiscard]] bool lock(const QString &folder);
     void save();
     [[nodiscard]] int replace(const QByteArray &text);
     void warn(int error);
 
     CUpdateRecord m_record;
+    std::optional<CUpdateRecord> m_leftBehind; ///< of an update that had begun to write
     QString m_path; ///< empty: nothing is kept
     int m_file = -1; ///< of the file at the path, locked; -1: none
     int m_percentPosition = -1; ///< in the file; -1: it does not hold this record

@@ -91,6 +91,19 @@ bool readText(CJsonScanner &scanner, const QString &name, CUpdateRecord &record)
 
 } // namespace
 
+int getTotalPercent(const CUpdateRecord &record)
+{
+    if (record.step == 0 || record.stepCount < record.step)
+        return 0;
+    return ((record.step - 1) * 100 + record.percent) / record.stepCount;
+}
+
+CUpdateRecord toInterrupted(CUpdateRecord record)
+{
+    record.outcome = EUpdateOutcome::Interrupted;
+    return record;
+}
+
 QByteArray toJson(const CUpdateRecord &record)
 {
     QJsonObject object{

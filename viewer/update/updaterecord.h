@@ -43,6 +43,13 @@ struct CUpdateRecord
     QString logPath; ///< empty: unknown
 };
 
+/// How many percent of its steps the update has behind itself, 0 to 100.
+[[nodiscard]] int getTotalPercent(const CUpdateRecord &record);
+
+/// What the history keeps of @p record, whose process ended in the middle of it. When that was,
+/// nobody knows.
+[[nodiscard]] CUpdateRecord toInterrupted(CUpdateRecord record);
+
 /// One line of JSON, without a line end.
 [[nodiscard]] QByteArray toJson(const CUpdateRecord &record);
 

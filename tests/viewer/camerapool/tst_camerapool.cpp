@@ -228,13 +228,21 @@ void CCameraPoolTest::leavesWhatAnotherViewerUpdatesAlone()
     CUpdateRecord record;
     record.cameraId = FIRST_ID;
     record.begin = QDateTime::currentDateTimeUtc();
+    record.stepCount = 4;
     auto other = std::make_unique<CUpdateJournal>(m_folder->filePath("updates"), record);
     getService<ICameraEnumerationService>()->refreshEnumeration();
     QTRY_COMPARE(m_announced->count(), 2);
     QCOMPARE(find(FIRST_ID)->getCameraStatusCode(), 1002);
-    QCOMPARE(m_pool->getSnapshot(FIRST_ID).statusReason,
-             QString("being updated by another viewer"));
+    const auto getReason = [this] { return m_pool->getSnapshot(FIRST_ID).statusReason; };
+    QCOMPARE(getReason(), QString("being updated (0 %)"));
     QCOMPARE(find(SECOND_ID)->getCameraStatusCode(), 0);
+    const QSignalSpy changes(m_pool.get(), &CCameraPool::snapshotChanged);
+    for (int step = 1; step <= 3; ++step)
+        other->beginStep("FileUpload");
+    other->setPercent(52);
+    QTRY_COMPARE(getReason(), QString("being updated (63 %)"));
+    QCOMPARE(changes.last().value(0).toString(), FIRST_ID);
+    QCOMPARE(m_announced->count(), 2);
     // Nobody has to search again for its end.
     other.reset();
     QTRY_COMPARE(find(FIRST_ID)->getCameraStatusCode(), 0);

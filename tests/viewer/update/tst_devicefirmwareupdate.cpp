@@ -10,6 +10,7 @@
 #include "viewer/update/firmwareupdateinfo.h"
 #include "viewer/update/progressthrottle.h"
 #include "viewer/update/updateestimate.h"
+#include "viewer/update/updatehistory.h"
 #include "viewer/update/updatejournal.h"
 #include "viewer/updatefile/updatefilereader.h"
 
@@ -166,10 +167,12 @@ QSharedPointer<CDeviceFirmwareUpdate>
 CDeviceFirmwareUpdateTest::makeJob(const QString &journalFolder) const
 {
     const auto manifest = QSharedPointer<CUpdateManifest>::create(m_manifest);
-    return QSharedPointer<CDeviceFirmwareUpdate>(new CDeviceFirmwareUpdate(
+    QSharedPointer<CDeviceFirmwareUpdate> job(new CDeviceFirmwareUpdate(
         {"id", CAMERA_NAME, "1.2.0", "VX-1400M", "40012345", "10.0.0.1"},
         QSharedPointer<CFirmwareUpdateInfo>::create(manifest, 0, m_path),
         std::make_unique<CScriptedDevice>(m_script), m_activities, nullptr, journalFolder));
+    job->setLogFinder([] { return QString("/logs/a.log"); });
+    return job;
 }
 
 void CDeviceFirmwareUpdateTest::verifyFailure(const QString &cause, bool written,
@@ -438,6 +441,25 @@ void CDeviceFirmwareUpdateTest::keepsAJournal()
                      "execute 5/7 FeatureExecute written, reset 6/7 DeviceReset written, "
                      "read 7/7 FeatureAssert written"));
     QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList("history.jsonl"));
+    const auto getHistory
+        = [&folder] { return CUpdateHistory(CUpdateHistory::getPath(folder)).read().records; };
+    QCOMPARE(getHistory().value(0).logPath, QString("/logs/a.log"));
+
+    // An interrupted update is told until another one has written to the camera.
+    CUpdateRecord leftBehind;
+    leftBehind.cameraId = "id";
+    leftBehind.begin = QDateTime::currentDateTimeUtc();
+    CUpdateJournal(folder, leftBehind).beginWriting();
+    init();
+    m_script->features["DeviceModelName"] = "VX-2";
+    verifyFailure("VX-2", false, makeJob(folder));
+    QVERIFY(readJournals(folder).entries.value(0).record.hasWritten);
+    init();
+    makeJob(folder)->executeFirmwareUpdate();
+    QVERIFY(readJournals(folder).entries.isEmpty());
+    QCOMPARE(getHistory().value(0).outcome, EUpdateOutcome::Updated);
+    QCOMPARE(getHistory().value(1).outcome, EUpdateOutcome::Interrupted);
+    QCOMPARE(getHistory().size(), 4);
 
     init();
     CUpdateRecord other;
