@@ -1,12 +1,12 @@
-#include "viewer/appcore/closesignals.h"
 #include "viewer/appcore/commandline.h"
 #include "viewer/appcore/languagefont.h"
 #include "viewer/appcore/logfolder.h"
 #include "viewer/appcore/startguard.h"
 #include "viewer/appcore/viewer.h"
+#include "viewer/commandline/spokencommandline.h"
 #include "viewer/demo/wizarddemo.h"
 #include "viewer/files/statefolder.h"
-#include "viewer/text/language.h"
+#include "viewer/process/closesignals.h"
 
 #include "core/baseexception.h"
 
@@ -21,7 +21,6 @@
 #include <utility>
 
 using namespace Viewer;
-using Text::CLanguage;
 
 static constexpr int USAGE_ERROR = 2;
 
@@ -37,25 +36,7 @@ static void setNames()
     QCoreApplication::setApplicationVersion(QStringLiteral(VIEWER_VERSION));
 }
 
-// The language is known only when the command line has been read, and what reading it says is to be
-// in that language: it is read once more where it asks for another one than the remembered or the
-// desktop's.
-static AppCore::CCommandLine::EResult
-readCommandLine(std::unique_ptr<AppCore::CCommandLine> &commandLine,
-                std::unique_ptr<CLanguage> &language)
-{
-    const QString usual = CLanguage::choose({});
-    language = std::make_unique<CLanguage>(usual);
-    commandLine = std::make_unique<AppCore::CCommandLine>();
-    const auto result = commandLine->parse(QCoreApplication::arguments());
-    const QString asked = CLanguage::choose(commandLine->getLanguage());
-    if (asked == usual)
-        return result;
-    language.reset();
-    language = std::make_unique<CLanguage>(asked);
-    commandLine = std::make_unique<AppCore::CCommandLine>();
-    return commandLine->parse(QCoreApplication::arguments());
-}
+using CSpokenCommandLine = CommandLine::CSpokenCommandLine<AppCore::CCommandLine>;
 
 static bool asksForMessage(int argc, char **argv)
 {
@@ -84,14 +65,13 @@ static bool hasDisplay(int argc, char **argv)
 static std::optional<int> answerWithoutDisplay(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    std::unique_ptr<CLanguage> language;
-    std::unique_ptr<AppCore::CCommandLine> commandLine;
-    switch (readCommandLine(commandLine, language)) {
+    const CSpokenCommandLine commandLine;
+    switch (commandLine.getResult()) {
     case AppCore::CCommandLine::EResult::Message:
-        std::fprintf(stdout, "%s\n", qUtf8Printable(commandLine->getMessage()));
+        std::fprintf(stdout, "%s\n", qUtf8Printable(commandLine.getReader().getMessage()));
         return EXIT_SUCCESS;
     case AppCore::CCommandLine::EResult::Error:
-        printError(commandLine->getMessage());
+        printError(commandLine.getReader().getMessage());
         return USAGE_ERROR;
     case AppCore::CCommandLine::EResult::Start:
         break;
@@ -109,12 +89,12 @@ static int runViewer(AppCore::CCommandLineOptions options, const QString &langua
                      AppCore::CLogFolder &logs)
 {
     // From here on a signal closes the window, which waits for updates.
-    const AppCore::CCloseSignals closeSignals;
+    const Process::CCloseSignals closeSignals;
     logs.open();
     const QString samplesDirectory = options.samplesDirectory;
     const QString demoDirectory = options.demoDirectory;
     AppCore::CViewer viewer(std::move(options), language, &logs);
-    QObject::connect(&closeSignals, &AppCore::CCloseSignals::closeRequested, &viewer,
+    QObject::connect(&closeSignals, &Process::CCloseSignals::closeRequested, &viewer,
                      &AppCore::CViewer::requestClose);
     QObject::connect(&viewer, &AppCore::CViewer::closeDeferred, printError);
     QStringList failures;
@@ -169,20 +149,18 @@ int main(int argc, char **argv)
     }
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
-    std::unique_ptr<CLanguage> language;
-    std::unique_ptr<AppCore::CCommandLine> commandLine;
-    if (readCommandLine(commandLine, language) != AppCore::CCommandLine::EResult::Start) {
-        printError(commandLine->getMessage());
+    const CSpokenCommandLine commandLine;
+    if (commandLine.getResult() != AppCore::CCommandLine::EResult::Start) {
+        printError(commandLine.getReader().getMessage());
         return USAGE_ERROR;
     }
-    const QString languageCode = CLanguage::choose(commandLine->getLanguage());
-    AppCore::CCommandLineOptions options = commandLine->takeOptions();
+    AppCore::CCommandLineOptions options = commandLine.getReader().takeOptions();
     for (const std::unique_ptr<Camera::ICameraKind> &kind : options.kinds)
         kind->setDataFolder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     options.journalFolder = Files::getStateFolder(QStringLiteral("updates"));
-    AppCore::chooseLanguageFont(languageCode);
+    AppCore::chooseLanguageFont(commandLine.getLanguage());
     try {
-        return runViewer(std::move(options), languageCode, logs);
+        return runViewer(std::move(options), commandLine.getLanguage(), logs);
     } catch (const Core::Exception::BaseException &exception) {
         printError(exception.getMessage());
         return EXIT_FAILURE;

@@ -56,7 +56,9 @@ QVector<COption> CCommandLine::getOptions()
          tr("Use <dir> as the folder of sample update files."),
          CommandLine::takePath(m_options.samplesDirectory)},
         {QStringLiteral("demo"), tr("dir"),
-         tr("Walk through the firmware update wizard, save pictures into <dir> and quit."),
+         tr("Walk through the firmware update wizard, faster than real cameras would, save "
+            "pictures "
+            "into <dir> and quit."),
          CommandLine::takePath(m_options.demoDirectory),
          tr("No folder is given for the demonstration's pictures.")},
     };

@@ -2,8 +2,8 @@
 
 #include "modaldialogwatcher.h"
 #include "textdialog.h"
-#include "updatehistorymodel.h"
 #include "updatehistorysorter.h"
+#include "viewer/update/updatehistorymodel.h"
 
 #include "viewer/files/replacefile.h"
 #include "viewer/text/csv.h"
@@ -23,6 +23,7 @@
 namespace Viewer::AppCore {
 
 using Update::CUpdateHistory;
+using Update::CUpdateHistoryModel;
 using Update::CUpdateRecord;
 
 static constexpr int MAXIMUM_COLUMN_WIDTH = 24; // letters; of all columns but the camera's
@@ -161,18 +162,9 @@ void CUpdateHistoryDialog::exportTo(const QString &path)
 
 QByteArray CUpdateHistoryDialog::getCsv() const
 {
-    QVector<QStringList> rows(m_sorter->rowCount() + 1);
-    for (int column = 0; column < m_sorter->columnCount(); ++column) {
-        rows[0].append(m_sorter->headerData(column, Qt::Horizontal).toString());
-        for (int row = 0; row < m_sorter->rowCount(); ++row) {
-            const QModelIndex index = m_sorter->index(row, column);
-            // With the seconds, and as spreadsheets of all languages read it.
-            rows[row + 1].append(column == CUpdateHistoryModel::TimeColumn
-                                     ? getRecord(index).begin.toLocalTime().toString(
-                                         QStringLiteral("yyyy-MM-dd HH:mm:ss"))
-                                     : index.data().toString());
-        }
-    }
+    QVector<QStringList> rows{m_model->getExportedHeader()};
+    for (int row = 0; row < m_sorter->rowCount(); ++row)
+        rows.append(m_model->getExportedRow(m_sorter->mapToSource(m_sorter->index(row, 0)).row()));
     return Text::toCsv(rows);
 }
 

@@ -8,9 +8,12 @@
 
 class QModelIndex;
 
+namespace Viewer::Update {
+class CUpdateHistoryModel;
+}
+
 namespace Viewer::AppCore {
 
-class CUpdateHistoryModel;
 class CUpdateHistorySorter;
 
 /// Lists the updates that have ended, shows the log of one, and writes those that it shows, in the
@@ -40,7 +43,7 @@ private:
     [[nodiscard]] QString getLogPath(const QModelIndex &shown) const;
     [[nodiscard]] const Update::CUpdateRecord &getRecord(const QModelIndex &shown) const;
 
-    CUpdateHistoryModel *const m_model;
+    Update::CUpdateHistoryModel *const m_model;
     CUpdateHistorySorter *const m_sorter;
     QPushButton *const m_logButton;
     QPushButton *const m_exportButton;

@@ -1,6 +1,6 @@
 #include "updatehistorysorter.h"
 
-#include "updatehistorymodel.h"
+#include "viewer/update/updatehistorymodel.h"
 
 namespace Viewer::AppCore {
 
@@ -9,7 +9,7 @@ CUpdateHistorySorter::CUpdateHistorySorter(const QLocale &locale, QObject *paren
     , m_collator(locale)
 {
     m_collator.setNumericMode(true);
-    setSortRole(CUpdateHistoryModel::SortRole);
+    setSortRole(Update::CUpdateHistoryModel::SortRole);
     setFilterKeyColumn(-1); // any
     setFilterCaseSensitivity(Qt::CaseInsensitive);
 }

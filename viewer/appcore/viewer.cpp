@@ -23,6 +23,7 @@
 #include "viewer/cameraselector/deviceselectorservice.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
+#include "viewer/process/workerpath.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -51,13 +52,6 @@ static QString withoutMnemonic(QString text)
 }
 
 static constexpr int NEXT_REASON_TIME = 1000; // milliseconds
-
-// Beside the folder of the programs, since nobody else starts it.
-static QString getWorkerPath()
-{
-    return QDir::cleanPath(QCoreApplication::applicationDirPath()
-                           + QStringLiteral("/../libexec/nuvexcameraworker"));
-}
 
 /// The kinds with their switches as the user left them. A search by broadcast, for example, reaches
 /// devices of others: it is asked for, now or once for all.
@@ -93,7 +87,7 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
         m_linkOpener->addFolder(m_logs->getRoot());
     }
     m_linkOpener->addFolder(m_options.samplesDirectory);
-    m_pool->setWorker(getWorkerPath(), language);
+    m_pool->setWorker(Process::getWorkerPath(), language);
     if (m_logs)
         m_pool->setLogFinder([this] { return m_logs->findOwnLog(); });
     createWindow();

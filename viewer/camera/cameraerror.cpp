@@ -17,9 +17,9 @@ CCameraError::CCameraError(const CErrorText &text, EChange change)
 
 CCameraError::~CCameraError() = default;
 
-CCameraError CCameraError::fromText(const CErrorText &text)
+CCameraError CCameraError::fromText(const CErrorText &text, EChange change)
 {
-    return {text, EChange::Possible};
+    return {text, change};
 }
 
 CErrorText CCameraError::getText() const

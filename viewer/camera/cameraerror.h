@@ -15,6 +15,7 @@ public:
     enum class EChange {
         Possible, ///< it may have been carried out, as a whole or in part
         None, ///< it was refused, or never sent
+        InUse, ///< nothing either: somebody else works with the camera
     };
 
     /// "Camera <name>: <cause>"
@@ -23,7 +24,8 @@ public:
     ~CCameraError() override;
 
     /// An error of another process, complete with the camera's name.
-    [[nodiscard]] static CCameraError fromText(const Text::CErrorText &text);
+    [[nodiscard]] static CCameraError fromText(const Text::CErrorText &text,
+                                               EChange change = EChange::Possible);
 
     /// The message, also in the user's language.
     [[nodiscard]] Text::CErrorText getText() const;

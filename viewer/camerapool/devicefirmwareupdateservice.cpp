@@ -5,6 +5,7 @@
 #include "viewer/camera/icameradevicefactory.h"
 #include "viewer/camera/icamerahandle.h"
 #include "viewer/update/devicefirmwareupdate.h"
+#include "viewer/update/entryfit.h"
 #include "viewer/update/firmwareupdateinfo.h"
 #include "viewer/updatefile/firmwareversion.h"
 
@@ -22,14 +23,6 @@ using Core::Exception::BaseException;
 using Plugin::CameraPool::ICameraInfo;
 using Plugin::CameraPool::IDeviceFirmwareUpdate;
 using Plugin::CameraPool::IFirmwareUpdateInfo;
-
-static bool fits(const ICameraInfo &camera, const UpdateFile::CUpdateEntry &entry)
-{
-    return entry.models.contains(camera.getModelName())
-        && (entry.deviceVersions.isEmpty()
-            || entry.deviceVersions.contains(camera.getDeviceVersion()))
-        && !UpdateFile::isBelow(camera.getFirmwareVersion(), entry.minimumVersion);
-}
 
 /// Unreadable versions come last; a stable order for a stable sort.
 static bool isNewer(const QSharedPointer<IFirmwareUpdateInfo> &left,
@@ -95,7 +88,7 @@ bool CDeviceFirmwareUpdateService::getCompatibleFirmwareUpdates(
         return true;
     for (const QSharedPointer<IFirmwareUpdateInfo> &info : all) {
         const auto *const own = dynamic_cast<const Update::CFirmwareUpdateInfo *>(info.data());
-        if (own && fits(*camera, own->getEntry()))
+        if (own && Update::findMisfit(*camera, own->getEntry()).isEmpty())
             compatible.append(info);
     }
     std::stable_sort(compatible.begin(), compatible.end(), isNewer);

@@ -92,6 +92,7 @@ CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
     } catch (const std::bad_alloc &) {
         return CErrorText::tr("out of memory");
     } catch (const CCameraError &error) {
+        m_isInUse = error.getChange() == CCameraError::EChange::InUse;
         return error.getText();
     } catch (const UpdateFile::CUpdateFileError &error) {
         return error.getText();
@@ -178,6 +179,7 @@ CWorkerEvent CCameraUpdate::makeFailure(const CErrorText &error) const
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::Failed);
     event.error = error.getEnglish();
     event.localizedError = error.getLocalized();
+    event.isInUse = m_isInUse;
     return event;
 }
 

@@ -50,6 +50,7 @@ private:
     int m_step = -1; ///< the current one, from 0
     std::chrono::milliseconds m_patience{0}; ///< until the next event
     std::chrono::milliseconds m_limit{0}; ///< of the current step, with what a library gets beyond
+    bool m_isInUse = false; ///< somebody else works with the camera
     std::unique_ptr<Camera::ICameraDevice> m_device;
     std::unique_ptr<Update::IUpdateRun> m_run;
     std::atomic<bool> m_mayHaveWritten{false}; ///< known to the watchdog's thread

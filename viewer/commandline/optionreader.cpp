@@ -28,6 +28,13 @@ void COptionReader::allowPositionals()
     m_allowsPositionals = true;
 }
 
+void COptionReader::addPositional(const QString &name, const QString &description,
+                                  const QString &syntax)
+{
+    m_allowsPositionals = true;
+    m_parser.addPositionalArgument(name, description, syntax);
+}
+
 COptionReader::EResult COptionReader::parse(const QStringList &arguments)
 {
     const bool isUnderstood = m_parser.parse(arguments);

@@ -31,6 +31,9 @@ public:
     /// Without this call there may be no arguments but options.
     void allowPositionals();
 
+    /// The same, and --help shows one more of them. @p syntax: how it stands in the line of usage.
+    void addPositional(const QString &name, const QString &description, const QString &syntax);
+
     /// Reads @p arguments, of which the first is the program's name. Needs an application object.
     /// Where several values are no good, the first one in the table is told.
     [[nodiscard]] EResult parse(const QStringList &arguments);

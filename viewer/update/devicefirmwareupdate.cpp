@@ -53,6 +53,11 @@ void CDeviceFirmwareUpdate::setLogFinder(const std::function<QString()> &findLog
     m_findLog = findLog;
 }
 
+bool CDeviceFirmwareUpdate::isCameraInUse() const
+{
+    return m_isCameraInUse;
+}
+
 QSharedPointer<IFirmwareUpdateInfo> CDeviceFirmwareUpdate::getFirmwareUpdateInfo() const
 {
     return m_info;
@@ -157,17 +162,19 @@ CErrorText CDeviceFirmwareUpdate::attempt(std::unique_ptr<IUpdateRun> &run, bool
         emit firmwareUpdateBegin(
             m_info, toUnsigned(estimateEntry(m_info->getEntry(), m_device->getUploadRate())));
         if (other == Camera::ECameraActivity::Updating)
-            throw Camera::CCameraError(m_camera.name,
-                                       CErrorText::tr("it is already being updated"));
+            throw Camera::CCameraError(m_camera.name, CErrorText::tr("it is already being updated"),
+                                       Camera::CCameraError::EChange::InUse);
         if (!claimed)
             throw Camera::CCameraError(
                 m_camera.name,
                 CErrorText::tr("it is acquiring images; stop that and start the "
-                               "update again"));
+                               "update again"),
+                Camera::CCameraError::EChange::InUse);
         run->execute();
     } catch (const std::bad_alloc &) {
         throw;
     } catch (const Camera::CCameraError &error) {
+        m_isCameraInUse = error.getChange() == Camera::CCameraError::EChange::InUse;
         return getErrorText(error.getText(), run->hasWritten());
     } catch (const Core::Exception::BaseException &exception) {
         return getErrorText(CErrorText(exception.getMessage()), run->hasWritten());

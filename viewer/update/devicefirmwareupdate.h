@@ -57,6 +57,10 @@ public:
     /// Before the execution. @p findLog is asked on the thread of that for the path of its log.
     void setLogFinder(const std::function<QString()> &findLog);
 
+    /// After the execution: the camera was not touched, since somebody else works with it. Any
+    /// thread.
+    [[nodiscard]] bool isCameraInUse() const;
+
     [[nodiscard]] QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>
     getFirmwareUpdateInfo() const override;
     [[nodiscard]] Plugin::CameraPool::EFirmwareUpdateDirection
@@ -95,6 +99,7 @@ private:
     std::function<QString()> m_findLog;
     std::unique_ptr<Camera::ICameraDevice> m_device; // until the execution has ended
     std::atomic<bool> m_executed = false;
+    std::atomic<bool> m_isCameraInUse = false;
     mutable std::mutex m_versionMutex;
     QString m_firmwareVersion;
 };

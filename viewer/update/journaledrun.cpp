@@ -28,7 +28,7 @@ void CJournaledRun::execute()
     if (m_journal->isForeign())
         throw Camera::CCameraError(m_record.cameraName,
                                    CErrorText::tr("it is already being updated"),
-                                   Camera::CCameraError::EChange::None);
+                                   Camera::CCameraError::EChange::InUse);
     try {
         m_run->execute();
     } catch (const std::exception &exception) {

@@ -16,6 +16,7 @@ static const QString PERCENT = QStringLiteral("percent");
 static const QString CAMERA = QStringLiteral("camera");
 static const QString ERROR_TEXT = QStringLiteral("error");
 static const QString LOCALIZED_ERROR = QStringLiteral("localizedError");
+static const QString IN_USE = QStringLiteral("inUse");
 static const QString HAS_WRITTEN = QStringLiteral("hasWritten");
 static const QString VERSION = QStringLiteral("version");
 
@@ -41,6 +42,7 @@ QCborMap CWorkerEvent::toCbor() const
     case EType::Failed:
         map.insert(ERROR_TEXT, error);
         map.insert(LOCALIZED_ERROR, localizedError);
+        map.insert(IN_USE, isInUse);
         Q_FALLTHROUGH();
     case EType::Done:
         map.insert(CAMERA, camera);
@@ -69,6 +71,7 @@ std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
     event.camera = map.value(CAMERA).toMap();
     event.error = map.value(ERROR_TEXT).toString();
     event.localizedError = map.value(LOCALIZED_ERROR).toString();
+    event.isInUse = map.value(IN_USE).toBool();
     event.hasWritten = map.value(HAS_WRITTEN).toBool(true);
     event.version = map.value(VERSION).toString();
     if (event.type == EType::Hello && map.value(PROTOCOL).toInteger(-1) != CWorkerTask::PROTOCOL)

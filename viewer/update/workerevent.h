@@ -27,6 +27,7 @@ struct CWorkerEvent
     double percent = 0; ///< StepProgressed, 0 to 100
     QString error; ///< Failed: English, one line
     QString localizedError; ///< Failed: the same in the language of the task
+    bool isInUse = false; ///< Failed: since somebody else works with the camera
     bool hasWritten = false; ///< the camera has, or may have, changed
     QCborMap camera; ///< Done and Failed: by ICameraKind::describeMade(); may be empty
     QString version; ///< that the camera reported last; empty: it was not asked

@@ -86,7 +86,9 @@ void CWorkerRun::execute()
         m_start.camera->end(state);
         if (last.type == CWorkerEvent::EType::Failed)
             throw Camera::CCameraError::fromText(
-                CErrorText::fromBoth(last.error, last.localizedError));
+                CErrorText::fromBoth(last.error, last.localizedError),
+                last.isInUse ? Camera::CCameraError::EChange::InUse
+                             : Camera::CCameraError::EChange::Possible);
     } catch (...) {
         if (process.state() != QProcess::NotRunning) {
             process.kill();

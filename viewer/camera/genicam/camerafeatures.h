@@ -18,6 +18,7 @@ public:
     enum class EReason {
         NoAnswer, ///< the camera may be gone; what it was asked may be done
         Refused, ///< what it was asked is not done
+        InUse, ///< the same, since somebody else controls it
         Unknown, ///< it answers, but what was to be done may be done, or in part
     };
 

@@ -109,7 +109,7 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadl
         throw CFeatureError(CErrorText::tr("it could not be opened"),
                             CFeatureError::EReason::NoAnswer);
     if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
-        throw CFeatureError(getInUseText(), CFeatureError::EReason::Refused);
+        throw CFeatureError(getInUseText(), CFeatureError::EReason::InUse);
     return device;
 }
 
@@ -291,16 +291,27 @@ CFeatures CGenICamDevice::getFeatures() const
     return CFeatures(m_device.get());
 }
 
+static CCameraError::EChange toChange(CFeatureError::EReason reason)
+{
+    switch (reason) {
+    case CFeatureError::EReason::InUse:
+        return CCameraError::EChange::InUse;
+    case CFeatureError::EReason::Refused:
+        return CCameraError::EChange::None;
+    case CFeatureError::EReason::NoAnswer:
+    case CFeatureError::EReason::Unknown:
+        break;
+    }
+    return CCameraError::EChange::Possible;
+}
+
 template <typename Action>
 std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
 {
     try {
         return action();
     } catch (const CFeatureError &error) {
-        fail(error.getText(),
-             error.getReason() == CFeatureError::EReason::Refused
-                 ? CCameraError::EChange::None
-                 : CCameraError::EChange::Possible);
+        fail(error.getText(), toChange(error.getReason()));
     }
 }
 
@@ -308,7 +319,8 @@ void CGenICamDevice::fail(const CErrorText &cause, CCameraError::EChange change)
 {
     const CCameraError error(getName(), cause, change);
     qCDebug(genICamLog).noquote() << error.getMessage()
-                                  << (change == CCameraError::EChange::None ? "(unchanged)" : "");
+                                  << (change == CCameraError::EChange::Possible ? ""
+                                                                                : "(unchanged)");
     throw error;
 }
 

@@ -79,7 +79,7 @@ QByteArray CMemoryReader::readBlock(quint32 address, quint16 size)
             continue;
         const quint16 status = readHalfWord(answer, 0);
         if (status == ACCESS_DENIED)
-            throw CFeatureError(getInUseText(), CFeatureError::EReason::Refused);
+            throw CFeatureError(getInUseText(), CFeatureError::EReason::InUse);
         if (status != 0 || answer.size() != HEADER_SIZE + 4 + size)
             throw CFeatureError(CErrorText::tr("its feature description could not be read"),
                                 CFeatureError::EReason::Refused);

@@ -88,7 +88,7 @@ void CSimulatedCamera::setBusy(bool busy)
     notify();
 }
 
-CSimulatedCamera::Session CSimulatedCamera::connect(CErrorText &cause)
+CSimulatedCamera::Session CSimulatedCamera::connect(CErrorText &cause, bool &isInUse)
 {
     const std::lock_guard lock(m_mutex);
     if (!m_plugged || m_restarting)
@@ -101,6 +101,7 @@ CSimulatedCamera::Session CSimulatedCamera::connect(CErrorText &cause)
         cause = CErrorText::tr("it is already being updated");
     else
         m_session = ++m_lastSession;
+    isInUse = !cause.isEmpty() && m_plugged && !m_restarting;
     return cause.isEmpty() ? m_session : 0;
 }
 

@@ -57,8 +57,9 @@ public:
     [[nodiscard]] bool isBusy() const;
     void setBusy(bool busy);
 
-    /// Begins a session, or says in @p cause why there is none.
-    [[nodiscard]] Session connect(Text::CErrorText &cause);
+    /// Begins a session, or says in @p cause why there is none, and in @p isInUse whether that is
+    /// because somebody else has one.
+    [[nodiscard]] Session connect(Text::CErrorText &cause, bool &isInUse);
     void disconnect(Session session);
     [[nodiscard]] bool isConnected(Session session) const;
 

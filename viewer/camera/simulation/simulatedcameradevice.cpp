@@ -60,9 +60,10 @@ void CSimulatedCameraDevice::open(milliseconds timeLimit)
     if (m_session != 0)
         fail(CErrorText::tr("it is already open"));
     CErrorText cause;
-    m_session = m_camera->connect(cause);
+    bool isInUse = false;
+    m_session = m_camera->connect(cause, isInUse);
     if (m_session == 0)
-        fail(cause);
+        fail(cause, isInUse ? EChange::InUse : EChange::None);
     m_features.clear();
     m_image.clear();
     m_activatedVersion.clear();

@@ -43,7 +43,8 @@ void CSimulatedCameraHandle::begin()
 {
     // A camera that cannot be had now says so in the other process, in the words of a device.
     Text::CErrorText ignored;
-    m_session = m_camera->connect(ignored);
+    bool isInUse = false;
+    m_session = m_camera->connect(ignored, isInUse);
 }
 
 bool CSimulatedCameraHandle::isLost() const

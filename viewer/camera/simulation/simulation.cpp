@@ -85,9 +85,7 @@ QVector<CommandLine::COption> CSimulation::getOptions()
          tr("Forget the firmware that earlier updates wrote to the simulated cameras."),
          CommandLine::takeSwitch(m_options.forgets)},
         {QStringLiteral("speed"), tr("n"),
-         tr("Let the simulated cameras work <n> times as fast as real ones (default 1; with --demo "
-            "%1).")
-             .arg(DEMONSTRATION_SPEED),
+         tr("Let the simulated cameras work <n> times as fast as real ones (default 1)."),
          takeSpeed, tr("The speed \"%1\" is not a number from 0.01 to 10000.")},
         {QStringLiteral("no-simulation"),
          {},

@@ -9,7 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace Viewer::AppCore {
+namespace Viewer::Process {
 
 static std::atomic<int> writeEnd{-1};
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler must not lock");
@@ -27,7 +27,7 @@ static void handleSignal(int)
 CCloseSignals::CCloseSignals(QObject *parent)
     : QObject(parent)
 {
-    // Who reads the messages may end before the viewer does, above all with the terminal.
+    // Who reads the messages may end before the program does, above all with the terminal.
     struct sigaction action = {};
     action.sa_handler = SIG_IGN;
     sigaction(SIGPIPE, &action, &m_previousPipe);
@@ -35,7 +35,7 @@ CCloseSignals::CCloseSignals(QObject *parent)
     int ends[2] = {-1, -1};
     if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
         throw Core::Exception::BaseException(
-            QStringLiteral("The viewer cannot make a pipe: %1").arg(qt_error_string(errno)));
+            QStringLiteral("There is no pipe for signals: %1").arg(qt_error_string(errno)));
     m_readEnd = ends[0];
     writeEnd = ends[1];
     m_notifier = std::make_unique<QSocketNotifier>(m_readEnd, QSocketNotifier::Read);
@@ -68,4 +68,4 @@ void CCloseSignals::onReadable()
     emit closeRequested();
 }
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Process

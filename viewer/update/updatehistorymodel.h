@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
-namespace Viewer::AppCore {
+namespace Viewer::Update {
 
 /// Updates that have ended as a table, one row each.
 class CUpdateHistoryModel : public QAbstractTableModel
@@ -31,11 +31,18 @@ public:
     };
 
     /// Times are written as in @p locale.
-    CUpdateHistoryModel(const QVector<Update::CUpdateRecord> &records, const QLocale &locale,
+    CUpdateHistoryModel(const QVector<CUpdateRecord> &records, const QLocale &locale,
                         QObject *parent = nullptr);
     ~CUpdateHistoryModel() override;
 
-    [[nodiscard]] const Update::CUpdateRecord &getRecord(int row) const;
+    [[nodiscard]] const CUpdateRecord &getRecord(int row) const;
+
+    /// For a file of a table: the titles of the columns.
+    [[nodiscard]] QStringList getExportedHeader() const;
+
+    /// For a file of a table: a row as it is shown, but the time with the seconds, and as
+    /// spreadsheets of all languages read it.
+    [[nodiscard]] QStringList getExportedRow(int row) const;
 
     int rowCount(const QModelIndex &parent = QModelIndex()) const override;
     int columnCount(const QModelIndex &parent = QModelIndex()) const override;
@@ -44,11 +51,10 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
-    [[nodiscard]] QStringList getTexts(const Update::CUpdateRecord &record,
-                                       const QLocale &locale) const;
+    [[nodiscard]] QStringList getTexts(const CUpdateRecord &record, const QLocale &locale) const;
 
-    const QVector<Update::CUpdateRecord> m_records;
+    const QVector<CUpdateRecord> m_records;
     QVector<QStringList> m_texts; ///< by row and column; a filter looks at all of them
 };
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Update

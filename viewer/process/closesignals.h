@@ -8,7 +8,7 @@
 
 class QSocketNotifier;
 
-namespace Viewer::AppCore {
+namespace Viewer::Process {
 
 /// Makes SIGTERM, SIGHUP and SIGINT requests to close instead of the process's end, which would cut
 /// off a camera that is being written. A closed pipe at standard output or standard error ends the
@@ -26,7 +26,7 @@ public:
     ~CCloseSignals() override;
 
 signals:
-    /// Somebody asks the viewer to end: a person, the session, the system. Emitted by the event
+    /// Somebody asks the program to end: a person, the session, the system. Emitted by the event
     /// loop.
     void closeRequested();
 
@@ -41,4 +41,4 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Process

@@ -4,11 +4,9 @@
 
 #include <algorithm>
 
-namespace Viewer::AppCore {
+namespace Viewer::Update {
 
 using Text::toSingleLine;
-using Update::CUpdateRecord;
-using Update::EUpdateOutcome;
 
 /// -1: unknown, also where the clock was set back during the update.
 static qint64 getSeconds(const CUpdateRecord &record)
@@ -71,6 +69,22 @@ const CUpdateRecord &CUpdateHistoryModel::getRecord(int row) const
     return m_records.at(row);
 }
 
+QStringList CUpdateHistoryModel::getExportedHeader() const
+{
+    QStringList texts;
+    for (int column = 0; column < ColumnCount; ++column)
+        texts.append(headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+    return texts;
+}
+
+QStringList CUpdateHistoryModel::getExportedRow(int row) const
+{
+    QStringList texts = m_texts.at(row);
+    texts[TimeColumn]
+        = m_records.at(row).begin.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+    return texts;
+}
+
 int CUpdateHistoryModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : m_records.size();
@@ -119,4 +133,4 @@ QVariant CUpdateHistoryModel::headerData(int section, Qt::Orientation orientatio
     return {};
 }
 
-} // namespace Viewer::AppCore
+} // namespace Viewer::Update
