@@ -38,4 +38,83 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>Viewer::NuvexUpdate::CCameraSelection</name>
+    <message numerus="yes">
+        <source>%n camera(s) have the serial number &quot;%1&quot;; name the one that is meant by its id: %2.</source>
+        <translation>
+            <numerusform>%n camera has the serial number &quot;%1&quot;; name the one that is meant by its id: %2.</numerusform>
+            <numerusform>%n cameras have the serial number &quot;%1&quot;; name the one that is meant by its id: %2.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CTextReport</name>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n updated</numerusform>
+            <numerusform>%n updated</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <translation>
+            <numerusform>%n failed</numerusform>
+            <numerusform>%n failed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in use</source>
+        <translation>
+            <numerusform>%n in use</numerusform>
+            <numerusform>%n in use</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n would be updated</source>
+        <translation>
+            <numerusform>%n would be updated</numerusform>
+            <numerusform>%n would be updated</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left alone</source>
+        <translation>
+            <numerusform>%n left alone</numerusform>
+            <numerusform>%n left alone</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n running</source>
+        <translation>
+            <numerusform>%n running</numerusform>
+            <numerusform>%n running</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not begun</source>
+        <translation>
+            <numerusform>%n not begun</numerusform>
+            <numerusform>%n not begun</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateProgram</name>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>%n damaged line of the history was skipped.</numerusform>
+            <numerusform>%n damaged lines of the history were skipped.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Update %n camera(s)? [y/N]</source>
+        <translation>
+            <numerusform>Update %n camera? [y/N]</numerusform>
+            <numerusform>Update %n cameras? [y/N]</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

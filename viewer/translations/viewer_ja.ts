@@ -102,10 +102,6 @@
         <translation>&lt;フォルダー&gt; をサンプル更新ファイルのフォルダーとして使用します。</translation>
     </message>
     <message>
-        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and quit.</source>
-        <translation>ファームウェア更新ウィザードを自動で進め、画面を &lt;フォルダー&gt; に保存して終了します。</translation>
-    </message>
-    <message>
         <source>No folder is given for the demonstration&apos;s pictures.</source>
         <translation>デモの画面を保存するフォルダーが指定されていません。</translation>
     </message>
@@ -120,6 +116,10 @@
     <message>
         <source>The language &quot;%1&quot; is unknown; there are %2.</source>
         <translation>言語「%1」は使用できません。使用できる言語: %2。</translation>
+    </message>
+    <message>
+        <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
+        <translation>実際のカメラより速くファームウェア更新ウィザードを進め、画面を &lt;dir&gt; に保存して終了します。</translation>
     </message>
 </context>
 <context>
@@ -392,57 +392,6 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CUpdateHistoryModel</name>
-    <message>
-        <source>Running</source>
-        <translation>実行中</translation>
-    </message>
-    <message>
-        <source>Updated</source>
-        <translation>更新済み</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>失敗</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>キャンセル</translation>
-    </message>
-    <message>
-        <source>Interrupted</source>
-        <translation>中断</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>カメラ</translation>
-    </message>
-    <message>
-        <source>Serial number</source>
-        <translation>シリアル番号</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>更新前</translation>
-    </message>
-    <message>
-        <source>To</source>
-        <translation>更新後</translation>
-    </message>
-    <message>
-        <source>Outcome</source>
-        <translation>結果</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>日時</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>所要時間</translation>
-    </message>
-</context>
-<context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
@@ -572,10 +521,6 @@
         <translation>n</translation>
     </message>
     <message>
-        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
-        <translation>シミュレーションカメラを実際のカメラの &lt;n&gt; 倍の速さで動作させます (既定値は 1、--demo では %1)。</translation>
-    </message>
-    <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
         <translation>速度「%1」は 0.01 から 10000 までの数値ではありません。</translation>
     </message>
@@ -594,6 +539,10 @@
     <message>
         <source>In &amp;use elsewhere</source>
         <translation>別のアプリで使用中(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
+        <translation>シミュレーションカメラを実際のカメラの &lt;n&gt; 倍の速さで動かします (既定値 1)。</translation>
     </message>
 </context>
 <context>
@@ -868,6 +817,449 @@ Update %1
     <message>
         <source>%1 (%2 bytes) to %3</source>
         <translation>%1 (%2 バイト) → %3</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>別のアプリケーションが使用しています</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>ステータスが %1 です</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>ステータスが %1 です: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CCameraSelection</name>
+    <message>
+        <source>No camera was found.</source>
+        <translation>カメラが見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>There is no camera of the model &quot;%1&quot;.</source>
+        <translation>モデル「%1」のカメラはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) have the serial number &quot;%1&quot;; name the one that is meant by its id: %2.</source>
+        <translation>
+            <numerusform>シリアル番号「%1」のカメラが %n 台あります。対象のカメラを ID で指定してください: %2。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no camera with the id or serial number &quot;%1&quot;; the nearest are %2.</source>
+        <translation>ID またはシリアル番号が「%1」のカメラはありません。最も近いものは %2 です。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CQuestion</name>
+    <message>
+        <source>yes</source>
+        <translation>はい</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CTerminalReport</name>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CTextReport</name>
+    <message>
+        <source>Id</source>
+        <translation>カメラ ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Device version</source>
+        <translation>デバイスバージョン</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>ファームウェア</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>for %1</source>
+        <translation>%1 用</translation>
+    </message>
+    <message>
+        <source>device version %1</source>
+        <translation>デバイスバージョン %1</translation>
+    </message>
+    <message>
+        <source>from version %1 on</source>
+        <translation>バージョン %1 以降</translation>
+    </message>
+    <message>
+        <source>upgrade %1</source>
+        <translation>アップグレード %1</translation>
+    </message>
+    <message>
+        <source>downgrade %1</source>
+        <translation>ダウングレード %1</translation>
+    </message>
+    <message>
+        <source>reinstall %1</source>
+        <translation>再インストール %1</translation>
+    </message>
+    <message>
+        <source>does not fit: %1</source>
+        <translation>対象外: %1</translation>
+    </message>
+    <message>
+        <source>cannot be updated now: %1</source>
+        <translation>今は更新できません: %1</translation>
+    </message>
+    <message>
+        <source>%1: begins, %2</source>
+        <translation>%1: 開始、%2</translation>
+    </message>
+    <message>
+        <source>%1: step %2 of %3, %4</source>
+        <translation>%1: ステップ %2/%3、%4</translation>
+    </message>
+    <message>
+        <source>%1: updated, %2, in %3 s</source>
+        <translation>%1: 更新済み、%2、%3 秒</translation>
+    </message>
+    <message>
+        <source>updated</source>
+        <translation>更新済み</translation>
+    </message>
+    <message>
+        <source>FAILED: %1</source>
+        <translation>失敗: %1</translation>
+    </message>
+    <message>
+        <source>not updated: %1</source>
+        <translation>更新されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>left alone: %1</source>
+        <translation>変更なし: %1</translation>
+    </message>
+    <message>
+        <source>not begun</source>
+        <translation>未開始</translation>
+    </message>
+    <message>
+        <source>would be updated to %1</source>
+        <translation>%1 に更新する予定</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n 台更新済み</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <translation>
+            <numerusform>%n 台失敗</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in use</source>
+        <translation>
+            <numerusform>%n 台使用中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n would be updated</source>
+        <translation>
+            <numerusform>%n 台更新予定</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left alone</source>
+        <translation>
+            <numerusform>%n 台変更なし</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n running</source>
+        <translation>
+            <numerusform>%n 台実行中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not begun</source>
+        <translation>
+            <numerusform>%n 台未開始</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>更新前</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>更新後</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒数</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>%1 (%2 s)</source>
+        <translation>%1 (%2 秒)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateCommandLine</name>
+    <message>
+        <source>Updates the firmware of many cameras, without a display.</source>
+        <translation>画面なしで多数のカメラのファームウェアを更新します。</translation>
+    </message>
+    <message>
+        <source>list: the cameras; check: what a file would do to each of them; update: do it; resume: repeat what was interrupted; history: what was updated.</source>
+        <translation>list: カメラの一覧; check: ファイルが各カメラに行うこと; update: 実行; resume: 中断した更新をやり直す; history: 更新の履歴。</translation>
+    </message>
+    <message>
+        <source>The update file, for check and update.</source>
+        <translation>更新ファイル (check と update 用)。</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>コード</translation>
+    </message>
+    <message>
+        <source>Use the language &lt;code&gt;: %1.</source>
+        <translation>言語 &lt;code&gt; を使用します: %1。</translation>
+    </message>
+    <message>
+        <source>The language &quot;%1&quot; is unknown; there are %2.</source>
+        <translation>言語「%1」は使用できません。使用できる言語: %2。</translation>
+    </message>
+    <message>
+        <source>Print one JSON object a line.</source>
+        <translation>1 行に 1 つの JSON オブジェクトを出力します。</translation>
+    </message>
+    <message>
+        <source>history: print a table for spreadsheets.</source>
+        <translation>history: 表計算用の表を出力します。</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation>n</translation>
+    </message>
+    <message>
+        <source>id</source>
+        <translation>識別子</translation>
+    </message>
+    <message>
+        <source>update: the camera with this id or serial number; can be given several times.</source>
+        <translation>update: この ID またはシリアル番号のカメラ。何度でも指定できます。</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>update: all cameras of this model.</source>
+        <translation>update: このモデルのすべてのカメラ。</translation>
+    </message>
+    <message>
+        <source>update: all cameras that the file fits.</source>
+        <translation>update: ファイルの対象となるすべてのカメラ。</translation>
+    </message>
+    <message>
+        <source>update: also where the camera has a newer version.</source>
+        <translation>update: カメラのバージョンの方が新しい場合も更新します。</translation>
+    </message>
+    <message>
+        <source>update: also where the camera has this version already.</source>
+        <translation>update: カメラが既にこのバージョンの場合も更新します。</translation>
+    </message>
+    <message>
+        <source>So many updates at a time (default 8).</source>
+        <translation>同時に行う更新の数 (既定値 8)。</translation>
+    </message>
+    <message>
+        <source>--parallel takes a number from 1 to %1, not &quot;%2&quot;.</source>
+        <translation>--parallel には「%2」ではなく 1 から %1 までの数を指定してください。</translation>
+    </message>
+    <message>
+        <source>So many cameras first, the others only when all of these have succeeded.</source>
+        <translation>最初に更新するカメラの数。すべて成功した場合だけ残りを更新します。</translation>
+    </message>
+    <message>
+        <source>--canary takes a number of cameras, not &quot;%1&quot;.</source>
+        <translation>--canary には「%1」ではなくカメラの台数を指定してください。</translation>
+    </message>
+    <message>
+        <source>Begin no further camera after so many failures (default 1).</source>
+        <translation>この回数失敗したら次のカメラを開始しません (既定値 1)。</translation>
+    </message>
+    <message>
+        <source>--max-failures takes a number of cameras, not &quot;%1&quot;.</source>
+        <translation>--max-failures には「%1」ではなくカメラの台数を指定してください。</translation>
+    </message>
+    <message>
+        <source>Only say what would be done.</source>
+        <translation>何を行うかを表示するだけです。</translation>
+    </message>
+    <message>
+        <source>Do not ask before the updates begin.</source>
+        <translation>更新を始める前に確認しません。</translation>
+    </message>
+    <message>
+        <source>No command is given; there are %1.</source>
+        <translation>コマンドが指定されていません。使用できるコマンド: %1。</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;; there are %2.</source>
+        <translation>コマンド「%1」はありません。使用できるコマンド: %2。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>予期しない引数「%1」です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an update file.</source>
+        <translation>「%1」には更新ファイルが必要です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no option --%2.</source>
+        <translation>「%1」にオプション --%2 はありません。</translation>
+    </message>
+    <message>
+        <source>--csv and --json exclude each other.</source>
+        <translation>--csv と --json は同時に使用できません。</translation>
+    </message>
+    <message>
+        <source>Say which cameras: --camera, --model or --all.</source>
+        <translation>どのカメラかを指定してください: --camera、--model または --all。</translation>
+    </message>
+    <message>
+        <source>--camera, --model and --all exclude each other.</source>
+        <translation>--camera、--model、--all は同時に使用できません。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateLog</name>
+    <message>
+        <source>The log in &quot;%1&quot; cannot be written: %2; the updates go on without it.</source>
+        <translation>「%1」のログを書き込めません: %2。更新はログなしで続きます。</translation>
+    </message>
+    <message>
+        <source>there is no home folder</source>
+        <translation>ホームフォルダーがありません</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateProgram</name>
+    <message>
+        <source>The file fits none of the cameras.</source>
+        <translation>このファイルの対象となるカメラはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>更新履歴の破損した %n 行を読み飛ばしました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file does not fit camera %1: %2.</source>
+        <translation>このファイルはカメラ %1 の対象外です: %2。</translation>
+    </message>
+    <message>
+        <source>Camera %1 does not answer. Switch it off and on, then resume again.</source>
+        <translation>カメラ %1 が応答しません。電源を入れ直してから、もう一度 resume を実行してください。</translation>
+    </message>
+    <message>
+        <source>Camera %1: the file &quot;%2&quot; is not the one any more with which its update was begun; use &quot;update&quot;.</source>
+        <translation>カメラ %1: ファイル「%2」は更新を始めたときのファイルではありません。「update」を使用してください。</translation>
+    </message>
+    <message>
+        <source>No update was interrupted.</source>
+        <translation>中断された更新はありません。</translation>
+    </message>
+    <message>
+        <source>it has the newer version %1 (--allow-downgrade)</source>
+        <translation>より新しいバージョン %1 です (--allow-downgrade)</translation>
+    </message>
+    <message>
+        <source>it has version %1 already (--allow-reinstall)</source>
+        <translation>既にバージョン %1 です (--allow-reinstall)</translation>
+    </message>
+    <message>
+        <source>There is no terminal to ask at; say --yes, or --dry-run to see what would be done.</source>
+        <translation>確認するための端末がありません。--yes を指定するか、何を行うかを見るには --dry-run を指定してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Update %n camera(s)? [y/N]</source>
+        <translation>
+            <numerusform>%n 台のカメラを更新しますか? [y/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was updated.</source>
+        <translation>何も更新されませんでした。</translation>
+    </message>
+    <message>
+        <source>No further camera begins. Those that run are finished; cut off, they could be damaged.</source>
+        <translation>次のカメラは開始しません。実行中の更新は最後まで行います。途中で切ると、カメラが損傷するおそれがあります。</translation>
+    </message>
+    <message>
+        <source>Stopped; nothing was updated.</source>
+        <translation>停止しました。何も更新されませんでした。</translation>
+    </message>
+    <message>
+        <source>The output cannot be written: %1; the updates go on, see the history.</source>
+        <translation>出力を書き込めません: %1。更新は続きます。結果は更新履歴にあります。</translation>
+    </message>
+    <message>
+        <source>The output cannot be written: %1.</source>
+        <translation>出力を書き込めません: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateSeries</name>
+    <message>
+        <source>the camera is not there any more</source>
+        <translation>カメラがなくなりました</translation>
     </message>
 </context>
 <context>
@@ -1775,12 +2167,75 @@ Update %1
         <source>the update program says something that is not understood; install the viewer again</source>
         <translation>更新プログラムからの情報を解釈できません。ビューアーを再インストールしてください</translation>
     </message>
+    <message>
+        <source>it is for the model %1</source>
+        <translation>モデル %1 用です</translation>
+    </message>
+    <message>
+        <source>it is for the device version %1, the camera has %2</source>
+        <translation>デバイスバージョン %1 用ですが、カメラは %2 です</translation>
+    </message>
+    <message>
+        <source>it needs firmware version %1 or newer, the camera has %2</source>
+        <translation>ファームウェアバージョン %1 以降が必要ですが、カメラは %2 です</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>
     <message>
         <source>The history of updates &quot;%1&quot; cannot be shown: %2</source>
         <translation>更新履歴「%1」を表示できません: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Update::CUpdateHistoryModel</name>
+    <message>
+        <source>Running</source>
+        <translation>実行中</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>更新済み</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>更新前</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>更新後</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>日時</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>所要時間</translation>
     </message>
 </context>
 </TS>

@@ -102,10 +102,6 @@
         <translation>&lt;폴더&gt;를 샘플 업데이트 파일의 폴더로 사용합니다.</translation>
     </message>
     <message>
-        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and quit.</source>
-        <translation>펌웨어 업데이트 마법사를 자동으로 진행하고, 화면을 &lt;폴더&gt;에 저장한 후 종료합니다.</translation>
-    </message>
-    <message>
         <source>No folder is given for the demonstration&apos;s pictures.</source>
         <translation>데모 화면을 저장할 폴더가 지정되지 않았습니다.</translation>
     </message>
@@ -120,6 +116,10 @@
     <message>
         <source>The language &quot;%1&quot; is unknown; there are %2.</source>
         <translation>알 수 없는 언어 &quot;%1&quot;입니다. 사용할 수 있는 언어: %2.</translation>
+    </message>
+    <message>
+        <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
+        <translation>실제 카메라보다 빠르게 펌웨어 업데이트 마법사를 진행하고 화면을 &lt;dir&gt;에 저장한 뒤 종료합니다.</translation>
     </message>
 </context>
 <context>
@@ -392,57 +392,6 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CUpdateHistoryModel</name>
-    <message>
-        <source>Running</source>
-        <translation>실행 중</translation>
-    </message>
-    <message>
-        <source>Updated</source>
-        <translation>업데이트됨</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>실패</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>취소됨</translation>
-    </message>
-    <message>
-        <source>Interrupted</source>
-        <translation>중단됨</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>카메라</translation>
-    </message>
-    <message>
-        <source>Serial number</source>
-        <translation>일련번호</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>이전 버전</translation>
-    </message>
-    <message>
-        <source>To</source>
-        <translation>새 버전</translation>
-    </message>
-    <message>
-        <source>Outcome</source>
-        <translation>결과</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>시간</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>소요 시간</translation>
-    </message>
-</context>
-<context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
@@ -572,10 +521,6 @@
         <translation>n</translation>
     </message>
     <message>
-        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
-        <translation>시뮬레이션 카메라를 실제 카메라의 &lt;n&gt;배 속도로 작동시킵니다(기본값 1, --demo 사용 시 %1).</translation>
-    </message>
-    <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
         <translation>속도 &quot;%1&quot;은(는) 0.01에서 10000 사이의 숫자가 아닙니다.</translation>
     </message>
@@ -594,6 +539,10 @@
     <message>
         <source>In &amp;use elsewhere</source>
         <translation>다른 곳에서 사용 중(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
+        <translation>시뮬레이션 카메라를 실제 카메라의 &lt;n&gt;배 속도로 작동합니다(기본값 1).</translation>
     </message>
 </context>
 <context>
@@ -868,6 +817,449 @@ Update %1
     <message>
         <source>%1 (%2 bytes) to %3</source>
         <translation>%1(%2바이트) → %3</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>다른 응용 프로그램에서 사용 중입니다</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>상태가 %1입니다</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>상태가 %1입니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CCameraSelection</name>
+    <message>
+        <source>No camera was found.</source>
+        <translation>카메라를 찾지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>There is no camera of the model &quot;%1&quot;.</source>
+        <translation>모델 &quot;%1&quot;인 카메라가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) have the serial number &quot;%1&quot;; name the one that is meant by its id: %2.</source>
+        <translation>
+            <numerusform>일련번호 &quot;%1&quot;인 카메라가 %n대 있습니다. 원하는 카메라를 ID로 지정하십시오: %2.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no camera with the id or serial number &quot;%1&quot;; the nearest are %2.</source>
+        <translation>ID나 일련번호가 &quot;%1&quot;인 카메라가 없습니다. 가장 비슷한 것은 %2입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CQuestion</name>
+    <message>
+        <source>yes</source>
+        <translation>예</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CTerminalReport</name>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 남음</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CTextReport</name>
+    <message>
+        <source>Id</source>
+        <translation>ID 번호</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>모델</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>일련번호</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>주소</translation>
+    </message>
+    <message>
+        <source>Device version</source>
+        <translation>장치 버전</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>펌웨어</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>준비됨</translation>
+    </message>
+    <message>
+        <source>version %1</source>
+        <translation>버전 %1</translation>
+    </message>
+    <message>
+        <source>for %1</source>
+        <translation>%1용</translation>
+    </message>
+    <message>
+        <source>device version %1</source>
+        <translation>장치 버전 %1</translation>
+    </message>
+    <message>
+        <source>from version %1 on</source>
+        <translation>버전 %1부터</translation>
+    </message>
+    <message>
+        <source>upgrade %1</source>
+        <translation>업그레이드 %1</translation>
+    </message>
+    <message>
+        <source>downgrade %1</source>
+        <translation>다운그레이드 %1</translation>
+    </message>
+    <message>
+        <source>reinstall %1</source>
+        <translation>재설치 %1</translation>
+    </message>
+    <message>
+        <source>does not fit: %1</source>
+        <translation>맞지 않음: %1</translation>
+    </message>
+    <message>
+        <source>cannot be updated now: %1</source>
+        <translation>지금 업데이트할 수 없음: %1</translation>
+    </message>
+    <message>
+        <source>%1: begins, %2</source>
+        <translation>%1: 시작, %2</translation>
+    </message>
+    <message>
+        <source>%1: step %2 of %3, %4</source>
+        <translation>%1: 단계 %2/%3, %4</translation>
+    </message>
+    <message>
+        <source>%1: updated, %2, in %3 s</source>
+        <translation>%1: 업데이트됨, %2, %3초</translation>
+    </message>
+    <message>
+        <source>updated</source>
+        <translation>업데이트됨</translation>
+    </message>
+    <message>
+        <source>FAILED: %1</source>
+        <translation>실패: %1</translation>
+    </message>
+    <message>
+        <source>not updated: %1</source>
+        <translation>업데이트되지 않음: %1</translation>
+    </message>
+    <message>
+        <source>left alone: %1</source>
+        <translation>그대로 둠: %1</translation>
+    </message>
+    <message>
+        <source>not begun</source>
+        <translation>시작되지 않음</translation>
+    </message>
+    <message>
+        <source>would be updated to %1</source>
+        <translation>%1(으)로 업데이트할 예정</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n대 업데이트됨</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <translation>
+            <numerusform>%n대 실패</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in use</source>
+        <translation>
+            <numerusform>%n대 사용 중</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n would be updated</source>
+        <translation>
+            <numerusform>%n대 업데이트 예정</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left alone</source>
+        <translation>
+            <numerusform>%n대 그대로 둠</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n running</source>
+        <translation>
+            <numerusform>%n대 실행 중</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not begun</source>
+        <translation>
+            <numerusform>%n대 시작되지 않음</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>카메라</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>이전 버전</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>새 버전</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>초</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>%1 (%2 s)</source>
+        <translation>%1(%2초)</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateCommandLine</name>
+    <message>
+        <source>Updates the firmware of many cameras, without a display.</source>
+        <translation>화면 없이 여러 카메라의 펌웨어를 업데이트합니다.</translation>
+    </message>
+    <message>
+        <source>list: the cameras; check: what a file would do to each of them; update: do it; resume: repeat what was interrupted; history: what was updated.</source>
+        <translation>list: 카메라 목록; check: 파일이 각 카메라에 할 일; update: 실행; resume: 중단된 업데이트를 다시 수행; history: 업데이트 기록.</translation>
+    </message>
+    <message>
+        <source>The update file, for check and update.</source>
+        <translation>업데이트 파일(check 및 update용).</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>코드</translation>
+    </message>
+    <message>
+        <source>Use the language &lt;code&gt;: %1.</source>
+        <translation>언어 &lt;code&gt;를 사용합니다: %1.</translation>
+    </message>
+    <message>
+        <source>The language &quot;%1&quot; is unknown; there are %2.</source>
+        <translation>알 수 없는 언어 &quot;%1&quot;입니다. 사용할 수 있는 언어: %2.</translation>
+    </message>
+    <message>
+        <source>Print one JSON object a line.</source>
+        <translation>한 줄에 JSON 개체 하나씩 출력합니다.</translation>
+    </message>
+    <message>
+        <source>history: print a table for spreadsheets.</source>
+        <translation>history: 스프레드시트용 표를 출력합니다.</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation>n</translation>
+    </message>
+    <message>
+        <source>id</source>
+        <translation>ID값</translation>
+    </message>
+    <message>
+        <source>update: the camera with this id or serial number; can be given several times.</source>
+        <translation>update: 이 ID나 일련번호의 카메라. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>update: all cameras of this model.</source>
+        <translation>update: 이 모델의 모든 카메라.</translation>
+    </message>
+    <message>
+        <source>update: all cameras that the file fits.</source>
+        <translation>update: 파일이 맞는 모든 카메라.</translation>
+    </message>
+    <message>
+        <source>update: also where the camera has a newer version.</source>
+        <translation>update: 카메라의 버전이 더 새로운 경우에도 업데이트합니다.</translation>
+    </message>
+    <message>
+        <source>update: also where the camera has this version already.</source>
+        <translation>update: 카메라에 이미 이 버전이 있는 경우에도 업데이트합니다.</translation>
+    </message>
+    <message>
+        <source>So many updates at a time (default 8).</source>
+        <translation>동시에 업데이트할 개수(기본값 8).</translation>
+    </message>
+    <message>
+        <source>--parallel takes a number from 1 to %1, not &quot;%2&quot;.</source>
+        <translation>--parallel에는 &quot;%2&quot;이(가) 아니라 1부터 %1까지의 숫자를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>So many cameras first, the others only when all of these have succeeded.</source>
+        <translation>먼저 업데이트할 카메라 수. 모두 성공한 경우에만 나머지를 업데이트합니다.</translation>
+    </message>
+    <message>
+        <source>--canary takes a number of cameras, not &quot;%1&quot;.</source>
+        <translation>--canary에는 &quot;%1&quot;이(가) 아니라 카메라 수를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>Begin no further camera after so many failures (default 1).</source>
+        <translation>이 횟수만큼 실패하면 다음 카메라를 시작하지 않습니다(기본값 1).</translation>
+    </message>
+    <message>
+        <source>--max-failures takes a number of cameras, not &quot;%1&quot;.</source>
+        <translation>--max-failures에는 &quot;%1&quot;이(가) 아니라 카메라 수를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>Only say what would be done.</source>
+        <translation>무엇을 할지 알려 주기만 합니다.</translation>
+    </message>
+    <message>
+        <source>Do not ask before the updates begin.</source>
+        <translation>업데이트를 시작하기 전에 묻지 않습니다.</translation>
+    </message>
+    <message>
+        <source>No command is given; there are %1.</source>
+        <translation>명령이 지정되지 않았습니다. 사용할 수 있는 명령: %1.</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;; there are %2.</source>
+        <translation>명령 &quot;%1&quot;이(가) 없습니다. 사용할 수 있는 명령: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>예기치 않은 인수 &quot;%1&quot;입니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an update file.</source>
+        <translation>&quot;%1&quot;에는 업데이트 파일이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no option --%2.</source>
+        <translation>&quot;%1&quot;에는 옵션 --%2이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>--csv and --json exclude each other.</source>
+        <translation>--csv와 --json은 함께 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Say which cameras: --camera, --model or --all.</source>
+        <translation>어느 카메라인지 지정하십시오: --camera, --model 또는 --all.</translation>
+    </message>
+    <message>
+        <source>--camera, --model and --all exclude each other.</source>
+        <translation>--camera, --model, --all은 함께 사용할 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateLog</name>
+    <message>
+        <source>The log in &quot;%1&quot; cannot be written: %2; the updates go on without it.</source>
+        <translation>&quot;%1&quot;의 로그를 쓸 수 없습니다: %2. 업데이트는 로그 없이 계속됩니다.</translation>
+    </message>
+    <message>
+        <source>there is no home folder</source>
+        <translation>홈 폴더가 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateProgram</name>
+    <message>
+        <source>The file fits none of the cameras.</source>
+        <translation>이 파일이 맞는 카메라가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>업데이트 기록에서 손상된 줄 %n개를 건너뛰었습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file does not fit camera %1: %2.</source>
+        <translation>파일이 카메라 %1에 맞지 않습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Camera %1 does not answer. Switch it off and on, then resume again.</source>
+        <translation>카메라 %1이(가) 응답하지 않습니다. 전원을 껐다 켠 다음 다시 resume을 실행하십시오.</translation>
+    </message>
+    <message>
+        <source>Camera %1: the file &quot;%2&quot; is not the one any more with which its update was begun; use &quot;update&quot;.</source>
+        <translation>카메라 %1: 파일 &quot;%2&quot;은(는) 업데이트를 시작했을 때의 파일이 아닙니다. &quot;update&quot;를 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>No update was interrupted.</source>
+        <translation>중단된 업데이트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>it has the newer version %1 (--allow-downgrade)</source>
+        <translation>더 새로운 버전 %1이(가) 있습니다(--allow-downgrade)</translation>
+    </message>
+    <message>
+        <source>it has version %1 already (--allow-reinstall)</source>
+        <translation>이미 버전 %1입니다(--allow-reinstall)</translation>
+    </message>
+    <message>
+        <source>There is no terminal to ask at; say --yes, or --dry-run to see what would be done.</source>
+        <translation>물어볼 터미널이 없습니다. --yes를 지정하거나, 무엇을 할지 보려면 --dry-run을 지정하십시오.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Update %n camera(s)? [y/N]</source>
+        <translation>
+            <numerusform>카메라 %n대를 업데이트하시겠습니까? [y/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was updated.</source>
+        <translation>아무것도 업데이트되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>No further camera begins. Those that run are finished; cut off, they could be damaged.</source>
+        <translation>다음 카메라는 시작하지 않습니다. 실행 중인 업데이트는 끝까지 진행합니다. 도중에 끊으면 카메라가 손상될 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Stopped; nothing was updated.</source>
+        <translation>중지되었습니다. 아무것도 업데이트되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The output cannot be written: %1; the updates go on, see the history.</source>
+        <translation>출력을 쓸 수 없습니다: %1. 업데이트는 계속되며 결과는 업데이트 기록에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The output cannot be written: %1.</source>
+        <translation>출력을 쓸 수 없습니다: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateSeries</name>
+    <message>
+        <source>the camera is not there any more</source>
+        <translation>카메라가 더 이상 없습니다</translation>
     </message>
 </context>
 <context>
@@ -1775,12 +2167,75 @@ Update %1
         <source>the update program says something that is not understood; install the viewer again</source>
         <translation>업데이트 프로그램의 메시지를 이해할 수 없습니다. 뷰어를 다시 설치하십시오</translation>
     </message>
+    <message>
+        <source>it is for the model %1</source>
+        <translation>모델 %1용입니다</translation>
+    </message>
+    <message>
+        <source>it is for the device version %1, the camera has %2</source>
+        <translation>장치 버전 %1용인데 카메라는 %2입니다</translation>
+    </message>
+    <message>
+        <source>it needs firmware version %1 or newer, the camera has %2</source>
+        <translation>펌웨어 버전 %1 이상이 필요한데 카메라는 %2입니다</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>
     <message>
         <source>The history of updates &quot;%1&quot; cannot be shown: %2</source>
         <translation>업데이트 기록 &quot;%1&quot;을(를) 표시할 수 없습니다: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Update::CUpdateHistoryModel</name>
+    <message>
+        <source>Running</source>
+        <translation>실행 중</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>업데이트됨</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>취소됨</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>카메라</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>일련번호</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>이전 버전</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>새 버전</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>소요 시간</translation>
     </message>
 </context>
 </TS>

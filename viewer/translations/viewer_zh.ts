@@ -102,10 +102,6 @@
         <translation>将 &lt;文件夹&gt; 用作示例更新文件的文件夹。</translation>
     </message>
     <message>
-        <source>Walk through the firmware update wizard, save pictures into &lt;dir&gt; and quit.</source>
-        <translation>自动执行固件更新向导，将截图保存到 &lt;文件夹&gt; 后退出。</translation>
-    </message>
-    <message>
         <source>No folder is given for the demonstration&apos;s pictures.</source>
         <translation>未指定保存演示截图的文件夹。</translation>
     </message>
@@ -120,6 +116,10 @@
     <message>
         <source>The language &quot;%1&quot; is unknown; there are %2.</source>
         <translation>未知的语言“%1”，可用的语言：%2。</translation>
+    </message>
+    <message>
+        <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
+        <translation>以快于真实相机的速度走完固件更新向导，将画面保存到 &lt;dir&gt; 后退出。</translation>
     </message>
 </context>
 <context>
@@ -392,57 +392,6 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CUpdateHistoryModel</name>
-    <message>
-        <source>Running</source>
-        <translation>正在运行</translation>
-    </message>
-    <message>
-        <source>Updated</source>
-        <translation>已更新</translation>
-    </message>
-    <message>
-        <source>Failed</source>
-        <translation>失败</translation>
-    </message>
-    <message>
-        <source>Canceled</source>
-        <translation>已取消</translation>
-    </message>
-    <message>
-        <source>Interrupted</source>
-        <translation>已中断</translation>
-    </message>
-    <message>
-        <source>Camera</source>
-        <translation>相机</translation>
-    </message>
-    <message>
-        <source>Serial number</source>
-        <translation>序列号</translation>
-    </message>
-    <message>
-        <source>From</source>
-        <translation>更新前</translation>
-    </message>
-    <message>
-        <source>To</source>
-        <translation>更新后</translation>
-    </message>
-    <message>
-        <source>Outcome</source>
-        <translation>结果</translation>
-    </message>
-    <message>
-        <source>Time</source>
-        <translation>时间</translation>
-    </message>
-    <message>
-        <source>Duration</source>
-        <translation>用时</translation>
-    </message>
-</context>
-<context>
     <name>Viewer::AppCore::CViewer</name>
     <message>
         <source>Re&amp;fresh</source>
@@ -572,10 +521,6 @@
         <translation>n</translation>
     </message>
     <message>
-        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1; with --demo %1).</source>
-        <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（默认为 1，使用 --demo 时为 %1）。</translation>
-    </message>
-    <message>
         <source>The speed &quot;%1&quot; is not a number from 0.01 to 10000.</source>
         <translation>速度“%1”不是 0.01 到 10000 之间的数字。</translation>
     </message>
@@ -594,6 +539,10 @@
     <message>
         <source>In &amp;use elsewhere</source>
         <translation>被其他程序占用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
+        <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（默认 1）。</translation>
     </message>
 </context>
 <context>
@@ -868,6 +817,449 @@ Update %1
     <message>
         <source>%1 (%2 bytes) to %3</source>
         <translation>%1（%2 字节）→ %3</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>正被其他程序占用</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>状态为 %1</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>状态为 %1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CCameraSelection</name>
+    <message>
+        <source>No camera was found.</source>
+        <translation>未找到相机。</translation>
+    </message>
+    <message>
+        <source>There is no camera of the model &quot;%1&quot;.</source>
+        <translation>没有型号为“%1”的相机。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n camera(s) have the serial number &quot;%1&quot;; name the one that is meant by its id: %2.</source>
+        <translation>
+            <numerusform>有 %n 台相机的序列号为“%1”，请用 ID 指定其中一台：%2。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no camera with the id or serial number &quot;%1&quot;; the nearest are %2.</source>
+        <translation>没有 ID 或序列号为“%1”的相机；最接近的是 %2。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CQuestion</name>
+    <message>
+        <source>yes</source>
+        <translation>是</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CTerminalReport</name>
+    <message>
+        <source>%1 left</source>
+        <translation>剩余 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CTextReport</name>
+    <message>
+        <source>Id</source>
+        <translation>相机 ID</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Device version</source>
+        <translation>设备版本</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>固件</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Ready</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>for %1</source>
+        <translation>适用于 %1</translation>
+    </message>
+    <message>
+        <source>device version %1</source>
+        <translation>设备版本 %1</translation>
+    </message>
+    <message>
+        <source>from version %1 on</source>
+        <translation>自版本 %1 起</translation>
+    </message>
+    <message>
+        <source>upgrade %1</source>
+        <translation>升级 %1</translation>
+    </message>
+    <message>
+        <source>downgrade %1</source>
+        <translation>降级 %1</translation>
+    </message>
+    <message>
+        <source>reinstall %1</source>
+        <translation>重新安装 %1</translation>
+    </message>
+    <message>
+        <source>does not fit: %1</source>
+        <translation>不适用：%1</translation>
+    </message>
+    <message>
+        <source>cannot be updated now: %1</source>
+        <translation>现在无法更新：%1</translation>
+    </message>
+    <message>
+        <source>%1: begins, %2</source>
+        <translation>%1：开始，%2</translation>
+    </message>
+    <message>
+        <source>%1: step %2 of %3, %4</source>
+        <translation>%1：第 %2 步，共 %3 步，%4</translation>
+    </message>
+    <message>
+        <source>%1: updated, %2, in %3 s</source>
+        <translation>%1：已更新，%2，用时 %3 秒</translation>
+    </message>
+    <message>
+        <source>updated</source>
+        <translation>已更新</translation>
+    </message>
+    <message>
+        <source>FAILED: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>not updated: %1</source>
+        <translation>未更新：%1</translation>
+    </message>
+    <message>
+        <source>left alone: %1</source>
+        <translation>未改动：%1</translation>
+    </message>
+    <message>
+        <source>not begun</source>
+        <translation>未开始</translation>
+    </message>
+    <message>
+        <source>would be updated to %1</source>
+        <translation>将更新到 %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>已更新 %n 台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n failed</source>
+        <translation>
+            <numerusform>%n 台失败</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n in use</source>
+        <translation>
+            <numerusform>%n 台使用中</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n would be updated</source>
+        <translation>
+            <numerusform>将更新 %n 台</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n left alone</source>
+        <translation>
+            <numerusform>%n 台未改动</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n running</source>
+        <translation>
+            <numerusform>%n 台正在运行</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not begun</source>
+        <translation>
+            <numerusform>%n 台未开始</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>更新前</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>更新后</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>秒</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>%1 (%2 s)</source>
+        <translation>%1（%2 秒）</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateCommandLine</name>
+    <message>
+        <source>Updates the firmware of many cameras, without a display.</source>
+        <translation>无需显示器即可更新多台相机的固件。</translation>
+    </message>
+    <message>
+        <source>list: the cameras; check: what a file would do to each of them; update: do it; resume: repeat what was interrupted; history: what was updated.</source>
+        <translation>list：列出相机；check：文件将对各相机做什么；update：执行更新；resume：重新执行中断的更新；history：更新历史。</translation>
+    </message>
+    <message>
+        <source>The update file, for check and update.</source>
+        <translation>更新文件（用于 check 和 update）。</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>代码</translation>
+    </message>
+    <message>
+        <source>Use the language &lt;code&gt;: %1.</source>
+        <translation>使用语言 &lt;code&gt;：%1。</translation>
+    </message>
+    <message>
+        <source>The language &quot;%1&quot; is unknown; there are %2.</source>
+        <translation>未知的语言“%1”，可用的语言：%2。</translation>
+    </message>
+    <message>
+        <source>Print one JSON object a line.</source>
+        <translation>每行输出一个 JSON 对象。</translation>
+    </message>
+    <message>
+        <source>history: print a table for spreadsheets.</source>
+        <translation>history：输出用于电子表格的表格。</translation>
+    </message>
+    <message>
+        <source>n</source>
+        <translation>n</translation>
+    </message>
+    <message>
+        <source>id</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>update: the camera with this id or serial number; can be given several times.</source>
+        <translation>update：具有此 ID 或序列号的相机；可多次指定。</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>update: all cameras of this model.</source>
+        <translation>update：此型号的所有相机。</translation>
+    </message>
+    <message>
+        <source>update: all cameras that the file fits.</source>
+        <translation>update：文件适用的所有相机。</translation>
+    </message>
+    <message>
+        <source>update: also where the camera has a newer version.</source>
+        <translation>update：相机版本更新时也执行。</translation>
+    </message>
+    <message>
+        <source>update: also where the camera has this version already.</source>
+        <translation>update：相机已是此版本时也执行。</translation>
+    </message>
+    <message>
+        <source>So many updates at a time (default 8).</source>
+        <translation>同时进行的更新数量（默认 8）。</translation>
+    </message>
+    <message>
+        <source>--parallel takes a number from 1 to %1, not &quot;%2&quot;.</source>
+        <translation>--parallel 需要 1 到 %1 之间的数字，而不是“%2”。</translation>
+    </message>
+    <message>
+        <source>So many cameras first, the others only when all of these have succeeded.</source>
+        <translation>首先更新的相机数量；全部成功后才更新其余相机。</translation>
+    </message>
+    <message>
+        <source>--canary takes a number of cameras, not &quot;%1&quot;.</source>
+        <translation>--canary 需要相机数量，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>Begin no further camera after so many failures (default 1).</source>
+        <translation>失败达到此次数后不再开始新的相机（默认 1）。</translation>
+    </message>
+    <message>
+        <source>--max-failures takes a number of cameras, not &quot;%1&quot;.</source>
+        <translation>--max-failures 需要相机数量，而不是“%1”。</translation>
+    </message>
+    <message>
+        <source>Only say what would be done.</source>
+        <translation>仅说明将执行的操作。</translation>
+    </message>
+    <message>
+        <source>Do not ask before the updates begin.</source>
+        <translation>开始更新前不询问。</translation>
+    </message>
+    <message>
+        <source>No command is given; there are %1.</source>
+        <translation>未指定命令；可用的命令有 %1。</translation>
+    </message>
+    <message>
+        <source>There is no command &quot;%1&quot;; there are %2.</source>
+        <translation>没有命令“%1”；可用的命令有 %2。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument &quot;%1&quot;.</source>
+        <translation>意外的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs an update file.</source>
+        <translation>“%1”需要一个更新文件。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; has no option --%2.</source>
+        <translation>“%1”没有选项 --%2。</translation>
+    </message>
+    <message>
+        <source>--csv and --json exclude each other.</source>
+        <translation>--csv 和 --json 不能同时使用。</translation>
+    </message>
+    <message>
+        <source>Say which cameras: --camera, --model or --all.</source>
+        <translation>请指定相机：--camera、--model 或 --all。</translation>
+    </message>
+    <message>
+        <source>--camera, --model and --all exclude each other.</source>
+        <translation>--camera、--model 和 --all 不能同时使用。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateLog</name>
+    <message>
+        <source>The log in &quot;%1&quot; cannot be written: %2; the updates go on without it.</source>
+        <translation>无法写入“%1”中的日志：%2；更新将在没有日志的情况下继续。</translation>
+    </message>
+    <message>
+        <source>there is no home folder</source>
+        <translation>没有主文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateProgram</name>
+    <message>
+        <source>The file fits none of the cameras.</source>
+        <translation>该文件不适用于任何相机。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n damaged line(s) of the history were skipped.</source>
+        <translation>
+            <numerusform>已跳过更新历史中 %n 个损坏的行。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The file does not fit camera %1: %2.</source>
+        <translation>该文件不适用于相机 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Camera %1 does not answer. Switch it off and on, then resume again.</source>
+        <translation>相机 %1 没有响应。请关闭电源后重新打开，然后再次执行 resume。</translation>
+    </message>
+    <message>
+        <source>Camera %1: the file &quot;%2&quot; is not the one any more with which its update was begun; use &quot;update&quot;.</source>
+        <translation>相机 %1：文件“%2”已不是开始更新时的那个文件，请使用“update”。</translation>
+    </message>
+    <message>
+        <source>No update was interrupted.</source>
+        <translation>没有中断的更新。</translation>
+    </message>
+    <message>
+        <source>it has the newer version %1 (--allow-downgrade)</source>
+        <translation>已有更新的版本 %1（--allow-downgrade）</translation>
+    </message>
+    <message>
+        <source>it has version %1 already (--allow-reinstall)</source>
+        <translation>已是版本 %1（--allow-reinstall）</translation>
+    </message>
+    <message>
+        <source>There is no terminal to ask at; say --yes, or --dry-run to see what would be done.</source>
+        <translation>没有可供询问的终端，请指定 --yes，或用 --dry-run 查看将执行的操作。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Update %n camera(s)? [y/N]</source>
+        <translation>
+            <numerusform>要更新 %n 台相机吗？[y/N]</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Nothing was updated.</source>
+        <translation>未更新任何相机。</translation>
+    </message>
+    <message>
+        <source>No further camera begins. Those that run are finished; cut off, they could be damaged.</source>
+        <translation>不再开始新的相机。正在运行的更新将会完成；若中途切断，相机可能损坏。</translation>
+    </message>
+    <message>
+        <source>Stopped; nothing was updated.</source>
+        <translation>已停止；未更新任何相机。</translation>
+    </message>
+    <message>
+        <source>The output cannot be written: %1; the updates go on, see the history.</source>
+        <translation>无法写入输出：%1；更新会继续，结果见更新历史。</translation>
+    </message>
+    <message>
+        <source>The output cannot be written: %1.</source>
+        <translation>无法写入输出：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::NuvexUpdate::CUpdateSeries</name>
+    <message>
+        <source>the camera is not there any more</source>
+        <translation>相机已不存在</translation>
     </message>
 </context>
 <context>
@@ -1775,12 +2167,75 @@ Update %1
         <source>the update program says something that is not understood; install the viewer again</source>
         <translation>无法理解更新进程发送的信息，请重新安装查看器</translation>
     </message>
+    <message>
+        <source>it is for the model %1</source>
+        <translation>仅适用于型号 %1</translation>
+    </message>
+    <message>
+        <source>it is for the device version %1, the camera has %2</source>
+        <translation>仅适用于设备版本 %1，而相机为 %2</translation>
+    </message>
+    <message>
+        <source>it needs firmware version %1 or newer, the camera has %2</source>
+        <translation>需要固件版本 %1 或更高版本，而相机为 %2</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>
     <message>
         <source>The history of updates &quot;%1&quot; cannot be shown: %2</source>
         <translation>无法显示更新历史“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::Update::CUpdateHistoryModel</name>
+    <message>
+        <source>Running</source>
+        <translation>正在运行</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>已更新</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>已取消</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>更新前</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>更新后</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>用时</translation>
     </message>
 </context>
 </TS>
