@@ -34,6 +34,8 @@ test_packages=(
   clang-tidy
   git
   iproute2
+  procps
+  python3-jsonschema
   unzip
   # The address and thread sanitizers' libraries come with the compiler.
 )

@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
-        <translation>実際のカメラより速くファームウェア更新ウィザードを進め、画面を &lt;dir&gt; に保存して終了します。</translation>
+        <translation>実際のカメラより速くファームウェア更新ウィザードを進め、画面を &lt;フォルダー&gt; に保存して終了します。</translation>
     </message>
 </context>
 <context>
@@ -1066,7 +1066,7 @@ Update %1
     </message>
     <message>
         <source>Use the language &lt;code&gt;: %1.</source>
-        <translation>言語 &lt;code&gt; を使用します: %1。</translation>
+        <translation>言語 &lt;コード&gt; を使用します: %1。</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; there are %2.</source>

@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
-        <translation>실제 카메라보다 빠르게 펌웨어 업데이트 마법사를 진행하고 화면을 &lt;dir&gt;에 저장한 뒤 종료합니다.</translation>
+        <translation>실제 카메라보다 빠르게 펌웨어 업데이트 마법사를 진행하고 화면을 &lt;폴더&gt;에 저장한 뒤 종료합니다.</translation>
     </message>
 </context>
 <context>
@@ -1066,7 +1066,7 @@ Update %1
     </message>
     <message>
         <source>Use the language &lt;code&gt;: %1.</source>
-        <translation>언어 &lt;code&gt;를 사용합니다: %1.</translation>
+        <translation>언어 &lt;코드&gt;를 사용합니다: %1.</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; there are %2.</source>

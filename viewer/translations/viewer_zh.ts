@@ -119,7 +119,7 @@
     </message>
     <message>
         <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
-        <translation>以快于真实相机的速度走完固件更新向导，将画面保存到 &lt;dir&gt; 后退出。</translation>
+        <translation>以快于真实相机的速度走完固件更新向导，将画面保存到 &lt;文件夹&gt; 后退出。</translation>
     </message>
 </context>
 <context>
@@ -1066,7 +1066,7 @@ Update %1
     </message>
     <message>
         <source>Use the language &lt;code&gt;: %1.</source>
-        <translation>使用语言 &lt;code&gt;：%1。</translation>
+        <translation>使用语言 &lt;代码&gt;：%1。</translation>
     </message>
     <message>
         <source>The language &quot;%1&quot; is unknown; there are %2.</source>
