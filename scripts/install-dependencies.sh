@@ -32,8 +32,10 @@ test_packages=(
   ccache
   clang-format
   clang-tidy
+  dbus
   git
   iproute2
+  python3-dbusmock
   unzip
   # The address and thread sanitizers' libraries come with the compiler.
 )

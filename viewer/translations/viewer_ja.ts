@@ -728,6 +728,13 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CameraWorker::CCameraUpdate</name>
+    <message>
+        <source>The firmware of camera %1 is being updated.</source>
+        <translation>カメラ %1 のファームウェアを更新しています。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CommandLine::COptionReader</name>
     <message>
         <source>Show this help and quit.</source>

@@ -728,6 +728,13 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CameraWorker::CCameraUpdate</name>
+    <message>
+        <source>The firmware of camera %1 is being updated.</source>
+        <translation>카메라 %1의 펌웨어를 업데이트하고 있습니다.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CommandLine::COptionReader</name>
     <message>
         <source>Show this help and quit.</source>
