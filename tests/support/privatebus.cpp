@@ -86,8 +86,12 @@ QStringList CPrivateBus::getCalls(const QString &method) const
     QFile file(getLogPath());
     const QString log
         = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    const QRegularExpression beginning("^[0-9.]+ " + method + ' ');
-    return log.split('\n').filter(beginning).replaceInStrings(beginning, {});
+    // Arguments may have line ends.
+    const QRegularExpression time("^[0-9]+[.][0-9]+ ", QRegularExpression::MultilineOption);
+    const QRegularExpression name('^' + method + ' ');
+    QStringList calls = log.split(time).filter(name).replaceInStrings(name, {});
+    calls.replaceInStrings(QRegularExpression("\n$"), {});
+    return calls;
 }
 
 bool CPrivateBus::hasService(const QString &service) const

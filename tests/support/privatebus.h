@@ -28,8 +28,7 @@ public:
 
     [[nodiscard]] QString getLogPath() const;
 
-    /// The lines of the log that are calls of @p method, without times; whoever writes into the log
-    /// as well has to read it itself.
+    /// The arguments of the calls of @p method that stand in the log.
     [[nodiscard]] QStringList getCalls(const QString &method) const;
 
 private:

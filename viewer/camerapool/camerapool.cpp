@@ -77,6 +77,8 @@ CCameraPool::CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolde
         connect(kind.get(), &ICameraKind::cameraStateChanged, this,
                 &CCameraPool::onCameraStateChanged);
     }
+    connect(getService<CDeviceFirmwareUpdateService>().data(),
+            &CDeviceFirmwareUpdateService::updateEnded, this, &CCameraPool::updateEnded);
     connect(&d->stream, &CFrameStream::frameReady, this, &CCameraPool::frameReady);
     connect(&d->stream, &CFrameStream::recordingFailed, this, &CCameraPool::onRecordingFailed);
     QCoreApplication::installTranslator(d->errors.get());

@@ -149,9 +149,12 @@ QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDevice
                                                              current->getSerialNumber(),
                                                              own ? own->getSnapshot().ipAddress
                                                                  : QString()};
-    return QSharedPointer<IDeviceFirmwareUpdate>(new Update::CDeviceFirmwareUpdate(
+    const auto job = QSharedPointer<Update::CDeviceFirmwareUpdate>::create(
         description, info, std::move(device), m_activities, m_errors, m_journalFolder,
-        makeWorkerStart(camera->getId(), *info)));
+        makeWorkerStart(camera->getId(), *info));
+    connect(job.data(), &Update::CDeviceFirmwareUpdate::executed, this,
+            &CDeviceFirmwareUpdateService::updateEnded);
+    return job;
 }
 
 } // namespace Viewer::CameraPool

@@ -338,6 +338,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CSeriesNotifier</name>
+    <message numerus="yes">
+        <source>%n update(s) succeeded.</source>
+        <translation>
+            <numerusform>%n 次更新成功。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) failed.</source>
+        <translation>
+            <numerusform>%n 次更新失败。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The firmware updates have ended</source>
+        <translation>固件更新已结束</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CTextDialog</name>
     <message>
         <source>&amp;Copy all</source>
