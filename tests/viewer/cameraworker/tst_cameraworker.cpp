@@ -224,6 +224,7 @@ void CCameraWorkerTest::holdsOffSleepWhileItWrites()
     worker.start(WORKER, {"update"});
     worker.write(QCborValue(task.toCbor()).toCbor());
     QVERIFY(worker.waitForFinished());
+    QCOMPARE(worker.readAllStandardError(), QByteArray()); // where sanitizers tell what they found
     QCOMPARE(worker.exitCode(), 0);
     QStringList expected{"0 0", "1 0", "3 0", "1 1", "3 1", "1 2", asked, "3 2", "1 3",
                          "3 3", "1 4", "3 4", "1 5", "3 5", "1 6", "3 6", "4 0", dropped};
