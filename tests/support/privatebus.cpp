@@ -10,7 +10,7 @@
 namespace TestSupport {
 
 /// No folders of services: on a desktop they would have real ones started.
-static const char *const Configuration = R"(<!DOCTYPE busconfig PUBLIC
+static const char *const CONFIGURATION = R"(<!DOCTYPE busconfig PUBLIC
   "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
   "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
@@ -22,14 +22,14 @@ static const char *const Configuration = R"(<!DOCTYPE busconfig PUBLIC
 </busconfig>)";
 
 // The system's, which has the packages of the system, too.
-static const char *const Python = "/usr/bin/python3";
+static const char *const PYTHON = "/usr/bin/python3";
 
 QString CPrivateBus::findMissing()
 {
     if (QStandardPaths::findExecutable("dbus-daemon").isEmpty())
         return "dbus-daemon is not installed (package dbus).";
     QProcess python;
-    python.start(Python, {"-c", "import dbusmock"});
+    python.start(PYTHON, {"-c", "import dbusmock"});
     if (!python.waitForFinished() || python.exitCode() != 0)
         return "dbusmock is not installed (package python3-dbusmock).";
     return {};
@@ -39,7 +39,7 @@ CPrivateBus::CPrivateBus()
 {
     QFile file(m_folder.filePath("bus.conf"));
     if (file.open(QIODevice::WriteOnly))
-        file.write(QString(Configuration).arg(getAddress().constData()).toUtf8());
+        file.write(QString(CONFIGURATION).arg(getAddress().constData()).toUtf8());
     file.close();
     m_daemon.start("dbus-daemon",
                    {"--nofork", "--print-address", "--config-file=" + file.fileName()});
@@ -71,7 +71,7 @@ void CPrivateBus::addMock(const QString &service, const QStringList &arguments)
     mock.setProcessEnvironment(environment);
     mock.setStandardOutputFile(getLogPath(), QIODevice::Append);
     mock.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    mock.start(Python, QStringList({"-m", "dbusmock", "--session"}) + arguments);
+    mock.start(PYTHON, QStringList({"-m", "dbusmock", "--session"}) + arguments);
     if (!QTest::qWaitFor([&] { return hasService(service); }, 30'000))
         qFatal("The mock of %s does not start.", qUtf8Printable(service));
 }
