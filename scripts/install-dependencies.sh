@@ -32,9 +32,11 @@ test_packages=(
   ccache
   clang-format
   clang-tidy
+  dbus
   git
   iproute2
   procps
+  python3-dbusmock
   python3-jsonschema
   unzip
   # The address and thread sanitizers' libraries come with the compiler.

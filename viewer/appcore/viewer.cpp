@@ -11,6 +11,7 @@
 #include "menuservice.h"
 #include "modaldialogwatcher.h"
 #include "pluginlistdialog.h"
+#include "seriesnotifier.h"
 #include "switchmenu.h"
 #include "updatehistorydialog.h"
 #include "windowservice.h"
@@ -75,6 +76,7 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
     , m_linkOpener(std::make_unique<CLinkOpener>())
     , m_pool(
           std::make_unique<CameraPool::CCameraPool>(takeKinds(m_options), m_options.journalFolder))
+    , m_seriesNotifier(std::make_unique<CSeriesNotifier>(*m_pool))
     , m_menuService(QSharedPointer<CMenuService>::create())
     , m_selectorService(QSharedPointer<CameraSelector::CDeviceSelectorService>::create())
     , m_window(std::make_unique<CMainWindow>(*m_menuService))

@@ -37,6 +37,7 @@ class CLogFolder;
 class CMainWindow;
 class CMenuService;
 class CModalDialogWatcher;
+class CSeriesNotifier;
 class CSwitchMenu;
 
 /// The whole viewer: makes its parts, connects them, starts the plug-ins, and ends all of it in the
@@ -99,6 +100,7 @@ private:
     std::unique_ptr<CModalDialogWatcher> m_dialogWatcher;
     std::unique_ptr<CLinkOpener> m_linkOpener;
     std::unique_ptr<CameraPool::CCameraPool> m_pool;
+    std::unique_ptr<CSeriesNotifier> m_seriesNotifier;
     QSharedPointer<CMenuService> m_menuService;
     QSharedPointer<CameraSelector::CDeviceSelectorService> m_selectorService;
     std::unique_ptr<CMainWindow> m_window;

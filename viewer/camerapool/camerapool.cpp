@@ -79,6 +79,8 @@ CCameraPool::CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolde
     }
     connect(d->enumeration.data(), &CCameraEnumerationService::progressElsewhereChanged, this,
             &CCameraPool::snapshotChanged);
+    connect(getService<CDeviceFirmwareUpdateService>().data(),
+            &CDeviceFirmwareUpdateService::updateEnded, this, &CCameraPool::updateEnded);
     connect(&d->stream, &CFrameStream::frameReady, this, &CCameraPool::frameReady);
     connect(&d->stream, &CFrameStream::recordingFailed, this, &CCameraPool::onRecordingFailed);
     QCoreApplication::installTranslator(d->errors.get());

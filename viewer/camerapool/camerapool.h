@@ -100,6 +100,10 @@ signals:
     /// GUI thread.
     void updateRunningChanged(bool running);
 
+    /// GUI thread; an update job has executed, and before updateRunningChanged(false). A job that
+    /// is executed once more does nothing and is not told of.
+    void updateEnded(const QString &cameraId, bool isUpdated);
+
 private slots:
     void onActivityChanged(const QString &cameraId);
     void onCameraStateChanged(const QString &cameraId);

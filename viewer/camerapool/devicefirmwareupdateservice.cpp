@@ -151,6 +151,8 @@ QSharedPointer<IDeviceFirmwareUpdate> CDeviceFirmwareUpdateService::createDevice
         description, info, std::move(device), m_activities, m_errors, m_journalFolder,
         makeWorkerStart(camera->getId(), *info));
     job->setLogFinder(m_findLog);
+    connect(job.data(), &Update::CDeviceFirmwareUpdate::executed, this,
+            &CDeviceFirmwareUpdateService::updateEnded);
     return job;
 }
 

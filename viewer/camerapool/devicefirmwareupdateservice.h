@@ -73,6 +73,10 @@ public:
         QSharedPointer<Plugin::CameraPool::ICameraInfo> camera,
         const QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo> &updateInfo) override;
 
+signals:
+    /// On the thread of this object; one of the jobs has executed.
+    void updateEnded(const QString &cameraId, bool isUpdated);
+
 private:
     [[nodiscard]] std::optional<Update::CWorkerStart>
     makeWorkerStart(const QString &cameraId, const Update::CFirmwareUpdateInfo &info) const;

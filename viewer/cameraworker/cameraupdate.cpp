@@ -128,6 +128,10 @@ void CCameraUpdate::stepProgressed(const CUpdateStep &, double percent)
 
 void CCameraUpdate::writing()
 {
+    if (!m_mayHaveWritten) {
+        m_sleepInhibitor.hold(
+            tr("The firmware of camera %1 is being updated.").arg(m_device->getName()));
+    }
     m_mayHaveWritten = true;
     watch(m_limit);
 }

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "eventwriter.h"
+#include "sleepinhibitor.h"
 #include "watchdog.h"
 
 #include "viewer/camera/icamerakind.h"
 #include "viewer/text/errortext.h"
 #include "viewer/update/iupdaterun.h"
 #include "viewer/update/workertask.h"
+
+#include <QCoreApplication>
 
 #include <atomic>
 #include <csignal>
@@ -17,6 +20,8 @@ namespace Viewer::CameraWorker {
 /// One update of one camera, told in events.
 class CCameraUpdate : private Update::IUpdateRun::IListener
 {
+    Q_DECLARE_TR_FUNCTIONS(Viewer::CameraWorker::CCameraUpdate)
+
 public:
     /// Both are borrowed. @p isCanceled becomes true when somebody wants the process to end.
     CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled);
@@ -53,6 +58,7 @@ private:
     bool m_isInUse = false; ///< somebody else works with the camera
     std::unique_ptr<Camera::ICameraDevice> m_device;
     std::unique_ptr<Update::IUpdateRun> m_run;
+    CSleepInhibitor m_sleepInhibitor;
     std::atomic<bool> m_mayHaveWritten{false}; ///< known to the watchdog's thread
     CWatchdog m_watchdog; ///< the last one, as its thread uses what stands above
 };

@@ -12,6 +12,23 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CSeriesNotifier</name>
+    <message numerus="yes">
+        <source>%n update(s) succeeded.</source>
+        <translation>
+            <numerusform>%n update succeeded.</numerusform>
+            <numerusform>%n updates succeeded.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) failed.</source>
+        <translation>
+            <numerusform>%n update failed.</numerusform>
+            <numerusform>%n updates failed.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CUpdateHistoryDialog</name>
     <message numerus="yes">
         <source>%n damaged line(s) of the history were skipped.</source>

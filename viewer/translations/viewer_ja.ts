@@ -338,6 +338,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CSeriesNotifier</name>
+    <message numerus="yes">
+        <source>%n update(s) succeeded.</source>
+        <translation>
+            <numerusform>%n 件の更新に成功しました。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) failed.</source>
+        <translation>
+            <numerusform>%n 件の更新に失敗しました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The firmware updates have ended</source>
+        <translation>ファームウェアの更新が終了しました</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CTextDialog</name>
     <message>
         <source>&amp;Copy all</source>
@@ -678,6 +697,13 @@ Firmware: %5</source>
     <message>
         <source>Cameras</source>
         <translation>カメラ</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraWorker::CCameraUpdate</name>
+    <message>
+        <source>The firmware of camera %1 is being updated.</source>
+        <translation>カメラ %1 のファームウェアを更新しています。</translation>
     </message>
 </context>
 <context>

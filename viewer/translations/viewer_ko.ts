@@ -338,6 +338,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CSeriesNotifier</name>
+    <message numerus="yes">
+        <source>%n update(s) succeeded.</source>
+        <translation>
+            <numerusform>업데이트 %n건이 성공했습니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) failed.</source>
+        <translation>
+            <numerusform>업데이트 %n건이 실패했습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The firmware updates have ended</source>
+        <translation>펌웨어 업데이트가 끝났습니다</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CTextDialog</name>
     <message>
         <source>&amp;Copy all</source>
@@ -678,6 +697,13 @@ Firmware: %5</source>
     <message>
         <source>Cameras</source>
         <translation>카메라</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraWorker::CCameraUpdate</name>
+    <message>
+        <source>The firmware of camera %1 is being updated.</source>
+        <translation>카메라 %1의 펌웨어를 업데이트하고 있습니다.</translation>
     </message>
 </context>
 <context>

@@ -338,6 +338,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CSeriesNotifier</name>
+    <message numerus="yes">
+        <source>%n update(s) succeeded.</source>
+        <translation>
+            <numerusform>%n 次更新成功。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n update(s) failed.</source>
+        <translation>
+            <numerusform>%n 次更新失败。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The firmware updates have ended</source>
+        <translation>固件更新已结束</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CTextDialog</name>
     <message>
         <source>&amp;Copy all</source>
@@ -678,6 +697,13 @@ Firmware: %5</source>
     <message>
         <source>Cameras</source>
         <translation>相机</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraWorker::CCameraUpdate</name>
+    <message>
+        <source>The firmware of camera %1 is being updated.</source>
+        <translation>正在更新相机 %1 的固件。</translation>
     </message>
 </context>
 <context>

@@ -91,6 +91,7 @@ void CDeviceFirmwareUpdate::executeFirmwareUpdate()
                                  << getFirmwareVersion();
     m_device.reset();
     announceEnd(error);
+    emit executed(m_camera.id, error.isEmpty());
     if (claimed)
         m_activities->end(m_camera.id);
 }

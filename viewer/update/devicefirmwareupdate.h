@@ -68,6 +68,11 @@ public:
     [[nodiscard]] QString getFirmwareVersion() const override;
     void executeFirmwareUpdate() override;
 
+signals:
+    /// The one execution that counts has ended, and the camera is about to be idle again. On the
+    /// thread that executes; @p isUpdated: the camera has the new firmware.
+    void executed(const QString &cameraId, bool isUpdated);
+
 private:
     void stepBegun(const UpdateFile::CUpdateStep &step,
                    std::chrono::milliseconds estimate) override;

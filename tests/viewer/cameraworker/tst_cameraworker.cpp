@@ -1,7 +1,14 @@
+#include "support/camerakinds.h"
+#include "support/privatebus.h"
+#include "tests/viewer/update/updatefixture.h"
+#include "viewer/update/updaterecord.h"
 #include "viewer/update/workerevent.h"
 #include "viewer/update/workertask.h"
+#include "viewer/updatefile/updatearchive.h"
+#include "viewer/updatefile/updatefilereader.h"
 
 #include <QCborArray>
+#include <QLocalServer>
 #include <QProcess>
 #include <QtTest>
 
@@ -10,8 +17,8 @@
 using Viewer::Update::CWorkerEvent;
 using Viewer::Update::CWorkerTask;
 
-/// What the finished worker answers to tasks that nobody should give it. Updates by it are seen in
-/// the tests of the wizard and of the viewer.
+/// What the finished worker answers to tasks that nobody should give it, and when it keeps the
+/// computer awake. Other updates by it are seen in the tests of the wizard and of the viewer.
 class CCameraWorkerTest : public QObject
 {
     Q_OBJECT
@@ -22,6 +29,8 @@ private slots:
     void tellsWhyItCannotBegin_data();
     void tellsWhyItCannotBegin();
     void refusesWhatIsNoEvent();
+    void holdsOffSleepWhileItWrites_data();
+    void holdsOffSleepWhileItWrites();
 };
 
 static CWorkerTask makeTask()
@@ -33,6 +42,36 @@ static CWorkerTask makeTask()
     task.manifestDigest = QByteArray(32, 'x');
     task.language = "ja";
     return task;
+}
+
+static std::optional<CWorkerEvent> takeEvent(QByteArray &output)
+{
+    QCborStreamReader reader(output);
+    const auto event = CWorkerEvent::fromCbor(QCborValue::fromCbor(reader).toMap());
+    output.remove(0, int(reader.currentOffset()));
+    return event;
+}
+
+/// All events but those of progress, as type and step, and all lines of a mock, without the time.
+static QStringList readLog(const QString &path)
+{
+    QFile file(path);
+    QByteArray log = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QStringList lines;
+    while (!log.isEmpty()) {
+        if (log.at(0) >= '0' && log.at(0) <= '9') { // a time
+            const int end = log.indexOf('\n');
+            lines.append(log.left(end).mid(log.indexOf(' ') + 1));
+            log.remove(0, end + 1);
+            continue;
+        }
+        const auto event = takeEvent(log);
+        if (!event)
+            return lines << "neither an event nor a line";
+        if (event->type != CWorkerEvent::EType::StepProgressed)
+            lines.append(QString("%1 %2").arg(int(event->type)).arg(event->step));
+    }
+    return lines;
 }
 
 void CCameraWorkerTest::refusesWhatIsNoTask_data()
@@ -98,14 +137,8 @@ void CCameraWorkerTest::tellsWhyItCannotBegin()
     QVERIFY(worker.waitForFinished());
     QCOMPARE(worker.exitCode(), 1);
     QByteArray output = worker.readAllStandardOutput();
-    const auto takeEvent = [&output] {
-        QCborStreamReader reader(output);
-        const auto event = CWorkerEvent::fromCbor(QCborValue::fromCbor(reader).toMap());
-        output.remove(0, int(reader.currentOffset()));
-        return event;
-    };
-    QCOMPARE(takeEvent()->type, CWorkerEvent::EType::Hello);
-    const auto last = takeEvent();
+    QCOMPARE(takeEvent(output)->type, CWorkerEvent::EType::Hello);
+    const auto last = takeEvent(output);
     QVERIFY(last && last->type == CWorkerEvent::EType::Failed);
     QCOMPARE(last->error, "the update program does not know a camera of this kind");
     QVERIFY(last->localizedError != last->error && !last->localizedError.isEmpty());
@@ -131,6 +164,72 @@ void CCameraWorkerTest::refusesWhatIsNoEvent()
         QVERIFY2(!CWorkerEvent::fromCbor(changed), qPrintable(field));
     }
     QVERIFY(!CWorkerEvent::fromCbor({}));
+}
+
+void CCameraWorkerTest::holdsOffSleepWhileItWrites_data()
+{
+    QTest::addColumn<QString>("logind");
+    QTest::addColumn<QString>("asked"); // a line of the log
+    QTest::addColumn<QString>("dropped");
+    const QString asked
+        = "Inhibit \"sleep:shutdown:handle-lid-switch\" \"Nuvex Viewer\" \"The firmware of camera "
+          "Line 1 left is being updated.\" \"block\"";
+    QTest::newRow("granted") << R"({"refuses": false})" << asked << "dropped";
+    QTest::newRow("refused") << R"({"refuses": true})" << asked << QString();
+    QTest::newRow("no logind") << QString() << QString() << QString();
+    QTest::newRow("no bus") << "none" << QString() << QString();
+    QTest::newRow("a bus that never answers") << "silent" << QString() << QString();
+}
+
+void CCameraWorkerTest::holdsOffSleepWhileItWrites()
+{
+    QFETCH(QString, logind);
+    QFETCH(QString, asked);
+    QFETCH(QString, dropped);
+    const QString missing = TestSupport::CPrivateBus::findMissing();
+    if (!missing.isEmpty())
+        QSKIP(qPrintable(missing));
+    TestSupport::CPrivateBus bus;
+    if (logind.startsWith('{'))
+        bus.addMock("org.freedesktop.login1", {"--template", LOGIND, "--parameters", logind});
+    const QTemporaryDir folder;
+    QByteArray address = bus.getAddress();
+    QLocalServer silent;
+    if (logind == "none" || logind == "silent")
+        address = "unix:path=" + folder.filePath("bus").toLocal8Bit();
+    QVERIFY(logind != "silent" || silent.listen(folder.filePath("bus")));
+
+    CWorkerTask task = makeTask();
+    task.kind = "simulation";
+    const Viewer::CameraPool::CCameraPool pool(TestSupport::makeCameraKinds({"--speed", "100"}));
+    for (const auto &kind : pool.getKinds()) {
+        if (const auto handle = kind->createHandle("gige-40012345"))
+            task.camera = handle->describe();
+    }
+    task.filePath = folder.filePath("update.guf");
+    TestSupport::writeUpdateFile(task.filePath, {"2.0.0"}, 20'000);
+    using namespace Viewer::UpdateFile;
+    task.manifestDigest = CUpdateFileReader::read(CUpdateArchive(task.filePath)).sha256;
+    Viewer::Update::CUpdateRecord record;
+    record.begin = QDateTime::currentDateTimeUtc();
+    task.record = toJson(record);
+    task.language = "en";
+
+    QProcess worker;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("DBUS_SYSTEM_BUS_ADDRESS", address);
+    worker.setProcessEnvironment(environment);
+    // Events and the lines of logind come into one file in the order in which they happen.
+    worker.setStandardOutputFile(bus.getLogPath(), QIODevice::Append);
+    worker.start(WORKER, {"update"});
+    worker.write(QCborValue(task.toCbor()).toCbor());
+    QVERIFY(worker.waitForFinished());
+    QCOMPARE(worker.readAllStandardError(), QByteArray()); // where sanitizers tell what they found
+    QCOMPARE(worker.exitCode(), 0);
+    QStringList expected{"0 0", "1 0", "3 0", "1 1", "3 1", "1 2", asked, "3 2", "1 3",
+                         "3 3", "1 4", "3 4", "1 5", "3 5", "1 6", "3 6", "4 0", dropped};
+    expected.removeAll({});
+    QTRY_COMPARE(readLog(bus.getLogPath()), expected);
 }
 
 QTEST_GUILESS_MAIN(CCameraWorkerTest)
