@@ -49,6 +49,7 @@ void CTextReport::printTable(const QVector<QStringList> &rows)
         for (int column = 0; column < row.size(); ++column)
             widths[column] = std::max(widths[column], Text::getDisplayWidth(row.at(column)));
     }
+    QStringList lines;
     for (const QStringList &row : rows) {
         QString line;
         for (int column = 0; column < row.size(); ++column) {
@@ -58,8 +59,10 @@ void CTextReport::printTable(const QVector<QStringList> &rows)
         }
         while (line.endsWith(QLatin1Char(' ')))
             line.chop(1);
-        print(line);
+        lines.append(line);
     }
+    // At once: there may be ten thousand.
+    print(lines.join(QLatin1Char('\n')));
 }
 
 void CTextReport::showCameras(const QVector<Camera::CCameraSnapshot> &cameras)

@@ -10,6 +10,8 @@ namespace Viewer::Text {
 /// a terminal cannot show either.
 static int getDisplayWidth(char32_t letter)
 {
+    if (letter >= ' ' && letter <= '~')
+        return 1;
     const int width = wcwidth(static_cast<wchar_t>(letter));
     return width < 0 ? 1 : width;
 }
