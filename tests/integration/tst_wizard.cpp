@@ -6,8 +6,12 @@
 #include "viewer/camerapool/camerapool.h"
 
 #include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLineEdit>
 #include <QPluginLoader>
+#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -39,6 +43,7 @@ private slots:
     void updatesCamerasOnTheWire();
     void tellsEachFault_data();
     void tellsEachFault();
+    void agreesWithTheProgramWithoutAScreen();
 
 private:
     void openPool(const QStringList &arguments);
@@ -378,6 +383,103 @@ void CWizardTest::tellsEachFault()
         const QString log = readLog(result);
         QVERIFY(log.contains(error));
         QVERIFY(log.contains("Firmware update (1/1) failed."));
+    }
+}
+
+/// Virtual cameras number 1 to @p count, of which some have @p faults, and what makes a program
+/// find them.
+class CManyCameras
+{
+public:
+    CManyCameras(int count, const QMap<int, QString> &faults)
+    {
+        for (int number = 1; number <= count; ++number) {
+            const QHostAddress address = CVirtualCameraProcess::getOwnAddress(number);
+            m_options << "--camera-address" << address.toString();
+            m_cameras.push_back(std::make_unique<CVirtualCameraProcess>(
+                address,
+                QStringList{"--serial", getName(number), "--reset-ms", "100"}
+                    + faults.value(number).split(' ', Qt::SkipEmptyParts)));
+        }
+    }
+
+    [[nodiscard]] static QString getName(int number) { return QString::number(50000000 + number); }
+    [[nodiscard]] const QStringList &getOptions() const { return m_options; }
+
+private:
+    QStringList m_options{"--no-simulation"};
+    std::vector<std::unique_ptr<CVirtualCameraProcess>> m_cameras;
+};
+
+void CWizardTest::agreesWithTheProgramWithoutAScreen()
+{
+    if (TestSupport::makeCameraKinds({"--network"}).empty())
+        QSKIP("The viewer was built without the library for real cameras.");
+    static constexpr int COUNT = 64;
+    const QMap<int, QString> faults{{5, "--status 3"},
+                                    {13, "--refuse FileOperationExecute"},
+                                    {21, "--refuse FirmwareActivate"},
+                                    {29, "--refuse DeviceReset"},
+                                    {37, "--lose-control 40960"},
+                                    {45, "--old-version --reset-ms 1500"},
+                                    {53, "--description broken"},
+                                    {61, "--description self-value"}};
+    auto cameras = std::make_unique<CManyCameras>(COUNT, faults);
+    QProcess program;
+    program.start(NUVEXUPDATE,
+                  QStringList{"update", SAMPLE_UPDATES "/gv-1400m_2.0.0.guf", "--all", "--yes",
+                              "--json", "--language", "en", "--max-failures", "64", "--parallel",
+                              "64"}
+                      + cameras->getOptions());
+    QVERIFY(program.waitForFinished(120'000));
+    QCOMPARE(program.exitCode(), 1);
+    QHash<QString, QJsonObject> results;
+    const QByteArray lastLine = program.readAllStandardOutput().trimmed().split('\n').last();
+    for (const QJsonValue result : QJsonDocument::fromJson(lastLine)["cameras"].toArray())
+        results.insert(result["serialNumber"].toString(), result.toObject());
+    QCOMPARE(results.size(), COUNT);
+
+    cameras.reset();
+    cameras = std::make_unique<CManyCameras>(COUNT, faults);
+    openPool(cameras->getOptions());
+    QHash<QString, QString> ids;
+    for (const auto &camera :
+         m_enumeration->getTransportLayerInfoVector().first()->getCameraInfoList())
+        ids.insert(camera->getSerialNumber(), camera->getId());
+    // All good ones in one series; each of the others ends the series that it is in.
+    m_host->menus->getEntry("NuvexViewer.Menu.Tools").action->trigger();
+    QDialog *page = waitForPage("Step 1");
+    toggle(page, "GV-1400M");
+    for (auto fault = faults.begin(); fault != faults.end(); ++fault)
+        toggle(page, CManyCameras::getName(fault.key()) + " (GV-1400M)");
+    click(*page, "Next");
+    chooseFile("gv-1400m_2.0.0.guf");
+    startUpdate();
+    page = waitForPage("Step 5");
+    QTRY_COMPARE(getText(*page, "successfulUpdatesLabel"), "Successful updates: 56");
+    QTRY_COMPARE(getVersions().values().count("2.0.0"), 56);
+    for (int number = 1; number <= COUNT; ++number) {
+        const QString name = CManyCameras::getName(number);
+        QCOMPARE(results[name]["outcome"].toString(),
+                 QString(faults.contains(number) ? "failed" : "updated"));
+        if (!faults.contains(number))
+            QCOMPARE(results[name]["firmwareVersion"].toString(), getVersions().value(ids[name]));
+    }
+    for (auto fault = faults.begin(); fault != faults.end(); ++fault) {
+        const QString name = CManyCameras::getName(fault.key());
+        click(*page, "Next");
+        page = waitForPage("Step 1");
+        toggle(page, name + " (GV-1400M)");
+        // What has failed stays ticked, to be repeated.
+        if (fault != faults.begin())
+            toggle(page, CManyCameras::getName(std::prev(fault).key()) + " (GV-1400M)");
+        click(*page, "Next");
+        chooseFile("gv-1400m_2.0.0.guf");
+        startUpdate();
+        page = waitForPage("Step 5");
+        QTRY_COMPARE(getText(*page, "failedUpdatesLabel"), "Failed updates: 1");
+        const QString message = results[name]["message"].toObject()["text"].toString();
+        QVERIFY2(!message.isEmpty() && readLog(page).contains(message), qPrintable(message));
     }
 }
 
