@@ -84,6 +84,7 @@ void CCameraEnumerationService::request()
     m_wanted = false;
     m_wantedAnnounced = false;
     m_updateCountAtRequest = m_activities->getUpdateCount();
+    m_updatedElsewhere = findUpdatedElsewhere();
     emit requested();
 }
 
@@ -91,9 +92,9 @@ void CCameraEnumerationService::onEnumerated()
 {
     QVector<Camera::CTransportLayerSnapshot> layers = m_worker->takeResult();
     m_running = false;
-    if (m_activities->isUpdateRunning()
-        || m_activities->getUpdateCount() != m_updateCountAtRequest) {
-        // The result may show a camera in the middle of its restart.
+    if (m_activities->isUpdateRunning() || m_activities->getUpdateCount() != m_updateCountAtRequest
+        || findUpdatedElsewhere() != m_updatedElsewhere) {
+        // The result may show a camera in the middle of its restart, or as it was before.
         m_wantedAnnounced = m_wantedAnnounced || m_runningAnnounced;
         request();
         return;
@@ -122,7 +123,6 @@ QSet<QString> CCameraEnumerationService::findUpdatedElsewhere() const
 void CCameraEnumerationService::markUpdatedElsewhere(
     QVector<Camera::CTransportLayerSnapshot> &layers)
 {
-    m_updatedElsewhere = findUpdatedElsewhere();
     for (Camera::CTransportLayerSnapshot &layer : layers) {
         for (Camera::CCameraSnapshot &camera : layer.cameras) {
             if (!m_updatedElsewhere.contains(camera.id))

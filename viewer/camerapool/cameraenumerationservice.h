@@ -67,7 +67,7 @@ private:
     Camera::ICameraEnumerator &m_enumerator;
     const std::shared_ptr<const Camera::CCameraActivities> m_activities;
     const QString m_journalFolder;
-    QSet<QString> m_updatedElsewhere; ///< ids of cameras, as of the last enumeration
+    QSet<QString> m_updatedElsewhere; ///< ids of cameras, when the last enumeration began
     QTimer m_journalTimer; ///< runs while there are any
     QThread m_thread;
     CEnumerationWorker *const m_worker; // lives in the thread and is deleted with it

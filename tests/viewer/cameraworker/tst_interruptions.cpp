@@ -1,0 +1,276 @@
+#include "support/camerakinds.h"
+#include "support/virtualcameraprocess.h"
+#include "tests/viewer/update/jobrecorder.h"
+#include "tests/viewer/update/updatefixture.h"
+#include "viewer/camerapool/camerapool.h"
+#include "viewer/update/updatehistory.h"
+#include "viewer/update/updatejournal.h"
+
+#include "camerapool/icameraenumerationservice.h"
+#include "camerapool/idevicefirmwareupdateservice.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <csignal>
+
+using namespace TestSupport;
+using namespace Viewer::Update;
+using namespace Plugin::CameraPool;
+using Viewer::CameraPool::CCameraPool;
+
+using IsReached = bool (*)(const CUpdateRecord &record);
+Q_DECLARE_METATYPE(IsReached)
+
+static constexpr int LONGEST_WAIT = 60000; // milliseconds; far more than anything needs
+
+static const char *const CAMERA_DESCRIPTION = R"({ "format": 1, "layers": [{ "id": "layer",
+    "displayName": "Layer", "cameras": [{ "id": "camera", "displayName": "Camera",
+    "model": "VX-1400M", "serialNumber": "1", "deviceVersion": "R2", "firmwareVersion": "1.2.0",
+    "uploadSpeed": 20000 }] }] })";
+
+/// What becomes of an update, and of the camera, when the finished viewer or its worker is killed.
+class CInterruptionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void endsWellWhoeverIsKilled_data();
+    void endsWellWhoeverIsKilled();
+    void aSecondViewerTouchesNothing();
+
+private:
+    void startVirtualCamera(const QStringList &arguments);
+    [[nodiscard]] CJournalEntry getEntry() const;
+    void startViewer(QProcess &viewer) const;
+    void waitUntil(IsReached isReached, QProcess &viewer) const;
+    [[nodiscard]] QByteArray readUpTo(const char *text, QProcess &viewer) const;
+    [[nodiscard]] QString readInstalledVersion() const;
+
+    QTemporaryDir m_folder;
+    QDir m_home; ///< of one row
+    QString m_journals;
+    QStringList m_camera; ///< the viewer's arguments for its only camera
+    std::unique_ptr<CVirtualCameraProcess> m_virtualCamera; ///< null: it is a simulated one
+};
+
+static QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The process that the viewer has started for an update; 0: there is none.
+static pid_t findWorker(qint64 viewer)
+{
+    QDirIterator processes("/proc", {"[0-9]*"}, QDir::Dirs);
+    while (processes.hasNext()) {
+        const QByteArray line = readFile(processes.next() + "/stat");
+        const QByteArray parent = line.mid(line.lastIndexOf(')') + 4).split(' ').first();
+        if (line.contains("(nuvexcamera") && parent == QByteArray::number(viewer))
+            return processes.fileName().toInt();
+    }
+    return 0;
+}
+
+void CInterruptionsTest::initTestCase()
+{
+    QVERIFY(QDir(m_folder.path()).mkdir("files"));
+    writeUpdateFile(m_folder.filePath("files/update.guf"), {"2.0.0"}, 50'000, 24);
+    writeFile(m_folder.filePath("cameras.json"), CAMERA_DESCRIPTION);
+    // The wizard's state machine lives until the process ends, which a leak checker takes for a
+    // leak.
+    qputenv("ASAN_OPTIONS", "detect_leaks=0");
+}
+
+void CInterruptionsTest::init()
+{
+    m_home.setPath(m_folder.filePath(QString::number(QRandomGenerator::global()->generate())));
+    QVERIFY(m_home.mkpath("."));
+    m_journals = m_home.filePath("nuvexviewer/updates");
+    for (const char *variable :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "TMPDIR"})
+        qputenv(variable, m_home.path().toUtf8());
+}
+
+void CInterruptionsTest::cleanup()
+{
+    m_virtualCamera.reset();
+}
+
+void CInterruptionsTest::startVirtualCamera(const QStringList &arguments)
+{
+    const QHostAddress address = CVirtualCameraProcess::getOwnAddress(1);
+    m_virtualCamera = std::make_unique<CVirtualCameraProcess>(
+        address,
+        QStringList{"--model", "VX-1400M", "--answer-ms", "2", "--reset-ms", "1000"} + arguments);
+    m_camera = QStringList{"--no-simulation", "--camera-address", address.toString()};
+}
+
+/// The only journal.
+CJournalEntry CInterruptionsTest::getEntry() const
+{
+    return readJournals(m_journals).entries.value(0);
+}
+
+/// Looks at the journal all the time, so that the phase is not over when it is seen.
+void CInterruptionsTest::waitUntil(IsReached isReached, QProcess &viewer) const
+{
+    QElapsedTimer waiting;
+    waiting.start();
+    while (!isReached(getEntry().record) && !waiting.hasExpired(LONGEST_WAIT))
+        viewer.waitForFinished(1);
+}
+
+void CInterruptionsTest::startViewer(QProcess &viewer) const
+{
+    viewer.setProcessChannelMode(QProcess::MergedChannels);
+    viewer.setWorkingDirectory(m_home.path());
+    viewer.start(
+        VIEWER, m_camera + QStringList{"--samples", m_folder.filePath("files"), "--demo=pictures"});
+}
+
+/// What the viewer has said when it has said @p text, or nothing more.
+QByteArray CInterruptionsTest::readUpTo(const char *text, QProcess &viewer) const
+{
+    QByteArray output;
+    while (!output.contains(text) && viewer.waitForReadyRead(LONGEST_WAIT))
+        output += viewer.readAll();
+    return output;
+}
+
+/// What the camera has now, whoever has put it there.
+QString CInterruptionsTest::readInstalledVersion() const
+{
+    if (m_virtualCamera)
+        return m_virtualCamera->getEvents().filter("back ").last().mid(5);
+    const auto state
+        = QJsonDocument::fromJson(readFile(m_home.filePath("Nuvex/NuvexViewer/cameras.json")));
+    return state["firmware"]["camera"].toString();
+}
+
+void CInterruptionsTest::endsWellWhoeverIsKilled_data()
+{
+    QTest::addColumn<bool>("isReal");
+    QTest::addColumn<bool>("viewerDies");
+    QTest::addColumn<IsReached>("isReached");
+    const QPair<const char *, IsReached> phases[] = {
+        {"before the first write", [](auto &now) { return now.step > 0 && !now.hasWritten; }},
+        {"upload", [](auto &now) { return now.stepName == "FileUpload" && now.percent > 0; }},
+        {"command", [](auto &now) { return now.stepName == "FeatureExecute" && now.hasWritten; }},
+        {"reset", [](auto &now) { return now.stepName == "DeviceReset"; }},
+        {"check of the version", [](auto &now) { return now.stepName == "FeatureAssert"; }},
+    };
+    for (const bool isReal : {false, true}) {
+        for (const bool viewerDies : {true, false}) {
+            for (const auto &[name, isReached] : phases)
+                QTest::addRow("%s camera, kill -9 of the %s: %s", isReal ? "virtual" : "simulated",
+                              viewerDies ? "viewer" : "worker", name)
+                    << isReal << viewerDies << isReached;
+        }
+    }
+}
+
+void CInterruptionsTest::endsWellWhoeverIsKilled()
+{
+    QFETCH(bool, isReal);
+    QFETCH(bool, viewerDies);
+    QFETCH(IsReached, isReached);
+    if (isReal && makeCameraKinds({"--network"}).empty())
+        QSKIP("The viewer was built without the library for real cameras.");
+    const QString flash = m_home.filePath("flash");
+    m_camera = QStringList{"--speed=10", "--cameras", m_folder.filePath("cameras.json")};
+    if (isReal)
+        startVirtualCamera({"--flash", flash});
+
+    QProcess viewer;
+    startViewer(viewer);
+    waitUntil(isReached, viewer);
+    const pid_t worker = findWorker(viewer.processId());
+    QVERIFY(worker > 0);
+    kill(viewerDies ? static_cast<pid_t>(viewer.processId()) : worker, SIGKILL);
+    CJournalEntry left = getEntry();
+    QVERIFY2(isReached(left.record), "the phase was over");
+    if (viewerDies) {
+        QVERIFY(viewer.waitForFinished(LONGEST_WAIT));
+        QVERIFY(left.isRunning);
+    } else {
+        const QByteArray output = readUpTo("Step 5: ", viewer);
+        QVERIFY2(output.contains("the update program ended unexpectedly (signal 9)"), output);
+        QCOMPARE(output.contains("had already begun to write"), left.record.hasWritten);
+        left = getEntry();
+        QVERIFY(!left.isRunning && isReached(left.record));
+        QCOMPARE(left.record.outcome, EUpdateOutcome::Running);
+        viewer.kill();
+        QVERIFY(viewer.waitForFinished(LONGEST_WAIT));
+        // The camera keeps to who had control until it has not heard from there for a while.
+        static const QRegularExpression isTold("^(control|back) ");
+        if (isReal)
+            QTRY_VERIFY(QStringList({"control timeout", "back 2.0.0"})
+                            .contains(m_virtualCamera->getEvents().filter(isTold).last()));
+        startViewer(viewer);
+        const QByteArray again = readUpTo("Step 5: ", viewer);
+        QVERIFY2(again.contains("Successful updates: 1"), again);
+        viewer.kill();
+        QVERIFY(viewer.waitForFinished(LONGEST_WAIT));
+    }
+    QTRY_VERIFY_WITH_TIMEOUT(getEntry().record.cameraId.isEmpty(), LONGEST_WAIT);
+    // Nothing is to be read of a dead process that nobody has waited for.
+    QTRY_VERIFY2(readFile(QString("/proc/%1/cmdline").arg(worker)).isEmpty(), "it is left");
+    QCOMPARE(QDir(m_journals).entryList(QDir::Files), QStringList("history.jsonl"));
+    const auto records = CUpdateHistory(CUpdateHistory::getPath(m_journals)).read().records;
+    QCOMPARE(records.size(), 1);
+    QCOMPARE(records.first().outcome, EUpdateOutcome::Updated);
+    QCOMPARE(records.first().reportedVersion, QString("2.0.0"));
+    QCOMPARE(readInstalledVersion(), QString("2.0.0"));
+    if (isReal)
+        QVERIFY(readFile(flash) == makeImage("2.0.0", 50'000));
+}
+
+void CInterruptionsTest::aSecondViewerTouchesNothing()
+{
+    if (makeCameraKinds({"--network"}).empty())
+        QSKIP("The viewer was built without the library for real cameras.");
+    startVirtualCamera({});
+    CCameraPool second(makeCameraKinds(m_camera), m_journals);
+    second.setWorker(WORKER, "en");
+    const auto enumeration = second.getService<ICameraEnumerationService>();
+    QSignalSpy announced(enumeration.data(), &ICameraEnumerationService::enumerationChanged);
+    second.start();
+    QVERIFY(announced.wait());
+    const auto getCamera = [&enumeration] {
+        return enumeration->getTransportLayerInfoVector().value(0)->getCameraInfoList().value(0);
+    };
+    // Made while the camera could still be picked.
+    const auto updates = second.getService<IDeviceFirmwareUpdateService>();
+    const auto job = updates->createDeviceFirmwareUpdate(
+        getCamera(),
+        updates->getFirmwareUpdateInfos(m_folder.filePath("files/update.guf"), {}).constFirst());
+    const CJobRecorder recorder(*job);
+
+    QProcess viewer;
+    startViewer(viewer);
+    waitUntil([](auto &now) { return now.hasWritten; }, viewer);
+    executeOnThread(*job);
+    QVERIFY2(recorder.getError().endsWith("it is already being updated"),
+             qPrintable(recorder.getError()));
+    enumeration->refreshEnumeration();
+    QTRY_COMPARE(getCamera()->getCameraStatusCode(), 1002);
+    QVERIFY(readUpTo("Step 5: ", viewer).contains("Successful updates: 1"));
+    QTRY_COMPARE(getCamera()->getFirmwareVersion(), "2.0.0");
+    viewer.kill();
+    QVERIFY(viewer.waitForFinished(LONGEST_WAIT));
+    // Before and after the reset, by the first viewer.
+    QCOMPARE(m_virtualCamera->getEvents().filter("control 127.").size(), 2);
+}
+
+QTEST_GUILESS_MAIN(CInterruptionsTest)
+#include "tst_interruptions.moc"
