@@ -41,6 +41,23 @@ static void handleSignals()
     std::signal(SIGPIPE, SIG_IGN);
 }
 
+/// Takes what stands behind the command, for tests alone: what a camera does to the library that
+/// the viewer keeps from it otherwise, and in less time.
+static bool takeTestOptions(const QStringList &options, bool &trustsDescriptions,
+                            int &patiencePercent)
+{
+    bool isNumber = true;
+    for (int i = 0; i < options.size(); ++i) {
+        if (options.at(i) == QLatin1String("--unchecked-descriptions"))
+            trustsDescriptions = true;
+        else if (options.at(i) == QLatin1String("--patience-percent"))
+            patiencePercent = options.value(++i).toInt(&isNumber);
+        else
+            return false;
+    }
+    return isNumber && patiencePercent > 0 && patiencePercent <= 100;
+}
+
 /// Reads one CBOR map. Standard input stays open behind it.
 static std::optional<CWorkerTask> readTask(QString &fault)
 {
@@ -101,7 +118,10 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("nuvexcameraworker"));
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     QString fault;
-    if (arguments != QStringList(QStringLiteral("update")))
+    bool trustsDescriptions = false;
+    int patiencePercent = 100;
+    if (arguments.value(0) != QLatin1String("update")
+        || !takeTestOptions(arguments.mid(1), trustsDescriptions, patiencePercent))
         fault = QStringLiteral("it is started by the viewer, with the argument \"update\"");
     std::optional<CWorkerTask> task;
     if (fault.isEmpty())
@@ -110,9 +130,11 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "nuvexcameraworker: %s\n", qUtf8Printable(fault));
         return WRONG_USE;
     }
+    if (trustsDescriptions)
+        task->camera.insert(QStringLiteral("isDescriptionTrusted"), true);
     const Text::CLanguage language(task->language);
     CameraWorker::CEventWriter events(STDOUT_FILENO);
-    CameraWorker::CCameraUpdate update(events, isCanceled);
+    CameraWorker::CCameraUpdate update(events, isCanceled, patiencePercent);
     // It waits in read(2) at the end, so the process ends without it.
     std::thread(readControl, std::ref(update)).detach();
     const bool isUpdated = update.perform(*task);

@@ -46,10 +46,15 @@ private slots:
     void endsWellWhoeverIsKilled_data();
     void endsWellWhoeverIsKilled();
     void aSecondViewerTouchesNothing();
+    void aCameraHarmsItsOwnUpdateAlone_data();
+    void aCameraHarmsItsOwnUpdateAlone();
 
 private:
     void startVirtualCamera(const QStringList &arguments);
     [[nodiscard]] CJournalEntry getEntry() const;
+    void openPool(const QString &worker);
+    [[nodiscard]] CameraInfoPtr getCamera(int number) const;
+    [[nodiscard]] DeviceFirmwareUpdatePtr makeJob(int camera) const;
     void startViewer(QProcess &viewer) const;
     void waitUntil(IsReached isReached, QProcess &viewer) const;
     [[nodiscard]] QByteArray readUpTo(const char *text, QProcess &viewer) const;
@@ -60,6 +65,7 @@ private:
     QString m_journals;
     QStringList m_camera; ///< the viewer's arguments for its only camera
     std::unique_ptr<CVirtualCameraProcess> m_virtualCamera; ///< null: it is a simulated one
+    std::unique_ptr<CCameraPool> m_pool; ///< of a viewer within this process
 };
 
 static QByteArray readFile(const QString &path)
@@ -103,6 +109,7 @@ void CInterruptionsTest::init()
 
 void CInterruptionsTest::cleanup()
 {
+    m_pool.reset();
     m_virtualCamera.reset();
 }
 
@@ -128,6 +135,29 @@ void CInterruptionsTest::waitUntil(IsReached isReached, QProcess &viewer) const
     waiting.start();
     while (!isReached(getEntry().record) && !waiting.hasExpired(LONGEST_WAIT))
         viewer.waitForFinished(1);
+}
+
+void CInterruptionsTest::openPool(const QString &worker)
+{
+    m_pool = std::make_unique<CCameraPool>(makeCameraKinds(m_camera), m_journals);
+    m_pool->setWorker(worker, "en");
+    QSignalSpy announced(m_pool->getService<ICameraEnumerationService>().data(),
+                         &ICameraEnumerationService::enumerationChanged);
+    m_pool->start();
+    QVERIFY(announced.wait());
+}
+
+CameraInfoPtr CInterruptionsTest::getCamera(int number) const
+{
+    const auto enumeration = m_pool->getService<ICameraEnumerationService>();
+    return enumeration->getTransportLayerInfoVector()[0]->getCameraInfoList()[number];
+}
+
+DeviceFirmwareUpdatePtr CInterruptionsTest::makeJob(int camera) const
+{
+    const auto updates = m_pool->getService<IDeviceFirmwareUpdateService>();
+    const auto infos = updates->getFirmwareUpdateInfos(m_folder.filePath("files/update.guf"), {});
+    return updates->createDeviceFirmwareUpdate(getCamera(camera), infos[0]);
 }
 
 void CInterruptionsTest::startViewer(QProcess &viewer) const
@@ -240,20 +270,8 @@ void CInterruptionsTest::aSecondViewerTouchesNothing()
     if (makeCameraKinds({"--network"}).empty())
         QSKIP("The viewer was built without the library for real cameras.");
     startVirtualCamera({});
-    CCameraPool second(makeCameraKinds(m_camera), m_journals);
-    second.setWorker(WORKER, "en");
-    const auto enumeration = second.getService<ICameraEnumerationService>();
-    QSignalSpy announced(enumeration.data(), &ICameraEnumerationService::enumerationChanged);
-    second.start();
-    QVERIFY(announced.wait());
-    const auto getCamera = [&enumeration] {
-        return enumeration->getTransportLayerInfoVector().value(0)->getCameraInfoList().value(0);
-    };
-    // Made while the camera could still be picked.
-    const auto updates = second.getService<IDeviceFirmwareUpdateService>();
-    const auto job = updates->createDeviceFirmwareUpdate(
-        getCamera(),
-        updates->getFirmwareUpdateInfos(m_folder.filePath("files/update.guf"), {}).constFirst());
+    openPool(WORKER);
+    const auto job = makeJob(0); // while the camera can still be picked
     const CJobRecorder recorder(*job);
 
     QProcess viewer;
@@ -262,14 +280,57 @@ void CInterruptionsTest::aSecondViewerTouchesNothing()
     executeOnThread(*job);
     QVERIFY2(recorder.getError().endsWith("it is already being updated"),
              qPrintable(recorder.getError()));
-    enumeration->refreshEnumeration();
-    QTRY_COMPARE(getCamera()->getCameraStatusCode(), 1002);
+    m_pool->getService<ICameraEnumerationService>()->refreshEnumeration();
+    QTRY_COMPARE(getCamera(0)->getCameraStatusCode(), 1002);
     QVERIFY(readUpTo("Step 5: ", viewer).contains("Successful updates: 1"));
-    QTRY_COMPARE(getCamera()->getFirmwareVersion(), "2.0.0");
+    QTRY_COMPARE(getCamera(0)->getFirmwareVersion(), "2.0.0");
     viewer.kill();
     QVERIFY(viewer.waitForFinished(LONGEST_WAIT));
     // Before and after the reset, by the first viewer.
     QCOMPARE(m_virtualCamera->getEvents().filter("control 127.").size(), 2);
+}
+
+void CInterruptionsTest::aCameraHarmsItsOwnUpdateAlone_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char *name, const QStringList &arguments, const char *error) {
+        QTest::newRow(name) << arguments + QStringList{"--answer-ms", "0"} << error;
+    };
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    row("crash", {"--description", "self-value"}, "ended unexpectedly \\(exit code \\d+\\)$");
+#else
+    row("crash", {"--description", "self-value"}, "ended unexpectedly \\(signal 11\\)$");
+    row("no memory", {"--description", "bomb-1000"}, "ended unexpectedly \\(signal \\d+\\)$");
+#endif
+    row("no end", {"--never-open"}, "it did not answer in time; .* had already begun to write");
+}
+
+/// With a worker that lets the camera do what the viewer keeps from the library otherwise.
+void CInterruptionsTest::aCameraHarmsItsOwnUpdateAlone()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, error);
+    if (makeCameraKinds({"--network"}).empty())
+        QSKIP("The viewer was built without the library for real cameras.");
+    const QString program = m_home.filePath("worker");
+    writeFile(program,
+              "#!/bin/sh\nexec " WORKER " update --unchecked-descriptions --patience-percent 5\n");
+    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+    startVirtualCamera(arguments);
+    const QHostAddress address = CVirtualCameraProcess::getOwnAddress(2);
+    const CVirtualCameraProcess sound(
+        address, {"--model", "VX-1400M", "--serial", "2", "--reset-ms", "1000"});
+    m_camera << "--camera-address" << address.toString();
+    openPool(program);
+    const auto jobs = {makeJob(0), makeJob(1)};
+    const CJobRecorder hostile(**jobs.begin());
+    const CJobRecorder next(**std::prev(jobs.end()));
+    for (const auto &job : jobs)
+        executeOnThread(*job);
+    QVERIFY2(hostile.getError().contains(QRegularExpression(error)),
+             qPrintable(hostile.getError()));
+    QCOMPARE(next.getAll("done").size(), 1);
 }
 
 QTEST_GUILESS_MAIN(CInterruptionsTest)

@@ -8,6 +8,7 @@ namespace {
 
 const QString TRANSPORT = QStringLiteral("transport");
 const QString IS_AMBIGUOUS = QStringLiteral("isAmbiguous");
+const QString IS_DESCRIPTION_TRUSTED = QStringLiteral("isDescriptionTrusted");
 
 struct CTextField
 {
@@ -49,6 +50,7 @@ std::optional<CFoundCamera> CFoundCamera::fromCbor(const QCborMap &map)
         return std::nullopt;
     camera.transport = isEthernet ? ETransport::Ethernet : ETransport::Usb;
     camera.isAmbiguous = map.value(IS_AMBIGUOUS).toBool(true);
+    camera.isDescriptionTrusted = map.value(IS_DESCRIPTION_TRUSTED).toBool(false);
     return camera;
 }
 
