@@ -1,4 +1,5 @@
 #include "support/camerakinds.h"
+#include "support/processes.h"
 #include "support/virtualcameraprocess.h"
 #include "tests/viewer/update/jobrecorder.h"
 #include "tests/viewer/update/updatefixture.h"
@@ -10,7 +11,6 @@
 #include "camerapool/idevicefirmwareupdateservice.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QSignalSpy>
@@ -72,19 +72,6 @@ static QByteArray readFile(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// The process that the viewer has started for an update; 0: there is none.
-static pid_t findWorker(qint64 viewer)
-{
-    QDirIterator processes("/proc", {"[0-9]*"}, QDir::Dirs);
-    while (processes.hasNext()) {
-        const QByteArray line = readFile(processes.next() + "/stat");
-        const QByteArray parent = line.mid(line.lastIndexOf(')') + 4).split(' ').first();
-        if (line.contains("(nuvexcamera") && parent == QByteArray::number(viewer))
-            return processes.fileName().toInt();
-    }
-    return 0;
 }
 
 void CInterruptionsTest::initTestCase()
@@ -224,7 +211,7 @@ void CInterruptionsTest::endsWellWhoeverIsKilled()
     QProcess viewer;
     startViewer(viewer);
     waitUntil(isReached, viewer);
-    const pid_t worker = findWorker(viewer.processId());
+    const pid_t worker = findChildProcesses(viewer.processId()).value(0);
     QVERIFY(worker > 0);
     kill(viewerDies ? static_cast<pid_t>(viewer.processId()) : worker, SIGKILL);
     CJournalEntry left = getEntry();
