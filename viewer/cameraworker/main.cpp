@@ -2,6 +2,7 @@
 #include "confinement.h"
 
 #include "viewer/text/language.h"
+#include "viewer/update/cborbounds.h"
 
 #include <QCborStreamReader>
 #include <QCborValue>
@@ -69,6 +70,11 @@ static std::optional<CWorkerTask> readTask(QString &fault)
             continue;
         if (count > 0)
             bytes.append(block, static_cast<int>(count));
+        if (!Update::isBounded(bytes)) {
+            fault = QStringLiteral("the task has more than %1 bytes, or too many parts")
+                        .arg(Update::MAXIMUM_MESSAGE);
+            return std::nullopt;
+        }
         QCborParserError error;
         const QCborValue value = QCborValue::fromCbor(bytes, &error);
         if (error.error == QCborError::NoError && value.isMap())
@@ -79,9 +85,6 @@ static std::optional<CWorkerTask> readTask(QString &fault)
             fault = QStringLiteral("the task is no CBOR: %1").arg(error.errorString());
         else if (count <= 0)
             fault = QStringLiteral("the task is cut off after %1 bytes").arg(bytes.size());
-        else if (bytes.size() > CWorkerTask::MAXIMUM_SIZE)
-            fault
-                = QStringLiteral("the task has more than %1 bytes").arg(CWorkerTask::MAXIMUM_SIZE);
         else
             continue;
         return std::nullopt;
@@ -100,9 +103,11 @@ static void readControl(CameraWorker::CCameraUpdate &update)
         if (count <= 0)
             return;
         bytes.append(block, static_cast<int>(count));
+        if (!Update::isBounded(bytes))
+            return;
         QCborParserError error;
         const QCborValue value = QCborValue::fromCbor(bytes, &error);
-        if (error.error == QCborError::EndOfFile && bytes.size() <= CWorkerTask::MAXIMUM_SIZE)
+        if (error.error == QCborError::EndOfFile)
             continue;
         if (value.toMap().value(QStringLiteral("lost")).toBool())
             update.loseCamera();

@@ -52,9 +52,8 @@ void CCameraWorkerTest::refusesWhatIsNoTask_data()
     row(QCborValue(task).toCbor().chopped(1), "the task is cut off after");
     row("\xff", "the task is no CBOR");
     row(QCborValue(QCborArray{1}).toCbor(), "the task is no CBOR map");
-    // A text that says that it has 3 MiB.
-    row(QByteArray("\x7a\x00\x30\x00\x00", 5) + QByteArray(2'000'000, 'x'),
-        "the task has more than");
+    // A text that says that it has 2 GiB.
+    row(QByteArray("\x7a\x7f\xff\xff\xff", 5), "the task has more than");
     row(with("protocol", 2), "the task is not of protocol 1");
     row(with("command", "stream"), "the task has no command that is known");
     row(with("camera", 5), "the task has no camera");
@@ -98,14 +97,9 @@ void CCameraWorkerTest::tellsWhyItCannotBegin()
     QVERIFY(worker.waitForFinished());
     QCOMPARE(worker.exitCode(), 1);
     QByteArray output = worker.readAllStandardOutput();
-    const auto takeEvent = [&output] {
-        QCborStreamReader reader(output);
-        const auto event = CWorkerEvent::fromCbor(QCborValue::fromCbor(reader).toMap());
-        output.remove(0, int(reader.currentOffset()));
-        return event;
-    };
-    QCOMPARE(takeEvent()->type, CWorkerEvent::EType::Hello);
-    const auto last = takeEvent();
+    bool isBroken = false;
+    QCOMPARE(CWorkerEvent::takeFirst(output, isBroken)->type, CWorkerEvent::EType::Hello);
+    const auto last = CWorkerEvent::takeFirst(output, isBroken);
     QVERIFY(last && last->type == CWorkerEvent::EType::Failed);
     QCOMPARE(last->error, "the update program does not know a camera of this kind");
     QVERIFY(last->localizedError != last->error && !last->localizedError.isEmpty());

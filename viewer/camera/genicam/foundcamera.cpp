@@ -1,5 +1,7 @@
 #include "foundcamera.h"
 
+#include "viewer/camera/cborinteger.h"
+
 #include <QHostAddress>
 
 namespace Viewer::Camera::GenICam {
@@ -42,7 +44,7 @@ std::optional<CFoundCamera> CFoundCamera::fromCbor(const QCborMap &map)
             return std::nullopt;
         camera.*field.member = value.toString();
     }
-    const qint64 transport = map.value(TRANSPORT).toInteger(-1);
+    const qint64 transport = toInteger(map.value(TRANSPORT), -1);
     const bool isEthernet = transport == static_cast<int>(ETransport::Ethernet);
     if (!isEthernet && transport != static_cast<int>(ETransport::Usb))
         return std::nullopt;
