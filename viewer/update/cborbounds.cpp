@@ -11,8 +11,10 @@ static constexpr quint64 MAXIMUM_ENTRIES = 1000; // of one map or list
 /// Leaves @p reader behind the item, or with an error where it is cut off.
 static bool isItemBounded(QCborStreamReader &reader, int depth)
 {
+    // Nobody sends tags, nor texts in parts, whose sizes nothing limits.
+    if (reader.isTag())
+        return false;
     if (reader.isString() || reader.isByteArray()) {
-        // In parts it may be of any size, and nobody sends it so.
         if (!reader.isLengthKnown() || reader.currentStringChunkSize() > MAXIMUM_MESSAGE)
             return false;
         reader.next();
