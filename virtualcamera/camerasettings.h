@@ -28,6 +28,7 @@ struct CCameraSettings
     QByteArray descriptionName; ///< of the file that is given out as the description
     QByteArray descriptionContent; ///< of this file
 
+    std::chrono::milliseconds answerDelay{0}; ///< of each answer
     std::chrono::milliseconds resetDelay{0}; ///< from the command to the silence
     std::chrono::milliseconds resetDuration{2000}; ///< of the silence
     std::chrono::milliseconds activationDuration{200};

@@ -94,6 +94,8 @@ QVector<COption> CCommandLine::getOptions()
         option("description", "KIND",
                "Description of the features: " + getDescriptionNames() + ", or the path of a file.",
                takeDescription),
+        option("answer-ms", "MS", "Take so long for each answer.",
+               takeInteger(settings.answerDelay, 0, 1000)),
         option("reset-delay-ms", "MS", "Answer on for so long after the command for a reset.",
                takeInteger(settings.resetDelay, 0, LONGEST)),
         option("reset-ms", "MS", "Silence during a reset.",

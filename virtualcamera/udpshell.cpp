@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <thread>
 
 namespace VirtualCamera {
 
@@ -20,6 +21,7 @@ static void printLine(const QByteArray &line)
 CUdpShell::CUdpShell(const CCameraSettings &settings, const QString &flashFile, QObject *parent)
     : QObject(parent)
     , m_address(settings.address)
+    , m_answerDelay(settings.answerDelay)
     , m_flashFile(flashFile)
     , m_camera(settings, *this)
 {
@@ -66,6 +68,7 @@ void CUdpShell::readDatagrams(QUdpSocket &socket)
         const QNetworkDatagram datagram = socket.receiveDatagram();
         const CPeer sender{datagram.senderAddress().toIPv4Address(),
                            static_cast<quint16>(datagram.senderPort())};
+        std::this_thread::sleep_for(m_answerDelay);
         send(m_camera.handle(datagram.data(), sender, getTime()));
     }
     scheduleTick();

@@ -43,6 +43,7 @@ private:
     [[nodiscard]] Time getTime() const;
 
     const quint32 m_address;
+    const std::chrono::milliseconds m_answerDelay;
     const QString m_flashFile;
     CVirtualCamera m_camera;
     QUdpSocket m_socket;

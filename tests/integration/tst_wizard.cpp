@@ -1,6 +1,7 @@
 #include "core/iplugin.h"
 #include "support/camerakinds.h"
 #include "support/fakehost.h"
+#include "support/processes.h"
 #include "support/virtualcameraprocess.h"
 #include "support/wizardpages.h"
 #include "viewer/camerapool/camerapool.h"
@@ -19,6 +20,8 @@
 #include <QTimer>
 #include <QTreeView>
 #include <QtTest>
+
+#include <csignal>
 
 using namespace TestSupport;
 using TestSupport::click;
@@ -44,9 +47,10 @@ private slots:
     void tellsEachFault_data();
     void tellsEachFault();
     void agreesWithTheProgramWithoutAScreen();
+    void leavesNothingBehind();
 
 private:
-    void openPool(const QStringList &arguments);
+    void openPool(const QStringList &arguments, const QString &journalFolder = QString());
     [[nodiscard]] QHash<QString, QString> getVersions() const;
 
     static void toggle(QDialog *page, const QString &row);
@@ -91,10 +95,10 @@ void CWizardTest::cleanup()
     m_pool.reset();
 }
 
-void CWizardTest::openPool(const QStringList &arguments)
+void CWizardTest::openPool(const QStringList &arguments, const QString &journalFolder)
 {
     m_pool = std::make_unique<Viewer::CameraPool::CCameraPool>(
-        TestSupport::makeCameraKinds(arguments));
+        TestSupport::makeCameraKinds(arguments), journalFolder);
     m_pool->setWorker(WORKER, "en");
     const auto services = m_pool->getServices();
     for (const auto &service : services)
@@ -481,6 +485,77 @@ void CWizardTest::agreesWithTheProgramWithoutAScreen()
         const QString message = results[name]["message"].toObject()["text"].toString();
         QVERIFY2(!message.isEmpty() && readLog(page).contains(message), qPrintable(message));
     }
+}
+
+/// What this process has of the system: descriptors, threads, children and locks.
+static QStringList listPossessions()
+{
+    const auto count = [](const char *folder) {
+        return QString("%1: %2").arg(folder).arg(
+            QDir(folder).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size());
+    };
+    QFile locks("/proc/locks");
+    const QByteArray own = ' ' + QByteArray::number(QCoreApplication::applicationPid()) + ' ';
+    const int lockCount = locks.open(QIODevice::ReadOnly) ? locks.readAll().count(own) : -1;
+    return {
+        count("/proc/self/fd"), count("/proc/self/task"),
+        QString("children: %1").arg(findChildProcesses(QCoreApplication::applicationPid()).size()),
+        QString("locks: %1").arg(lockCount)};
+}
+
+/// Many rounds, in some of which the worker is killed; more of them, where WIZARD_ROUNDS says so.
+void CWizardTest::leavesNothingBehind()
+{
+    const QString journals = m_folder.filePath("updates");
+    openPool({"--speed", "100", "--cameras", describeCameras(m_folder.path(), "1.2.0")}, journals);
+    const int rounds = qMax(qEnvironmentVariableIntValue("WIZARD_ROUNDS"), 9);
+    QStringList before;
+    QVector<qint64> starts; // milliseconds until the bar moves
+    QVector<qint64> gaps; // of the event loop, after a kill
+    for (int round = 0; round < rounds; ++round) {
+        const bool isKilled = round % 4 == 1;
+        startWizard("Line 2");
+        chooseFile("vx-1400m_2.0.0.guf");
+        QElapsedTimer sinceNext;
+        QElapsedTimer sinceTurn;
+        QTimer turns;
+        qint64 longestGap = 0;
+        connect(&turns, &QTimer::timeout, this,
+                [&] { longestGap = qMax(longestGap, sinceTurn.restart()); });
+        const auto onMoved = [&](int value) {
+            if (value == 0 || turns.isActive())
+                return;
+            starts.append(sinceNext.elapsed());
+            turns.start(1);
+            sinceTurn.start();
+            if (isKilled)
+                kill(findChildProcesses(QCoreApplication::applicationPid()).value(0), SIGKILL);
+        };
+        QObject context;
+        connect(findPage("Step 4")->findChild<QProgressBar *>("progressBar"),
+                &QProgressBar::valueChanged, &context, onMoved);
+        QDialog *const summary = waitForPage("Step 3");
+        sinceNext.start();
+        click(*summary, "Next");
+        QDialog *const result = waitForPage("Step 5");
+        if (isKilled) {
+            gaps.append(longestGap);
+            QVERIFY(getText(*result, "errorTextLabel").contains("ended unexpectedly (signal 9)"));
+        } else {
+            QCOMPARE(getText(*result, "successfulUpdatesLabel"), "Successful updates: 1");
+        }
+        click(*result, "Close");
+        QTRY_VERIFY(!result->isVisible());
+        if (round == 0)
+            before = listPossessions();
+    }
+    QTRY_COMPARE(listPossessions(), before);
+    QCOMPARE(QDir(journals).entryList(QDir::Files | QDir::Hidden), QStringList("history.jsonl"));
+    std::sort(starts.begin(), starts.end());
+    qInfo().noquote() << rounds << "rounds; until the bar moves, in ms: median"
+                      << starts.at(starts.size() / 2) << "longest" << starts.last()
+                      << "\nlongest gaps of the GUI thread after a kill, in ms:" << gaps << '\n'
+                      << listPossessions().join(", ");
 }
 
 QTEST_MAIN(CWizardTest)

@@ -92,16 +92,24 @@ void CCameraEnumerationService::request()
     m_wanted = false;
     m_wantedAnnounced = false;
     m_updateCountAtRequest = m_activities->getUpdateCount();
+    m_updatedElsewhere = findUpdatedElsewhere();
     emit requested();
+}
+
+static bool hasSameCameras(const QHash<QString, int> &left, const QHash<QString, int> &right)
+{
+    return left.size() == right.size()
+        && std::all_of(left.keyBegin(), left.keyEnd(),
+                       [&right](const QString &id) { return right.contains(id); });
 }
 
 void CCameraEnumerationService::onEnumerated()
 {
     QVector<Camera::CTransportLayerSnapshot> layers = m_worker->takeResult();
     m_running = false;
-    if (m_activities->isUpdateRunning()
-        || m_activities->getUpdateCount() != m_updateCountAtRequest) {
-        // The result may show a camera in the middle of its restart.
+    if (m_activities->isUpdateRunning() || m_activities->getUpdateCount() != m_updateCountAtRequest
+        || !hasSameCameras(findUpdatedElsewhere(), m_updatedElsewhere)) {
+        // The result may show a camera in the middle of its restart, or as it was before.
         m_wantedAnnounced = m_wantedAnnounced || m_runningAnnounced;
         request();
         return;
@@ -130,7 +138,6 @@ QHash<QString, int> CCameraEnumerationService::findUpdatedElsewhere() const
 void CCameraEnumerationService::markUpdatedElsewhere(
     QVector<Camera::CTransportLayerSnapshot> &layers)
 {
-    m_updatedElsewhere = findUpdatedElsewhere();
     for (Camera::CTransportLayerSnapshot &layer : layers) {
         for (Camera::CCameraSnapshot &camera : layer.cameras) {
             if (!m_updatedElsewhere.contains(camera.id))
@@ -147,9 +154,7 @@ void CCameraEnumerationService::onJournalTimeout()
 {
     const QHash<QString, int> before = m_updatedElsewhere;
     const QHash<QString, int> now = findUpdatedElsewhere();
-    const auto isKnown = [&before](const auto &camera) { return before.contains(camera.first); };
-    if (now.size() != before.size()
-        || !std::all_of(now.constKeyValueBegin(), now.constKeyValueEnd(), isKnown)) {
+    if (!hasSameCameras(now, before)) {
         request();
         return;
     }

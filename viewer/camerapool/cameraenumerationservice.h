@@ -74,7 +74,8 @@ private:
     Camera::ICameraEnumerator &m_enumerator;
     const std::shared_ptr<const Camera::CCameraActivities> m_activities;
     const QString m_journalFolder;
-    QHash<QString, int> m_updatedElsewhere; ///< percent by id of camera
+    /// In percent by the id of the camera; of the cameras as the last enumeration began.
+    QHash<QString, int> m_updatedElsewhere;
     QTimer m_journalTimer; ///< runs while there are any
     QThread m_thread;
     CEnumerationWorker *const m_worker; // lives in the thread and is deleted with it

@@ -28,9 +28,11 @@ static constexpr std::chrono::milliseconds GRACE = 10s;
 /// Reading the file, opening the camera and finding out its version at the end.
 static constexpr std::chrono::milliseconds AROUND_STEPS = 60s;
 
-CCameraUpdate::CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled)
+CCameraUpdate::CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled,
+                             int patiencePercent)
     : m_events(events)
     , m_isCanceled(isCanceled)
+    , m_patiencePercent(patiencePercent)
     , m_kinds(Camera::makeCameraKinds())
     , m_watchdog([this] { onExpired(); })
 {
@@ -148,7 +150,7 @@ void CCameraUpdate::watch(std::chrono::milliseconds limit)
 {
     const Camera::ICameraKind *const kind = m_kind;
     m_patience = std::chrono::duration_cast<std::chrono::milliseconds>(
-        limit * (kind ? kind->getSlownessOfMade() : 1.0));
+        limit * (kind ? kind->getSlownessOfMade() : 1.0) * m_patiencePercent / 100);
     m_watchdog.watch(m_patience);
 }
 

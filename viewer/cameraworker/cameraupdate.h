@@ -23,8 +23,10 @@ class CCameraUpdate : private Update::IUpdateRun::IListener
     Q_DECLARE_TR_FUNCTIONS(Viewer::CameraWorker::CCameraUpdate)
 
 public:
-    /// Both are borrowed. @p isCanceled becomes true when somebody wants the process to end.
-    CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled);
+    /// @p events and @p isCanceled, which becomes true when somebody wants the process to end, are
+    /// borrowed. The watchdog waits @p patiencePercent of what it should.
+    CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled,
+                  int patiencePercent);
     ~CCameraUpdate() override;
 
     /// Performs @p task; its last event is always sent. True: the camera has the new firmware.
@@ -49,6 +51,7 @@ private:
 
     CEventWriter &m_events;
     const volatile std::sig_atomic_t &m_isCanceled;
+    const int m_patiencePercent;
     Camera::CCameraKinds m_kinds;
     std::atomic<Camera::ICameraKind *> m_kind{nullptr}; ///< that of the camera
     UpdateFile::CUpdateManifest m_manifest;

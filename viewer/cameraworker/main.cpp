@@ -2,6 +2,7 @@
 #include "confinement.h"
 
 #include "viewer/text/language.h"
+#include "viewer/update/cborbounds.h"
 
 #include <QCborStreamReader>
 #include <QCborValue>
@@ -41,6 +42,23 @@ static void handleSignals()
     std::signal(SIGPIPE, SIG_IGN);
 }
 
+/// Takes what stands behind the command, for tests alone: what a camera does to the library that
+/// the viewer keeps from it otherwise, and in less time.
+static bool takeTestOptions(const QStringList &options, bool &trustsDescriptions,
+                            int &patiencePercent)
+{
+    bool isNumber = true;
+    for (int i = 0; i < options.size(); ++i) {
+        if (options.at(i) == QLatin1String("--unchecked-descriptions"))
+            trustsDescriptions = true;
+        else if (options.at(i) == QLatin1String("--patience-percent"))
+            patiencePercent = options.value(++i).toInt(&isNumber);
+        else
+            return false;
+    }
+    return isNumber && patiencePercent > 0 && patiencePercent <= 100;
+}
+
 /// Reads one CBOR map. Standard input stays open behind it.
 static std::optional<CWorkerTask> readTask(QString &fault)
 {
@@ -52,6 +70,11 @@ static std::optional<CWorkerTask> readTask(QString &fault)
             continue;
         if (count > 0)
             bytes.append(block, static_cast<int>(count));
+        if (!Update::isBounded(bytes)) {
+            fault = QStringLiteral("the task has more than %1 bytes, or too many parts")
+                        .arg(Update::MAXIMUM_MESSAGE);
+            return std::nullopt;
+        }
         QCborParserError error;
         const QCborValue value = QCborValue::fromCbor(bytes, &error);
         if (error.error == QCborError::NoError && value.isMap())
@@ -62,9 +85,6 @@ static std::optional<CWorkerTask> readTask(QString &fault)
             fault = QStringLiteral("the task is no CBOR: %1").arg(error.errorString());
         else if (count <= 0)
             fault = QStringLiteral("the task is cut off after %1 bytes").arg(bytes.size());
-        else if (bytes.size() > CWorkerTask::MAXIMUM_SIZE)
-            fault
-                = QStringLiteral("the task has more than %1 bytes").arg(CWorkerTask::MAXIMUM_SIZE);
         else
             continue;
         return std::nullopt;
@@ -83,9 +103,11 @@ static void readControl(CameraWorker::CCameraUpdate &update)
         if (count <= 0)
             return;
         bytes.append(block, static_cast<int>(count));
+        if (!Update::isBounded(bytes))
+            return;
         QCborParserError error;
         const QCborValue value = QCborValue::fromCbor(bytes, &error);
-        if (error.error == QCborError::EndOfFile && bytes.size() <= CWorkerTask::MAXIMUM_SIZE)
+        if (error.error == QCborError::EndOfFile)
             continue;
         if (value.toMap().value(QStringLiteral("lost")).toBool())
             update.loseCamera();
@@ -101,7 +123,10 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("nuvexcameraworker"));
     const QStringList arguments = QCoreApplication::arguments().mid(1);
     QString fault;
-    if (arguments != QStringList(QStringLiteral("update")))
+    bool trustsDescriptions = false;
+    int patiencePercent = 100;
+    if (arguments.value(0) != QLatin1String("update")
+        || !takeTestOptions(arguments.mid(1), trustsDescriptions, patiencePercent))
         fault = QStringLiteral("it is started by the viewer, with the argument \"update\"");
     std::optional<CWorkerTask> task;
     if (fault.isEmpty())
@@ -110,9 +135,11 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "nuvexcameraworker: %s\n", qUtf8Printable(fault));
         return WRONG_USE;
     }
+    if (trustsDescriptions)
+        task->camera.insert(QStringLiteral("isDescriptionTrusted"), true);
     const Text::CLanguage language(task->language);
     CameraWorker::CEventWriter events(STDOUT_FILENO);
-    CameraWorker::CCameraUpdate update(events, isCanceled);
+    CameraWorker::CCameraUpdate update(events, isCanceled, patiencePercent);
     // It waits in read(2) at the end, so the process ends without it.
     std::thread(readControl, std::ref(update)).detach();
     const bool isUpdated = update.perform(*task);

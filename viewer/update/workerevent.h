@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QCborMap>
 #include <QString>
 
@@ -36,6 +37,10 @@ struct CWorkerEvent
 
     /// Nothing: @p map is no event of this protocol.
     [[nodiscard]] static std::optional<CWorkerEvent> fromCbor(const QCborMap &map);
+
+    /// Takes the event at the front of what a worker has sent so far. Nothing: it has not come as a
+    /// whole yet, or, when @p isBroken, what stands there is none and never becomes one.
+    [[nodiscard]] static std::optional<CWorkerEvent> takeFirst(QByteArray &bytes, bool &isBroken);
 };
 
 } // namespace Viewer::Update

@@ -4,7 +4,6 @@
 #include "viewer/camera/cameraerror.h"
 #include "viewer/updatefile/manifestparser.h"
 
-#include <QCborStreamReader>
 #include <QCborValue>
 #include <QDir>
 #include <QElapsedTimer>
@@ -24,9 +23,6 @@ static constexpr int END_TIME = 10000; // milliseconds; from the last event to t
 /// What the worker waits at most without a word is limited by its own watchdog; this is for a
 /// worker that has none any more.
 static constexpr std::chrono::milliseconds QUIET_TIME = 3min;
-
-/// More than the longest event.
-static constexpr int MAXIMUM_EVENT = 1024 * 1024;
 
 /// Of the environment nothing but what says where things are, in which language, and what
 /// developers want to see.
@@ -146,20 +142,15 @@ CWorkerEvent CWorkerRun::follow(QProcess &process)
 
 std::optional<CWorkerEvent> CWorkerRun::takeEvents(QByteArray &bytes)
 {
-    while (!bytes.isEmpty()) {
-        QCborStreamReader reader(bytes);
-        const QCborValue value = QCborValue::fromCbor(reader);
-        if (reader.lastError() == QCborError::EndOfFile && bytes.size() <= MAXIMUM_EVENT)
-            return std::nullopt;
-        const std::optional<CWorkerEvent> event = CWorkerEvent::fromCbor(value.toMap());
-        if (reader.lastError() != QCborError::NoError || !event)
-            fail(CErrorText::tr("the update program says something that is not understood; install "
-                                "the viewer again"));
-        bytes.remove(0, static_cast<int>(reader.currentOffset()));
+    bool isBroken = false;
+    while (const std::optional<CWorkerEvent> event = CWorkerEvent::takeFirst(bytes, isBroken)) {
         take(*event);
         if (event->type == CWorkerEvent::EType::Done || event->type == CWorkerEvent::EType::Failed)
             return event;
     }
+    if (isBroken)
+        fail(CErrorText::tr("the update program says something that is not understood; install the "
+                            "viewer again"));
     return std::nullopt;
 }
 

@@ -14,9 +14,6 @@ struct CWorkerTask
     /// Of tasks and events; both sides refuse every other one.
     static constexpr int PROTOCOL = 1;
 
-    /// More than any task has.
-    static constexpr int MAXIMUM_SIZE = 1024 * 1024;
-
     QString kind; ///< of the camera, by ICameraKind::getName()
     QCborMap camera; ///< by ICameraKind::describeCamera()
     QString filePath; ///< absolute

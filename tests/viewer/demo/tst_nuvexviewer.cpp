@@ -1,7 +1,5 @@
 #include "viewer/appcore/logsummary.h"
 #include "viewer/text/language.h"
-#include "viewer/update/updatehistory.h"
-#include "viewer/update/updatejournal.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -14,7 +12,6 @@
 #include <csignal>
 
 using Viewer::AppCore::CLogSummary;
-using namespace Viewer::Update;
 
 static constexpr int PROGRAM_TIME = 90000; // milliseconds; far more than it needs
 
@@ -33,8 +30,6 @@ private slots:
     void signalsCloseTheViewer_data();
     void signalsCloseTheViewer();
     void signalsWaitForTheUpdate();
-    void anUpdateOutlivesTheViewer();
-    void aKilledUpdateIsToldAndRepeated();
     void worksWithoutAFolderForLogs();
 
 private:
@@ -215,65 +210,6 @@ void CNuvexViewerTest::signalsWaitForTheUpdate()
     const CLogSummary summary = CLogSummary::parse(readFile(findLogs().value(0)));
     QCOMPARE(summary.outcome, CLogSummary::EOutcome::Successful);
     QCOMPARE(summary.updatedCount, 6);
-}
-
-/// The process that the viewer has started for an update; 0: there is none.
-static pid_t findWorker(qint64 viewer)
-{
-    QDirIterator processes("/proc", {"[0-9]*"}, QDir::Dirs);
-    while (processes.hasNext()) {
-        QFile status(processes.next() + "/stat");
-        if (!status.open(QIODevice::ReadOnly))
-            continue;
-        const QByteArray line = status.readAll();
-        const QByteArray parent = line.mid(line.lastIndexOf(')') + 4).split(' ').first();
-        if (line.contains("(nuvexcamera") && parent == QByteArray::number(viewer))
-            return processes.fileName().toInt();
-    }
-    return 0;
-}
-
-void CNuvexViewerTest::anUpdateOutlivesTheViewer()
-{
-    QProcess viewer;
-    viewer.setWorkingDirectory(m_home.path());
-    viewer.start(VIEWER, {"--samples=" SAMPLES, "--speed=10", "--demo=pictures"});
-    const QString folder = m_home.filePath("nuvexviewer/updates");
-    const auto getEntries = [&folder] { return readJournals(folder).entries; };
-    QTRY_VERIFY_WITH_TIMEOUT(getEntries().value(0).record.hasWritten, PROGRAM_TIME);
-    kill(static_cast<pid_t>(viewer.processId()), SIGKILL);
-    QVERIFY(viewer.waitForFinished(PROGRAM_TIME));
-    QVERIFY(getEntries().value(0).isRunning);
-    QTRY_VERIFY_WITH_TIMEOUT(getEntries().isEmpty(), PROGRAM_TIME);
-    const auto records = CUpdateHistory(CUpdateHistory::getPath(folder)).read().records;
-    QCOMPARE(records.size(), 1);
-    QCOMPARE(records.first().outcome, EUpdateOutcome::Updated);
-    QCOMPARE(records.first().reportedVersion, records.first().newVersion);
-}
-
-void CNuvexViewerTest::aKilledUpdateIsToldAndRepeated()
-{
-    QProcess viewer;
-    viewer.setProcessChannelMode(QProcess::MergedChannels);
-    viewer.setWorkingDirectory(m_home.path());
-    viewer.start(VIEWER, {"--samples=" SAMPLES, "--speed=10", "--demo=pictures"});
-    const QString folder = m_home.filePath("nuvexviewer/updates");
-    const auto getEntry = [&folder] { return readJournals(folder).entries.value(0); };
-    QTRY_VERIFY_WITH_TIMEOUT(getEntry().record.hasWritten, PROGRAM_TIME);
-    const pid_t worker = findWorker(viewer.processId());
-    QVERIFY(worker > 0);
-    kill(worker, SIGKILL);
-    QVERIFY(viewer.waitForFinished(PROGRAM_TIME));
-    QCOMPARE(viewer.exitCode(), 1);
-    const QByteArray output = viewer.readAll();
-    QVERIFY2(output.contains("the update program ended unexpectedly (signal 9); the update had "
-                             "already begun to write"),
-             output);
-    QVERIFY(!getEntry().isRunning);
-    QCOMPARE(getEntry().record.oldVersion, QString("1.2.0"));
-    // Repeating the update settles it.
-    run(m_demonstration, 0, "Successful updates: 6");
-    QVERIFY(readJournals(folder).entries.isEmpty());
 }
 
 void CNuvexViewerTest::worksWithoutAFolderForLogs()

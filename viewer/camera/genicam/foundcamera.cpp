@@ -1,5 +1,7 @@
 #include "foundcamera.h"
 
+#include "viewer/camera/cborinteger.h"
+
 #include <QHostAddress>
 
 namespace Viewer::Camera::GenICam {
@@ -8,6 +10,7 @@ namespace {
 
 const QString TRANSPORT = QStringLiteral("transport");
 const QString IS_AMBIGUOUS = QStringLiteral("isAmbiguous");
+const QString IS_DESCRIPTION_TRUSTED = QStringLiteral("isDescriptionTrusted");
 
 struct CTextField
 {
@@ -41,7 +44,7 @@ std::optional<CFoundCamera> CFoundCamera::fromCbor(const QCborMap &map)
             return std::nullopt;
         camera.*field.member = value.toString();
     }
-    const qint64 transport = map.value(TRANSPORT).toInteger(-1);
+    const qint64 transport = toInteger(map.value(TRANSPORT), -1);
     const bool isEthernet = transport == static_cast<int>(ETransport::Ethernet);
     if (!isEthernet && transport != static_cast<int>(ETransport::Usb))
         return std::nullopt;
@@ -49,6 +52,7 @@ std::optional<CFoundCamera> CFoundCamera::fromCbor(const QCborMap &map)
         return std::nullopt;
     camera.transport = isEthernet ? ETransport::Ethernet : ETransport::Usb;
     camera.isAmbiguous = map.value(IS_AMBIGUOUS).toBool(true);
+    camera.isDescriptionTrusted = map.value(IS_DESCRIPTION_TRUSTED).toBool(false);
     return camera;
 }
 

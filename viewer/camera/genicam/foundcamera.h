@@ -26,8 +26,9 @@ struct CFoundCamera
     QString userName; ///< given by the user; may be empty
     QString id; ///< by CCameraIdentities
     bool isAmbiguous = false; ///< another camera says that it is the same one
+    bool isDescriptionTrusted = false; ///< the library gets it unjudged: only tests ask for that
 
-    /// For another process.
+    /// For another process, which decides on its own whom it trusts.
     [[nodiscard]] QCborMap toCbor() const;
     /// Nothing: not what toCbor() gives.
     [[nodiscard]] static std::optional<CFoundCamera> fromCbor(const QCborMap &map);

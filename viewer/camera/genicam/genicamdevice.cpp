@@ -90,7 +90,8 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadl
     if (m_camera.transport == ETransport::Ethernet) {
         // By address and without the library's list of devices, which a search locks for a second.
         const QHostAddress address(m_camera.address);
-        checkFeatureDescription(address, deadline);
+        if (!m_camera.isDescriptionTrusted)
+            checkFeatureDescription(address, deadline);
         const CObjectPointer<GInetAddress> interfaceAddress = findInterface(address);
         const CObjectPointer<GInetAddress> cameraAddress(
             g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));

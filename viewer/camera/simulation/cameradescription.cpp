@@ -1,5 +1,7 @@
 #include "cameradescription.h"
 
+#include "viewer/camera/cborinteger.h"
+
 namespace Viewer::Camera::Simulation {
 
 namespace {
@@ -80,8 +82,8 @@ std::optional<CCameraDescriptionEntry> CCameraDescriptionEntry::fromCbor(const Q
         if (place.isInteger())
             entry.faults.*field.member = place.toInteger();
     }
-    entry.camera.statusCode = static_cast<qint32>(map.value(STATUS_CODE).toInteger());
-    entry.uploadSpeed = map.value(UPLOAD_SPEED).toInteger();
+    entry.camera.statusCode = static_cast<qint32>(toInteger(map.value(STATUS_CODE), 0));
+    entry.uploadSpeed = toInteger(map.value(UPLOAD_SPEED), 0);
     if (entry.uploadSpeed < 1)
         return std::nullopt;
     return entry;
