@@ -29,11 +29,13 @@ run_packages=(
   xvfb
 )
 test_packages=(
+  ansible-core
   ccache
   clang-format
   clang-tidy
   git
   iproute2
+  python3-jsonschema
   unzip
   # The address and thread sanitizers' libraries come with the compiler.
 )
