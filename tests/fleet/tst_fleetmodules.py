@@ -171,9 +171,11 @@ cat '{self.folder}/errors' >&2
 
     def test_documentation(self) -> None:
         shared = importlib.import_module(PACKAGE + "module_utils.nuvexupdate").SEARCH_ARGUMENTS
+        fragment = load("doc_fragments/search").ModuleDocFragment.DOCUMENTATION
         for name in ("firmware", "cameras"):
             module = importlib.import_module(PACKAGE + "modules." + name)
-            options = yaml.safe_load(module.DOCUMENTATION)["options"]
+            options = {**yaml.safe_load(fragment)["options"],
+                       **yaml.safe_load(module.DOCUMENTATION).get("options", {})}
             for option in options.values():
                 del option["description"]
             self.assertEqual(options, {**shared, **getattr(module, "OWN_ARGUMENTS", {})})

@@ -9,7 +9,6 @@ import tempfile
 from collections.abc import Iterator, Mapping
 from typing import Any
 
-from ansible.errors import AnsibleActionFail
 from ansible.plugins.action import ActionBase
 
 HEADER = ("Host", "State", "Camera", "Serial number", "Name", "Old version", "New version",
@@ -115,6 +114,6 @@ class ActionModule(ActionBase):
             write(path + ".csv", make_csv(hosts, variables))
             write(path + ".txt", make_text(hosts, variables, arguments["title"]))
         except OSError as error:
-            raise AnsibleActionFail(
-                f'The report "{path}" cannot be written: {error.strerror}.') from error
+            return dict(result, failed=True,
+                        msg=f'The report "{path}" cannot be written: {error.strerror}.')
         return dict(result, changed=False)

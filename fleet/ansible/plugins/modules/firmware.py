@@ -45,30 +45,7 @@ options:
     description: After so many failures no further camera of the host is begun.
     type: int
     default: 1
-  network:
-    description: Search by broadcast on the host's interfaces, and on its USB.
-    type: bool
-    default: false
-  camera_addresses:
-    description: Ask these addresses, without a broadcast.
-    type: list
-    elements: str
-    default: []
-  cameras_file:
-    description: Simulate the cameras that this file describes.
-    type: path
-  no_simulation:
-    description: Leave out simulated cameras. Yes without it, unless O(cameras_file) is given.
-    type: bool
-  executable:
-    description: The program.
-    type: path
-    default: nuvexupdate
-  command_prefix:
-    description: Words in front of the program, like C(ip), C(netns), C(exec), C(name).
-    type: list
-    elements: str
-    default: []
+extends_documentation_fragment: nuvex.cameras.search
 attributes:
   check_mode:
     description: Says what would be updated (C(--dry-run)).
