@@ -183,11 +183,10 @@ cat '{self.folder}/errors' >&2
     def test_report_of_hostile_texts(self) -> None:
         report, record = load("action/report"), load("filter/record").host_record
         bad = dict(camera("failed"), name="=1+1", message="\x1b[2J\nx\udc80")
-        variables = {"h": {"update_record": record(
-            [{"skipped": True}, {"failed": True, "msg": "\x1b[2J\nx\udc80", "cameras": [bad]}])}}
-        self.assertIn(",'=1+1,", report.make_csv(["h"], variables))
-        page = report.make_text(["h"], variables, "T").splitlines()
-        self.assertIn("  h: failed. [2J x", page)
+        records = [("h", record([{"skipped": True}, {"failed": True, "msg": "\x1b[2J\nx\udc80",
+                                                     "cameras": [bad]}]))]
+        self.assertIn(",'=1+1,", report.make_csv(records))
+        self.assertIn("  h: failed. [2J x", report.make_text(records, "T").splitlines())
         report.write(str(self.folder / "page"), "\udc80\r\n")
         self.assertEqual((self.folder / "page").read_bytes(), b"?\r\n")
 

@@ -6,8 +6,8 @@ import csv
 import io
 import os
 import tempfile
-from collections.abc import Iterator, Mapping
-from typing import Any
+from collections.abc import Mapping
+from typing import Any, List, Tuple
 
 from ansible.plugins.action import ActionBase
 
@@ -17,15 +17,14 @@ CAMERA_KEYS = ("camera", "serialNumber", "name", "oldVersion", "newVersion", "ou
                "message")
 STATES = ("done", "failed", "unreachable", "not begun")
 
+#: Of a host that has no record yet.
+NOT_BEGUN = {"state": "not begun", "message": "", "cameras": []}
+
+#: Hosts, each with its record.
+Records = List[Tuple[str, Mapping]]
+
 #: What a spreadsheet would calculate.
 FORMULA_BEGINS = ("=", "+", "-", "@", "\t", "\r")
-
-
-def get_records(hosts: list[str], host_variables: Mapping) -> Iterator[tuple[str, Mapping]]:
-    """The record of each host; of one that has none yet, that it has not begun."""
-    nothing = {"state": "not begun", "message": "", "cameras": []}
-    for host in hosts:
-        yield host, host_variables[host].get("update_record", nothing)
 
 
 def to_line(value: Any) -> str:
@@ -39,13 +38,13 @@ def to_cell(value: Any) -> str:
     return "'" + text if text.startswith(FORMULA_BEGINS) else text
 
 
-def make_csv(hosts: list[str], host_variables: Mapping) -> str:
+def make_csv(records: Records) -> str:
     """A row for each camera, and one for each host of which no camera is known. With a byte order
     mark, without which some spreadsheets take it for the code page of the system."""
     table = io.StringIO()
     writer = csv.writer(table)
     writer.writerow(HEADER)
-    for host, record in get_records(hosts, host_variables):
+    for host, record in records:
         if not record["cameras"]:
             writer.writerow([to_cell(host), record["state"]] + [""] * 7
                             + [to_cell(record["message"])])
@@ -60,9 +59,8 @@ def count(values: list[str]) -> str:
     return ", ".join(f"{values.count(value)} {value}" for value in dict.fromkeys(values)) or "none"
 
 
-def make_text(hosts: list[str], host_variables: Mapping, title: str) -> str:
+def make_text(records: Records, title: str) -> str:
     """The sums, the hosts that need somebody, then a line for each host."""
-    records = list(get_records(hosts, host_variables))
     states = [record["state"] for _, record in records]
     outcomes = [camera["outcome"] for _, record in records for camera in record["cameras"]]
     lines = [to_line(title), "",
@@ -75,7 +73,7 @@ def make_text(hosts: list[str], host_variables: Mapping, title: str) -> str:
         lines += [f"  {to_line(host)}: {record['state']}. {to_line(record['message'])}"
                   for host, record in troubled] + [""]
     lines += ["All hosts"]
-    width = max((len(host) for host in hosts), default=0)
+    width = max((len(host) for host, _ in records), default=0)
     for host, record in records:
         cameras = count(sorted(camera["outcome"] for camera in record["cameras"]))
         lines.append(f"  {to_line(host):{width}}  {record['state']:11}  {cameras}")
@@ -109,10 +107,13 @@ class ActionModule(ActionBase):
             "title": {"type": "str", "required": True},
         })
         path = os.path.abspath(arguments["path"])
-        hosts, variables = arguments["hosts"], task_vars["hostvars"]
+        # As they are: what a camera is called is no template, even if it looks like one.
+        get_variables = task_vars["hostvars"].raw_get
+        records = [(host, get_variables(host).get("update_record", NOT_BEGUN))
+                   for host in arguments["hosts"]]
         try:
-            write(path + ".csv", make_csv(hosts, variables))
-            write(path + ".txt", make_text(hosts, variables, arguments["title"]))
+            write(path + ".csv", make_csv(records))
+            write(path + ".txt", make_text(records, arguments["title"]))
         except OSError as error:
             return dict(result, failed=True,
                         msg=f'The report "{path}" cannot be written: {error.strerror}.')
