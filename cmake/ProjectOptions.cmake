@@ -55,6 +55,17 @@ endif()
 # Builds the tests that are worth a run under ThreadSanitizer.
 add_custom_target(thread_tests)
 
+# What every test runs with.
+set(PROJECT_TEST_ENVIRONMENT
+  QT_QPA_PLATFORM=offscreen
+  LC_ALL=C.UTF-8
+  LANGUAGE=
+  QT_LOGGING_RULES=*.debug=false
+  ASAN_OPTIONS=detect_leaks=1
+  LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0
+  UBSAN_OPTIONS=print_stacktrace=1
+  TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp)
+
 # add_project_test(<name> LABELS <label>... SOURCES <file>... LIBRARIES <target>...
 #                  [TIMEOUT <seconds>] [LAUNCHER <script of the project>])
 #
@@ -79,5 +90,5 @@ function(add_project_test name)
   set_tests_properties(${name} PROPERTIES
     LABELS "${arg_LABELS}"
     TIMEOUT ${arg_TIMEOUT}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;QT_LOGGING_RULES=*.debug=false;ASAN_OPTIONS=detect_leaks=1;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0;UBSAN_OPTIONS=print_stacktrace=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp")
+    ENVIRONMENT "${PROJECT_TEST_ENVIRONMENT}")
 endfunction()

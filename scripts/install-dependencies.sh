@@ -29,6 +29,7 @@ run_packages=(
   xvfb
 )
 test_packages=(
+  ansible-core
   ccache
   clang-format
   clang-tidy
