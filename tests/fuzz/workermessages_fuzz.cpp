@@ -1,6 +1,6 @@
 #include "fuzztarget.h"
 #include "viewer/camera/simulation/cameradescription.h"
-#include "viewer/update/cborbounds.h"
+#include "viewer/process/cbormessages.h"
 #include "viewer/update/workerevent.h"
 #include "viewer/update/workertask.h"
 
@@ -38,7 +38,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = Fuzz::toBytes(data, size);
     QString fault;
-    const QCborMap map = isBounded(bytes) ? QCborValue::fromCbor(bytes).toMap() : QCborMap();
+    const QCborMap map = Viewer::Process::isBounded(bytes) ? QCborValue::fromCbor(bytes).toMap() : QCborMap();
     if (const auto task = CWorkerTask::fromCbor(map, fault)) {
         const auto again = CWorkerTask::fromCbor(task->toCbor(), fault);
         Fuzz::require(again && write(again->toCbor()) == write(task->toCbor()));

@@ -97,10 +97,13 @@ void CAcquisitionController::onActivityChanged(const QString &cameraId)
         updatePlaceholder();
 }
 
-void CAcquisitionController::onFrameReady(const QString &cameraId, const QImage &frame)
+void CAcquisitionController::onFrameReady(const QString &cameraId, const Image::CFrame &frame)
 {
-    if (m_camera && m_camera->getId() == cameraId)
-        m_view.setImage(frame);
+    if (!m_camera || m_camera->getId() != cameraId)
+        return;
+    const Image::CConvertedFrame converted = m_converter.toDisplay(frame);
+    if (!converted.image.isNull())
+        m_view.setImage(converted.image);
 }
 
 void CAcquisitionController::start()

@@ -2,8 +2,8 @@
 
 #include "camerapool/icamerainfo.h"
 #include "viewer/camerapool/camerapool.h"
+#include "viewer/image/frameconverter.h"
 
-#include <QImage>
 #include <QObject>
 
 class QAction;
@@ -41,7 +41,7 @@ signals:
 private:
     QAction *createAction(const QString &name, const QString &text, const QKeySequence &shortcut);
     void onActivityChanged(const QString &cameraId);
-    void onFrameReady(const QString &cameraId, const QImage &frame);
+    void onFrameReady(const QString &cameraId, const Image::CFrame &frame);
     void start();
     void stop();
     void chooseRecordingFolder();
@@ -53,6 +53,7 @@ private:
 
     CameraPool::CCameraPool &m_pool;
     CImageView &m_view;
+    Image::CFrameConverter m_converter;
     QWidget *const m_window;
     QAction *const m_startAction;
     QAction *const m_stopAction;

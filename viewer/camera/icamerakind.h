@@ -5,6 +5,7 @@
 #include "icameradevicefactory.h"
 #include "icameraenumerator.h"
 #include "icamerahandle.h"
+#include "icamerastream.h"
 #include "viewer/commandline/option.h"
 
 #include <QCborMap>
@@ -61,9 +62,6 @@ public:
     /// Does not ask the camera.
     [[nodiscard]] virtual ECameraPresence getPresence(const QString &cameraId) const = 0;
 
-    /// Whether the viewer can show images of these cameras.
-    [[nodiscard]] virtual bool hasImages() const = 0;
-
     /// Ends what other applications do with the cameras, as far as that can be done from here.
     virtual void freeCameras();
 
@@ -72,6 +70,10 @@ public:
     /// The device of the camera that an ICameraHandle has described, maybe of another version of
     /// this program: anything may be in @p description. Null: it is no description.
     [[nodiscard]] virtual std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description)
+        = 0;
+
+    /// The images of such a camera. Null: it is no description.
+    [[nodiscard]] virtual std::unique_ptr<ICameraStream> makeStream(const QCborMap &description)
         = 0;
 
     /// How the camera of makeDevice() is now, for ICameraHandle::end(). Any thread.

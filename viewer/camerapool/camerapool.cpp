@@ -4,16 +4,20 @@
 #include "camerainfo.h"
 #include "camerastatusservice.h"
 #include "camerastreamcontrolservice.h"
+#include "camerastreams.h"
 #include "devicefirmwareupdateservice.h"
-#include "framestream.h"
 #include "viewer/camera/cameraactivities.h"
 #include "viewer/camera/combinedcameras.h"
 #include "viewer/update/errortranslator.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFileInfo>
-#include <QImage>
+
+#include <QHash>
+#include <QSet>
+#include <QTimer>
 
 #include <utility>
 
@@ -23,6 +27,13 @@ using Camera::ECameraActivity;
 using Camera::ECameraPresence;
 using Camera::ICameraKind;
 using Core::Service::IService;
+
+/// How long a camera may take to give control back before its process is killed.
+static constexpr int END_TIME = 5000; // milliseconds
+
+/// A camera that has gone while it streamed goes on by itself when it is back so soon.
+static constexpr int RETURN_TIME = 60'000; // milliseconds
+static constexpr int RETURN_INTERVAL = 3000; // milliseconds
 
 static void setError(QString *error, const QString &text)
 {
@@ -47,10 +58,14 @@ struct CCameraPool::CPrivate
         = std::make_shared<Camera::CCameraActivities>();
     const std::shared_ptr<Update::CErrorTranslator> errors
         = std::make_shared<Update::CErrorTranslator>();
-    CFrameStream stream;
+    CCameraStreams streams;
+    bool hasWorker = false;
     QSharedPointer<CCameraEnumerationService> enumeration;
     QList<QSharedPointer<IService>> services;
     bool startsLocked = false;
+    QSet<QString> restarts; // cameras that are to start again when they have been given back
+    QHash<QString, QDeadlineTimer> lost; // by id; cameras that start again when they are back
+    QTimer lostTimer;
     bool updateRunning = false; // as announced
     int updateCount = 0; // of the updates that have been reacted to
 };
@@ -81,8 +96,13 @@ CCameraPool::CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolde
             &CCameraPool::snapshotChanged);
     connect(getService<CDeviceFirmwareUpdateService>().data(),
             &CDeviceFirmwareUpdateService::updateEnded, this, &CCameraPool::updateEnded);
-    connect(&d->stream, &CFrameStream::frameReady, this, &CCameraPool::frameReady);
-    connect(&d->stream, &CFrameStream::recordingFailed, this, &CCameraPool::onRecordingFailed);
+    connect(&d->streams, &CCameraStreams::frameReady, this, &CCameraPool::frameReady);
+    connect(&d->streams, &CCameraStreams::statisticsChanged, this, &CCameraPool::statisticsChanged);
+    connect(&d->streams, &CCameraStreams::recordingFailed, this, &CCameraPool::onRecordingFailed);
+    connect(&d->streams, &CCameraStreams::recordingEnded, this, &CCameraPool::recordingEnded);
+    connect(&d->streams, &CCameraStreams::ended, this, &CCameraPool::onStreamEnded);
+    d->lostTimer.setInterval(RETURN_INTERVAL);
+    connect(&d->lostTimer, &QTimer::timeout, this, &CCameraPool::lookForLost);
     QCoreApplication::installTranslator(d->errors.get());
     // Jobs report from their own threads.
     d->activities->setListener([this](const QString &cameraId) {
@@ -99,17 +119,23 @@ CCameraPool::~CCameraPool()
 
 void CCameraPool::setWorker(const QString &program, const QString &language)
 {
-    const auto findCamera = [this](const QString &cameraId) {
-        CDeviceFirmwareUpdateService::CRemoteCamera camera;
-        for (const std::unique_ptr<ICameraKind> &kind : d->kinds) {
-            camera.kind = kind->getName();
-            camera.handle = kind->createHandle(cameraId);
-            if (camera.handle)
-                break;
-        }
-        return camera;
-    };
-    getService<CDeviceFirmwareUpdateService>()->setWorker(program, language, findCamera);
+    getService<CDeviceFirmwareUpdateService>()->setWorker(
+        program, language, [this](const QString &cameraId) { return findRemote(cameraId); });
+    d->streams.setWorker(program, language);
+    d->hasWorker = true;
+}
+
+CRemoteCamera CCameraPool::findRemote(const QString &cameraId) const
+{
+    CRemoteCamera camera;
+    camera.name = getDisplayName(cameraId);
+    for (const std::unique_ptr<ICameraKind> &kind : d->kinds) {
+        camera.kind = kind->getName();
+        camera.handle = kind->createHandle(cameraId);
+        if (camera.handle)
+            break;
+    }
+    return camera;
 }
 
 void CCameraPool::setLogFinder(const std::function<QString()> &findLog)
@@ -157,10 +183,17 @@ bool CCameraPool::startAcquisition(const QString &cameraId, QString *error)
 void CCameraPool::stopAcquisition(const QString &cameraId)
 {
     const ECameraActivity activity = d->activities->get(cameraId);
+    d->restarts.remove(cameraId);
+    d->lost.remove(cameraId);
     if (activity != ECameraActivity::Acquiring && activity != ECameraActivity::Recording)
         return;
-    d->stream.stop(cameraId);
-    d->activities->end(cameraId);
+    d->streams.setFolder(cameraId, {});
+    d->streams.end(cameraId);
+}
+
+Stream::CCameraStream *CCameraPool::findStream(const QString &cameraId) const
+{
+    return d->streams.findStream(cameraId);
 }
 
 bool CCameraPool::startRecording(const QString &cameraId, const QString &folder, QString *error)
@@ -173,7 +206,7 @@ bool CCameraPool::startRecording(const QString &cameraId, const QString &folder,
     }
     if (!beginStream(cameraId, ECameraActivity::Recording, error))
         return false;
-    d->stream.setFolder(cameraId, QDir(folder).absolutePath());
+    d->streams.setFolder(cameraId, QDir(folder).absolutePath());
     return true;
 }
 
@@ -181,7 +214,7 @@ void CCameraPool::stopRecording(const QString &cameraId)
 {
     if (d->activities->get(cameraId) != ECameraActivity::Recording)
         return;
-    d->stream.setFolder(cameraId, {});
+    d->streams.setFolder(cameraId, {});
     d->activities->begin(cameraId, ECameraActivity::Acquiring);
 }
 
@@ -219,9 +252,11 @@ void CCameraPool::onActivityChanged(const QString &cameraId)
 void CCameraPool::onCameraStateChanged(const QString &cameraId)
 {
     const ECameraActivity activity = d->activities->get(cameraId);
-    if (getPresence(cameraId) == ECameraPresence::Absent
+    if (getPresence(cameraId) == ECameraPresence::Absent && !d->lost.contains(cameraId)
         && (activity == ECameraActivity::Acquiring || activity == ECameraActivity::Recording)) {
         stopAcquisition(cameraId);
+        d->lost.insert(cameraId, QDeadlineTimer(RETURN_TIME));
+        d->lostTimer.start();
         emit streamFailed(cameraId,
                           tr("Camera %1 no longer answers; acquisition has stopped.")
                               .arg(getDisplayName(cameraId)));
@@ -246,10 +281,8 @@ bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity,
         return false;
     }
     const ICameraKind *const kind = findKind(cameraId);
-    if (!kind || !kind->hasImages()) {
-        setError(
-            error,
-            tr("Camera %1 is a real camera; only its firmware can be updated here.").arg(name));
+    if (!kind || !d->hasWorker) {
+        setError(error, tr("Camera %1 has no images here.").arg(name));
         return false;
     }
     if (kind->getPresence(cameraId) == ECameraPresence::Absent) {
@@ -264,15 +297,55 @@ bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity,
         setError(error, tr("Camera %1 is being updated.").arg(name));
         return false;
     }
-    d->stream.start(cameraId);
+    d->lost.remove(cameraId);
+    // It may be on its way out, and cannot be had before it is.
+    if (d->streams.findStream(cameraId))
+        d->restarts.insert(cameraId);
+    else
+        d->streams.start(cameraId, findRemote(cameraId));
     return true;
+}
+
+void CCameraPool::onStreamEnded(const QString &cameraId, const Text::CErrorText &error)
+{
+    if (error.isEmpty() && d->restarts.remove(cameraId)) {
+        d->streams.start(cameraId, findRemote(cameraId));
+        return;
+    }
+    d->activities->end(cameraId);
+    if (error.isEmpty())
+        return;
+    // Who has been told once is not told of each look for the camera.
+    if (!d->lost.contains(cameraId)) {
+        d->lost.insert(cameraId, QDeadlineTimer(RETURN_TIME));
+        emit streamFailed(cameraId, tr("%1.").arg(error.getLocalized()));
+    }
+    d->lostTimer.start();
+}
+
+void CCameraPool::lookForLost()
+{
+    for (auto camera = d->lost.begin(); camera != d->lost.end();) {
+        if (camera->hasExpired())
+            camera = d->lost.erase(camera);
+        else
+            ++camera;
+    }
+    const QStringList cameraIds = d->lost.keys();
+    for (const QString &cameraId : cameraIds) {
+        const QDeadlineTimer deadline = d->lost.value(cameraId);
+        if (beginStream(cameraId, ECameraActivity::Acquiring, nullptr))
+            d->lost.insert(cameraId, deadline);
+    }
+    if (d->lost.isEmpty())
+        d->lostTimer.stop();
 }
 
 void CCameraPool::stopAllCameras()
 {
-    const QStringList active = d->activities->getActive();
-    for (const QString &cameraId : active)
-        stopAcquisition(cameraId);
+    d->restarts.clear();
+    d->lost.clear();
+    d->streams.endAll(QDeadlineTimer(END_TIME));
     // "Stop all cameras" means the other applications' acquisition as well.
     for (const std::unique_ptr<ICameraKind> &kind : d->kinds)
         kind->freeCameras();

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "remotecamera.h"
+
 #include "viewer/camera/camerasnapshot.h"
 #include "viewer/camera/ecameraactivity.h"
 #include "viewer/camera/icamerakind.h"
+#include "viewer/image/frame.h"
+#include "viewer/text/errortext.h"
 
 #include "core/iservice.h"
 
@@ -14,7 +18,9 @@
 #include <functional>
 #include <memory>
 
-class QImage;
+namespace Viewer::Stream {
+class CCameraStream;
+}
 
 namespace Viewer::CameraPool {
 
@@ -31,8 +37,9 @@ public:
                          QObject *parent = nullptr);
     ~CCameraPool() override;
 
-    /// Each update runs in a process of its own from now on: nuvexcameraworker at the absolute path
-    /// @p program, which speaks the @p language. Without a call updates run on threads of this one.
+    /// Each update, and the images of each camera, have a process of their own from now on:
+    /// nuvexcameraworker at the absolute path @p program, which speaks the @p language. Without a
+    /// call updates run on threads of this one, and there are no images.
     void setWorker(const QString &program, const QString &language);
 
     /// Where the log of an update lies, for its journal and the history: asked on the thread of the
@@ -68,6 +75,9 @@ public:
     bool startAcquisition(const QString &cameraId, QString *error = nullptr);
     void stopAcquisition(const QString &cameraId);
 
+    /// The settings of a camera that acquires; null: it does not. Dies when it does not any more.
+    [[nodiscard]] Stream::CCameraStream *findStream(const QString &cameraId) const;
+
     /// Recording acquires as well and writes each frame as a PNG file into @p folder, which must
     /// exist. The camera goes on acquiring when the recording ends, whether by stopRecording() or
     /// by an error; stopAcquisition() ends both.
@@ -90,12 +100,22 @@ signals:
     /// changed.
     void snapshotChanged(const QString &cameraId);
 
-    /// GUI thread; one frame of an acquiring camera.
-    void frameReady(const QString &cameraId, const QImage &frame);
+    /// GUI thread; one frame of an acquiring camera. Who keeps many of them gets no more.
+    void frameReady(const QString &cameraId, const Viewer::Image::CFrame &frame);
+
+    /// GUI thread, about once a second for each acquiring camera. @p skippedFrames: those that
+    /// nobody here had room for.
+    void statisticsChanged(const QString &cameraId,
+                           const Viewer::Camera::CStreamStatistics &statistics,
+                           qint64 skippedFrames);
 
     /// GUI thread; acquisition or recording of a camera has ended by itself. @p message is one
     /// sentence that names the camera and the cause.
     void streamFailed(const QString &cameraId, const QString &message);
+
+    /// GUI thread; all that could be written of a recording is. @p lostCount: frames for which
+    /// there was no time.
+    void recordingEnded(const QString &cameraId, quint64 writtenCount, quint64 lostCount);
 
     /// GUI thread.
     void updateRunningChanged(bool running);
@@ -108,8 +128,11 @@ private slots:
     void onActivityChanged(const QString &cameraId);
     void onCameraStateChanged(const QString &cameraId);
     void onRecordingFailed(const QString &cameraId, const QString &cause);
+    void onStreamEnded(const QString &cameraId, const Text::CErrorText &error);
+    void lookForLost();
 
 private:
+    [[nodiscard]] CRemoteCamera findRemote(const QString &cameraId) const;
     [[nodiscard]] bool beginStream(const QString &cameraId, Camera::ECameraActivity activity,
                                    QString *error);
     void stopAllCameras();

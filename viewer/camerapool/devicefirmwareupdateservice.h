@@ -1,5 +1,7 @@
 #pragma once
 
+#include "remotecamera.h"
+
 #include "viewer/update/workerrun.h"
 #include "viewer/updatefile/updatefilecache.h"
 
@@ -12,7 +14,6 @@
 namespace Viewer::Camera {
 class CCameraActivities;
 class ICameraDeviceFactory;
-class ICameraHandle;
 } // namespace Viewer::Camera
 
 namespace Viewer::Update {
@@ -31,12 +32,6 @@ public:
     /// The camera as last enumerated, or null.
     using CameraFinder = std::function<Plugin::CameraPool::CameraInfoPtr(const QString &cameraId)>;
 
-    /// Which kind a camera is of, and the camera for a process of its own; null: there is none.
-    struct CRemoteCamera
-    {
-        QString kind;
-        std::shared_ptr<Camera::ICameraHandle> handle;
-    };
     using RemoteCameraFinder = std::function<CRemoteCamera(const QString &cameraId)>;
 
     /// Each update from now on runs in a process of its own, of the @p program, which speaks the

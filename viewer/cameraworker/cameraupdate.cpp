@@ -28,7 +28,7 @@ static constexpr std::chrono::milliseconds GRACE = 10s;
 /// Reading the file, opening the camera and finding out its version at the end.
 static constexpr std::chrono::milliseconds AROUND_STEPS = 60s;
 
-CCameraUpdate::CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled,
+CCameraUpdate::CCameraUpdate(CMessageWriter &events, const volatile std::sig_atomic_t &isCanceled,
                              int patiencePercent)
     : m_events(events)
     , m_isCanceled(isCanceled)
@@ -42,11 +42,13 @@ CCameraUpdate::~CCameraUpdate() = default;
 
 bool CCameraUpdate::perform(const Update::CWorkerTask &task)
 {
-    m_events.write(makeEvent(CWorkerEvent::EType::Hello));
+    m_events.write(makeEvent(CWorkerEvent::EType::Hello).toCbor());
     const CErrorText error = update(task);
     if (m_device)
         m_device->close();
-    m_events.write(error.isEmpty() ? makeEvent(CWorkerEvent::EType::Done) : makeFailure(error));
+    const CWorkerEvent last
+        = error.isEmpty() ? makeEvent(CWorkerEvent::EType::Done) : makeFailure(error);
+    m_events.write(last.toCbor());
     return error.isEmpty();
 }
 
@@ -118,14 +120,14 @@ void CCameraUpdate::stepBegun(const CUpdateStep &step, std::chrono::milliseconds
     ++m_step;
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepBegun);
     event.estimate = estimate;
-    m_events.write(event);
+    m_events.write(event.toCbor());
 }
 
 void CCameraUpdate::stepProgressed(const CUpdateStep &, double percent)
 {
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepProgressed);
     event.percent = percent;
-    m_events.write(event);
+    m_events.write(event.toCbor());
 }
 
 void CCameraUpdate::writing()
@@ -143,7 +145,7 @@ void CCameraUpdate::stepDone(const CUpdateStep &, std::chrono::milliseconds esti
     watch(AROUND_STEPS);
     CWorkerEvent event = makeEvent(CWorkerEvent::EType::StepDone);
     event.estimate = estimate;
-    m_events.write(event);
+    m_events.write(event.toCbor());
 }
 
 void CCameraUpdate::watch(std::chrono::milliseconds limit)
@@ -164,7 +166,7 @@ void CCameraUpdate::onExpired()
     event.error = error.getEnglish();
     event.localizedError = error.getLocalized();
     event.hasWritten = m_mayHaveWritten;
-    m_events.writeLast(event, EXIT_FAILURE);
+    m_events.writeLast(event.toCbor(), EXIT_FAILURE);
 }
 
 CWorkerEvent CCameraUpdate::makeEvent(CWorkerEvent::EType type) const

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "eventwriter.h"
+#include "messagewriter.h"
 #include "sleepinhibitor.h"
 #include "watchdog.h"
 
 #include "viewer/camera/icamerakind.h"
 #include "viewer/text/errortext.h"
 #include "viewer/update/iupdaterun.h"
+#include "viewer/update/workerevent.h"
 #include "viewer/update/workertask.h"
 
 #include <QCoreApplication>
@@ -25,7 +26,7 @@ class CCameraUpdate : private Update::IUpdateRun::IListener
 public:
     /// @p events and @p isCanceled, which becomes true when somebody wants the process to end, are
     /// borrowed. The watchdog waits @p patiencePercent of what it should.
-    CCameraUpdate(CEventWriter &events, const volatile std::sig_atomic_t &isCanceled,
+    CCameraUpdate(CMessageWriter &events, const volatile std::sig_atomic_t &isCanceled,
                   int patiencePercent);
     ~CCameraUpdate() override;
 
@@ -49,7 +50,7 @@ private:
     [[nodiscard]] Update::CWorkerEvent makeEvent(Update::CWorkerEvent::EType type) const;
     [[nodiscard]] Update::CWorkerEvent makeFailure(const Text::CErrorText &error) const;
 
-    CEventWriter &m_events;
+    CMessageWriter &m_events;
     const volatile std::sig_atomic_t &m_isCanceled;
     const int m_patiencePercent;
     Camera::CCameraKinds m_kinds;

@@ -598,10 +598,6 @@
         <translation>相机 %1 不再响应，采集已停止。</translation>
     </message>
     <message>
-        <source>Camera %1 is a real camera; only its firmware can be updated here.</source>
-        <translation>相机 %1 是真实相机，此查看器只能更新其固件。</translation>
-    </message>
-    <message>
         <source>Camera %1 is in use by another application.</source>
         <translation>相机 %1 正被另一个应用程序使用。</translation>
     </message>
@@ -609,12 +605,13 @@
         <source>being updated (%1 %)</source>
         <translation>正在更新（%1 %）</translation>
     </message>
-</context>
-<context>
-    <name>Viewer::CameraPool::CFrameStream</name>
     <message>
-        <source>the file &quot;%1&quot; cannot be written (%2)</source>
-        <translation>无法写入文件“%1”（%2）</translation>
+        <source>Camera %1 has no images here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished">%1。</translation>
     </message>
 </context>
 <context>
@@ -2204,6 +2201,54 @@ Update %1
     <message>
         <source>it needs firmware version %1 or newer, the camera has %2</source>
         <translation>需要固件版本 %1 或更高版本，而相机为 %2</translation>
+    </message>
+    <message>
+        <source>its images could not be asked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the camera program does not know a camera of this kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pixel format %1 is unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an image of %1 x %2 pixels (%3) cannot be shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bytes behind each line of an image are impossible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the image has %1 of the %2 bytes that %3 x %4 pixels (%5) need</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be written (%2)</source>
+        <translation type="unfinished">无法写入文件“%1”（%2）</translation>
+    </message>
+    <message>
+        <source>the camera program says something that is not understood; install the viewer again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the memory for its images cannot be used (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the camera program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the camera program ended unexpectedly (signal %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the camera program ended unexpectedly (exit code %1)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -1,12 +1,9 @@
 #include "workerevent.h"
 
-#include "cborbounds.h"
 #include "workertask.h"
 
-#include "viewer/camera/cborinteger.h"
-
-#include <QCborStreamReader>
-#include <QCborValue>
+#include "viewer/process/cborinteger.h"
+#include "viewer/process/cbormessages.h"
 
 #include <algorithm>
 #include <limits>
@@ -59,9 +56,9 @@ QCborMap CWorkerEvent::toCbor() const
 
 std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
 {
-    const qint64 type = Camera::toInteger(map.value(TYPE), -1);
-    const qint64 step = Camera::toInteger(map.value(STEP), 0);
-    const qint64 estimate = Camera::toInteger(map.value(ESTIMATE), 0);
+    const qint64 type = Process::toInteger(map.value(TYPE), -1);
+    const qint64 step = Process::toInteger(map.value(STEP), 0);
+    const qint64 estimate = Process::toInteger(map.value(ESTIMATE), 0);
     CWorkerEvent event;
     event.percent = map.value(PERCENT).toDouble();
     if (type < 0 || type > static_cast<int>(EType::Failed) || step < 0
@@ -72,7 +69,7 @@ std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
     event.type = static_cast<EType>(type);
     event.step = static_cast<int>(step);
     event.patience = std::chrono::milliseconds(std::clamp<qint64>(
-        Camera::toInteger(map.value(PATIENCE), 0), 0, std::numeric_limits<int>::max()));
+        Process::toInteger(map.value(PATIENCE), 0), 0, std::numeric_limits<int>::max()));
     event.estimate = std::chrono::milliseconds(estimate);
     event.camera = map.value(CAMERA).toMap();
     event.error = map.value(ERROR_TEXT).toString();
@@ -81,7 +78,7 @@ std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
     event.hasWritten = map.value(HAS_WRITTEN).toBool(true);
     event.version = map.value(VERSION).toString();
     if (event.type == EType::Hello
-        && Camera::toInteger(map.value(PROTOCOL), -1) != CWorkerTask::PROTOCOL)
+        && Process::toInteger(map.value(PROTOCOL), -1) != CWorkerTask::PROTOCOL)
         return std::nullopt;
     if (event.type == EType::Failed && event.error.isEmpty())
         return std::nullopt;
@@ -90,19 +87,11 @@ std::optional<CWorkerEvent> CWorkerEvent::fromCbor(const QCborMap &map)
 
 std::optional<CWorkerEvent> CWorkerEvent::takeFirst(QByteArray &bytes, bool &isBroken)
 {
-    isBroken = !isBounded(bytes);
-    if (isBroken || bytes.isEmpty())
+    const std::optional<QCborMap> message = Process::takeMessage(bytes, isBroken);
+    if (!message)
         return std::nullopt;
-    QCborStreamReader reader(bytes);
-    const QCborValue value = QCborValue::fromCbor(reader);
-    if (reader.lastError() == QCborError::EndOfFile)
-        return std::nullopt;
-    std::optional<CWorkerEvent> event;
-    if (reader.lastError() == QCborError::NoError)
-        event = fromCbor(value.toMap());
+    const std::optional<CWorkerEvent> event = fromCbor(*message);
     isBroken = !event;
-    if (event)
-        bytes.remove(0, static_cast<int>(reader.currentOffset()));
     return event;
 }
 

@@ -2,6 +2,7 @@
 
 #include "logging.h"
 #include "viewer/camera/cameraerror.h"
+#include "viewer/process/workerenvironment.h"
 #include "viewer/updatefile/manifestparser.h"
 
 #include <QCborValue>
@@ -23,24 +24,6 @@ static constexpr int END_TIME = 10000; // milliseconds; from the last event to t
 /// What the worker waits at most without a word is limited by its own watchdog; this is for a
 /// worker that has none any more.
 static constexpr std::chrono::milliseconds QUIET_TIME = 3min;
-
-/// Of the environment nothing but what says where things are, in which language, and what
-/// developers want to see.
-static QProcessEnvironment makeEnvironment()
-{
-    const QProcessEnvironment own = QProcessEnvironment::systemEnvironment();
-    QProcessEnvironment environment;
-    environment.insert(QStringLiteral("PATH"), QStringLiteral("/usr/bin:/bin"));
-    for (const char *const name :
-         {"HOME", "LANG", "LC_ALL", "TMPDIR", "TZ", "XDG_STATE_HOME", "XDG_RUNTIME_DIR",
-          "DBUS_SYSTEM_BUS_ADDRESS", "QT_LOGGING_RULES", "ASAN_OPTIONS", "LSAN_OPTIONS",
-          "TSAN_OPTIONS", "UBSAN_OPTIONS"}) {
-        const QString variable = QString::fromLatin1(name);
-        if (own.contains(variable))
-            environment.insert(variable, own.value(variable));
-    }
-    return environment;
-}
 
 CWorkerRun::CWorkerRun(const QString &cameraName, const UpdateFile::CUpdateEntry &entry,
                        const CWorkerStart &start, IListener &listener)
@@ -99,7 +82,7 @@ void CWorkerRun::start(QProcess &process)
 {
     process.setProgram(m_start.program);
     process.setArguments({QStringLiteral("update")});
-    process.setProcessEnvironment(makeEnvironment());
+    process.setProcessEnvironment(Process::makeWorkerEnvironment());
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.setWorkingDirectory(QDir::rootPath());
     process.start();

@@ -1,6 +1,6 @@
 #include "workertask.h"
 
-#include "viewer/camera/cborinteger.h"
+#include "viewer/process/cborinteger.h"
 
 #include <QFileInfo>
 
@@ -46,8 +46,8 @@ std::optional<CWorkerTask> CWorkerTask::fromCbor(const QCborMap &map, QString &f
     task.journalFolder = map.value(JOURNAL_FOLDER).toString();
     task.record = map.value(RECORD).toByteArray();
     task.language = map.value(LANGUAGE).toString();
-    const qint64 entry = Camera::toInteger(map.value(ENTRY), -1);
-    if (Camera::toInteger(map.value(PROTOCOL_FIELD), -1) != PROTOCOL)
+    const qint64 entry = Process::toInteger(map.value(ENTRY), -1);
+    if (Process::toInteger(map.value(PROTOCOL_FIELD), -1) != PROTOCOL)
         fault = QStringLiteral("the task is not of protocol %1").arg(PROTOCOL);
     else if (map.value(COMMAND).toString() != UPDATE)
         fault = QStringLiteral("the task has no command that is known");

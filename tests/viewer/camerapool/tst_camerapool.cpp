@@ -79,6 +79,7 @@ void CCameraPoolTest::createPool(double speedFactor)
     m_pool = std::make_unique<CCameraPool>(
         TestSupport::makeCameraKinds({"--speed", QString::number(speedFactor)}, m_folder->path()),
         m_folder->filePath("updates"));
+    m_pool->setWorker(WORKER, "en");
     m_announced = std::make_unique<QSignalSpy>(getService<ICameraEnumerationService>().data(),
                                                &ICameraEnumerationService::enumerationChanged);
     m_pool->start();
@@ -114,7 +115,7 @@ void CCameraPoolTest::startsAndStopsCameras()
     QTRY_COMPARE(m_announced->count(), 2);
     QVERIFY(!find(FIRST_ID));
     QCOMPARE(failed.count(), 1);
-    QCOMPARE(m_pool->getActivity(FIRST_ID), ECameraActivity::Idle);
+    QTRY_COMPARE(m_pool->getActivity(FIRST_ID), ECameraActivity::Idle);
     verifyRefused("does not answer");
     set("plugged:" + FIRST_ID, true);
     QTRY_COMPARE(m_announced->count(), 3);
@@ -165,8 +166,12 @@ void CCameraPoolTest::whatIsStoppedMakesNoPictures()
     QHash<QString, int> frames; // by camera
     connect(m_pool.get(), &CCameraPool::frameReady, this,
             [&frames](const QString &cameraId) { ++frames[cameraId]; });
+    QSignalSpy ended(m_pool.get(), &CCameraPool::recordingEnded);
     stop(*this);
+    // Frames may still wait to be written.
+    QTRY_COMPARE(ended.count(), 1);
     const int fileCount = countFiles();
+    QCOMPARE(ended.first().at(1).toInt(), fileCount);
     frames.clear();
     // Another camera shows that time goes by.
     QVERIFY(m_pool->startAcquisition(SECOND_ID));

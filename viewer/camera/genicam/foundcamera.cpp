@@ -1,6 +1,6 @@
 #include "foundcamera.h"
 
-#include "viewer/camera/cborinteger.h"
+#include "viewer/process/cborinteger.h"
 
 #include <QHostAddress>
 
@@ -44,7 +44,7 @@ std::optional<CFoundCamera> CFoundCamera::fromCbor(const QCborMap &map)
             return std::nullopt;
         camera.*field.member = value.toString();
     }
-    const qint64 transport = toInteger(map.value(TRANSPORT), -1);
+    const qint64 transport = Process::toInteger(map.value(TRANSPORT), -1);
     const bool isEthernet = transport == static_cast<int>(ETransport::Ethernet);
     if (!isEthernet && transport != static_cast<int>(ETransport::Usb))
         return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "genicamdevice.h"
 #include "genicamkind.h"
+#include "genicamstream.h"
 #include "logging.h"
 #include "networksearch.h"
 #include "unicastdiscovery.h"
@@ -73,6 +74,12 @@ std::unique_ptr<ICameraDevice> CGenICam::makeDevice(const QCborMap &description)
     return camera ? std::make_unique<CGenICamDevice>(*camera) : nullptr;
 }
 
+std::unique_ptr<ICameraStream> CGenICam::makeStream(const QCborMap &description)
+{
+    const std::optional<CFoundCamera> camera = CFoundCamera::fromCbor(description);
+    return camera ? std::make_unique<CGenICamStream>(*camera) : nullptr;
+}
+
 QVector<CommandLine::COption> CGenICam::getOptions()
 {
     return getSearchOptions(m_options);
@@ -100,11 +107,6 @@ ECameraPresence CGenICam::getPresence(const QString &cameraId) const
 {
     const std::lock_guard lock(m_mutex);
     return m_found.contains(cameraId) ? ECameraPresence::Present : ECameraPresence::Unknown;
-}
-
-bool CGenICam::hasImages() const
-{
-    return false;
 }
 
 std::unique_ptr<ICameraDevice> CGenICam::createDevice(const QString &cameraId)

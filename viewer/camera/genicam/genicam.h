@@ -30,11 +30,11 @@ public:
     [[nodiscard]] std::unique_ptr<ICameraHandle>
     createHandle(const QString &cameraId) const override;
     [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description) override;
+    [[nodiscard]] std::unique_ptr<ICameraStream> makeStream(const QCborMap &description) override;
     [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
     void start() override;
     [[nodiscard]] QVector<CCameraSwitch> getSwitches() override;
     [[nodiscard]] ECameraPresence getPresence(const QString &cameraId) const override;
-    [[nodiscard]] bool hasImages() const override;
 
     // ICameraDeviceFactory
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &cameraId) override;

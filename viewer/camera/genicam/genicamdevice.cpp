@@ -306,14 +306,14 @@ static CCameraError::EChange toChange(CFeatureError::EReason reason)
     return CCameraError::EChange::Possible;
 }
 
-template <typename Action>
-std::invoke_result_t<Action> CGenICamDevice::translate(Action action) const
+ArvDevice *CGenICamDevice::getDevice() const
 {
-    try {
-        return action();
-    } catch (const CFeatureError &error) {
-        fail(error.getText(), toChange(error.getReason()));
-    }
+    return m_device.get();
+}
+
+void CGenICamDevice::fail(const CFeatureError &error) const
+{
+    fail(error.getText(), toChange(error.getReason()));
 }
 
 void CGenICamDevice::fail(const CErrorText &cause, CCameraError::EChange change) const

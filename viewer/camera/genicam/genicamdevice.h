@@ -35,6 +35,20 @@ public:
     [[nodiscard]] qint64 getUploadRate() const override;
     [[nodiscard]] std::chrono::milliseconds getShortestResetLimit() const override;
 
+    /// The library's own object; null: it is not open.
+    [[nodiscard]] ArvDevice *getDevice() const;
+
+    /// Runs @p action; whatever it throws leaves as a CCameraError.
+    template <typename Action>
+    std::invoke_result_t<Action> translate(Action action) const
+    {
+        try {
+            return action();
+        } catch (const CFeatureError &error) {
+            fail(error);
+        }
+    }
+
 private:
     /// Addresses can be given to others between a search and an update.
     void checkIdentity(std::chrono::milliseconds timeLimit) const;
@@ -47,9 +61,7 @@ private:
     [[nodiscard]] CFeatures getFeatures() const;
     [[nodiscard]] QString readKnownFeature(const CFeatures &features, const QByteArray &name) const;
 
-    /// Runs @p action; whatever it throws leaves as a CCameraError.
-    template <typename Action>
-    std::invoke_result_t<Action> translate(Action action) const;
+    [[noreturn]] void fail(const CFeatureError &error) const;
     [[noreturn]] void fail(const Text::CErrorText &cause,
                            CCameraError::EChange change = CCameraError::EChange::Possible) const;
 

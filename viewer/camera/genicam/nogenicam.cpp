@@ -33,11 +33,14 @@ public:
     {
         return nullptr;
     }
+    [[nodiscard]] std::unique_ptr<ICameraStream> makeStream(const QCborMap &) override
+    {
+        return nullptr;
+    }
     [[nodiscard]] ECameraPresence getPresence(const QString &) const override
     {
         return ECameraPresence::Unknown;
     }
-    [[nodiscard]] bool hasImages() const override { return false; }
     [[nodiscard]] std::unique_ptr<ICameraDevice> createDevice(const QString &) override
     {
         return nullptr;

@@ -1,6 +1,6 @@
 #include "cameradescription.h"
 
-#include "viewer/camera/cborinteger.h"
+#include "viewer/process/cborinteger.h"
 
 namespace Viewer::Camera::Simulation {
 
@@ -82,8 +82,8 @@ std::optional<CCameraDescriptionEntry> CCameraDescriptionEntry::fromCbor(const Q
         if (place.isInteger())
             entry.faults.*field.member = place.toInteger();
     }
-    entry.camera.statusCode = static_cast<qint32>(toInteger(map.value(STATUS_CODE), 0));
-    entry.uploadSpeed = toInteger(map.value(UPLOAD_SPEED), 0);
+    entry.camera.statusCode = static_cast<qint32>(Process::toInteger(map.value(STATUS_CODE), 0));
+    entry.uploadSpeed = Process::toInteger(map.value(UPLOAD_SPEED), 0);
     if (entry.uploadSpeed < 1)
         return std::nullopt;
     return entry;

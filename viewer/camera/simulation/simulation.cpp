@@ -6,6 +6,7 @@
 #include "simulatedcamera.h"
 #include "simulatedcameradevice.h"
 #include "simulatedcamerahandle.h"
+#include "simulatedcamerastream.h"
 #include "simulationnotifier.h"
 #include "viewer/commandline/takers.h"
 
@@ -174,11 +175,6 @@ ECameraPresence CSimulation::getPresence(const QString &cameraId) const
     return camera->isBusy() ? ECameraPresence::InUseElsewhere : ECameraPresence::Present;
 }
 
-bool CSimulation::hasImages() const
-{
-    return true;
-}
-
 std::unique_ptr<ICameraHandle> CSimulation::createHandle(const QString &cameraId) const
 {
     const auto camera = d->find(cameraId);
@@ -191,6 +187,12 @@ std::unique_ptr<ICameraDevice> CSimulation::makeDevice(const QCborMap &descripti
 {
     d->made = CSimulatedCameraHandle::makeCamera(description, SLOWEST_SPEED, FASTEST_SPEED);
     return d->made ? std::make_unique<CSimulatedCameraDevice>(d->made) : nullptr;
+}
+
+std::unique_ptr<ICameraStream> CSimulation::makeStream(const QCborMap &description)
+{
+    d->made = CSimulatedCameraHandle::makeCamera(description, SLOWEST_SPEED, FASTEST_SPEED);
+    return d->made ? std::make_unique<CSimulatedCameraStream>(d->made) : nullptr;
 }
 
 QCborMap CSimulation::describeMade() const

@@ -41,11 +41,11 @@ public:
     [[nodiscard]] QString getMenuTitle() const override;
     [[nodiscard]] QVector<CCameraSwitch> getSwitches() override;
     [[nodiscard]] ECameraPresence getPresence(const QString &cameraId) const override;
-    [[nodiscard]] bool hasImages() const override;
     void freeCameras() override;
     [[nodiscard]] std::unique_ptr<ICameraHandle>
     createHandle(const QString &cameraId) const override;
     [[nodiscard]] std::unique_ptr<ICameraDevice> makeDevice(const QCborMap &description) override;
+    [[nodiscard]] std::unique_ptr<ICameraStream> makeStream(const QCborMap &description) override;
     [[nodiscard]] QCborMap describeMade() const override;
     [[nodiscard]] double getSlownessOfMade() const override;
     void loseMade() override;

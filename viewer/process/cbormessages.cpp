@@ -1,12 +1,12 @@
-#include "cborbounds.h"
+#include "cbormessages.h"
 
 #include <QCborStreamReader>
+#include <QCborValue>
 
-namespace Viewer::Update {
+namespace Viewer::Process {
 
 /// More than any message has.
 static constexpr int MAXIMUM_DEPTH = 8;
-static constexpr quint64 MAXIMUM_ENTRIES = 1000; // of one map or list
 
 /// Leaves @p reader behind the item, or with an error where it is cut off.
 static bool isItemBounded(QCborStreamReader &reader, int depth)
@@ -43,4 +43,20 @@ bool isBounded(const QByteArray &bytes)
         && (reader.lastError() != QCborError::EndOfFile || bytes.size() <= MAXIMUM_MESSAGE);
 }
 
-} // namespace Viewer::Update
+std::optional<QCborMap> takeMessage(QByteArray &bytes, bool &isBroken)
+{
+    isBroken = !isBounded(bytes);
+    if (isBroken || bytes.isEmpty())
+        return std::nullopt;
+    QCborStreamReader reader(bytes);
+    const QCborValue value = QCborValue::fromCbor(reader);
+    if (reader.lastError() == QCborError::EndOfFile)
+        return std::nullopt;
+    isBroken = reader.lastError() != QCborError::NoError || !value.isMap();
+    if (isBroken)
+        return std::nullopt;
+    bytes.remove(0, static_cast<int>(reader.currentOffset()));
+    return value.toMap();
+}
+
+} // namespace Viewer::Process

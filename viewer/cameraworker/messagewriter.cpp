@@ -1,4 +1,4 @@
-#include "eventwriter.h"
+#include "messagewriter.h"
 
 #include <QCborValue>
 
@@ -8,28 +8,28 @@
 
 namespace Viewer::CameraWorker {
 
-CEventWriter::CEventWriter(int descriptor)
+CMessageWriter::CMessageWriter(int descriptor)
     : m_descriptor(descriptor)
 {
 }
 
-void CEventWriter::write(const Update::CWorkerEvent &event)
+void CMessageWriter::write(const QCborMap &message)
 {
     const std::lock_guard lock(m_mutex);
-    send(event);
+    send(message);
 }
 
-void CEventWriter::writeLast(const Update::CWorkerEvent &event, int exitCode)
+void CMessageWriter::writeLast(const QCborMap &message, int exitCode)
 {
     m_mutex.lock();
-    send(event);
+    send(message);
     // Without destructors: another thread may hang in a library that they would wait for.
     std::_Exit(exitCode);
 }
 
-void CEventWriter::send(const Update::CWorkerEvent &event)
+void CMessageWriter::send(const QCborMap &message)
 {
-    const QByteArray bytes = QCborValue(event.toCbor()).toCbor();
+    const QByteArray bytes = QCborValue(message).toCbor();
     for (int sent = 0; sent < bytes.size();) {
         const ssize_t count = ::write(m_descriptor, bytes.constData() + sent,
                                       static_cast<std::size_t>(bytes.size() - sent));

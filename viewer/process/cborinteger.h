@@ -2,7 +2,7 @@
 
 #include <QCborValue>
 
-namespace Viewer::Camera {
+namespace Viewer::Process {
 
 /// The whole number in @p value; @p otherwise: it is none. QCborValue::toInteger() would also
 /// convert a floating-point number for which there is no whole one.
@@ -11,4 +11,4 @@ namespace Viewer::Camera {
     return value.isInteger() ? value.toInteger() : otherwise;
 }
 
-} // namespace Viewer::Camera
+} // namespace Viewer::Process

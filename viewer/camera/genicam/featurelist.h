@@ -1,0 +1,17 @@
+#pragma once
+
+#include "viewer/camera/featureinfo.h"
+
+#include <QStringList>
+#include <QVector>
+
+#include <arv.h>
+
+namespace Viewer::Camera::GenICam {
+
+/// The features called @p names that the open camera has, or, without names, all those in its tree
+/// of categories. Reads each of them from the camera: what cannot be read has no value. The thread
+/// that owns the @p device.
+[[nodiscard]] QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names);
+
+} // namespace Viewer::Camera::GenICam

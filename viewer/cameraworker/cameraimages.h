@@ -1,0 +1,53 @@
+#pragma once
+
+#include "viewer/camera/icamerakind.h"
+#include "viewer/stream/framememory.h"
+#include "viewer/stream/streamcommand.h"
+#include "viewer/stream/streamevent.h"
+#include "viewer/stream/streamtask.h"
+
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace Viewer::CameraWorker {
+
+class CMessageWriter;
+
+/// The images of one camera, handed on to whoever started the worker, until nobody listens or can
+/// ask for anything any more.
+class CCameraImages
+{
+public:
+    /// Borrowed.
+    explicit CCameraImages(CMessageWriter &writer);
+    ~CCameraImages();
+
+    /// Opens the camera of @p task and does what commands from the descriptor @p input say, of
+    /// which @p bytes have been read already. True: it has ended as it was asked to.
+    [[nodiscard]] bool serve(const Stream::CStreamTask &task, int input, const QByteArray &bytes);
+
+private:
+    void open(const Stream::CStreamTask &task);
+    void follow(int input, QByteArray bytes);
+    void obey(const Stream::CStreamCommand &command);
+    void start();
+    void stop();
+    void onFrame(const Camera::CFrameInfo &frame);
+    void release(int slot);
+    void sendFeatures(const QStringList &names);
+    void sendStatistics();
+    void send(const Stream::CStreamEvent &event);
+
+    CMessageWriter &m_writer;
+    Camera::CCameraKinds m_kinds;
+    std::unique_ptr<Camera::ICameraStream> m_stream;
+    std::unique_ptr<Stream::CFrameMemory> m_memory; ///< null: no images come
+
+    std::mutex m_mutex; ///< guards what follows
+    std::vector<bool> m_isHeld; ///< by slot: the other process looks at the image in it
+    int m_heldCount = 0;
+    qint64 m_skippedFrames = 0;
+};
+
+} // namespace Viewer::CameraWorker
