@@ -2205,6 +2205,26 @@ Update %1
         <source>it needs firmware version %1 or newer, the camera has %2</source>
         <translation>ファームウェアバージョン %1 以降が必要ですが、カメラは %2 です</translation>
     </message>
+    <message>
+        <source>the pixel format %1 is unknown</source>
+        <translation>ピクセル形式 %1 は不明です</translation>
+    </message>
+    <message>
+        <source>an image of %1 x %2 pixels (%3) cannot be shown</source>
+        <translation>%1 x %2 ピクセルの画像 (%3) は表示できません</translation>
+    </message>
+    <message>
+        <source>%1 bytes behind each line of an image are impossible</source>
+        <translation>画像の各行の後に %1 バイトあることはありえません</translation>
+    </message>
+    <message>
+        <source>the image has %1 of the %2 bytes that %3 x %4 pixels (%5) need</source>
+        <translation>画像には %3 x %4 ピクセル (%5) に必要な %2 バイトのうち %1 バイトしかありません</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be written (%2)</source>
+        <translation>ファイル「%1」に書き込めません (%2)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

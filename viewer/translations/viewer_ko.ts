@@ -2205,6 +2205,26 @@ Update %1
         <source>it needs firmware version %1 or newer, the camera has %2</source>
         <translation>펌웨어 버전 %1 이상이 필요한데 카메라는 %2입니다</translation>
     </message>
+    <message>
+        <source>the pixel format %1 is unknown</source>
+        <translation>픽셀 형식 %1을(를) 알 수 없습니다</translation>
+    </message>
+    <message>
+        <source>an image of %1 x %2 pixels (%3) cannot be shown</source>
+        <translation>%1 x %2픽셀 영상(%3)은 표시할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 bytes behind each line of an image are impossible</source>
+        <translation>영상의 각 줄 뒤에 %1바이트가 있을 수는 없습니다</translation>
+    </message>
+    <message>
+        <source>the image has %1 of the %2 bytes that %3 x %4 pixels (%5) need</source>
+        <translation>영상에 %3 x %4픽셀(%5)에 필요한 %2바이트 중 %1바이트만 있습니다</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be written (%2)</source>
+        <translation>파일 &quot;%1&quot;에 쓸 수 없습니다(%2)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

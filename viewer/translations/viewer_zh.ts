@@ -2205,6 +2205,26 @@ Update %1
         <source>it needs firmware version %1 or newer, the camera has %2</source>
         <translation>需要固件版本 %1 或更高版本，而相机为 %2</translation>
     </message>
+    <message>
+        <source>the pixel format %1 is unknown</source>
+        <translation>像素格式 %1 未知</translation>
+    </message>
+    <message>
+        <source>an image of %1 x %2 pixels (%3) cannot be shown</source>
+        <translation>无法显示 %1 x %2 像素的图像（%3）</translation>
+    </message>
+    <message>
+        <source>%1 bytes behind each line of an image are impossible</source>
+        <translation>图像每行之后不可能有 %1 字节</translation>
+    </message>
+    <message>
+        <source>the image has %1 of the %2 bytes that %3 x %4 pixels (%5) need</source>
+        <translation>图像只有 %3 x %4 像素（%5）所需的 %2 字节中的 %1 字节</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be written (%2)</source>
+        <translation>无法写入文件“%1”（%2）</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>
