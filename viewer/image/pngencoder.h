@@ -14,8 +14,9 @@ using PngTexts = QVector<QPair<QByteArray, QString>>;
 /// The file for a `Format_Grayscale8`, `Format_Grayscale16` or `Format_RGB888` image, made for
 /// speed: each line is told by the differences to the pixels left of it, which are only coded by
 /// their frequency, not searched for repetitions, of which the noise of a sensor has none. That
-/// takes a third of the time of Qt's writer at its fastest level that packs, and the files are
-/// smaller. Empty where there is no memory. Any thread.
+/// takes less than half the time of Qt's writer at its fastest level that packs, and the files are
+/// smaller: one core writes about 45 images of 1920 x 1200 pixels a second with 8 bits, 23 with 12.
+/// Empty where zlib has no memory. Any thread.
 [[nodiscard]] QByteArray encodePng(const QImage &image, const PngTexts &texts);
 
 } // namespace Viewer::Image
