@@ -11,6 +11,8 @@ run_packages=(
   cmake
   g++
   libaravis-dev
+  libopencv-core-dev
+  libopencv-imgproc-dev
   libssl-dev
   libusb-1.0-0-dev
   libzip-dev
