@@ -607,11 +607,11 @@
     </message>
     <message>
         <source>Camera %1 has no images here.</source>
-        <translation type="unfinished"></translation>
+        <translation>ここにはカメラ %1 の画像はありません。</translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished">%1。</translation>
+        <translation>%1。</translation>
     </message>
 </context>
 <context>
@@ -2204,51 +2204,51 @@ Update %1
     </message>
     <message>
         <source>its images could not be asked for</source>
-        <translation type="unfinished"></translation>
+        <translation>画像を要求できませんでした</translation>
     </message>
     <message>
         <source>the camera program does not know a camera of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラプログラムはこの種類のカメラに対応していません</translation>
     </message>
     <message>
         <source>the pixel format %1 is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル形式 %1 は不明です</translation>
     </message>
     <message>
         <source>an image of %1 x %2 pixels (%3) cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2 ピクセルの画像 (%3) は表示できません</translation>
     </message>
     <message>
         <source>%1 bytes behind each line of an image are impossible</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の各行の後に %1 バイトあることはありえません</translation>
     </message>
     <message>
         <source>the image has %1 of the %2 bytes that %3 x %4 pixels (%5) need</source>
-        <translation type="unfinished"></translation>
+        <translation>画像には %3 x %4 ピクセル (%5) に必要な %2 バイトのうち %1 バイトしかありません</translation>
     </message>
     <message>
         <source>the file &quot;%1&quot; cannot be written (%2)</source>
-        <translation type="unfinished">ファイル「%1」に書き込めません (%2)</translation>
+        <translation>ファイル「%1」に書き込めません (%2)</translation>
     </message>
     <message>
         <source>the camera program says something that is not understood; install the viewer again</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラプログラムから理解できない内容が届きました。ビューアーを再インストールしてください</translation>
     </message>
     <message>
         <source>the memory for its images cannot be used (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>画像用のメモリを使用できません (%1)</translation>
     </message>
     <message>
         <source>the camera program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラプログラム「%1」を起動できません (%2)。ビューアーを再インストールしてください</translation>
     </message>
     <message>
         <source>the camera program ended unexpectedly (signal %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラプログラムが予期せず終了しました (シグナル %1)</translation>
     </message>
     <message>
         <source>the camera program ended unexpectedly (exit code %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラプログラムが予期せず終了しました (終了コード %1)</translation>
     </message>
 </context>
 <context>

@@ -607,11 +607,11 @@
     </message>
     <message>
         <source>Camera %1 has no images here.</source>
-        <translation type="unfinished"></translation>
+        <translation>여기에는 카메라 %1의 영상이 없습니다.</translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished">%1.</translation>
+        <translation>%1.</translation>
     </message>
 </context>
 <context>
@@ -2204,51 +2204,51 @@ Update %1
     </message>
     <message>
         <source>its images could not be asked for</source>
-        <translation type="unfinished"></translation>
+        <translation>영상을 요청할 수 없습니다</translation>
     </message>
     <message>
         <source>the camera program does not know a camera of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 프로그램이 이 종류의 카메라를 알지 못합니다</translation>
     </message>
     <message>
         <source>the pixel format %1 is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>픽셀 형식 %1을(를) 알 수 없습니다</translation>
     </message>
     <message>
         <source>an image of %1 x %2 pixels (%3) cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 x %2픽셀 영상(%3)은 표시할 수 없습니다</translation>
     </message>
     <message>
         <source>%1 bytes behind each line of an image are impossible</source>
-        <translation type="unfinished"></translation>
+        <translation>영상의 각 줄 뒤에 %1바이트가 있을 수는 없습니다</translation>
     </message>
     <message>
         <source>the image has %1 of the %2 bytes that %3 x %4 pixels (%5) need</source>
-        <translation type="unfinished"></translation>
+        <translation>영상에 %3 x %4픽셀(%5)에 필요한 %2바이트 중 %1바이트만 있습니다</translation>
     </message>
     <message>
         <source>the file &quot;%1&quot; cannot be written (%2)</source>
-        <translation type="unfinished">파일 &quot;%1&quot;에 쓸 수 없습니다(%2)</translation>
+        <translation>파일 &quot;%1&quot;에 쓸 수 없습니다(%2)</translation>
     </message>
     <message>
         <source>the camera program says something that is not understood; install the viewer again</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 프로그램이 이해할 수 없는 내용을 보냈습니다. 뷰어를 다시 설치하십시오</translation>
     </message>
     <message>
         <source>the memory for its images cannot be used (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>영상용 메모리를 사용할 수 없습니다(%1)</translation>
     </message>
     <message>
         <source>the camera program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 프로그램 &quot;%1&quot;을(를) 시작할 수 없습니다(%2). 뷰어를 다시 설치하십시오</translation>
     </message>
     <message>
         <source>the camera program ended unexpectedly (signal %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 프로그램이 예기치 않게 종료되었습니다(신호 %1)</translation>
     </message>
     <message>
         <source>the camera program ended unexpectedly (exit code %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>카메라 프로그램이 예기치 않게 종료되었습니다(종료 코드 %1)</translation>
     </message>
 </context>
 <context>

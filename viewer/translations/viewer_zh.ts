@@ -607,11 +607,11 @@
     </message>
     <message>
         <source>Camera %1 has no images here.</source>
-        <translation type="unfinished"></translation>
+        <translation>此处没有相机 %1 的图像。</translation>
     </message>
     <message>
         <source>%1.</source>
-        <translation type="unfinished">%1。</translation>
+        <translation>%1。</translation>
     </message>
 </context>
 <context>
@@ -2204,51 +2204,51 @@ Update %1
     </message>
     <message>
         <source>its images could not be asked for</source>
-        <translation type="unfinished"></translation>
+        <translation>无法请求图像</translation>
     </message>
     <message>
         <source>the camera program does not know a camera of this kind</source>
-        <translation type="unfinished"></translation>
+        <translation>相机程序不支持此类相机</translation>
     </message>
     <message>
         <source>the pixel format %1 is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>像素格式 %1 未知</translation>
     </message>
     <message>
         <source>an image of %1 x %2 pixels (%3) cannot be shown</source>
-        <translation type="unfinished"></translation>
+        <translation>无法显示 %1 x %2 像素的图像（%3）</translation>
     </message>
     <message>
         <source>%1 bytes behind each line of an image are impossible</source>
-        <translation type="unfinished"></translation>
+        <translation>图像每行之后不可能有 %1 字节</translation>
     </message>
     <message>
         <source>the image has %1 of the %2 bytes that %3 x %4 pixels (%5) need</source>
-        <translation type="unfinished"></translation>
+        <translation>图像只有 %3 x %4 像素（%5）所需的 %2 字节中的 %1 字节</translation>
     </message>
     <message>
         <source>the file &quot;%1&quot; cannot be written (%2)</source>
-        <translation type="unfinished">无法写入文件“%1”（%2）</translation>
+        <translation>无法写入文件“%1”（%2）</translation>
     </message>
     <message>
         <source>the camera program says something that is not understood; install the viewer again</source>
-        <translation type="unfinished"></translation>
+        <translation>相机程序发来无法理解的内容，请重新安装查看器</translation>
     </message>
     <message>
         <source>the memory for its images cannot be used (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>无法使用图像内存（%1）</translation>
     </message>
     <message>
         <source>the camera program &quot;%1&quot; cannot be started (%2); install the viewer again</source>
-        <translation type="unfinished"></translation>
+        <translation>无法启动相机程序“%1”（%2），请重新安装查看器</translation>
     </message>
     <message>
         <source>the camera program ended unexpectedly (signal %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>相机程序意外结束（信号 %1）</translation>
     </message>
     <message>
         <source>the camera program ended unexpectedly (exit code %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>相机程序意外结束（退出代码 %1）</translation>
     </message>
 </context>
 <context>
