@@ -67,7 +67,7 @@ static void play(const QByteArray &input, const CCameraSettings &settings, bool 
         if (repairs)
             repair(datagram);
 
-        now += Time((control >> 1) * 50);
+        now += std::chrono::milliseconds((control >> 1) * 50);
         const CPeer sender{0x7f000001U + (control & 1U), 4000};
         const QVector<CDatagram> answers = camera.handle(datagram, sender, now);
         for (const CDatagram &answer : answers)

@@ -5,7 +5,6 @@
 
 #include <QtTest>
 
-#include <cstring>
 #include <limits>
 #include <zip.h>
 
@@ -44,13 +43,6 @@ int statusOf(const QByteArray &answer)
 {
     return answer.size() < Gvcp::HEADER_SIZE ? -1
                                              : static_cast<int>(Gvcp::readWord(answer, 0) >> 16);
-}
-
-quint32 toBits(float number)
-{
-    quint32 bits = 0;
-    std::memcpy(&bits, &number, sizeof bits);
-    return bits;
 }
 
 /// The content of an archive's only file without the blanks at its end; null when it cannot be
@@ -234,7 +226,7 @@ void CVirtualCameraTest::answersByteByByte_data()
         "00000085 000c0006 00000068 47562d31 3430304d");
     row("no memory", "42010084 00080007 00000068 00000000", "80020085 00000007");
     row("too much memory", "42010084 00080008 00000000 0000021c", "80020085 00000008");
-    row("memory over an end", "42010084 00080009 00000afc 00000008", "80030085 00000009");
+    row("memory over an end", "42010084 00080009 00000d24 00000008", "80030085 00000009");
     row("write without control", "42010082 0008000a 00100028 00000001",
         "80060083 0004000a 00000000");
     row("control", "42010082 0008000b 00000a00 00000002", "00000083 0004000b 00000001");
@@ -334,7 +326,7 @@ void CVirtualCameraTest::announcesWhatTakesLong()
               QCOMPARE(ask(OPEN).toHex(), header + aSecondLater);
               QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
               m_now = *m_camera->getNextDeadline();
-              QCOMPARE(m_now, Time(duration));
+              QCOMPARE(m_now, Time(std::chrono::milliseconds(duration)));
               const QVector<CDatagram> answers = m_camera->tick(m_now);
               QCOMPARE(answers.size(), 1);
               QCOMPARE(answers[0].bytes.toHex(), QByteArray("000000830004006300000001"));
@@ -354,7 +346,7 @@ void CVirtualCameraTest::announcesForEver()
     QCOMPARE(ask(OPEN).toHex(), announcement);
     for (int i = 1; i <= 1000; ++i) {
         m_now = *m_camera->getNextDeadline();
-        QCOMPARE(m_now, i * Time(2000)); // before anybody gives up
+        QCOMPARE(m_now, Time(i * 2000ms)); // before anybody gives up
         const QVector<CDatagram> answers = m_camera->tick(m_now);
         QCOMPARE(answers.size(), 1);
         QCOMPARE(answers[0].bytes.toHex(), announcement);
@@ -370,7 +362,7 @@ void CVirtualCameraTest::goesThroughAReset()
         QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
         QStringList seen;
         for (const int after : {0, 499, 500, 1999, 2000, 2499, 2500}) {
-            m_now = Time(after);
+            m_now = std::chrono::milliseconds(after);
             const QByteArray answer = ask(ECommand::Discovery, {});
             seen.append(answer.isEmpty() ? QString()
                                          : QString::fromLatin1(answer.constData() + 8 + 0x68) + ' '
@@ -483,13 +475,13 @@ void CVirtualCameraTest::keepsItsLimits()
     };
     constexpr quint32 EXPOSURE = MemoryMap::EXPOSURE_TIME, GAIN = MemoryMap::GAIN;
     for (const float good : {10.F, 1e6F})
-        check(EXPOSURE, toBits(good), true);
+        check(EXPOSURE, Gvcp::toWord(good), true);
     for (const float bad : {9.99F, 1e30F, std::numeric_limits<float>::quiet_NaN()})
-        check(EXPOSURE, toBits(bad), false);
+        check(EXPOSURE, Gvcp::toWord(bad), false);
     for (const float good : {0.F, 24.F})
-        check(GAIN, toBits(good), true);
+        check(GAIN, Gvcp::toWord(good), true);
     for (const float bad : {-0.1F, std::numeric_limits<float>::infinity()})
-        check(GAIN, toBits(bad), false);
+        check(GAIN, Gvcp::toWord(bad), false);
     check(MemoryMap::FIRMWARE_UPDATE_MODE, 1, true);
     check(MemoryMap::FIRMWARE_UPDATE_MODE, 2, false);
     check(MemoryMap::REVERSE_X, 2, false);
