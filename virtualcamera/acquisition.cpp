@@ -151,7 +151,7 @@ void CAcquisition::onWritten(quint32 address)
     stream.packetDelay = Time(m_registers.getWord(MemoryMap::STREAM_PACKET_DELAY));
     const bool isRateEnabled = m_registers.getWord(MemoryMap::FRAME_RATE_ENABLE) != 0;
     stream.framePeriod = std::chrono::duration_cast<Time>(
-        std::chrono::duration<float>(1 / (isRateEnabled ? rate : fastest)));
+        std::chrono::duration<double>(1.0 / (isRateEnabled ? rate : fastest)));
     stream.isTriggered = m_registers.getWord(MemoryMap::TRIGGER_MODE) != 0;
     m_stream.configure(stream);
 

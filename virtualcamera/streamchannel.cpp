@@ -70,6 +70,7 @@ void CStreamChannel::abort()
     m_isTriggered = false;
     m_hasTestPacket = false;
     m_frameNumber = 0;
+    m_nextPacket = Time(0);
     m_payloadCount = 0;
     m_heldBack.reset();
     m_frames.clear();
@@ -151,8 +152,10 @@ bool CStreamChannel::beginFrame(Time now)
     if (m_settings.isTriggered ? !m_isTriggered : now < m_nextFrame)
         return false;
     m_isTriggered = false;
-    // Who is late does not hurry afterwards.
-    m_nextFrame = std::max(m_nextFrame + m_settings.framePeriod, now);
+    // Who is much too late does not hurry afterwards.
+    if (m_nextFrame + m_settings.framePeriod / 2 < now)
+        m_nextFrame = now;
+    m_nextFrame += m_settings.framePeriod;
     if (m_frames.size() == MOST_FRAMES)
         m_frames.pop_front();
     CFrame frame;
@@ -184,10 +187,8 @@ void CStreamChannel::endFrame()
 Time CStreamChannel::getPacketDue() const
 {
     const CFrame &frame = m_frames.back();
-    if (m_settings.packetDelay.count() > 0) {
-        return frame.position == 0 ? std::max(frame.start, m_lastPacket + m_settings.packetDelay)
-                                   : m_lastPacket + m_settings.packetDelay;
-    }
+    if (m_settings.packetDelay.count() > 0)
+        return std::max(frame.start, m_nextPacket);
     // Over half of the period, as over a wire of that speed: all at once are more than a receiver's
     // buffer holds. In bunches, each of which costs one call.
     const int bunch
@@ -217,7 +218,7 @@ bool CStreamChannel::sendNextPacket(CPacketBatch &batch, Time now)
     }
     if (isPayload)
         m_payloadCount = payloadNumber;
-    m_lastPacket = now;
+    m_nextPacket = now + m_settings.packetDelay;
     ++frame.position;
     m_isStuck = frame.number == m_faults.stopsInFrame && frame.position > last / 2;
     if (frame.position > last)

@@ -115,7 +115,7 @@ private:
     quint32 m_framesWanted = 0;
     qint64 m_frameNumber = 0;
     Time m_nextFrame{0};
-    Time m_lastPacket{0};
+    Time m_nextPacket{0}; ///< where there is a delay
     std::deque<CFrame> m_frames; ///< the latest ones, the one that is being sent last
 
     qint64 m_payloadCount = 0; ///< packets of payload whose turn has come, for faults
