@@ -80,6 +80,7 @@ CPicture::CPicture(const CPixelFormat &format, const QRect &region, ETestPattern
 {
     for (int y = 0; y < 2; ++y) {
         QByteArray &tape = m_tapes[static_cast<std::size_t>(y)];
+        tape.reserve((PATTERN_PERIOD + region.width()) * format.getPixelSize() / 8);
         for (int x = 0; x < PATTERN_PERIOD + region.width(); x += 4) {
             const auto getPixel = [&](int i) { return computePixel(0, x + i, y, format, pattern); };
             appendPixels(tape, format, {getPixel(0), getPixel(1), getPixel(2), getPixel(3)});

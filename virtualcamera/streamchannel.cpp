@@ -122,6 +122,8 @@ void CStreamChannel::take(Time now, CPacketBatch &batch)
 
 void CStreamChannel::takeResends(CPacketBatch &batch)
 {
+    if (m_settings.receiver.port == 0)
+        m_resends.clear();
     while (!m_resends.empty()) {
         CResend &resend = m_resends.front();
         const CFrame *const frame = findFrame(resend.block);
@@ -131,9 +133,8 @@ void CStreamChannel::takeResends(CPacketBatch &batch)
                 return;
             ++m_statistics.resent;
         } else {
-            const CPeer &receiver = frame ? frame->receiver : m_settings.receiver;
             uchar *const bytes
-                = batch.append(receiver, m_settings.mayBeFragmented, Gvsp::HEADER_SIZE);
+                = batch.append(m_settings.receiver, m_settings.mayBeFragmented, Gvsp::HEADER_SIZE);
             if (!bytes)
                 return;
             Gvsp::writeHeader(bytes, EStatus::Unavailable, resend.block, EContent::Payload,
@@ -156,10 +157,15 @@ bool CStreamChannel::beginFrame(Time now)
     if (m_nextFrame + m_settings.framePeriod / 2 < now)
         m_nextFrame = now;
     m_nextFrame += m_settings.framePeriod;
+    ++m_frameNumber;
+    if (m_settings.receiver.port == 0) {
+        endFrame();
+        return false;
+    }
     if (m_frames.size() == MOST_FRAMES)
         m_frames.pop_front();
     CFrame frame;
-    frame.number = ++m_frameNumber;
+    frame.number = m_frameNumber;
     // 0 is no block.
     frame.block = static_cast<quint16>((m_frameNumber - 1) % 0xffff + 1);
     frame.start = now;
@@ -169,9 +175,7 @@ bool CStreamChannel::beginFrame(Time now)
     frame.picture = m_picture;
     m_frames.push_back(frame);
     m_isSending = true;
-    if (frame.receiver.port == 0)
-        endFrame();
-    return m_isSending;
+    return true;
 }
 
 void CStreamChannel::endFrame()
