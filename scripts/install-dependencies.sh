@@ -29,6 +29,8 @@ run_packages=(
   xvfb
 )
 test_packages=(
+  aravis-tools
+  aravis-tools-cli
   ccache
   clang-format
   clang-tidy
