@@ -61,8 +61,7 @@ public:
     /// had.
     void resend(quint16 block, quint32 first, quint32 last);
 
-    /// Puts what is due at @p now into @p batch, which is empty or has room for more afterwards
-    /// when that was all.
+    /// Adds what is due at @p now to @p batch, until that is full.
     void take(Time now, CPacketBatch &batch);
 
     /// When take() has something next; in the past: at once.
