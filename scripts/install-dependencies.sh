@@ -32,6 +32,8 @@ run_packages=(
 )
 test_packages=(
   ansible-core
+  aravis-tools
+  aravis-tools-cli
   ccache
   clang-format
   clang-tidy

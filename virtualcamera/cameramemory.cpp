@@ -4,7 +4,6 @@
 #include "icameraobserver.h"
 #include "memorymap.h"
 
-#include <cstring>
 #include <utility>
 
 namespace VirtualCamera {
@@ -19,8 +18,7 @@ CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &o
     : m_settings(settings)
     , m_observer(observer)
     , m_description(makeFeatureDescription(settings))
-    , m_bootstrap(MemoryMap::BOOTSTRAP_SIZE, '\0')
-    , m_features(MemoryMap::FEATURES_SIZE, '\0')
+    , m_acquisition(m_settings, m_registers, observer)
     , m_buffer(settings.bufferLength, '\0')
     , m_model(settings.model)
     , m_serialNumber(settings.serialNumber)
@@ -32,75 +30,46 @@ CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &o
 
 void CCameraMemory::setUpBootstrap()
 {
-    setWord(MemoryMap::PROTOCOL_VERSION, 0x00010002);
-    setWord(MemoryMap::DEVICE_MODE, 0x80000001); // big-endian registers, texts in UTF-8
+    m_registers.setWord(MemoryMap::PROTOCOL_VERSION, 0x00010002);
+    m_registers.setWord(MemoryMap::DEVICE_MODE, 0x80000001); // big-endian registers, texts in UTF-8
     // A hardware address of the kind that nobody has bought.
-    setWord(MemoryMap::HARDWARE_ADDRESS_HIGH, 0x0200);
-    setWord(MemoryMap::HARDWARE_ADDRESS_LOW, m_settings.address);
-    setWord(MemoryMap::SUPPORTED_IP_CONFIGURATION, 0x00000005);
-    setWord(MemoryMap::CURRENT_IP_CONFIGURATION, 0x00000005);
-    setWord(MemoryMap::CURRENT_ADDRESS, m_settings.address);
-    setWord(MemoryMap::CURRENT_SUBNET_MASK, 0xff000000);
-    setText(MemoryMap::VENDOR_NAME, m_settings.vendor, 32);
-    setText(MemoryMap::MODEL_NAME, m_model, 32);
-    setText(MemoryMap::DEVICE_VERSION, m_firmwareVersion, 32);
-    setText(MemoryMap::VENDOR_INFORMATION, "virtual camera", 48);
-    setText(MemoryMap::SERIAL_NUMBER, m_serialNumber, 16);
-    setText(MemoryMap::USER_NAME, m_settings.userName, 16);
-    setText(MemoryMap::FIRST_URL, m_description.url, MemoryMap::URL_SIZE);
-    setWord(MemoryMap::INTERFACE_COUNT, 1);
-    setWord(MemoryMap::CAPABILITY, 0xc0000007); // user name, serial number, writes, many registers
-    setWord(MemoryMap::HEARTBEAT_TIMEOUT,
-            static_cast<quint32>(m_settings.heartbeatTimeout.count()));
-    setWord(MemoryMap::TICK_FREQUENCY_LOW, 1000);
+    m_registers.setWord(MemoryMap::HARDWARE_ADDRESS_HIGH, 0x0200);
+    m_registers.setWord(MemoryMap::HARDWARE_ADDRESS_LOW, m_settings.address);
+    m_registers.setWord(MemoryMap::SUPPORTED_IP_CONFIGURATION, 0x00000005);
+    m_registers.setWord(MemoryMap::CURRENT_IP_CONFIGURATION, 0x00000005);
+    m_registers.setWord(MemoryMap::CURRENT_ADDRESS, m_settings.address);
+    m_registers.setWord(MemoryMap::CURRENT_SUBNET_MASK, 0xff000000);
+    m_registers.setText(MemoryMap::VENDOR_NAME, m_settings.vendor, 32);
+    m_registers.setText(MemoryMap::MODEL_NAME, m_model, 32);
+    m_registers.setText(MemoryMap::DEVICE_VERSION, m_firmwareVersion, 32);
+    m_registers.setText(MemoryMap::VENDOR_INFORMATION, "virtual camera", 48);
+    m_registers.setText(MemoryMap::SERIAL_NUMBER, m_serialNumber, 16);
+    m_registers.setText(MemoryMap::USER_NAME, m_settings.userName, 16);
+    m_registers.setText(MemoryMap::FIRST_URL, m_description.url, MemoryMap::URL_SIZE);
+    m_registers.setWord(MemoryMap::INTERFACE_COUNT, 1);
+    m_registers.setWord(MemoryMap::CAPABILITY,
+                        0xc0000007); // user name, serial number, resends, writes, many registers
+    m_registers.setWord(MemoryMap::HEARTBEAT_TIMEOUT,
+                        static_cast<quint32>(m_settings.heartbeatTimeout.count()));
+    m_registers.setWord(MemoryMap::TICK_FREQUENCY_LOW, 1'000'000'000);
 }
 
 void CCameraMemory::setUpFeatures()
 {
-    m_features.fill('\0');
-    setText(MemoryMap::FIRMWARE_VERSION, m_firmwareVersion, 32);
-    setWord(MemoryMap::DEVICE_STATUS, m_settings.status);
-    const float exposureTime = 10000.0F;
-    quint32 bits = 0;
-    std::memcpy(&bits, &exposureTime, sizeof bits);
-    setWord(MemoryMap::EXPOSURE_TIME, bits);
-    setWord(MemoryMap::FILE_ACCESS_LENGTH, static_cast<quint32>(m_settings.bufferLength));
-    setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
-}
-
-void CCameraMemory::setRegister(quint32 address, const QByteArray &bytes)
-{
-    if (address < MemoryMap::FEATURES)
-        m_bootstrap.replace(static_cast<int>(address), bytes.size(), bytes);
-    else
-        m_features.replace(static_cast<int>(address - MemoryMap::FEATURES), bytes.size(), bytes);
-}
-
-void CCameraMemory::setWord(quint32 address, quint32 value)
-{
-    QByteArray word;
-    Gvcp::appendWord(word, value);
-    setRegister(address, word);
-}
-
-quint32 CCameraMemory::getWord(quint32 address) const
-{
-    int offset = 0;
-    const QByteArray *const area = findArea(address, 4, offset);
-    return Gvcp::readWord(*area, offset);
-}
-
-void CCameraMemory::setText(quint32 address, const QByteArray &text, int size)
-{
-    // One byte stays for the end of the text.
-    setRegister(address, text.left(size - 1).leftJustified(size, '\0'));
+    m_registers.clearFeatures();
+    m_registers.setText(MemoryMap::FIRMWARE_VERSION, m_firmwareVersion, 32);
+    m_registers.setWord(MemoryMap::DEVICE_STATUS, m_settings.status);
+    m_registers.setWord(MemoryMap::FILE_ACCESS_LENGTH,
+                        static_cast<quint32>(m_settings.bufferLength));
+    m_registers.setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
+    m_acquisition.setUp();
 }
 
 const QByteArray *CCameraMemory::findArea(quint32 address, int size, int &offset) const
 {
     const std::pair<quint32, const QByteArray *> areas[] = {
-        {0, &m_bootstrap},
-        {MemoryMap::FEATURES, &m_features},
+        {0, &m_registers.getBootstrap()},
+        {MemoryMap::FEATURES, &m_registers.getFeatures()},
         {MemoryMap::FILE_ACCESS_BUFFER, &m_buffer},
         {MemoryMap::DESCRIPTION, &m_description.bytes},
     };
@@ -119,7 +88,7 @@ EStatus CCameraMemory::read(quint32 address, int size, Time now, QByteArray &byt
     const QByteArray *const area = findArea(address, size, offset);
     if (!area)
         return EStatus::InvalidAddress;
-    if (area != &m_features) {
+    if (area != &m_registers.getFeatures()) {
         bytes = area->mid(offset, size);
         return EStatus::Success;
     }
@@ -137,11 +106,13 @@ quint32 CCameraMemory::readFeatureWord(quint32 address, Time now)
     case MemoryMap::FILE_OPERATION_EXECUTE:
         return findRunning(m_operation, now) ? 1 : 0;
     case MemoryMap::FILE_OPERATION_STATUS:
-        return findRunning(m_operation, now) ? FILE_FAILURE : getWord(address);
+        return findRunning(m_operation, now) ? FILE_FAILURE : m_registers.getWord(address);
+    case MemoryMap::ACQUISITION_ACTIVE:
+        return getStream().isAcquiring() ? 1 : 0;
     case MemoryMap::FILE_OPERATION_RESULT:
-        return findRunning(m_operation, now) ? 0 : getWord(address);
+        return findRunning(m_operation, now) ? 0 : m_registers.getWord(address);
     default:
-        return getWord(address);
+        return m_registers.getWord(address);
     }
 }
 
@@ -158,9 +129,14 @@ bool CCameraMemory::isWritable(quint32 address)
     if (address < MemoryMap::FEATURES) {
         const bool isUserName
             = address >= MemoryMap::USER_NAME && address < MemoryMap::DISCOVERY_SIZE;
-        return isUserName || address == MemoryMap::HEARTBEAT_TIMEOUT;
+        const bool isStreamChannel = address == MemoryMap::STREAM_PORT
+            || address == MemoryMap::STREAM_PACKET_SIZE || address == MemoryMap::STREAM_PACKET_DELAY
+            || address == MemoryMap::STREAM_ADDRESS;
+        return isUserName || isStreamChannel || address == MemoryMap::HEARTBEAT_TIMEOUT;
     }
     switch (address) {
+    case MemoryMap::ACQUISITION_ACTIVE:
+    case MemoryMap::PAYLOAD_SIZE:
     case MemoryMap::DEVICE_STATUS:
     case MemoryMap::FILE_OPERATION_STATUS:
     case MemoryMap::FILE_OPERATION_RESULT:
@@ -204,12 +180,15 @@ EStatus CCameraMemory::checkWord(quint32 address, quint32 value, Time now) const
 {
     if (!isWritable(address))
         return EStatus::WriteProtect;
-    if (address >= MemoryMap::FILE_SELECTOR && !m_operation.hasEnded(now))
+    const bool isFileAccess
+        = address >= MemoryMap::FILE_SELECTOR && address <= MemoryMap::FILE_SIZE;
+    if (isFileAccess && !m_operation.hasEnded(now))
         return EStatus::Busy;
     const bool isLength = address == MemoryMap::FILE_ACCESS_LENGTH;
     if (isLength && (value == 0 || value > static_cast<quint32>(m_settings.bufferLength)))
         return EStatus::InvalidParameter;
-    return isWithinLimits(address, value) ? EStatus::Success : EStatus::InvalidParameter;
+    return isWithinLimits(address, value) ? m_acquisition.check(address, value)
+                                          : EStatus::InvalidParameter;
 }
 
 CCameraMemory::CWriteResult CCameraMemory::writeWord(quint32 address, quint32 value, Time now)
@@ -219,6 +198,12 @@ CCameraMemory::CWriteResult CCameraMemory::writeWord(quint32 address, quint32 va
     case MemoryMap::FIRMWARE_ACTIVATE:
     case MemoryMap::FILE_OPERATION_EXECUTE:
         return value == 0 ? CWriteResult() : executeCommand(address, now);
+    case MemoryMap::ACQUISITION_START:
+    case MemoryMap::ACQUISITION_STOP:
+    case MemoryMap::TRIGGER_SOFTWARE:
+        if (value != 0)
+            m_acquisition.execute(address, now);
+        return {};
     case MemoryMap::HEARTBEAT_TIMEOUT:
         // Shorter ones are of no use: a camera rounds them up.
         value = qMax<quint32>(value, 500);
@@ -226,7 +211,11 @@ CCameraMemory::CWriteResult CCameraMemory::writeWord(quint32 address, quint32 va
     default:
         break;
     }
-    setWord(address, value);
+    // One that stands in front of it in the same command may have changed its limits.
+    if (const EStatus status = m_acquisition.check(address, value); status != EStatus::Success)
+        return {status, {}};
+    m_registers.setWord(address, value);
+    m_acquisition.onWritten(address);
     return {};
 }
 
@@ -260,21 +249,22 @@ CCameraMemory::CWriteResult CCameraMemory::executeFileOperation()
     quint32 result = 0;
     const bool succeeded = runFileOperation(result);
     m_operation.reads = m_settings.operationReads;
-    setWord(MemoryMap::FILE_OPERATION_STATUS, succeeded ? FILE_SUCCESS : FILE_FAILURE);
-    setWord(MemoryMap::FILE_OPERATION_RESULT, result);
-    setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
-    const bool isOpening
-        = getWord(MemoryMap::FILE_OPERATION_SELECTOR) == static_cast<quint32>(EFileOperation::Open);
-    return {EStatus::Success, isOpening && succeeded ? m_settings.openDuration : Time(0)};
+    m_registers.setWord(MemoryMap::FILE_OPERATION_STATUS, succeeded ? FILE_SUCCESS : FILE_FAILURE);
+    m_registers.setWord(MemoryMap::FILE_OPERATION_RESULT, result);
+    m_registers.setWord(MemoryMap::FILE_SIZE, static_cast<quint32>(m_file.getContent().size()));
+    const bool isOpening = m_registers.getWord(MemoryMap::FILE_OPERATION_SELECTOR)
+        == static_cast<quint32>(EFileOperation::Open);
+    return {EStatus::Success,
+            isOpening && succeeded ? m_settings.openDuration : std::chrono::milliseconds(0)};
 }
 
 bool CCameraMemory::runFileOperation(quint32 &result)
 {
-    const quint32 offset = getWord(MemoryMap::FILE_ACCESS_OFFSET);
-    const int length = static_cast<int>(getWord(MemoryMap::FILE_ACCESS_LENGTH));
-    switch (static_cast<EFileOperation>(getWord(MemoryMap::FILE_OPERATION_SELECTOR))) {
+    const quint32 offset = m_registers.getWord(MemoryMap::FILE_ACCESS_OFFSET);
+    const int length = static_cast<int>(m_registers.getWord(MemoryMap::FILE_ACCESS_LENGTH));
+    switch (static_cast<EFileOperation>(m_registers.getWord(MemoryMap::FILE_OPERATION_SELECTOR))) {
     case EFileOperation::Open:
-        if (!m_file.open(getWord(MemoryMap::FILE_OPEN_MODE)))
+        if (!m_file.open(m_registers.getWord(MemoryMap::FILE_OPEN_MODE)))
             return false;
         m_observer.onEvent("open FirmwareImage");
         return true;
@@ -316,21 +306,22 @@ bool CCameraMemory::isRefused(const char *command) const
 
 QByteArray CCameraMemory::getDiscoveryData() const
 {
-    return m_bootstrap.left(MemoryMap::DISCOVERY_SIZE);
+    return m_registers.getBootstrap().left(MemoryMap::DISCOVERY_SIZE);
 }
 
 void CCameraMemory::setControlPrivilege(quint32 value)
 {
-    setWord(MemoryMap::CONTROL_PRIVILEGE, value);
+    m_registers.setWord(MemoryMap::CONTROL_PRIVILEGE, value);
 }
 
 std::chrono::milliseconds CCameraMemory::getHeartbeatTimeout() const
 {
-    return std::chrono::milliseconds(getWord(MemoryMap::HEARTBEAT_TIMEOUT));
+    return std::chrono::milliseconds(m_registers.getWord(MemoryMap::HEARTBEAT_TIMEOUT));
 }
 
-void CCameraMemory::abandonFile()
+void CCameraMemory::abandon()
 {
+    m_acquisition.abort();
     if (!m_file.isOpen())
         return;
     m_file.abandon();

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "acquisition.h"
 #include "camerasettings.h"
+#include "cameratime.h"
 #include "featuredescription.h"
 #include "firmwarefile.h"
 #include "gvcp.h"
+#include "registers.h"
 
 #include <QByteArray>
 
@@ -13,11 +16,8 @@ namespace VirtualCamera {
 
 class ICameraObserver;
 
-/// Points in time are given in milliseconds since an arbitrary beginning; time never runs back.
-using Time = std::chrono::milliseconds;
-
 /// The address space of a camera and what happens when it is written: features, file access,
-/// firmware. It knows nothing of datagrams, and takes the time from its caller.
+/// firmware, acquisition. It knows nothing of datagrams, and takes the time from its caller.
 class CCameraMemory
 {
 public:
@@ -34,8 +34,8 @@ public:
     /// @p bytes is left alone. To read may change something: commands count who asks for their end.
     Gvcp::EStatus read(quint32 address, int size, Time now, QByteArray &bytes);
 
-    /// Writes @p bytes, a multiple of 4 of them, all or nothing: only a command that fails comes
-    /// too late for what was written in front of it.
+    /// Writes @p bytes, a multiple of 4 of them, all or nothing: only a command that fails, or a
+    /// region that does not fit, comes too late for what was written in front of it.
     CWriteResult write(quint32 address, const QByteArray &bytes, Time now);
 
     /// The part of the memory that answers a discovery.
@@ -45,8 +45,11 @@ public:
     void setControlPrivilege(quint32 value);
     [[nodiscard]] std::chrono::milliseconds getHeartbeatTimeout() const;
 
-    /// An upload that its writer has left is forgotten.
-    void abandonFile();
+    /// Who had control has gone: what was uploaded to an open file is forgotten, acquisition ends.
+    void abandon();
+
+    [[nodiscard]] CStreamChannel &getStream() { return m_acquisition.getStream(); }
+    [[nodiscard]] const CStreamChannel &getStream() const { return m_acquisition.getStream(); }
 
     /// True once a reset has been asked for.
     [[nodiscard]] bool isResetRequested() const;
@@ -74,11 +77,7 @@ private:
 
     void setUpBootstrap();
     void setUpFeatures();
-    void setWord(quint32 address, quint32 value);
-    [[nodiscard]] quint32 getWord(quint32 address) const;
-    void setText(quint32 address, const QByteArray &text, int size);
     [[nodiscard]] const QByteArray *findArea(quint32 address, int size, int &offset) const;
-    void setRegister(quint32 address, const QByteArray &bytes);
     [[nodiscard]] quint32 readFeatureWord(quint32 address, Time now);
     [[nodiscard]] static bool findRunning(CRunning &running, Time now);
     [[nodiscard]] static bool isWritable(quint32 address);
@@ -93,8 +92,8 @@ private:
     const CCameraSettings m_settings;
     ICameraObserver &m_observer;
     const CFeatureDescription m_description;
-    QByteArray m_bootstrap;
-    QByteArray m_features;
+    CRegisters m_registers;
+    CAcquisition m_acquisition;
     QByteArray m_buffer;
     CFirmwareFile m_file;
     CRunning m_operation; ///< of the file

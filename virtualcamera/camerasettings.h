@@ -22,6 +22,13 @@ struct CCameraSettings
     quint32 address = 0x7f000002; ///< IPv4, 127.0.0.2; also the end of the hardware address
     quint32 status = 0; ///< 0: the camera can be updated
 
+    // The image, as long as nobody chooses another one.
+    int width = 1280; ///< 16 to 4096, a multiple of 4
+    int height = 1024; ///< 2 to 3000, a multiple of 2
+    quint32 pixelFormat = 0x01080001; ///< code of one of PIXEL_FORMATS; Mono8
+    int frameRate = 25; ///< frames a second, 1 to 1000
+    quint16 streamPort = 0; ///< UDP port that stream packets come from
+
     int bufferLength = 4096; ///< of the file access buffer in bytes, 512 to 65536
 
     EDescription description = EDescription::Sound;
@@ -50,6 +57,15 @@ struct CCameraSettings
     QByteArray refusedCommand; ///< name of a command feature
     int losesEvery = 0; ///< each n-th datagram is lost before it is read; 0: none
     int losesAcknowledge = 0; ///< the answer to the n-th write of memory is lost; 0: none
+
+    // Faults of the stream; 0: none.
+    int losesPacket = 0; ///< each n-th packet of payload is not sent
+    int swapsPacket = 0; ///< each n-th packet of payload is sent behind the next one
+    bool neverResends = false; ///< packets
+    int stopsInFrame = 0; ///< the n-th one since the start of an acquisition, at its middle
+    int wrongLeaderSize = 0; ///< each n-th leader tells of twice as many rows
+    int wrongTrailerSize = 0; ///< each n-th trailer tells of half as many rows
+    quint32 streamsFrom = 0; ///< IPv4 address that packets come from instead of the camera's own
 };
 
 } // namespace VirtualCamera

@@ -1,6 +1,9 @@
 #include "commandline.h"
 
 #include "featuredescription.h"
+#include "featurelimits.h"
+#include "memorymap.h"
+#include "pixelformat.h"
 #include "viewer/commandline/takers.h"
 
 #include <QFile>
@@ -22,7 +25,8 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     COptionReader reader(
         QStringLiteral("virtualcamera"), {},
         QStringLiteral(
-            "A camera without a lens: speaks the control protocol of GigE Vision on a "
+            "A camera without a lens: speaks the control and the stream protocol of GigE Vision on "
+            "a "
             "loopback address.\nPrints READY with its address, EVENT lines, and STATS at "
             "its end."));
     reader.add(getOptions());
@@ -65,6 +69,20 @@ QVector<COption> CCommandLine::getOptions()
         return text == QLatin1String("DeviceReset") || text == QLatin1String("FirmwareActivate")
             || text == QLatin1String("FileOperationExecute");
     };
+    const auto takeSize = [this](const QString &text) {
+        const QStringList numbers = text.split(QLatin1Char('x'));
+        settings.width = numbers.value(0).toInt();
+        settings.height = numbers.value(1).toInt();
+        return numbers.size() == 2
+            && isWithinLimits(MemoryMap::WIDTH, static_cast<quint32>(settings.width))
+            && isWithinLimits(MemoryMap::HEIGHT, static_cast<quint32>(settings.height));
+    };
+    const auto takePixelFormat = [this](const QString &text) {
+        const CPixelFormat *const format = findPixelFormat(text.toUtf8());
+        if (format)
+            settings.pixelFormat = format->code;
+        return format != nullptr;
+    };
     const auto takeFlashFile = [this](const QString &text) {
         flashFile = text;
         return !text.isEmpty();
@@ -88,6 +106,11 @@ QVector<COption> CCommandLine::getOptions()
         option("firmware", "VERSION", "Firmware version.", takeUtf8(settings.firmwareVersion, 31)),
         option("status", "NUMBER", "Status; 0: can be updated.",
                takeInteger(settings.status, 0, LARGEST)),
+        option("size", "WxH", "Region of the sensor, up to 4096x3000; multiples of 4 and 2.",
+               takeSize),
+        option("pixel-format", "NAME", "Pixel format: Mono8, BayerRG12p, RGB8, YUV422_8...",
+               takePixelFormat),
+        option("fps", "N", "Frames a second, 1 to 1000.", takeInteger(settings.frameRate, 1, 1000)),
         option("buffer", "BYTES", "File access buffer, 512 to 65536.",
                takeInteger(settings.bufferLength, 512, 65536)),
         option("flash", "FILE", "Keep what was uploaded in FILE.", takeFlashFile),
@@ -132,6 +155,20 @@ QVector<COption> CCommandLine::getOptions()
                takeInteger(settings.losesEvery, 2, LARGEST)),
         option("lose-ack", "N", "Lose the answer to the N-th write of memory.",
                takeInteger(settings.losesAcknowledge, 1, LARGEST)),
+        option("lose-packet", "N", "Lose each N-th packet of payload of the stream.",
+               takeInteger(settings.losesPacket, 1, LARGEST)),
+        option("swap-packets", "N", "Send each N-th packet of payload behind the next one.",
+               takeInteger(settings.swapsPacket, 1, LARGEST)),
+        option("no-resend", "", "Do not answer who asks for packets again.",
+               takeSwitch(settings.neverResends)),
+        option("stop-in-frame", "N", "Stop the stream in the middle of its N-th frame.",
+               takeInteger(settings.stopsInFrame, 1, LARGEST)),
+        option("wrong-leader-size", "N", "Tell of twice as many rows in each N-th leader.",
+               takeInteger(settings.wrongLeaderSize, 1, LARGEST)),
+        option("wrong-trailer-size", "N", "Tell of half as many rows in each N-th trailer.",
+               takeInteger(settings.wrongTrailerSize, 1, LARGEST)),
+        option("stream-from", "A.B.C.D", "Stream from another loopback address.",
+               takeAddress(settings.streamsFrom)),
         option("max-seconds", "S", "End by itself after so long, otherwise after 600.",
                takeInteger(maximumSeconds, 1, 86400)),
     };

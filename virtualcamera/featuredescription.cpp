@@ -2,6 +2,7 @@
 
 #include "camerasettings.h"
 #include "memorymap.h"
+#include "pixelformat.h"
 #include "zipwriter.h"
 
 #include <QFile>
@@ -44,6 +45,16 @@ QByteArray getDescriptionNames()
     return names.join(", ");
 }
 
+static QByteArray getPixelFormatEntries()
+{
+    QByteArray entries;
+    for (const CPixelFormat &format : PIXEL_FORMATS) {
+        entries += QByteArray("\n    <EnumEntry Name=\"") + format.name + "\">\n      <Value>0x"
+            + QByteArray::number(format.code, 16) + "</Value>\n    </EnumEntry>";
+    }
+    return entries;
+}
+
 static QByteArray readSound(const CCameraSettings &settings)
 {
     QFile file(QStringLiteral(":/virtualcamera/camera.xml"));
@@ -51,6 +62,9 @@ static QByteArray readSound(const CCameraSettings &settings)
         qFatal("The description of the features is not part of the program.");
     QByteArray xml = file.readAll();
     xml.replace("@BUFFER_LENGTH@", QByteArray::number(settings.bufferLength));
+    xml.replace("@SENSOR_WIDTH@", QByteArray::number(MemoryMap::SENSOR_WIDTH));
+    xml.replace("@SENSOR_HEIGHT@", QByteArray::number(MemoryMap::SENSOR_HEIGHT));
+    xml.replace("@PIXEL_FORMATS@", getPixelFormatEntries());
     // Who can read it can wait for its end.
     xml.replace("@EXECUTE_ACCESS@", settings.operationReads > 0 ? "RW" : "WO");
     return xml;

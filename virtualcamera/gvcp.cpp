@@ -2,6 +2,9 @@
 
 #include <QtEndian>
 
+#include <cstring>
+#include <limits>
+
 namespace VirtualCamera::Gvcp {
 
 static constexpr quint8 KEY = 0x42;
@@ -25,6 +28,14 @@ std::optional<CRequest> parseRequest(const QByteArray &datagram)
     request.isComplete = request.id != 0 && request.payload.size() <= MAXIMUM_PAYLOAD
         && request.payload.size() == readHalfWord(datagram, 4);
     return request;
+}
+
+std::optional<CResendRequest> parseResendRequest(const QByteArray &payload)
+{
+    if (payload.size() != 12 || readHalfWord(payload, 0) != 0)
+        return {};
+    return CResendRequest{readHalfWord(payload, 2), readWord(payload, 4) & 0xffffff,
+                          readWord(payload, 8) & 0xffffff};
 }
 
 QByteArray makeOrder(ECommand command)
@@ -64,6 +75,21 @@ void appendHalfWord(QByteArray &bytes, quint16 word)
 {
     word = qToBigEndian(word);
     bytes.append(reinterpret_cast<const char *>(&word), sizeof word);
+}
+
+float toFloat(quint32 word)
+{
+    float number = 0;
+    std::memcpy(&number, &word, sizeof number);
+    return number;
+}
+
+quint32 toWord(float number)
+{
+    static_assert(std::numeric_limits<float>::is_iec559);
+    quint32 word = 0;
+    std::memcpy(&word, &number, sizeof word);
+    return word;
 }
 
 } // namespace VirtualCamera::Gvcp

@@ -52,6 +52,18 @@ struct CRequest
     QByteArray payload;
 };
 
+/// What a PacketResend asks for.
+struct CResendRequest
+{
+    quint16 block; ///< of 16 bits
+    quint32 firstPacket; ///< both of 24 bits
+    quint32 lastPacket;
+};
+
+/// What is asked for in the payload of a PacketResend; nothing when it is of another size or for
+/// another than the first stream channel.
+[[nodiscard]] std::optional<CResendRequest> parseResendRequest(const QByteArray &payload);
+
 /// The request in @p datagram; nothing when it is too short for a header, of another protocol, or
 /// an answer.
 [[nodiscard]] std::optional<CRequest> parseRequest(const QByteArray &datagram);
@@ -66,5 +78,9 @@ struct CRequest
 [[nodiscard]] quint32 readWord(const QByteArray &bytes, int offset);
 void appendWord(QByteArray &bytes, quint32 word);
 void appendHalfWord(QByteArray &bytes, quint16 word);
+
+/// A word that holds a number by IEEE 754.
+[[nodiscard]] float toFloat(quint32 word);
+[[nodiscard]] quint32 toWord(float number);
 
 } // namespace VirtualCamera::Gvcp

@@ -27,12 +27,18 @@ inline constexpr int URL_SIZE = 512;
 inline constexpr quint32 INTERFACE_COUNT = 0x0600;
 inline constexpr quint32 MESSAGE_CHANNEL_COUNT = 0x0900;
 inline constexpr quint32 STREAM_CHANNEL_COUNT = 0x0904;
+inline constexpr quint32 STREAM_CAPABILITY = 0x092C;
 inline constexpr quint32 CAPABILITY = 0x0934;
 inline constexpr quint32 HEARTBEAT_TIMEOUT = 0x0938;
 inline constexpr quint32 TICK_FREQUENCY_HIGH = 0x093C;
 inline constexpr quint32 TICK_FREQUENCY_LOW = 0x0940;
 inline constexpr quint32 CONTROL_PRIVILEGE = 0x0A00;
-inline constexpr int BOOTSTRAP_SIZE = 0x0B00;
+inline constexpr quint32 STREAM_PORT = 0x0D00; ///< of who receives
+inline constexpr quint32 STREAM_PACKET_SIZE = 0x0D04;
+inline constexpr quint32 STREAM_PACKET_DELAY = 0x0D08; ///< in ns, the ticks of time stamps
+inline constexpr quint32 STREAM_ADDRESS = 0x0D18; ///< of who receives
+inline constexpr quint32 STREAM_SOURCE_PORT = 0x0D1C;
+inline constexpr int BOOTSTRAP_SIZE = 0x0D28;
 
 // Features.
 inline constexpr quint32 FEATURES = 0x00100000;
@@ -44,6 +50,7 @@ inline constexpr quint32 FIRMWARE_ACTIVATE = FEATURES + 0x2C;
 inline constexpr quint32 EXPOSURE_TIME = FEATURES + 0x30;
 inline constexpr quint32 REVERSE_X = FEATURES + 0x34;
 inline constexpr quint32 GAIN = FEATURES + 0x38;
+inline constexpr quint32 BLACK_LEVEL = FEATURES + 0x3C;
 
 // File access.
 inline constexpr quint32 FILE_SELECTOR = FEATURES + 0x40;
@@ -55,7 +62,33 @@ inline constexpr quint32 FILE_OPERATION_EXECUTE = FEATURES + 0x54;
 inline constexpr quint32 FILE_OPERATION_STATUS = FEATURES + 0x58;
 inline constexpr quint32 FILE_OPERATION_RESULT = FEATURES + 0x5C;
 inline constexpr quint32 FILE_SIZE = FEATURES + 0x60;
-inline constexpr int FEATURES_SIZE = 0x64;
+
+// The image.
+inline constexpr int SENSOR_WIDTH = 4096;
+inline constexpr int SENSOR_HEIGHT = 3000;
+inline constexpr quint32 WIDTH = FEATURES + 0x64;
+inline constexpr quint32 HEIGHT = FEATURES + 0x68;
+inline constexpr quint32 OFFSET_X = FEATURES + 0x6C;
+inline constexpr quint32 OFFSET_Y = FEATURES + 0x70;
+inline constexpr quint32 PIXEL_FORMAT = FEATURES + 0x74;
+inline constexpr quint32 TEST_PATTERN = FEATURES + 0x78;
+inline constexpr quint32 PAYLOAD_SIZE = FEATURES + 0x7C;
+
+// Acquisition.
+inline constexpr quint32 ACQUISITION_MODE = FEATURES + 0x80;
+inline constexpr quint32 ACQUISITION_START = FEATURES + 0x84;
+inline constexpr quint32 ACQUISITION_STOP = FEATURES + 0x88;
+inline constexpr quint32 ACQUISITION_FRAME_COUNT = FEATURES + 0x8C;
+inline constexpr quint32 FRAME_RATE_ENABLE = FEATURES + 0x90;
+inline constexpr quint32 FRAME_RATE = FEATURES + 0x94;
+inline constexpr quint32 TRIGGER_MODE = FEATURES + 0x98;
+inline constexpr quint32 TRIGGER_SELECTOR = FEATURES + 0x9C;
+inline constexpr quint32 TRIGGER_SOURCE = FEATURES + 0xA0;
+inline constexpr quint32 TRIGGER_ACTIVATION = FEATURES + 0xA4;
+inline constexpr quint32 TRIGGER_SOFTWARE = FEATURES + 0xA8;
+inline constexpr quint32 TL_PARAMS_LOCKED = FEATURES + 0xAC;
+inline constexpr quint32 ACQUISITION_ACTIVE = FEATURES + 0xB0;
+inline constexpr int FEATURES_SIZE = 0xB4;
 
 /// Exactly as long as the buffer: where that is no whole number of words, its last bytes cannot be
 /// written.

@@ -17,4 +17,14 @@ struct CStatistics
     qint64 dropped = 0; ///< not understood, not from this machine, or while the camera was away
 };
 
+/// What a camera has streamed.
+struct CStreamStatistics
+{
+    qint64 frames = 0; ///< taken to their end
+    qint64 packets = 0; ///< sent for the first time
+    qint64 lost = 0; ///< by a fault that the camera was started with
+    qint64 resent = 0;
+    qint64 unavailable = 0; ///< asked for again, and not to be had
+};
+
 } // namespace VirtualCamera

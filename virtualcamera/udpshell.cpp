@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <sys/timerfd.h>
 #include <thread>
+#include <unistd.h>
 
 namespace VirtualCamera {
 
@@ -18,22 +20,33 @@ static void printLine(const QByteArray &line)
     std::fflush(stdout);
 }
 
+static CCameraSettings withStreamPort(CCameraSettings settings, quint16 port)
+{
+    settings.streamPort = port;
+    return settings;
+}
+
 CUdpShell::CUdpShell(const CCameraSettings &settings, const QString &flashFile, QObject *parent)
     : QObject(parent)
     , m_address(settings.address)
     , m_answerDelay(settings.answerDelay)
     , m_flashFile(flashFile)
-    , m_camera(settings, *this)
+    , m_packetSender(settings.streamsFrom == 0 ? settings.address : settings.streamsFrom)
+    , m_camera(withStreamPort(settings, m_packetSender.getPort()), *this)
+    , m_timer(timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK))
+    , m_timerNotifier(m_timer, QSocketNotifier::Read)
 {
     m_clock.start();
-    m_timer.setSingleShot(true);
-    m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, &CUdpShell::tick);
+    connect(&m_timerNotifier, &QSocketNotifier::activated, this, &CUdpShell::tick);
     for (QUdpSocket *const socket : {&m_socket, &m_broadcastSocket})
         connect(socket, &QUdpSocket::readyRead, this, [this, socket] { readDatagrams(*socket); });
 }
 
-CUdpShell::~CUdpShell() = default;
+CUdpShell::~CUdpShell()
+{
+    m_timerNotifier.setEnabled(false);
+    close(m_timer);
+}
 
 static QString cannotWrite(const QSaveFile &file)
 {
@@ -55,6 +68,9 @@ bool CUdpShell::start(QString &error)
                     .arg(address.toString(), QString::number(Gvcp::PORT), m_socket.errorString());
         return false;
     }
+    error = m_packetSender.getError();
+    if (!error.isEmpty())
+        return false;
     // All cameras of a machine listen to the one address.
     m_broadcastSocket.bind(QHostAddress(QHostAddress::Broadcast), Gvcp::PORT,
                            QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
@@ -71,7 +87,7 @@ void CUdpShell::readDatagrams(QUdpSocket &socket)
         std::this_thread::sleep_for(m_answerDelay);
         send(m_camera.handle(datagram.data(), sender, getTime()));
     }
-    scheduleTick();
+    goOn();
 }
 
 void CUdpShell::send(const QVector<CDatagram> &datagrams)
@@ -85,20 +101,28 @@ void CUdpShell::send(const QVector<CDatagram> &datagrams)
 void CUdpShell::tick()
 {
     send(m_camera.tick(getTime()));
-    scheduleTick();
+    goOn();
 }
 
-void CUdpShell::scheduleTick()
+void CUdpShell::goOn()
 {
-    if (const std::optional<Time> deadline = m_camera.getNextDeadline())
-        m_timer.start(std::max(*deadline - getTime(), Time(0)));
-    else
-        m_timer.stop();
+    m_camera.takePackets(getTime(), m_packets);
+    if (!m_packets.isEmpty())
+        m_packetSender.send(m_packets);
+    itimerspec timer{};
+    if (const std::optional<Time> deadline = m_camera.getNextDeadline()) {
+        // 0 would stop the timer.
+        const qint64 rest = std::max<qint64>((*deadline - getTime()).count(), 1);
+        constexpr qint64 SECOND = 1'000'000'000;
+        timer.it_value = {rest / SECOND, rest % SECOND};
+    }
+    // It is set anew even where it has expired, so that nobody need read it.
+    timerfd_settime(m_timer, 0, &timer, nullptr);
 }
 
 Time CUdpShell::getTime() const
 {
-    return Time(m_clock.elapsed());
+    return Time(m_clock.nsecsElapsed());
 }
 
 void CUdpShell::onEvent(const QByteArray &event)
@@ -118,6 +142,7 @@ void CUdpShell::onFileClosed(const QByteArray &content)
 void CUdpShell::printStatistics() const
 {
     const CStatistics &statistics = m_camera.getStatistics();
+    const CStreamStatistics &stream = m_camera.getStreamStatistics();
     const auto number = [](const char *name, qint64 value) {
         return QByteArray(" ") + name + '=' + QByteArray::number(value);
     };
@@ -127,7 +152,9 @@ void CUdpShell::printStatistics() const
         + number("writereg", statistics.registerWrites) + number("readmem", statistics.memoryReads)
         + number("writemem", statistics.memoryWrites) + number("repeated", statistics.repeated)
         + number("lost", statistics.lost) + number("dropped", statistics.dropped)
-        + number("uploaded", m_camera.getUploadedBytes()));
+        + number("uploaded", m_camera.getUploadedBytes()) + number("frames", stream.frames)
+        + number("packets", stream.packets) + number("lostpackets", stream.lost)
+        + number("resent", stream.resent) + number("unavailable", stream.unavailable));
 }
 
 } // namespace VirtualCamera

@@ -2,12 +2,14 @@
 
 #include "camerasettings.h"
 #include "icameraobserver.h"
+#include "packetbatch.h"
+#include "packetsender.h"
 #include "virtualcamera.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QObject>
-#include <QTimer>
+#include <QSocketNotifier>
 #include <QUdpSocket>
 
 namespace VirtualCamera {
@@ -25,7 +27,7 @@ public:
     ~CUdpShell() override;
 
     /// Binds the camera's address and, where the system lets it, the one that discoveries are
-    /// broadcast to. False with a sentence in @p error when the address is not to be had, or the
+    /// broadcast to. False with a sentence in @p error when an address is not to be had, or the
     /// file for what is uploaded cannot be written.
     bool start(QString &error);
 
@@ -39,17 +41,22 @@ private:
     void readDatagrams(QUdpSocket &socket);
     void send(const QVector<CDatagram> &datagrams);
     void tick();
-    void scheduleTick();
+    /// Sends what is due of the stream, at most one batch, and sets the timer for what comes next.
+    void goOn();
     [[nodiscard]] Time getTime() const;
 
     const quint32 m_address;
     const std::chrono::milliseconds m_answerDelay;
     const QString m_flashFile;
+    CPacketSender m_packetSender;
+    CPacketBatch m_packets;
     CVirtualCamera m_camera;
     QUdpSocket m_socket;
     QUdpSocket m_broadcastSocket;
     QElapsedTimer m_clock;
-    QTimer m_timer;
+    // Those of Qt count milliseconds, in which many packets are due.
+    const int m_timer;
+    QSocketNotifier m_timerNotifier;
 };
 
 } // namespace VirtualCamera

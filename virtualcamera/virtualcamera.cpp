@@ -84,6 +84,10 @@ QVector<CDatagram> CVirtualCamera::answer(const QByteArray &datagram, const Gvcp
         m_leaves = now;
         return leaveInTime(now);
     }
+    if (request.command == static_cast<quint16>(ECommand::PacketResend)) {
+        resendPackets(request.payload, sender);
+        return {};
+    }
     for (const CLastRequest &last : qAsConst(m_last)) {
         if (last.sender != sender || last.datagram != datagram)
             continue;
@@ -122,6 +126,25 @@ QVector<CDatagram> CVirtualCamera::answer(const QByteArray &datagram, const Gvcp
     return answers;
 }
 
+void CVirtualCamera::resendPackets(const QByteArray &payload, const CPeer &sender)
+{
+    const std::optional<Gvcp::CResendRequest> request = Gvcp::parseResendRequest(payload);
+    // Who receives asks for itself, from another port than the controller's.
+    if (!request || !m_controller || sender.address != m_memory.getStream().getReceiver().address) {
+        ++m_statistics.dropped;
+        return;
+    }
+    if (!m_settings.neverResends)
+        m_memory.getStream().resend(request->block, request->firstPacket, request->lastPacket);
+}
+
+void CVirtualCamera::takePackets(Time now, CPacketBatch &batch)
+{
+    batch.clear();
+    if (!isAway())
+        m_memory.getStream().take(now, batch);
+}
+
 void CVirtualCamera::remember(const CLastRequest &request)
 {
     constexpr int MOST_SENDERS = 8;
@@ -139,14 +162,15 @@ QVector<CDatagram> CVirtualCamera::setPending(quint16 id, std::chrono::milliseco
 {
     const Time due = now + duration;
     // In time, so that nobody gives up before.
-    const Time again = now + std::max(duration / 2, Time(1));
+    const Time again = now + std::max(duration / 2, std::chrono::milliseconds(1));
     m_pending = CPendingAnswer{id, due, m_settings.neverOpens ? again : due, answer};
     return announcePending(now);
 }
 
 QVector<CDatagram> CVirtualCamera::announcePending(Time now) const
 {
-    const qint64 remaining = std::clamp<qint64>((m_pending->due - now).count(), 0, 0xffff);
+    const auto rest = std::chrono::duration_cast<std::chrono::milliseconds>(m_pending->due - now);
+    const qint64 remaining = std::clamp<qint64>(rest.count(), 0, 0xffff);
     QByteArray payload;
     Gvcp::appendHalfWord(payload, 0);
     Gvcp::appendHalfWord(payload, static_cast<quint16>(remaining));
@@ -318,7 +342,7 @@ void CVirtualCamera::loseControl(const char *cause)
     m_isExclusive = false;
     m_memory.setControlPrivilege(0);
     m_observer.onEvent(QByteArray("control ") + cause);
-    m_memory.abandonFile();
+    m_memory.abandon();
 }
 
 void CVirtualCamera::handControlToSomebodyElse(Time now)
@@ -374,6 +398,8 @@ std::optional<Time> CVirtualCamera::getNextDeadline() const
     std::optional<Time> next = m_leaves;
     const auto consider
         = [&next](Time deadline) { next = next ? std::min(*next, deadline) : deadline; };
+    if (const std::optional<Time> deadline = m_memory.getStream().getNextDeadline())
+        consider(*deadline);
     if (m_pending)
         consider(m_pending->next);
     else if (m_controller)
@@ -384,6 +410,11 @@ std::optional<Time> CVirtualCamera::getNextDeadline() const
 const CStatistics &CVirtualCamera::getStatistics() const
 {
     return m_statistics;
+}
+
+const CStreamStatistics &CVirtualCamera::getStreamStatistics() const
+{
+    return m_memory.getStream().getStatistics();
 }
 
 qint64 CVirtualCamera::getUploadedBytes() const

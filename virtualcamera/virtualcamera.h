@@ -33,10 +33,16 @@ public:
     /// Does what has become due, and gives what is to be sent now.
     [[nodiscard]] QVector<CDatagram> tick(Time now);
 
-    /// When tick() has something to do next, if nobody sends anything.
+    /// Puts the packets of the stream that are due into @p batch, which is emptied before. They are
+    /// sent from the address and the port that the settings tell. Full batches leave some behind.
+    void takePackets(Time now, CPacketBatch &batch);
+
+    /// When tick() or takePackets() has something to do next, if nobody sends anything.
     [[nodiscard]] std::optional<Time> getNextDeadline() const;
 
     [[nodiscard]] const CStatistics &getStatistics() const;
+
+    [[nodiscard]] const CStreamStatistics &getStreamStatistics() const;
 
     /// Bytes that have been uploaded so far.
     [[nodiscard]] qint64 getUploadedBytes() const;
@@ -70,6 +76,7 @@ private:
     [[nodiscard]] QVector<CDatagram> answer(const QByteArray &datagram,
                                             const Gvcp::CRequest &request, const CPeer &sender,
                                             Time now);
+    void resendPackets(const QByteArray &payload, const CPeer &sender);
     [[nodiscard]] QVector<CDatagram> repeatAnswer(const CLastRequest &last);
     /// Keeps @p answer back for @p duration, and announces that.
     [[nodiscard]] QVector<CDatagram> setPending(quint16 id, std::chrono::milliseconds duration,

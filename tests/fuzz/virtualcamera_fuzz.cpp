@@ -1,4 +1,5 @@
 #include "fuzztarget.h"
+#include "virtualcamera/gvsp.h"
 #include "virtualcamera/icameraobserver.h"
 #include "virtualcamera/virtualcamera.h"
 
@@ -21,12 +22,25 @@ bool isSound(const CDatagram &answer)
         && static_cast<int>(Gvcp::readWord(bytes, 4) >> 16) == bytes.size() - Gvcp::HEADER_SIZE;
 }
 
+/// The same for what is streamed: one batch, since there is more of it than time.
+void takePackets(CVirtualCamera &camera, Time now)
+{
+    static CPacketBatch batch;
+    camera.takePackets(now, batch);
+    for (int i = 0; i < batch.getCount(); ++i) {
+        const CPacketBatch::CPacket &packet = batch.getPacket(i);
+        Fuzz::require(batch.getReceiver().isLoopback() && batch.getReceiver().port != 0);
+        Fuzz::require(packet.size >= Gvsp::HEADER_SIZE && packet.size <= 9000);
+    }
+}
+
 /// A camera that does what it is told, and one that makes it hard.
 QVector<CCameraSettings> getKinds()
 {
     CCameraSettings kind;
     kind.bufferLength = 512;
     kind.openDuration = std::chrono::milliseconds(100);
+    kind.width = 64;
     CCameraSettings unkind = kind;
     unkind.bufferLength = 515;
     unkind.openDuration = std::chrono::milliseconds(0);
@@ -36,6 +50,11 @@ QVector<CCameraSettings> getKinds()
     unkind.returnsWithSerialNumber = "7";
     unkind.restartsToo = 0x7f000003;
     unkind.losesEvery = 5;
+    unkind.losesPacket = 7;
+    unkind.swapsPacket = 5;
+    unkind.stopsInFrame = 4;
+    unkind.wrongLeaderSize = 2;
+    unkind.wrongTrailerSize = 3;
     return {kind, unkind};
 }
 
@@ -67,11 +86,12 @@ static void play(const QByteArray &input, const CCameraSettings &settings, bool 
         if (repairs)
             repair(datagram);
 
-        now += Time((control >> 1) * 50);
+        now += std::chrono::milliseconds((control >> 1) * 50);
         const CPeer sender{0x7f000001U + (control & 1U), 4000};
         const QVector<CDatagram> answers = camera.handle(datagram, sender, now);
         for (const CDatagram &answer : answers)
             Fuzz::require(isSound(answer));
+        takePackets(camera, now);
     }
 }
 

@@ -1,11 +1,11 @@
 #include "virtualcamera/commandline.h"
 #include "virtualcamera/icameraobserver.h"
 #include "virtualcamera/memorymap.h"
+#include "virtualcamera/pattern.h"
 #include "virtualcamera/virtualcamera.h"
 
 #include <QtTest>
 
-#include <cstring>
 #include <limits>
 #include <zip.h>
 
@@ -46,13 +46,6 @@ int statusOf(const QByteArray &answer)
                                              : static_cast<int>(Gvcp::readWord(answer, 0) >> 16);
 }
 
-quint32 toBits(float number)
-{
-    quint32 bits = 0;
-    std::memcpy(&bits, &number, sizeof bits);
-    return bits;
-}
-
 /// The content of an archive's only file without the blanks at its end; null when it cannot be
 /// unpacked. @p size is the unpacked one. Of what is larger than @p enough only the beginning is
 /// unpacked.
@@ -78,6 +71,73 @@ QByteArray unpack(const QByteArray &archive, qint64 enough, qint64 &size)
     return length == 0 ? content.trimmed() : QByteArray();
 }
 
+/// What a packet of a stream is: "L4", "T4" (rows told), or its number; in front of it "again " or
+/// "no " when that is its status.
+QByteArray nameOf(const QByteArray &packet)
+{
+    const quint32 status = Gvcp::readWord(packet, 0) >> 16, infos = Gvcp::readWord(packet, 4);
+    const QByteArray prefix = status == 0x0100 ? "again " : status == 0x800c ? "no " : "";
+    switch (infos >> 24) {
+    case 1:
+        return prefix + 'L' + QByteArray::number(Gvcp::readWord(packet, 28));
+    case 2:
+        return prefix + 'T' + QByteArray::number(Gvcp::readWord(packet, 12));
+    default:
+        return prefix + QByteArray::number(infos & 0xffffff);
+    }
+}
+
+QByteArray namesOf(const QList<QByteArray> &packets)
+{
+    QList<QByteArray> names;
+    for (const QByteArray &packet : packets)
+        names.append(nameOf(packet));
+    return names.join(' ');
+}
+
+/// A sample of an image, as the names of formats have it.
+quint32 readSample(const QByteArray &image, const QByteArray &format, int index)
+{
+    const auto byte = [&image](int offset) { return quint32(quint8(image.at(offset))); };
+    const quint32 depth = format.contains("10") ? 10 : format.contains("12") ? 12 : 8;
+    if (format.endsWith("Packed")) {
+        const int at = index / 2 * 3;
+        const quint32 rest = byte(at + 1) >> index % 2 * 4 & (depth == 10 ? 3 : 15);
+        return byte(at + index % 2 * 2) << (depth - 8) | rest;
+    }
+    if (format.endsWith('p')) {
+        quint32 sample = 0;
+        for (quint32 bit = 0; bit < depth; ++bit) {
+            const quint32 place = quint32(index) * depth + bit;
+            sample |= (byte(int(place / 8)) >> place % 8 & 1) << bit;
+        }
+        return sample;
+    }
+    return format.endsWith('8') || format.startsWith("YUV")
+        ? byte(index)
+        : byte(2 * index) | byte(2 * index + 1) << 8;
+}
+
+CPixel readPixel(const QByteArray &image, const QByteArray &format, int index)
+{
+    const auto read = [&](int first, int second, int third) {
+        return CPixel{quint16(readSample(image, format, first)),
+                      quint16(second < 0 ? 0 : readSample(image, format, second)),
+                      quint16(third < 0 ? 0 : readSample(image, format, third))};
+    };
+    const int pair = index / 2 * 4, right = index % 2 * 2;
+    if (format == "RGB8")
+        return read(3 * index, 3 * index + 1, 3 * index + 2);
+    if (format == "BGR8")
+        return read(3 * index + 2, 3 * index + 1, 3 * index);
+    if (format == "YUV422_8")
+        return read(pair + right, pair + 1, pair + 3);
+    if (format == "YUV422_8_UYVY")
+        return read(pair + 1 + right, pair, pair + 2);
+    return read(index, -1, -1);
+}
+
+constexpr CPeer RECEIVER{0x7f000001, 6000};
 constexpr CPeer OWNER{0x7f000001, 4000};
 constexpr CPeer STRANGER{0x7f000001, 4001};
 
@@ -109,8 +169,24 @@ private slots:
     void keepsItsLimits();
     void describesItself();
     void givesOutAFile();
+    void streamsByteByByte();
+    void streamsThePattern_data();
+    void streamsThePattern();
+    void streamsWithFaults_data();
+    void streamsWithFaults();
+    void resendsWhatItStillHas();
+    void keepsItsPace();
+    void endsItsStream();
+    void locksWhatAnImageNeeds();
 
 private:
+    /// A new camera whose Owner has control, receives at RECEIVER, in packets of 576 bytes, and
+    /// never falls silent.
+    void makeStreaming(const QStringList &arguments);
+    /// All packets from now until @p duration later, each as it is sent; their times are in
+    /// m_packetTimes.
+    QList<QByteArray> receive(std::chrono::milliseconds duration);
+
     QByteArray ask(const QByteArray &datagram, const CPeer &sender = OWNER);
     QByteArray ask(ECommand command, const QByteArray &payload, const CPeer &sender = OWNER);
     int write(quint32 address, quint32 value, const CPeer &sender = OWNER);
@@ -130,6 +206,7 @@ private:
     CRecorder m_recorder;
     std::unique_ptr<CVirtualCamera> m_camera;
     Time m_now{0};
+    QVector<Time> m_packetTimes;
     quint16 m_id = 0;
 };
 
@@ -234,7 +311,7 @@ void CVirtualCameraTest::answersByteByByte_data()
         "00000085 000c0006 00000068 47562d31 3430304d");
     row("no memory", "42010084 00080007 00000068 00000000", "80020085 00000007");
     row("too much memory", "42010084 00080008 00000000 0000021c", "80020085 00000008");
-    row("memory over an end", "42010084 00080009 00000afc 00000008", "80030085 00000009");
+    row("memory over an end", "42010084 00080009 00000d24 00000008", "80030085 00000009");
     row("write without control", "42010082 0008000a 00100028 00000001",
         "80060083 0004000a 00000000");
     row("control", "42010082 0008000b 00000a00 00000002", "00000083 0004000b 00000001");
@@ -334,7 +411,7 @@ void CVirtualCameraTest::announcesWhatTakesLong()
               QCOMPARE(ask(OPEN).toHex(), header + aSecondLater);
               QCOMPARE(statusOf(ask(ECommand::ReadRegister, words({0x938}))), 0x8007);
               m_now = *m_camera->getNextDeadline();
-              QCOMPARE(m_now, Time(duration));
+              QCOMPARE(m_now, Time(std::chrono::milliseconds(duration)));
               const QVector<CDatagram> answers = m_camera->tick(m_now);
               QCOMPARE(answers.size(), 1);
               QCOMPARE(answers[0].bytes.toHex(), QByteArray("000000830004006300000001"));
@@ -354,7 +431,7 @@ void CVirtualCameraTest::announcesForEver()
     QCOMPARE(ask(OPEN).toHex(), announcement);
     for (int i = 1; i <= 1000; ++i) {
         m_now = *m_camera->getNextDeadline();
-        QCOMPARE(m_now, i * Time(2000)); // before anybody gives up
+        QCOMPARE(m_now, Time(i * 2000ms)); // before anybody gives up
         const QVector<CDatagram> answers = m_camera->tick(m_now);
         QCOMPARE(answers.size(), 1);
         QCOMPARE(answers[0].bytes.toHex(), announcement);
@@ -370,7 +447,7 @@ void CVirtualCameraTest::goesThroughAReset()
         QCOMPARE(write(MemoryMap::DEVICE_RESET, 1), 0);
         QStringList seen;
         for (const int after : {0, 499, 500, 1999, 2000, 2499, 2500}) {
-            m_now = Time(after);
+            m_now = std::chrono::milliseconds(after);
             const QByteArray answer = ask(ECommand::Discovery, {});
             seen.append(answer.isEmpty() ? QString()
                                          : QString::fromLatin1(answer.constData() + 8 + 0x68) + ' '
@@ -483,13 +560,13 @@ void CVirtualCameraTest::keepsItsLimits()
     };
     constexpr quint32 EXPOSURE = MemoryMap::EXPOSURE_TIME, GAIN = MemoryMap::GAIN;
     for (const float good : {10.F, 1e6F})
-        check(EXPOSURE, toBits(good), true);
+        check(EXPOSURE, Gvcp::toWord(good), true);
     for (const float bad : {9.99F, 1e30F, std::numeric_limits<float>::quiet_NaN()})
-        check(EXPOSURE, toBits(bad), false);
+        check(EXPOSURE, Gvcp::toWord(bad), false);
     for (const float good : {0.F, 24.F})
-        check(GAIN, toBits(good), true);
+        check(GAIN, Gvcp::toWord(good), true);
     for (const float bad : {-0.1F, std::numeric_limits<float>::infinity()})
-        check(GAIN, toBits(bad), false);
+        check(GAIN, Gvcp::toWord(bad), false);
     check(MemoryMap::FIRMWARE_UPDATE_MODE, 1, true);
     check(MemoryMap::FIRMWARE_UPDATE_MODE, 2, false);
     check(MemoryMap::REVERSE_X, 2, false);
@@ -564,6 +641,286 @@ void CVirtualCameraTest::checksFileOperations()
     QVERIFY(!operate(EFileOperation::Write));
     QCOMPARE(write(MemoryMap::FILE_ACCESS_LENGTH, 513), 0x8002);
     QVERIFY(!operate(static_cast<EFileOperation>(7))); // there is no such operation
+}
+
+void CVirtualCameraTest::makeStreaming(const QStringList &arguments)
+{
+    makeControlled(parse(arguments));
+    QCOMPARE(write(MemoryMap::HEARTBEAT_TIMEOUT, 1'000'000), 0);
+    QCOMPARE(write(MemoryMap::STREAM_ADDRESS, RECEIVER.address), 0);
+    QCOMPARE(write(MemoryMap::STREAM_PORT, RECEIVER.port), 0);
+    QCOMPARE(write(MemoryMap::STREAM_PACKET_SIZE, 576), 0);
+}
+
+QList<QByteArray> CVirtualCameraTest::receive(std::chrono::milliseconds duration)
+{
+    const Time end = m_now + duration;
+    QList<QByteArray> packets;
+    m_packetTimes.clear();
+    CPacketBatch batch;
+    for (auto next = m_camera->getNextDeadline(); next && *next <= end;
+         next = m_camera->getNextDeadline()) {
+        m_now = qMax(m_now, *next);
+        if (!m_camera->tick(m_now).isEmpty())
+            qFatal("Nobody has been asked for an answer.");
+        m_camera->takePackets(m_now, batch);
+        for (int i = 0; i < batch.getCount(); ++i) {
+            if (batch.getReceiver() != RECEIVER)
+                qFatal("A packet goes to somebody else.");
+            const CPacketBatch::CPacket &packet = batch.getPacket(i);
+            packets.append(QByteArray(reinterpret_cast<char *>(packet.bytes), packet.size));
+            m_packetTimes.append(m_now);
+        }
+    }
+    m_now = end;
+    return packets;
+}
+
+void CVirtualCameraTest::streamsByteByByte()
+{
+    makeStreaming({"--size", "16x2"});
+    write(MemoryMap::OFFSET_Y, 4);
+    m_now = Time(0x123456789aLL);
+    write(MemoryMap::ACQUISITION_START, 1);
+    const QList<QByteArray> packets = receive(0ms);
+    QCOMPARE(packets.size(), 3);
+    QCOMPARE(packets[0],
+             QByteArray::fromHex(
+                 "00000001 01000000 00000001 00000012 3456789a 01080001 00000010 00000002 "
+                 "00000000 00000004 00000000"));
+    QCOMPARE(packets[1],
+             QByteArray::fromHex("00000001 03000001 06060606 07070707 08080808 09090909 "
+                                 "07070707 08080808 09090909 0a0a0a0a"));
+    QCOMPARE(packets[2], QByteArray::fromHex("00000001 02000002 00000001 00000002"));
+}
+
+void CVirtualCameraTest::streamsThePattern_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    QTest::addColumn<int>("size");
+    for (const CPixelFormat &format : PIXEL_FORMATS) {
+        const QByteArray name = format.name;
+        const int bits = name.endsWith("10p")                 ? 10
+            : name.endsWith("12p") || name.endsWith("Packed") ? 12
+            : name == "RGB8" || name == "BGR8"                ? 24
+            : name.endsWith('8') && !name.startsWith("YUV")   ? 8
+                                                              : 16;
+        QTest::newRow(format.name) << name << 64 * 6 * bits / 8;
+    }
+}
+
+void CVirtualCameraTest::streamsThePattern()
+{
+    QFETCH(QByteArray, name);
+    QFETCH(int, size);
+    const QRect region(2044, 6, 64, 6); // where stripes begin anew
+    for (const ETestPattern pattern :
+         {ETestPattern::Off, ETestPattern::Black, ETestPattern::White}) {
+        makeStreaming({"--size", "64x6", "--pixel-format", name});
+        write(MemoryMap::OFFSET_X, 2044);
+        write(MemoryMap::OFFSET_Y, 6);
+        write(MemoryMap::TEST_PATTERN, quint32(pattern));
+        QCOMPARE(read(MemoryMap::PAYLOAD_SIZE), quint32(size));
+        write(MemoryMap::ACQUISITION_MODE, 2);
+        write(MemoryMap::ACQUISITION_FRAME_COUNT, 2);
+        write(MemoryMap::ACQUISITION_START, 1);
+        QByteArray images;
+        for (const QByteArray &packet : receive(1000ms)) {
+            if (packet.at(4) == 3)
+                images += packet.mid(8);
+            else if (packet.at(4) == 1)
+                QCOMPARE(Gvcp::readWord(packet, 20), findPixelFormat(name)->code);
+        }
+        QCOMPARE(images.size(), 2 * size);
+        for (const quint32 frame : {1, 2}) {
+            for (int i = 0; i < region.width() * region.height(); ++i) {
+                QCOMPARE(readPixel(images, name, i),
+                         computePixel(frame, region.x() + i % 64, region.y() + i / 64,
+                                      *findPixelFormat(name), pattern));
+            }
+            images.remove(0, size);
+        }
+    }
+}
+
+void CVirtualCameraTest::streamsWithFaults_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("packets");
+    const auto row = [](const char *option, const char *value, const char *packets) {
+        QTest::newRow(option) << QStringList{option, value} << QByteArray(packets);
+    };
+    row("--fps", "25", "L12 1 2 3 4 T12 L12 1 2 3 4 T12");
+    row("--lose-packet", "3", "L12 1 2 4 T12 L12 1 3 4 T12");
+    row("--swap-packets", "3", "L12 1 2 4 3 T12 L12 1 3 2 4 T12");
+    row("--stop-in-frame", "2", "L12 1 2 3 4 T12 L12 1 2");
+    row("--wrong-leader-size", "2", "L12 1 2 3 4 T12 L24 1 2 3 4 T12");
+    row("--wrong-trailer-size", "2", "L12 1 2 3 4 T12 L12 1 2 3 4 T6");
+}
+
+void CVirtualCameraTest::streamsWithFaults()
+{
+    QFETCH(QStringList, arguments);
+    makeStreaming(QStringList{"--size", "180x12"} + arguments);
+    write(MemoryMap::ACQUISITION_MODE, 2);
+    write(MemoryMap::ACQUISITION_FRAME_COUNT, 2);
+    write(MemoryMap::ACQUISITION_START, 1);
+    QTEST(namesOf(receive(1000ms)), "packets");
+}
+
+void CVirtualCameraTest::resendsWhatItStillHas()
+{
+    const auto askFor = [this](quint32 block, quint32 first, quint32 last,
+                               const CPeer &sender = {RECEIVER.address, 6001}) {
+        ask(ECommand::PacketResend, words({block, first, last}), sender);
+        return receive(0ms);
+    };
+    const auto startStream = [this](const QStringList &arguments) {
+        makeStreaming(QStringList{"--size", "180x12", "--lose-packet", "2"} + arguments);
+        write(MemoryMap::ACQUISITION_START, 1);
+        return receive(39ms);
+    };
+    const QList<QByteArray> first = startStream({});
+    QCOMPARE(namesOf(first), QByteArray("L12 1 3 T12"));
+    const QList<QByteArray> again = askFor(1, 0, 5);
+    QCOMPARE(namesOf(again), QByteArray("again L12 again 1 again 2 again 3 again 4 again T12"));
+    QCOMPARE(again[3].mid(4), first[2].mid(4));
+    QCOMPARE(namesOf(askFor(1, 4, 0xffffff)), QByteArray("again 4 again T12"));
+    QCOMPARE(namesOf(askFor(1, 3, 1)), QByteArray());
+    QCOMPARE(askFor(9, 2, 4).value(0), QByteArray::fromHex("800c0009 03000002"));
+    QCOMPARE(m_camera->getStatistics().dropped, 0);
+    QVERIFY(askFor(1, 1, 1, {0x7f000005, 6001}).isEmpty()); // nobody who receives
+    ask(ECommand::PacketResend, words({1, 1}));
+    ask(ECommand::PacketResend, words({0x10001, 1, 1})); // another channel
+    QVERIFY(receive(0ms).isEmpty());
+    QCOMPARE(m_camera->getStatistics().dropped, 3);
+    // Asked for far too much, it sends some of it, while others wait.
+    for (int i = 0; i < 1000; ++i)
+        ask(ECommand::PacketResend, words({1, 0, 5}));
+    QCOMPARE(receive(0ms).size(), 256 * 6);
+
+    receive(8 * 40ms); // frames 2 to 9 have begun
+    QCOMPARE(namesOf(askFor(1, 2, 2)), QByteArray("no 2"));
+    QCOMPARE(namesOf(askFor(2, 2, 2)), QByteArray("again 2"));
+    startStream({"--stop-in-frame", "1"});
+    QCOMPARE(namesOf(askFor(1, 2, 3)), QByteArray("again 2 no 3")); // the last not sent yet
+    startStream({"--no-resend"});
+    QVERIFY(askFor(1, 2, 2).isEmpty());
+}
+
+void CVirtualCameraTest::keepsItsPace()
+{
+    // When frames begin, in ms.
+    const auto getStarts = [this](std::chrono::milliseconds duration) {
+        QVector<int> starts;
+        const QList<QByteArray> packets = receive(duration);
+        for (int i = 0; i < packets.size(); ++i) {
+            if (packets[i].at(4) == 1)
+                starts.append(int(m_packetTimes[i] / 1ms));
+        }
+        return starts;
+    };
+    makeStreaming({"--size", "180x12", "--fps", "50"});
+    write(MemoryMap::ACQUISITION_START, 1);
+    QCOMPARE(getStarts(59ms), (QVector<int>{0, 20, 40}));
+    write(MemoryMap::FRAME_RATE, Gvcp::toWord(100));
+    QCOMPARE(getStarts(21ms), (QVector<int>{59, 69, 79}));
+    write(MemoryMap::EXPOSURE_TIME, Gvcp::toWord(50'000));
+    QCOMPARE(read(MemoryMap::FRAME_RATE), Gvcp::toWord(20));
+    QCOMPARE(getStarts(100ms), (QVector<int>{129, 179}));
+    write(MemoryMap::FRAME_RATE_ENABLE, 0);
+    write(MemoryMap::EXPOSURE_TIME, Gvcp::toWord(10));
+    receive(1ms);
+    QCOMPARE(getStarts(100ms).size(), 100); // as fast as it can
+
+    write(MemoryMap::TRIGGER_MODE, 1);
+    receive(1ms);
+    QCOMPARE(getStarts(100ms), QVector<int>());
+    write(MemoryMap::TRIGGER_SOFTWARE, 1);
+    QCOMPARE(getStarts(100ms).size(), 1);
+
+    write(MemoryMap::STREAM_PACKET_DELAY, 1'000'000);
+    write(MemoryMap::TRIGGER_SOFTWARE, 1);
+    const Time start = m_now;
+    receive(100ms);
+    QCOMPARE(
+        m_packetTimes,
+        (QVector<Time>{start, start + 1ms, start + 2ms, start + 3ms, start + 4ms, start + 5ms}));
+}
+
+void CVirtualCameraTest::endsItsStream()
+{
+    const auto startStream = [this](int mode) {
+        makeStreaming({"--size", "180x12"});
+        write(MemoryMap::STREAM_PACKET_DELAY, 1'000'000);
+        write(MemoryMap::ACQUISITION_MODE, quint32(mode));
+        write(MemoryMap::ACQUISITION_START, 1);
+        return namesOf(receive(2ms));
+    };
+    const QByteArray begin = "L12 1 2", rest = "3 4 T12";
+    QCOMPARE(startStream(1), begin); // a single frame
+    QCOMPARE(read(MemoryMap::ACQUISITION_ACTIVE), 1U);
+    QCOMPARE(namesOf(receive(1000ms)), rest);
+    QCOMPARE(read(MemoryMap::ACQUISITION_ACTIVE), 0U);
+
+    QCOMPARE(startStream(0), begin);
+    write(MemoryMap::ACQUISITION_STOP, 1);
+    QCOMPARE(namesOf(receive(1000ms)), rest);
+    QCOMPARE(read(MemoryMap::ACQUISITION_ACTIVE), 0U);
+
+    for (const bool resets : {false, true}) {
+        QCOMPARE(startStream(0), begin);
+        QCOMPARE(
+            resets ? write(MemoryMap::DEVICE_RESET, 1) : write(MemoryMap::CONTROL_PRIVILEGE, 0), 0);
+        QVERIFY(receive(4000ms).isEmpty());
+        QCOMPARE(read(MemoryMap::STREAM_PORT), 0U);
+    }
+    QCOMPARE(startStream(0), begin);
+    write(MemoryMap::HEARTBEAT_TIMEOUT, 500);
+    QCOMPARE(namesOf(receive(4000ms)).count("L12"), 12); // at 40, 80... 480 ms
+}
+
+void CVirtualCameraTest::locksWhatAnImageNeeds()
+{
+    constexpr quint32 PACKET_SIZE = MemoryMap::STREAM_PACKET_SIZE;
+    makeStreaming({"--size", "4096x3000"});
+    QCOMPARE(write(MemoryMap::OFFSET_X, 4), 0x8002); // over the edge
+    QCOMPARE(write(MemoryMap::WIDTH, 4092), 0);
+    QCOMPARE(write(MemoryMap::OFFSET_X, 4), 0);
+    QCOMPARE(write(MemoryMap::WIDTH, 4096), 0x8002);
+    QCOMPARE(write(MemoryMap::WIDTH, 4090), 0x8002); // no multiple of 4
+    // In one command, of which each part would do.
+    QCOMPARE(write(MemoryMap::OFFSET_X, 0), 0);
+    QCOMPARE(write(MemoryMap::WIDTH, 16), 0);
+    QCOMPARE(writeMemory(MemoryMap::WIDTH, words({4096, 3000, 4})), 0x8002);
+    QCOMPARE(read(MemoryMap::OFFSET_X), 0U);
+    QCOMPARE(write(MemoryMap::PIXEL_FORMAT, 0x01080002), 0x8002);
+    QCOMPARE(write(MemoryMap::STREAM_ADDRESS, 0xc0a80001), 0x8002); // of another machine
+    QCOMPARE(write(MemoryMap::TRIGGER_SOFTWARE, 1), 0x8006); // only with TriggerMode
+    for (const quint32 bad : {0U, 572U, 577U, 9004U})
+        QCOMPARE(write(PACKET_SIZE, bad), 0x8002);
+    QCOMPARE(write(PACKET_SIZE, 0xc0000000U | 8996U), 0);
+    const QList<QByteArray> test = receive(0ms);
+    QCOMPARE(test.size(), 1);
+    QCOMPARE(test[0].size(), 8996 - 28);
+    QCOMPARE(read(PACKET_SIZE), 0x40000000U | 8996U);
+
+    const auto check = [this](int status) {
+        for (const quint32 address :
+             {MemoryMap::WIDTH, MemoryMap::HEIGHT, MemoryMap::OFFSET_X, MemoryMap::OFFSET_Y,
+              MemoryMap::PIXEL_FORMAT, MemoryMap::ACQUISITION_MODE, PACKET_SIZE})
+            QCOMPARE(write(address, address == PACKET_SIZE ? 1500 : read(address)), status);
+        QCOMPARE(write(PACKET_SIZE, 8996), 0); // the same
+    };
+    write(MemoryMap::TL_PARAMS_LOCKED, 1);
+    check(0x8006);
+    write(MemoryMap::ACQUISITION_START, 1);
+    write(MemoryMap::TL_PARAMS_LOCKED, 0);
+    QCOMPARE(write(PACKET_SIZE, 1500), 0x8006);
+    check(0x8006);
+    write(MemoryMap::ACQUISITION_STOP, 1);
+    receive(100ms);
+    check(0);
 }
 
 QTEST_GUILESS_MAIN(CVirtualCameraTest)

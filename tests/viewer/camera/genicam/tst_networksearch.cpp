@@ -1,6 +1,7 @@
 // Before anything of Qt, whose keyword "signals" is a name in GLib.
 #include <arv.h>
 
+#include "support/loopbackonly.h"
 #include "support/vieweroptions.h"
 #include "support/virtualcameraprocess.h"
 #include "viewer/camera/genicam/genicam.h"
@@ -9,11 +10,8 @@
 
 #include "camerapool/icameraenumerationservice.h"
 
-#include <QNetworkInterface>
 #include <QSignalSpy>
 #include <QtTest>
-
-#include <algorithm>
 
 using TestSupport::CVirtualCameraProcess;
 using Viewer::Camera::CCameraSnapshot;
@@ -32,18 +30,6 @@ private Q_SLOTS:
     void findsCamerasByBroadcast();
     void servesAnotherClient();
 };
-
-static bool reachesOthers()
-{
-    const auto interfaces = QNetworkInterface::allInterfaces();
-    return std::any_of(interfaces.cbegin(), interfaces.cend(), [](const auto &networkInterface) {
-        return !(networkInterface.flags() & QNetworkInterface::IsLoopBack);
-    });
-}
-
-#define SKIP_IF_OTHERS_HEAR_IT()                                                                   \
-    if (reachesOthers())                                                                           \
-    QSKIP("A broadcast would leave this machine: no network namespace could be made.")
 
 void CNetworkSearchTest::listsWhatTheCommandLineAsksFor_data()
 {
