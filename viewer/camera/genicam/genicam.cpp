@@ -45,6 +45,8 @@ std::unique_ptr<ICameraKind> makeKind()
     return std::make_unique<CGenICam>();
 }
 
+static constexpr int SEARCH_INTERVAL = 5000; // milliseconds
+
 CGenICam::CGenICam(const CSearchOptions &options, QObject *parent)
     : ICameraKind(parent)
     , m_options(options)
@@ -88,6 +90,11 @@ QVector<CommandLine::COption> CGenICam::getOptions()
 void CGenICam::start()
 {
     m_searchesNetwork = m_searchesNetwork || m_options.searchesNetwork;
+    connect(&m_searchTimer, &QTimer::timeout, this, [this] {
+        if (m_searchesNetwork)
+            Q_EMIT camerasChanged();
+    });
+    m_searchTimer.start(SEARCH_INTERVAL);
 }
 
 QVector<CCameraSwitch> CGenICam::getSwitches()

@@ -8,6 +8,7 @@
 
 #include <QHash>
 #include <QString>
+#include <QTimer>
 #include <QVector>
 
 #include <atomic>
@@ -48,6 +49,7 @@ private:
 
     CSearchOptions m_options; ///< as asked for at the start
     std::atomic<bool> m_searchesNetwork;
+    QTimer m_searchTimer; ///< cameras come and go without a word
     std::atomic<bool> m_isCanceled{false};
 
     mutable std::mutex m_mutex; ///< guards what follows
