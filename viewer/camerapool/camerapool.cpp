@@ -96,7 +96,11 @@ CCameraPool::CCameraPool(Camera::CCameraKinds kinds, const QString &journalFolde
             &CCameraPool::snapshotChanged);
     connect(getService<CDeviceFirmwareUpdateService>().data(),
             &CDeviceFirmwareUpdateService::updateEnded, this, &CCameraPool::updateEnded);
-    connect(&d->streams, &CCameraStreams::frameReady, this, &CCameraPool::frameReady);
+    connect(&d->streams, &CCameraStreams::frameReady, this,
+            [this](const QString &cameraId, const Image::CFrame &frame) {
+                d->lost.remove(cameraId); // it is back
+                emit frameReady(cameraId, frame);
+            });
     connect(&d->streams, &CCameraStreams::statisticsChanged, this, &CCameraPool::statisticsChanged);
     connect(&d->streams, &CCameraStreams::recordingFailed, this, &CCameraPool::onRecordingFailed);
     connect(&d->streams, &CCameraStreams::recordingEnded, this, &CCameraPool::recordingEnded);
@@ -334,6 +338,9 @@ void CCameraPool::lookForLost()
     const QStringList cameraIds = d->lost.keys();
     for (const QString &cameraId : cameraIds) {
         const QDeadlineTimer deadline = d->lost.value(cameraId);
+        // The last attempt may not have ended yet.
+        if (d->streams.findStream(cameraId))
+            continue;
         if (beginStream(cameraId, ECameraActivity::Acquiring, nullptr))
             d->lost.insert(cameraId, deadline);
     }

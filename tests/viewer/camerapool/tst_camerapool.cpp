@@ -7,6 +7,7 @@
 #include "support/camerakinds.h"
 #include "tests/viewer/update/jobrecorder.h"
 #include "tests/viewer/update/updatefixture.h"
+#include "tests/viewer/updatefile/updatefilebuilder.h"
 
 #include "camerapool/icamerastatusservice.h"
 #include "camerapool/icamerastreamcontrolservice.h"
@@ -45,6 +46,8 @@ private slots:
         createPool();
     }
     void startsAndStopsCameras();
+    void aCameraThatComesBackGoesOn();
+    void aProgramThatDoesNotEndIsEnded();
     void whatIsStoppedMakesNoPictures_data();
     void whatIsStoppedMakesNoPictures();
     void updateIsAnnouncedOnceAtItsEnd();
@@ -130,6 +133,42 @@ void CCameraPoolTest::startsAndStopsCameras()
     getService<ICameraStreamControlService>()->stopAllCameras();
     for (const QString &id : ids)
         QVERIFY(!status->isCameraBusy(find(id)));
+}
+
+void CCameraPoolTest::aCameraThatComesBackGoesOn()
+{
+    QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
+    int frames = 0;
+    connect(m_pool.get(), &CCameraPool::frameReady, this, [&frames] { ++frames; });
+    QVERIFY(m_pool->startAcquisition(FIRST_ID));
+    for (int round = 1; round <= 2; ++round) {
+        frames = 0;
+        QTRY_VERIFY_WITH_TIMEOUT(frames > 0, 10'000);
+        QVERIFY(TestSupport::setSwitch(*m_pool, "plugged:" + FIRST_ID, false));
+        QTRY_COMPARE(m_pool->getActivity(FIRST_ID), ECameraActivity::Idle);
+        QCOMPARE(failed.count(), round);
+        QVERIFY(TestSupport::setSwitch(*m_pool, "plugged:" + FIRST_ID, true));
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(m_pool->getActivity(FIRST_ID), ECameraActivity::Acquiring, 10'000);
+    // Stopped is stopped.
+    m_pool->stopAcquisition(FIRST_ID);
+    QTRY_COMPARE(m_pool->getActivity(FIRST_ID), ECameraActivity::Idle);
+}
+
+void CCameraPoolTest::aProgramThatDoesNotEndIsEnded()
+{
+    const QString program = m_folder->filePath("worker");
+    TestSupport::writeFile(program, "#!/bin/sh\nexec sleep 600\n");
+    QVERIFY(QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner));
+    m_pool->setWorker(program, "en");
+    QVERIFY(m_pool->startAcquisition(FIRST_ID));
+    getService<ICameraStreamControlService>()->stopAllCameras();
+    QCOMPARE(m_pool->getActivity(FIRST_ID), ECameraActivity::Idle);
+    // Nobody else has it either.
+    m_pool->setWorker(WORKER, "en");
+    QVERIFY(m_pool->startAcquisition(FIRST_ID));
+    QSignalSpy frames(m_pool.get(), &CCameraPool::frameReady);
+    QVERIFY(frames.wait());
 }
 
 void CCameraPoolTest::whatIsStoppedMakesNoPictures_data()
