@@ -17,8 +17,9 @@ CErrorText CSignatureVerdict::describe() const
     return {};
 }
 
-QString CSignatureVerdict::getStateName() const
+static QString getName(CSignatureVerdict::EState state)
 {
+    using EState = CSignatureVerdict::EState;
     switch (state) {
     case EState::NotSigned:
         return QStringLiteral("not-signed");
@@ -28,6 +29,19 @@ QString CSignatureVerdict::getStateName() const
         return QStringLiteral("not-trusted");
     }
     return {};
+}
+
+QJsonObject CSignatureVerdict::toJson() const
+{
+    QJsonObject object{{QStringLiteral("state"), getName(state)}};
+    if (signer.isNull())
+        return object;
+    object.insert(QStringLiteral("signer"), signer.getSubject());
+    object.insert(QStringLiteral("issuer"), signer.getIssuer());
+    object.insert(QStringLiteral("validFrom"), signer.getValidFrom().toString(Qt::ISODate));
+    object.insert(QStringLiteral("validTo"), signer.getValidTo().toString(Qt::ISODate));
+    object.insert(QStringLiteral("fingerprint"), signer.getFingerprint());
+    return object;
 }
 
 } // namespace Viewer::Signature

@@ -2,6 +2,8 @@
 
 #include "certificate.h"
 
+#include <QJsonObject>
+
 namespace Viewer::Signature {
 
 /// What is known of the maker of an update file.
@@ -21,8 +23,9 @@ struct CSignatureVerdict
     /// A clause for whoever wants to know: who has signed, or why that is not known.
     [[nodiscard]] Text::CErrorText describe() const;
 
-    /// "trusted", "not-signed", "not-trusted": the same in every language.
-    [[nodiscard]] QString getStateName() const;
+    /// "state", which is "trusted", "not-signed" or "not-trusted" in every language, and as far as
+    /// they are known "signer", "issuer", "validFrom", "validTo" and "fingerprint".
+    [[nodiscard]] QJsonObject toJson() const;
 };
 
 } // namespace Viewer::Signature
