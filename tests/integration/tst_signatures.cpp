@@ -77,7 +77,7 @@ void CSignaturesTest::addMaker(Viewer::AppCore::CViewer &viewer) const
     auto *const nameEdit = files->findChild<QLineEdit *>("fileNameEdit");
     nameEdit->setText("maker.pem");
     QTest::keyClick(nameEdit, Qt::Key_Return);
-    answer(makers, "SHA-256 fingerprint: ");
+    answer(makers, "SHA-256 fingerprint:\n");
     QCOMPARE(find<QTreeView>(*makers, "makerTree")->model()->rowCount(), 1);
     QVERIFY(getText(*makers, "detailsLabel").startsWith("Maker: CN=Maker\n"));
     click(*makers, "Close");

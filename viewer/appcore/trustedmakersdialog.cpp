@@ -31,7 +31,7 @@ CTrustedMakersDialog::CTrustedMakersDialog(const QStringList &trustFolders,
     , m_removeButton(addButton(tr("&Remove..."), "removeButton"))
 {
     setObjectName(QStringLiteral("trustedMakersDialog"));
-    resize(640, 440);
+    resize(660, 460);
     getTree()->setObjectName(QStringLiteral("makerTree"));
     getTree()->header()->setStretchLastSection(false);
     getTree()->header()->setSectionResizeMode(0, QHeaderView::Stretch);
@@ -70,7 +70,7 @@ static QString describe(const CCertificate &certificate)
     return CTrustedMakersDialog::tr("Maker: %1\n"
                                     "Issued by: %2\n"
                                     "Valid: %3 to %4\n"
-                                    "SHA-256 fingerprint: %5")
+                                    "SHA-256 fingerprint:\n%5")
         .arg(certificate.getSubject(), certificate.getIssuer(), toText(certificate.getValidFrom()),
              toText(certificate.getValidTo()), certificate.getFingerprint());
 }
@@ -109,7 +109,8 @@ void CTrustedMakersDialog::chooseFile()
                           QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
     dialog->setObjectName(QStringLiteral("certificateDialog"));
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({tr("Certificates in PEM (*.pem *.crt *.cer)"), tr("All files (*)")});
+    dialog->setNameFilters({tr("Certificates in PEM") + QStringLiteral(" (*.pem *.crt *.cer)"),
+                            tr("All files") + QStringLiteral(" (*)")});
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     CModalDialogWatcher::markAsOwn(dialog);
     connect(dialog, &QFileDialog::fileSelected, this, &CTrustedMakersDialog::askToAdd);
