@@ -17,8 +17,8 @@
 #include <QFileInfo>
 #include <QTextStream>
 
-#include <openssl/crypto.h>
-#include <openssl/evp.h>
+#include <cstring>
+#include <unistd.h>
 
 namespace Viewer::GufTool {
 
@@ -49,14 +49,15 @@ static std::optional<QByteArray> readPassphrase(const QString &path, const QStri
             line.chop(1);
         return line;
     }
-    // Otherwise OpenSSL would take it from whatever is piped into the program.
-    QFile terminal(QStringLiteral("/dev/tty"));
-    char typed[MAXIMUM_PASSPHRASE] = {};
-    const bool isTyped = terminal.open(QIODevice::ReadWrite | QIODevice::Unbuffered)
-        && EVP_read_pw_string(typed, sizeof typed, question.toLocal8Bit().constData(), 0) == 0;
+    // Otherwise it would be taken from whatever is piped into the program.
+    if (!QFile(QStringLiteral("/dev/tty")).open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return std::nullopt;
+    char *const typed = getpass(question.toLocal8Bit().constData());
+    if (!typed)
+        return std::nullopt;
     const QByteArray passphrase(typed);
-    OPENSSL_cleanse(typed, sizeof typed);
-    return isTyped ? std::make_optional(passphrase) : std::nullopt;
+    explicit_bzero(typed, std::strlen(typed));
+    return passphrase;
 }
 
 int CGufTool::run(const QStringList &arguments)
@@ -142,7 +143,8 @@ int CGufTool::runCommand(const QStringList &arguments, const COptions &options)
 std::optional<CSigner> CGufTool::readSigner(const COptions &options)
 {
     const auto ask = [&options] {
-        return readPassphrase(options.passphraseFile, tr("Passphrase of the key:"));
+        return readPassphrase(options.passphraseFile,
+                              tr("Passphrase of the key:") + QLatin1Char(' '));
     };
     Text::CErrorText fault;
     const std::optional<CSigner> signer

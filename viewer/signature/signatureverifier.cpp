@@ -93,8 +93,7 @@ CSignatureVerdict verifySigner(const QByteArray &manifest, const CSignerInfo &si
         if (isSigned || !isOf(certificate, signer))
             continue;
         verdict.signer = certificate;
-        isSigned = digest && certificate.findKeyFault().isEmpty()
-            && hasSigned(certificate, signer, digestNid);
+        isSigned = digest && hasSigned(certificate, signer, digestNid);
     }
     if (verdict.signer.isNull())
         verdict.reason = CErrorText::tr("the certificate of its signer is missing");

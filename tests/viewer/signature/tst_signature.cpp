@@ -136,7 +136,7 @@ void CSignatureTest::judges_data()
            "the revocation list of CN=Root is out of date; put the current one beside the "
            "certificates");
 
-    refuse("trailing bytes", good + '\0', trust, notCms);
+    refuse("trailing bytes", good + QByteArray("\x05\x00", 2), trust, notCms);
     refuse("nothing", "", trust, notCms);
     refuse("cut off", good.chopped(1), trust, notCms);
     refuse("with a manifest of its own", maker.sign(MANIFEST, "SHA256", {}, EForm::Attached), trust,
