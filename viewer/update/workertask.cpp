@@ -53,7 +53,7 @@ std::optional<CWorkerTask> CWorkerTask::fromCbor(const QCborMap &map, QString &f
     task.language = map.value(LANGUAGE).toString();
     task.requiresSignature = map.value(REQUIRE_SIGNATURE).toBool();
     const QCborArray folders = map.value(TRUST_FOLDERS).toArray();
-    for (const QCborValue &folder : folders)
+    for (const auto &folder : folders)
         task.trustFolders.append(folder.toString());
     const qint64 entry = Camera::toInteger(map.value(ENTRY), -1);
     if (Camera::toInteger(map.value(PROTOCOL_FIELD), -1) != PROTOCOL)
