@@ -40,6 +40,7 @@ test_packages=(
   dbus
   git
   iproute2
+  openssl
   procps
   python3-dbusmock
   python3-jsonschema

@@ -7,6 +7,7 @@
 #include "viewer/demo/wizarddemo.h"
 #include "viewer/files/statefolder.h"
 #include "viewer/process/closesignals.h"
+#include "viewer/signature/signaturepolicy.h"
 
 #include "core/baseexception.h"
 
@@ -157,6 +158,8 @@ int main(int argc, char **argv)
     AppCore::CCommandLineOptions options = commandLine.getReader().takeOptions();
     for (const std::unique_ptr<Camera::ICameraKind> &kind : options.kinds)
         kind->setDataFolder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    options.policyFolder = Signature::CSignaturePolicy::getSystemFolder();
+    options.configFolder = Files::getConfigFolder();
     options.journalFolder = Files::getStateFolder(QStringLiteral("updates"));
     AppCore::chooseLanguageFont(commandLine.getLanguage());
     try {

@@ -55,6 +55,10 @@ QVector<COption> CCommandLine::getOptions()
         {QStringLiteral("samples"), tr("dir"),
          tr("Use <dir> as the folder of sample update files."),
          CommandLine::takePath(m_options.samplesDirectory)},
+        {QStringLiteral("require-signature"),
+         {},
+         tr("Use only update files that a trusted maker has signed, this time."),
+         CommandLine::takeSwitch(m_options.requiresSignature)},
         {QStringLiteral("demo"), tr("dir"),
          tr("Walk through the firmware update wizard, faster than real cameras would, save "
             "pictures "

@@ -17,6 +17,9 @@ struct CCommandLineOptions
     QString language; ///< empty: as remembered
     QString samplesDirectory; ///< empty: none
     QString demoDirectory; ///< empty: no demonstration
+    bool requiresSignature = false; ///< whatever the policy says
+    QString policyFolder; ///< the computer's owner's; not from the command line; empty: none
+    QString configFolder; ///< the user's; not from the command line; empty: none
     QString journalFolder; ///< of running updates; not from the command line; empty: none
 };
 

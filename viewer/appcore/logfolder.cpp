@@ -1,7 +1,7 @@
 #include "logfolder.h"
 
 #include "viewer/files/statefolder.h"
-#include "viewer/pluginsystem/pathtrust.h"
+#include "viewer/files/pathtrust.h"
 
 #include <QDir>
 #include <QFile>
@@ -154,7 +154,7 @@ QString CLogFolder::makeOwnFolder()
     const int error = Files::makePrivateFolder(m_root);
     if (error != 0)
         return qt_error_string(error);
-    const QString fault = PluginSystem::CPathTrust::findFault(m_root);
+    const QString fault = Files::findPathFault(m_root).getLocalized();
     if (!fault.isEmpty())
         return fault;
     const QString time = QDateTime::currentDateTime().toString(TIME_FORMAT);

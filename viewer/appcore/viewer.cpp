@@ -13,22 +13,26 @@
 #include "pluginlistdialog.h"
 #include "seriesnotifier.h"
 #include "switchmenu.h"
+#include "trustedmakersdialog.h"
 #include "updatehistorydialog.h"
 #include "windowservice.h"
 
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
 #include "viewer/camerapool/camerapool.h"
+#include "viewer/camerapool/devicefirmwareupdateservice.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
 #include "viewer/process/workerpath.h"
+#include "viewer/updatefile/updatefileerror.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -93,6 +97,7 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
     if (m_logs)
         m_pool->setLogFinder([this] { return m_logs->findOwnLog(); });
     createWindow();
+    setSignaturePolicy();
     fillMenus();
     registerServices();
     addBuiltIns();
@@ -122,6 +127,26 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
 CViewer::~CViewer()
 {
     m_pluginManager->shutDown();
+}
+
+void CViewer::setSignaturePolicy()
+{
+    m_signaturePolicy
+        = Signature::CSignaturePolicy::read(m_options.policyFolder, m_options.configFolder);
+    if (m_options.requiresSignature)
+        m_signaturePolicy.requireSignatures();
+    const auto service = m_pool->getService<CameraPool::CDeviceFirmwareUpdateService>();
+    service->setSignaturePolicy(m_signaturePolicy);
+    connect(service.data(), &CameraPool::CDeviceFirmwareUpdateService::signatureJudged, this,
+            &CViewer::showSignature);
+}
+
+void CViewer::showSignature(const QString &filePath, const Signature::CSignatureVerdict &verdict)
+{
+    const Text::CErrorText refusal = m_signaturePolicy.findRefusal(verdict);
+    const UpdateFile::CUpdateFileError sentence(QFileInfo(filePath).fileName(),
+                                                refusal.isEmpty() ? verdict.describe() : refusal);
+    m_window->showMessage(sentence.getText().getLocalized());
 }
 
 void CViewer::createWindow()
@@ -186,6 +211,8 @@ void CViewer::fillMenus()
             QDesktopServices::openUrl(QUrl::fromLocalFile(m_options.samplesDirectory));
         });
     }
+    fileMenu->addAction(tr("Trusted &makers..."), this, &CViewer::showTrustedMakers)
+        ->setObjectName(QStringLiteral("trustedMakers"));
     fileMenu->addSeparator();
     QAction *const quitAction
         = fileMenu->addAction(tr("&Quit"), m_window.get(), &QWidget::close, QKeySequence::Quit);
@@ -261,6 +288,10 @@ bool CViewer::start(QStringList &failures)
         messages.append(m_logs->getFault());
         failures.append(m_logs->getFault());
     }
+    if (!m_signaturePolicy.getFault().isEmpty()) {
+        messages.append(m_signaturePolicy.getFault().getLocalized());
+        failures.append(messages.constLast());
+    }
     if (!messages.isEmpty())
         m_window->showMessage(messages.join(QLatin1Char(' ')));
     m_pool->start();
@@ -313,6 +344,13 @@ static void openOwn(QDialog *dialog)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     CModalDialogWatcher::markAsOwn(dialog);
     dialog->open();
+}
+
+void CViewer::showTrustedMakers()
+{
+    const QStringList folders = m_signaturePolicy.getTrustFolders();
+    openOwn(new CTrustedMakersDialog(
+        folders, m_options.configFolder.isEmpty() ? QString() : folders.last(), m_window.get()));
 }
 
 void CViewer::showLogs()

@@ -2,6 +2,8 @@
 
 #include "commandline.h"
 
+#include "viewer/signature/signaturepolicy.h"
+
 #include <QObject>
 #include <QSharedPointer>
 #include <QTimer>
@@ -88,6 +90,9 @@ private:
     [[nodiscard]] QString getReasonToStayOpen() const;
     void closeIfRequested();
     void onEnumerationChanged();
+    void setSignaturePolicy();
+    void showSignature(const QString &filePath, const Signature::CSignatureVerdict &verdict);
+    void showTrustedMakers();
     void showLogs();
     void showUpdateHistory();
     void showPlugins();
@@ -96,6 +101,7 @@ private:
     CCommandLineOptions m_options; ///< its kinds are the pool's
     const QString m_language;
     const CLogFolder *const m_logs;
+    Signature::CSignaturePolicy m_signaturePolicy;
     // In the order of construction; destroyed from the last to the first.
     std::unique_ptr<CModalDialogWatcher> m_dialogWatcher;
     std::unique_ptr<CLinkOpener> m_linkOpener;

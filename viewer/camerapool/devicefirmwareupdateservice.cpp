@@ -8,6 +8,7 @@
 #include "viewer/update/entryfit.h"
 #include "viewer/update/firmwareupdateinfo.h"
 #include "viewer/updatefile/firmwareversion.h"
+#include "viewer/updatefile/updatefileerror.h"
 
 #include "core/baseexception.h"
 
@@ -60,6 +61,12 @@ CDeviceFirmwareUpdateService::getFirmwareUpdateInfos(const QString &updateFilePa
         const QSharedPointer<const UpdateFile::CUpdateManifest> manifest
             = m_cache.read(updateFilePath);
         const QString path = QDir::fromNativeSeparators(updateFilePath);
+        const Signature::CSignatureVerdict verdict
+            = m_signaturePolicy.judge(manifest->json, manifest->signature);
+        emit signatureJudged(path, verdict);
+        const Text::CErrorText refusal = m_signaturePolicy.findRefusal(verdict);
+        if (!refusal.isEmpty())
+            throw UpdateFile::CUpdateFileError(path, refusal);
         QVector<QSharedPointer<IFirmwareUpdateInfo>> infos;
         for (int i = 0; i < manifest->updates.size(); ++i)
             infos.append(QSharedPointer<IFirmwareUpdateInfo>(
@@ -103,6 +110,11 @@ void CDeviceFirmwareUpdateService::setWorker(const QString &program, const QStri
     m_findRemoteCamera = findRemoteCamera;
 }
 
+void CDeviceFirmwareUpdateService::setSignaturePolicy(const Signature::CSignaturePolicy &policy)
+{
+    m_signaturePolicy = policy;
+}
+
 void CDeviceFirmwareUpdateService::setLogFinder(const std::function<QString()> &findLog)
 {
     m_findLog = findLog;
@@ -123,6 +135,8 @@ CDeviceFirmwareUpdateService::makeWorkerStart(const QString &cameraId,
     task.manifestDigest = info.getManifestDigest();
     task.entry = info.getIndex();
     task.language = m_workerLanguage;
+    task.requiresSignature = m_signaturePolicy.isRequired();
+    task.trustFolders = m_signaturePolicy.getTrustFolders();
     return Update::CWorkerStart{m_workerProgram, task, camera.handle};
 }
 

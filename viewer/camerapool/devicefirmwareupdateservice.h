@@ -2,6 +2,7 @@
 
 #include "remotecamera.h"
 
+#include "viewer/signature/signaturepolicy.h"
 #include "viewer/update/workerrun.h"
 #include "viewer/updatefile/updatefilecache.h"
 
@@ -42,6 +43,10 @@ public:
     /// See CCameraPool::setLogFinder().
     void setLogFinder(const std::function<QString()> &findLog);
 
+    /// Files that @p policy refuses are faulty from now on, also to the workers of updates. Without
+    /// a call none are, and nobody is trusted.
+    void setSignaturePolicy(const Signature::CSignaturePolicy &policy);
+
     /// @p factory is borrowed and outlives this object. Jobs keep their journals in
     /// @p journalFolder; empty: nowhere.
     CDeviceFirmwareUpdateService(Camera::ICameraDeviceFactory &factory,
@@ -69,6 +74,9 @@ public:
         const QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo> &updateInfo) override;
 
 signals:
+    /// A faultless update file was read, whether the policy refuses it or not.
+    void signatureJudged(const QString &filePath, const Signature::CSignatureVerdict &verdict);
+
     /// On the thread of this object; one of the jobs has executed.
     void updateEnded(const QString &cameraId, bool isUpdated);
 
@@ -85,6 +93,7 @@ private:
     QString m_workerLanguage;
     RemoteCameraFinder m_findRemoteCamera;
     std::function<QString()> m_findLog;
+    Signature::CSignaturePolicy m_signaturePolicy;
     UpdateFile::CUpdateFileCache m_cache;
 };
 

@@ -3,6 +3,7 @@
 #include "viewer/camera/cameraerror.h"
 #include "viewer/camera/camerakinds.h"
 #include "viewer/json/jsonfault.h"
+#include "viewer/signature/signaturepolicy.h"
 #include "viewer/update/journaledrun.h"
 #include "viewer/update/updateestimate.h"
 #include "viewer/update/updaterun.h"
@@ -80,6 +81,11 @@ CErrorText CCameraUpdate::update(const Update::CWorkerTask &task)
         if (m_manifest.sha256 != task.manifestDigest)
             return CErrorText::tr("the update file is another one than the one that was shown; "
                                   "select it again");
+        const Signature::CSignaturePolicy policy(task.requiresSignature, task.trustFolders);
+        const CErrorText refusal
+            = policy.findRefusal(policy.judge(m_manifest.json, m_manifest.signature));
+        if (!refusal.isEmpty())
+            return UpdateFile::CUpdateFileError(task.filePath, refusal).getText();
         if (task.entry >= m_manifest.updates.size())
             return CErrorText::tr("the update file has no such update");
         Json::CJsonScanner scanner(task.record);

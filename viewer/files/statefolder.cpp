@@ -9,16 +9,29 @@
 
 namespace Viewer::Files {
 
-QString getStateFolder(const QString &name)
+/// The folder of the viewer below that of the environment's @p variable, or below @p name in the
+/// home folder.
+static QString getFolder(const char *variable, const QLatin1String &name)
 {
-    QString stateHome = QFile::decodeName(qgetenv("XDG_STATE_HOME"));
-    if (!QDir::isAbsolutePath(stateHome)) {
+    QString folder = QFile::decodeName(qgetenv(variable));
+    if (!QDir::isAbsolutePath(folder)) {
         const QString home = QFile::decodeName(qgetenv("HOME"));
         if (!QDir::isAbsolutePath(home))
             return {};
-        stateHome = home + QLatin1String("/.local/state");
+        folder = home + name;
     }
-    return QDir::cleanPath(stateHome) + QLatin1String("/nuvexviewer/") + name;
+    return QDir::cleanPath(folder) + QLatin1String("/nuvexviewer");
+}
+
+QString getStateFolder(const QString &name)
+{
+    const QString folder = getFolder("XDG_STATE_HOME", QLatin1String("/.local/state"));
+    return folder.isEmpty() ? QString() : folder + QLatin1Char('/') + name;
+}
+
+QString getConfigFolder()
+{
+    return getFolder("XDG_CONFIG_HOME", QLatin1String("/.config"));
 }
 
 int makePrivateFolder(const QString &path)

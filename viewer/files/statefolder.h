@@ -10,6 +10,10 @@ namespace Viewer::Files {
 /// nobody changes the environment.
 [[nodiscard]] QString getStateFolder(const QString &name);
 
+/// What the user has set for the viewer is below this folder: `$XDG_CONFIG_HOME/nuvexviewer`, below
+/// `~/.config` where the variable is not set or not absolute. Otherwise the same.
+[[nodiscard]] QString getConfigFolder();
+
 /// Makes the folder @p path, and those above it that are missing, for this user alone. One that is
 /// there already stays as it is. An error number, or 0. Any thread.
 [[nodiscard]] int makePrivateFolder(const QString &path);

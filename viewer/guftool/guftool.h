@@ -3,12 +3,18 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <optional>
+
 class QTextStream;
+
+namespace Viewer::Signature {
+class CSigner;
+}
 
 namespace Viewer::GufTool {
 
-/// The command-line program that packs, shows and checks update files. It speaks the language of
-/// the catalogues that the application has installed.
+/// The command-line program that packs, signs, shows and checks update files. It speaks the
+/// language of the catalogues that the application has installed.
 class CGufTool
 {
     Q_DECLARE_TR_FUNCTIONS(Viewer::GufTool::CGufTool)
@@ -18,6 +24,7 @@ public:
         Success = 0,
         FileFaulty = 1, ///< the error output tells the fault in one sentence
         WrongUsage = 2, ///< the error output tells how the program is called
+        NotTrusted = 3, ///< the signature is missing or not trusted; the error output tells why
     };
 
     /// The streams are borrowed.
@@ -28,10 +35,26 @@ public:
     int run(const QStringList &arguments);
 
 private:
-    int runCommand(const QStringList &arguments, bool asJson);
-    void pack(const QString &folder, const QString &file);
-    void inspect(const QString &file, bool asJson);
-    void verify(const QString &file);
+    struct COptions
+    {
+        bool isJson = false;
+        bool isSigned = false;
+        QString certificate;
+        QString key;
+        QString chain;
+        QString passphraseFile;
+        QString trustFolder;
+        QStringList given; ///< names of all that are there
+    };
+
+    int runCommand(const QStringList &arguments, const COptions &options);
+    int pack(const QString &folder, const QString &file, const COptions &options);
+    int sign(const QString &file, const COptions &options);
+    int inspect(const QString &file, const COptions &options);
+    int verify(const QString &file, const COptions &options);
+    /// Nothing, when the fault is told.
+    [[nodiscard]] std::optional<Signature::CSigner> readSigner(const COptions &options);
+    void tellFaultsOf(const QStringList &trustFolders);
     [[nodiscard]] static QString getUsage();
     int reportWrongUsage(const QString &cause);
 

@@ -85,9 +85,11 @@ QJsonObject toJsonObject(const CUpdateEntry &update)
 
 } // namespace
 
-CManifestPrinter::CManifestPrinter(const QString &file, const CUpdateManifest &manifest)
+CManifestPrinter::CManifestPrinter(const QString &file, const CUpdateManifest &manifest,
+                                   const Signature::CSignatureVerdict &verdict)
     : m_file(QDir::toNativeSeparators(file))
     , m_manifest(manifest)
+    , m_verdict(verdict)
 {
 }
 
@@ -99,8 +101,31 @@ QString CManifestPrinter::toText() const
                       "Updates:  %3\n")
                        .arg(m_file, QString::number(UpdateFile::FORMAT_VERSION),
                             QString::number(m_manifest.updates.size()));
+    text += describeSignature();
     for (int index = 0; index < m_manifest.updates.size(); ++index)
         text += describeUpdate(index + 1, m_manifest.updates.at(index));
+    return text;
+}
+
+QString CManifestPrinter::describeSignature() const
+{
+    const Signature::CCertificate &signer = m_verdict.signer;
+    //: The values begin in column 20; Korean, Japanese and Chinese letters take two columns.
+    QString text = tr("\n"
+                      "Signature\n"
+                      "  State:            %1\n")
+                       .arg(m_verdict.describe().getLocalized());
+    if (!signer.isNull()) {
+        //: The values begin in column 20; Korean, Japanese and Chinese letters take two columns.
+        text += tr("  Signer:           %1\n"
+                   "  Issuer:           %2\n"
+                   "  Valid from:       %3\n"
+                   "  Valid until:      %4\n"
+                   "  SHA-256:          %5\n")
+                    .arg(signer.getSubject(), signer.getIssuer(),
+                         signer.getValidFrom().toString(Qt::ISODate),
+                         signer.getValidTo().toString(Qt::ISODate), signer.getFingerprint());
+    }
     return text;
 }
 
@@ -179,6 +204,7 @@ QString CManifestPrinter::toJson() const
         updates.append(toJsonObject(update));
     const QJsonObject object{{QStringLiteral("file"), m_file},
                              {QStringLiteral("formatVersion"), UpdateFile::FORMAT_VERSION},
+                             {QStringLiteral("signature"), m_verdict.toJson()},
                              {QStringLiteral("updates"), updates}};
     return QString::fromUtf8(QJsonDocument(object).toJson());
 }

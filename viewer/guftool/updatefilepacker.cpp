@@ -1,5 +1,6 @@
 #include "updatefilepacker.h"
 
+#include "updatefilesigner.h"
 #include "viewer/text/visibletext.h"
 #include "viewer/updatefile/entryname.h"
 #include "viewer/updatefile/manifestparser.h"
@@ -7,6 +8,7 @@
 #include "viewer/updatefile/updatefileerror.h"
 #include "viewer/updatefile/updatefilelimits.h"
 #include "viewer/updatefile/updatefilereader.h"
+#include "ziparchive.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,8 +18,6 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <memory>
-#include <zip.h>
 
 namespace Viewer::GufTool {
 
@@ -27,28 +27,8 @@ using Text::CErrorText;
 
 namespace {
 
-/// 2 January 1980, the first whole day that an archive can tell, so that the time of packing does
-/// not show in the bytes.
-constexpr zip_uint16_t ENTRY_DATE = (1 << 5) | 2;
-
 const QString UPDATES = QStringLiteral("updates");
 const QString STEPS = QStringLiteral("steps");
-
-using CZipPointer = std::unique_ptr<zip_t, void (*)(zip_t *)>;
-
-/// Adds the file and takes @p source over, also when it fails.
-bool addFile(zip_t *archive, const QString &name, zip_source_t *source)
-{
-    if (!source)
-        return false;
-    const zip_int64_t index
-        = zip_file_add(archive, name.toUtf8().constData(), source, ZIP_FL_ENC_UTF_8);
-    if (index < 0) {
-        zip_source_free(source);
-        return false;
-    }
-    return zip_file_set_dostime(archive, static_cast<zip_uint64_t>(index), 0, ENTRY_DATE, 0) == 0;
-}
 
 QStringList collectPayloadNames(const CUpdateManifest &manifest)
 {
@@ -78,8 +58,7 @@ CErrorText writeArchive(const QString &file, const QByteArray &manifest, const Q
 {
     int zipError = ZIP_ER_OK;
     CZipPointer archive(
-        zip_open(QFile::encodeName(file).constData(), ZIP_CREATE | ZIP_EXCL, &zipError),
-        zip_discard);
+        zip_open(QFile::encodeName(file).constData(), ZIP_CREATE | ZIP_EXCL, &zipError));
     if (!archive)
         return CErrorText::tr("the archive cannot be created");
     bool isAdded = addFile(archive.get(), getManifestName(),
@@ -91,12 +70,7 @@ CErrorText writeArchive(const QString &file, const QByteArray &manifest, const Q
             && addFile(archive.get(), name,
                        zip_source_file(archive.get(), path.constData(), 0, -1));
     }
-    if (isAdded && zip_close(archive.get()) == 0) {
-        static_cast<void>(archive.release());
-        return {};
-    }
-    return CErrorText::tr("the archive cannot be written: %1")
-        .arg(QString::fromUtf8(zip_strerror(archive.get())));
+    return finishArchive(std::move(archive), isAdded);
 }
 
 } // namespace
@@ -106,7 +80,7 @@ CUpdateFilePacker::CUpdateFilePacker(const QString &folder)
 {
 }
 
-CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
+CUpdateManifest CUpdateFilePacker::pack(const QString &file, const Signature::CSigner *signer) const
 {
     // The author's own text, so that a fault is told with the line in which it stands there.
     const QByteArray source = readSource();
@@ -129,6 +103,8 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file) const
         throw CUpdateFileError(file, writeFault);
 
     try {
+        if (signer)
+            addSignature(draft, *signer);
         CUpdateManifest manifest = CUpdateFileReader::read(draft);
         if (std::rename(QFile::encodeName(draft).constData(),
                         QFile::encodeName(target.absoluteFilePath()).constData())
@@ -167,8 +143,9 @@ QByteArray CUpdateFilePacker::readSource() const
     if (!info.isFile())
         fail(CErrorText::tr("there is no update.json in the folder"));
     if (info.size() > Limits::MANIFEST_SIZE)
-        fail(CErrorText::tr("update.json has %1 bytes; at most %2 are allowed")
-                 .arg(QString::number(info.size()), QString::number(Limits::MANIFEST_SIZE)));
+        fail(CErrorText::tr("%1 has %2 bytes; at most %3 are allowed")
+                 .arg(getManifestName(), QString::number(info.size()),
+                      QString::number(Limits::MANIFEST_SIZE)));
     QFile source(info.filePath());
     if (!source.open(QIODevice::ReadOnly))
         fail(CErrorText::tr("update.json cannot be opened; check its access rights"));

@@ -6,6 +6,10 @@
 #include <QJsonObject>
 #include <QString>
 
+namespace Viewer::Signature {
+class CSigner;
+}
+
 namespace Viewer::GufTool {
 
 /// Makes an update file from a folder that holds update.json and the payloads that it names. The
@@ -17,8 +21,9 @@ public:
 
     /// Writes the update file and returns what it says. The file takes its place only when it is
     /// whole and has been read back without a fault; until then one that is there already stays as
-    /// it is. Throws CUpdateFileError.
-    UpdateFile::CUpdateManifest pack(const QString &file) const;
+    /// it is. Signed by @p signer; null: not signed. Throws CUpdateFileError.
+    UpdateFile::CUpdateManifest pack(const QString &file,
+                                     const Signature::CSigner *signer = nullptr) const;
 
 private:
     [[nodiscard]] QByteArray readSource() const;

@@ -4,6 +4,7 @@
 #include "exitcode.h"
 #include "message.h"
 
+#include "viewer/signature/signatureverdict.h"
 #include "viewer/update/updatehistorymodel.h"
 #include "viewer/updatefile/updatemanifest.h"
 
@@ -28,6 +29,9 @@ public:
     virtual ~IReport() = default;
 
     virtual void showCameras(const QVector<Camera::CCameraSnapshot> &cameras) = 0;
+    /// Of the update file at @p filePath.
+    virtual void showSignature(const QString &filePath, const Signature::CSignatureVerdict &verdict)
+        = 0;
     virtual void showEntries(const QVector<UpdateFile::CUpdateEntry> &entries) = 0;
     virtual void showVerdicts(const QVector<CCameraVerdict> &verdicts) = 0;
     virtual void showHistory(const Update::CUpdateHistoryModel &history) = 0;

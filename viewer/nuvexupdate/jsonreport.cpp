@@ -100,6 +100,17 @@ void CJsonReport::showCameras(const QVector<Camera::CCameraSnapshot> &cameras)
         print("camera", toJson(camera));
 }
 
+void CJsonReport::showSignature(const QString &filePath,
+                                const Signature::CSignatureVerdict &verdict)
+{
+    QJsonObject object = verdict.toJson();
+    object.insert(QStringLiteral("file"), toJson(filePath));
+    object.insert(QStringLiteral("message"),
+                  toJson(CMessage{object.value(QStringLiteral("state")).toString(),
+                                  verdict.describe().getLocalized()}));
+    print("signature", object);
+}
+
 void CJsonReport::showEntries(const QVector<UpdateFile::CUpdateEntry> &entries)
 {
     for (const UpdateFile::CUpdateEntry &entry : entries)

@@ -14,6 +14,12 @@ void CReportGroup::showCameras(const QVector<Camera::CCameraSnapshot> &cameras)
     call(&IReport::showCameras, cameras);
 }
 
+void CReportGroup::showSignature(const QString &filePath,
+                                 const Signature::CSignatureVerdict &verdict)
+{
+    call(&IReport::showSignature, filePath, verdict);
+}
+
 void CReportGroup::showEntries(const QVector<UpdateFile::CUpdateEntry> &entries)
 {
     call(&IReport::showEntries, entries);

@@ -14,6 +14,8 @@ public:
     void add(std::unique_ptr<IReport> report);
 
     void showCameras(const QVector<Camera::CCameraSnapshot> &cameras) override;
+    void showSignature(const QString &filePath,
+                       const Signature::CSignatureVerdict &verdict) override;
     void showEntries(const QVector<UpdateFile::CUpdateEntry> &entries) override;
     void showVerdicts(const QVector<CCameraVerdict> &verdicts) override;
     void showHistory(const Update::CUpdateHistoryModel &history) override;

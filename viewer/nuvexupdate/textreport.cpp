@@ -3,6 +3,7 @@
 #include "viewer/text/displaywidth.h"
 #include "viewer/text/visibletext.h"
 #include "viewer/updatefile/manifestparser.h"
+#include "viewer/updatefile/updatefileerror.h"
 
 #include <QTime>
 
@@ -82,6 +83,15 @@ void CTextReport::showCameras(const QVector<Camera::CCameraSnapshot> &cameras)
                      shorten(status, 200)});
     }
     printTable(rows);
+}
+
+void CTextReport::showSignature(const QString &filePath,
+                                const Signature::CSignatureVerdict &verdict)
+{
+    print(UpdateFile::CUpdateFileError(filePath, verdict.describe()).getText().getLocalized());
+    if (!verdict.signer.isNull())
+        print(
+            tr("SHA-256 fingerprint of the certificate: %1").arg(verdict.signer.getFingerprint()));
 }
 
 void CTextReport::showEntries(const QVector<UpdateFile::CUpdateEntry> &entries)

@@ -23,6 +23,8 @@ public:
     CTextReport(COutput &output, COutput &warnings, EStamp stamp = EStamp::None);
 
     void showCameras(const QVector<Camera::CCameraSnapshot> &cameras) override;
+    void showSignature(const QString &filePath,
+                       const Signature::CSignatureVerdict &verdict) override;
     void showEntries(const QVector<UpdateFile::CUpdateEntry> &entries) override;
     void showVerdicts(const QVector<CCameraVerdict> &verdicts) override;
     void showHistory(const Update::CUpdateHistoryModel &history) override;

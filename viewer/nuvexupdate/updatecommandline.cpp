@@ -56,8 +56,9 @@ bool hasOption(ECommand command, const QString &name)
         return name != QLatin1String("csv") && !selection.contains(name);
     case ECommand::History:
         return name == QLatin1String("csv");
-    case ECommand::List:
     case ECommand::Check:
+        return name == QLatin1String("require-signature");
+    case ECommand::List:
         break;
     }
     return false;
@@ -156,6 +157,10 @@ QVector<COption> CUpdateCommandLine::getUpdateOptions()
          tr("Begin no further camera after so many failures (default 1)."),
          CommandLine::takeInteger(m_request.maximumFailures, 1, MAXIMUM_COUNT),
          tr("--max-failures takes a number of cameras, not \"%1\".")},
+        {QStringLiteral("require-signature"),
+         {},
+         tr("check, update, resume: only with a file that a trusted maker has signed."),
+         CommandLine::takeSwitch(m_request.requiresSignature)},
         {QStringLiteral("dry-run"),
          {},
          tr("Only say what would be done."),

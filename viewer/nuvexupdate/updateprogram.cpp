@@ -7,8 +7,11 @@
 
 #include "viewer/camerapool/camerainfo.h"
 #include "viewer/camerapool/camerapool.h"
+#include "viewer/camerapool/devicefirmwareupdateservice.h"
 #include "viewer/files/statefolder.h"
 #include "viewer/process/workerpath.h"
+#include "viewer/signature/signaturepolicy.h"
+#include "viewer/signature/truststore.h"
 #include "viewer/text/csv.h"
 #include "viewer/text/visibletext.h"
 #include "viewer/update/firmwareupdateinfo.h"
@@ -77,6 +80,7 @@ void CUpdateProgram::openPool()
         kind->setDataFolder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
     m_pool = std::make_unique<CameraPool::CCameraPool>(std::move(m_request.kinds), m_journalFolder);
     m_pool->setWorker(Process::getWorkerPath(), m_language);
+    setSignaturePolicy();
     // Later changes are of no interest.
     const auto enumeration = m_pool->getService<ICameraEnumerationService>();
     const auto once = std::make_shared<QMetaObject::Connection>();
@@ -86,6 +90,31 @@ void CUpdateProgram::openPool()
                         onEnumerated();
                     });
     m_pool->start();
+}
+
+void CUpdateProgram::setSignaturePolicy()
+{
+    using Signature::CSignaturePolicy;
+    CSignaturePolicy policy
+        = CSignaturePolicy::read(CSignaturePolicy::getSystemFolder(), Files::getConfigFolder());
+    if (!policy.getFault().isEmpty())
+        warn(QStringLiteral("policy-fault"), policy.getFault().getLocalized());
+    if (m_request.requiresSignature)
+        policy.requireSignatures();
+    const auto service = m_pool->getService<CameraPool::CDeviceFirmwareUpdateService>();
+    service->setSignaturePolicy(policy);
+    connect(
+        service.data(), &CameraPool::CDeviceFirmwareUpdateService::signatureJudged, this,
+        [this, folders = policy.getTrustFolders()](const QString &filePath, const auto &verdict) {
+            m_signatures.insert(filePath, verdict);
+            if (m_request.command == ECommand::Check)
+                m_report->showSignature(filePath, verdict);
+            if (verdict.state != Signature::CSignatureVerdict::EState::NotTrusted)
+                return;
+            const Signature::CTrustStore store(folders);
+            for (const Text::CErrorText &fault : store.getFaults())
+                warn(QStringLiteral("trust-fault"), fault.getLocalized());
+        });
 }
 
 void CUpdateProgram::onEnumerated()
@@ -349,8 +378,12 @@ void CUpdateProgram::startSeries()
 {
     m_log = std::make_unique<CUpdateLog>(
         [this](const QString &sentence) { warn(QStringLiteral("log-fault"), sentence); });
-    if (COutput *const log = m_log->getOutput())
-        m_report->add(std::make_unique<CTextReport>(*log, *log, CTextReport::EStamp::Time));
+    if (COutput *const log = m_log->getOutput()) {
+        auto report = std::make_unique<CTextReport>(*log, *log, CTextReport::EStamp::Time);
+        for (auto file = m_signatures.constBegin(); file != m_signatures.constEnd(); ++file)
+            report->showSignature(file.key(), file.value());
+        m_report->add(std::move(report));
+    }
     m_pool->setLogFinder([path = m_log->getPath()] { return path; });
     const auto service = m_pool->getService<IDeviceFirmwareUpdateService>();
     m_series = std::make_unique<CUpdateSeries>(

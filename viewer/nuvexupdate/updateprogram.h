@@ -7,6 +7,7 @@
 #include "updateseries.h"
 
 #include <QElapsedTimer>
+#include <QMap>
 #include <QObject>
 
 #include <memory>
@@ -50,6 +51,7 @@ private:
     using InfoPtr = CCameraVerdict::InfoPtr;
 
     void openPool();
+    void setSignaturePolicy();
     void onEnumerated();
     void listCameras();
     void checkFile();
@@ -84,6 +86,7 @@ private:
     QVector<CCameraRun> m_leftAlone;
     std::unique_ptr<CQuestion> m_question;
     std::unique_ptr<CUpdateSeries> m_series;
+    QMap<QString, Signature::CSignatureVerdict> m_signatures; ///< of files that were read, by path
     QElapsedTimer m_timer;
     bool m_isStopped = false;
     bool m_isFinished = false;

@@ -18,6 +18,7 @@ struct CUpdateRequest
     QString language; ///< empty: as remembered
     bool isJson = false;
     bool isCsv = false; ///< History
+    bool requiresSignature = false; ///< Check, Update, Resume: whatever the policy says
 
     // Update: which cameras, by exactly one of these.
     QStringList cameras; ///< ids or serial numbers, each once

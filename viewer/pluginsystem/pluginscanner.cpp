@@ -1,6 +1,6 @@
 #include "pluginscanner.h"
 
-#include "pathtrust.h"
+#include "viewer/files/pathtrust.h"
 
 #include "core/iplugin.h"
 
@@ -20,12 +20,12 @@ QString CPluginScanner::findFault(const QString &directory, const QFileInfo &lib
 {
     // The library's own folder is another one when a link leads to it.
     for (const QString &folder : {directory, library.path()}) {
-        const QString fault = CPathTrust::findFault(folder);
+        const QString fault = Files::findPathFault(folder).getLocalized();
         if (!fault.isEmpty())
             return tr("Its folder \"%1\" is not safe: %2.")
                 .arg(QDir::toNativeSeparators(folder), fault);
     }
-    const QString fault = CPathTrust::findFault(library.filePath());
+    const QString fault = Files::findPathFault(library.filePath()).getLocalized();
     return fault.isEmpty() ? QString() : tr("Its file is not safe: %1.").arg(fault);
 }
 

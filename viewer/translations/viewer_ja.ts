@@ -121,6 +121,10 @@
         <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
         <translation>実際のカメラより速くファームウェア更新ウィザードを進め、画面を &lt;フォルダー&gt; に保存して終了します。</translation>
     </message>
+    <message>
+        <source>Use only update files that a trusted maker has signed, this time.</source>
+        <translation>今回は、信頼する作成者が署名した更新ファイルだけを使用します。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -368,6 +372,89 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CTrustedMakersDialog</name>
+    <message>
+        <source>Trusted makers</source>
+        <translation>信頼する作成者</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>作成者</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>有効期限</translation>
+    </message>
+    <message>
+        <source>Trusted by</source>
+        <translation>信頼の設定元</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>追加(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>削除(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Nobody is trusted yet. Add the certificates of the makers whose update files you use.</source>
+        <translation>信頼する作成者はまだいません。使用する更新ファイルの作成者の証明書を追加してください。</translation>
+    </message>
+    <message>
+        <source>Maker: %1
+Issued by: %2
+Valid: %3 to %4
+SHA-256 fingerprint:
+%5</source>
+        <translation>作成者: %1
+発行者: %2
+有効期間: %3 ～ %4
+SHA-256 フィンガープリント:
+%5</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>このコンピューター</translation>
+    </message>
+    <message>
+        <source>Add a trusted maker</source>
+        <translation>信頼する作成者の追加</translation>
+    </message>
+    <message>
+        <source>Certificates in PEM</source>
+        <translation>PEM 形式の証明書</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read, or has not exactly one certificate in PEM.</source>
+        <translation>ファイル「%1」を読み取れないか、PEM 形式の証明書がちょうど 1 つではありません。</translation>
+    </message>
+    <message>
+        <source>Trust the update files of this maker? Compare the fingerprint with the one that the maker has told you in another way.</source>
+        <translation>この作成者の更新ファイルを信頼しますか? 作成者から別の方法で知らされたフィンガープリントと比べてください。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>ファイル「%1」に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>Trust this maker no longer? The file &quot;%1&quot; is removed.</source>
+        <translation>この作成者の信頼を取り消しますか? ファイル「%1」は削除されます。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be removed: %2.</source>
+        <translation>ファイル「%1」を削除できません: %2。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CUpdateHistoryDialog</name>
     <message>
         <source>Update history</source>
@@ -489,6 +576,10 @@
     <message>
         <source>&amp;Update history...</source>
         <translation>更新履歴(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Trusted &amp;makers...</source>
+        <translation>信頼する作成者(&amp;M)...</translation>
     </message>
 </context>
 <context>
@@ -748,10 +839,6 @@ Firmware: %5</source>
         <translation>コマンド「%1」の引数が少なすぎるか、多すぎます。</translation>
     </message>
     <message>
-        <source>The command &quot;%1&quot; has no option --json.</source>
-        <translation>コマンド「%1」に --json オプションはありません。</translation>
-    </message>
-    <message>
         <source>Packed %1: updates: %2, bytes: %3</source>
         <translation>%1 を作成しました (更新 %2 件、%3 バイト)</translation>
     </message>
@@ -760,32 +847,76 @@ Firmware: %5</source>
         <translation>%1 に問題はありません (更新 %2 件)</translation>
     </message>
     <message>
-        <source>Usage: guftool pack DIR FILE
-       guftool inspect [--json] FILE
-       guftool verify FILE
+        <source>The command &quot;%1&quot; has no option --%2.</source>
+        <translation>コマンド「%1」に --%2 オプションはありません。</translation>
+    </message>
+    <message>
+        <source>A signature needs --certificate and --key.</source>
+        <translation>署名には --certificate と --key が必要です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <translation>「%1」はフォルダーではありません。</translation>
+    </message>
+    <message>
+        <source>Passphrase of the key:</source>
+        <translation>鍵のパスフレーズ:</translation>
+    </message>
+    <message>
+        <source>It cannot be signed: %1</source>
+        <translation>署名できません: %1</translation>
+    </message>
+    <message>
+        <source>Signed %1</source>
+        <translation>%1 に署名しました</translation>
+    </message>
+    <message>
+        <source>Signed by %1, SHA-256 fingerprint %2</source>
+        <translation>署名者 %1、SHA-256 フィンガープリント %2</translation>
+    </message>
+    <message>
+        <source>Usage: guftool pack DIR FILE [--sign SIGNING]
+       guftool sign FILE SIGNING
+       guftool inspect [--json] [--trust DIR] FILE
+       guftool verify [--trust DIR] FILE
+
+SIGNING  --certificate FILE --key FILE [--chain FILE]
+         [--passphrase-file FILE], all of them in PEM but the last,
+         whose first line is the passphrase of the key
 
 pack     makes the update file FILE from DIR/update.json and the payloads
          in DIR that it names; sizes and digests that it leaves out are
          filled in
-inspect  checks FILE and shows what it holds, with --json as JSON
-verify   checks FILE
+sign     adds a signature to FILE
+inspect  checks FILE and shows what it holds, with --json as JSON, and
+         whether this computer, or DIR, trusts the one who signed it
+verify   checks FILE, with --trust also that one of the makers whose
+         certificates are in DIR has signed it
 
 Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong
-call of this program.
+call of this program, 3 when the signature is missing or not trusted.
 </source>
         <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
-        <translation>使い方: guftool pack &lt;フォルダー&gt; &lt;ファイル&gt;
-        guftool inspect [--json] &lt;ファイル&gt;
-        guftool verify &lt;ファイル&gt;
+        <translation>使い方: guftool pack &lt;フォルダー&gt; &lt;ファイル&gt; [--sign &lt;署名&gt;]
+        guftool sign &lt;ファイル&gt; &lt;署名&gt;
+        guftool inspect [--json] [--trust &lt;フォルダー&gt;] &lt;ファイル&gt;
+        guftool verify [--trust &lt;フォルダー&gt;] &lt;ファイル&gt;
+
+&lt;署名&gt;   --certificate &lt;ファイル&gt; --key &lt;ファイル&gt; [--chain &lt;ファイル&gt;]
+         [--passphrase-file &lt;ファイル&gt;]。最後のファイル以外は PEM 形式で、
+         最後のファイルの 1 行目は鍵のパスフレーズです
 
 pack     &lt;フォルダー&gt;/update.json と、そこに指定された &lt;フォルダー&gt; 内の
          データファイルから更新ファイル &lt;ファイル&gt; を作成します。省略された
          サイズとダイジェストは自動的に補われます
-inspect  &lt;ファイル&gt; を検査し、内容を表示します (--json: JSON 形式)
-verify   &lt;ファイル&gt; を検査します
+sign     &lt;ファイル&gt; に署名を追加します
+inspect  &lt;ファイル&gt; を検査し、内容を表示し (--json: JSON 形式)、署名者が
+         このコンピューターまたは &lt;フォルダー&gt; で信頼されているかを示します
+verify   &lt;ファイル&gt; を検査します。--trust を付けると、&lt;フォルダー&gt; に証明書が
+         ある作成者が署名したかどうかも検査します
 
 終了コード: 正常な場合は 0、ファイルに問題がある場合は 1、プログラムの
-呼び出し方が正しくない場合は 2 です。
+呼び出し方が正しくない場合は 2、署名がないか信頼できない場合は 3 です。
 </translation>
     </message>
 </context>
@@ -840,6 +971,32 @@ Update %1
     <message>
         <source>%1 (%2 bytes) to %3</source>
         <translation>%1 (%2 バイト) → %3</translation>
+    </message>
+    <message>
+        <source>
+Signature
+  State:            %1
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>
+署名
+  状態:             %1
+</translation>
+    </message>
+    <message>
+        <source>  Signer:           %1
+  Issuer:           %2
+  Valid from:       %3
+  Valid until:      %4
+  SHA-256:          %5
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>  署名者:           %1
+  発行者:           %2
+  有効期間の開始:   %3
+  有効期限:         %4
+  SHA-256 (証明書): %5
+</translation>
     </message>
 </context>
 <context>
@@ -1068,6 +1225,10 @@ Update %1
         <source>%1 (%2 s)</source>
         <translation>%1 (%2 秒)</translation>
     </message>
+    <message>
+        <source>SHA-256 fingerprint of the certificate: %1</source>
+        <translation>証明書の SHA-256 フィンガープリント: %1</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::NuvexUpdate::CUpdateCommandLine</name>
@@ -1199,6 +1360,10 @@ Update %1
         <source>--camera, --model and --all exclude each other.</source>
         <translation>--camera、--model、--all は同時に使用できません。</translation>
     </message>
+    <message>
+        <source>check, update, resume: only with a file that a trusted maker has signed.</source>
+        <translation>check、update、resume: 信頼する作成者が署名したファイルだけを使用します。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::NuvexUpdate::CUpdateLog</name>
@@ -1310,17 +1475,6 @@ Update %1
     <message>
         <source>It needs &quot;%1&quot; %2, but version %3 is installed, which is compatible with %4 and later.</source>
         <translation>「%1」バージョン %2 が必要ですが、インストールされているバージョン %3 は %4 以降とのみ互換性があります。</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::PluginSystem::CPathTrust</name>
-    <message>
-        <source>it belongs to the user %1</source>
-        <translation>ユーザー %1 の所有物です</translation>
-    </message>
-    <message>
-        <source>users other than its owner can write to it</source>
-        <translation>所有者以外のユーザーが書き込めます</translation>
     </message>
 </context>
 <context>
@@ -2249,6 +2403,174 @@ Update %1
     <message>
         <source>the camera program ended unexpectedly (exit code %1)</source>
         <translation>カメラプログラムが予期せず終了しました (終了コード %1)</translation>
+    </message>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>ユーザー %1 の所有物です</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>所有者以外のユーザーが書き込めます</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bytes; at most %3 are allowed</source>
+        <translation>%1 のサイズ (%2 バイト) が上限の %3 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>it cannot be signed: %1</source>
+        <translation>署名できません: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be copied into the temporary folder</source>
+        <translation>一時フォルダーにコピーできません</translation>
+    </message>
+    <message>
+        <source>its RSA key has %1 bits; at least %2 are needed</source>
+        <translation>RSA 鍵が %1 ビットです (%2 ビット以上が必要です)</translation>
+    </message>
+    <message>
+        <source>its key is of an unknown kind; known are RSA, EC P-256, EC P-384 and Ed25519</source>
+        <translation>鍵の種類が不明です。使用できるのは RSA、EC P-256、EC P-384、Ed25519 です</translation>
+    </message>
+    <message>
+        <source>it is not made for signing code</source>
+        <translation>コード署名用ではありません</translation>
+    </message>
+    <message>
+        <source>line %1 is neither &quot;signatures = tell&quot; nor &quot;signatures = require&quot;</source>
+        <translation>%1 行目が「signatures = tell」でも「signatures = require」でもありません</translation>
+    </message>
+    <message>
+        <source>Only signed update files can be used, since the file &quot;%1&quot; cannot be believed: %2.</source>
+        <translation>ファイル「%1」を信用できないため、署名された更新ファイルだけを使用できます: %2。</translation>
+    </message>
+    <message>
+        <source>%1; only update files of trusted makers can be used here</source>
+        <translation>%1。ここでは信頼する作成者の更新ファイルだけを使用できます</translation>
+    </message>
+    <message>
+        <source>it is not signed</source>
+        <translation>署名されていません</translation>
+    </message>
+    <message>
+        <source>it is signed by %1</source>
+        <translation>%1 が署名しました</translation>
+    </message>
+    <message>
+        <source>its signature is not trusted: %1</source>
+        <translation>署名を信頼できません: %1</translation>
+    </message>
+    <message>
+        <source>the certificate of its signer is missing</source>
+        <translation>署名者の証明書がありません</translation>
+    </message>
+    <message>
+        <source>its digest is none that is known and strong enough; it has to be SHA-256, SHA-384 or SHA-512</source>
+        <translation>ダイジェストが未知か、強度が足りません。SHA-256、SHA-384、SHA-512 のいずれかでなければなりません</translation>
+    </message>
+    <message>
+        <source>it is the signature of another update.json</source>
+        <translation>別の update.json の署名です</translation>
+    </message>
+    <message>
+        <source>it was not made with the key of %1, or by an unknown method</source>
+        <translation>%1 の鍵による署名ではないか、方式が不明です</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes; at most %2 are allowed</source>
+        <translation>サイズ (%1 バイト) が上限の %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>it is not a detached CMS signature in DER</source>
+        <translation>DER 形式の分離 CMS 署名ではありません</translation>
+    </message>
+    <message>
+        <source>it has more than %1 certificates</source>
+        <translation>証明書が %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>it has more than %1 signers</source>
+        <translation>署名者が %1 名を超えています</translation>
+    </message>
+    <message>
+        <source>it has a certificate of %1 bytes; at most %2 are allowed</source>
+        <translation>証明書のサイズ (%1 バイト) が上限の %2 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; has no certificate in PEM</source>
+        <translation>ファイル「%1」に PEM 形式の証明書がありません</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be read: %2</source>
+        <translation>ファイル「%1」を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; has no key in PEM, or its passphrase is wrong or missing</source>
+        <translation>ファイル「%1」に PEM 形式の鍵がないか、パスフレーズが正しくないか、ありません</translation>
+    </message>
+    <message>
+        <source>the key in &quot;%1&quot; is not that of the certificate</source>
+        <translation>「%1」の鍵は証明書の鍵ではありません</translation>
+    </message>
+    <message>
+        <source>OpenSSL cannot sign with this key</source>
+        <translation>OpenSSL はこの鍵で署名できません</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not valid before %2</source>
+        <translation>%1 の証明書は %2 から有効です</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 has expired on %2</source>
+        <translation>%1 の証明書は %2 に期限が切れました</translation>
+    </message>
+    <message>
+        <source>%1 is not among the trusted makers</source>
+        <translation>%1 は信頼する作成者ではありません</translation>
+    </message>
+    <message>
+        <source>more than %1 certificates lead to a trusted maker</source>
+        <translation>信頼する作成者までの証明書が %1 個を超えています</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 has a weak key, or is signed by a weak method</source>
+        <translation>%1 の証明書は、鍵か署名方式の強度が足りません</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 cannot be used (%2)</source>
+        <translation>%1 の証明書は使用できません (%2)</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; is not read: %2</source>
+        <translation>フォルダー「%1」は読み取りません: %2</translation>
+    </message>
+    <message>
+        <source>of the folder &quot;%1&quot; only the first %2 files are read</source>
+        <translation>フォルダー「%1」では最初の %2 個のファイルだけを読み取ります</translation>
+    </message>
+    <message>
+        <source>it is no regular file, or has more than %1 bytes</source>
+        <translation>通常のファイルでないか、%1 バイトを超えています</translation>
+    </message>
+    <message>
+        <source>it has no certificate and no revocation list in PEM</source>
+        <translation>PEM 形式の証明書も失効リストもありません</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; is not read: %2</source>
+        <translation>ファイル「%1」は読み取りません: %2</translation>
+    </message>
+    <message>
+        <source>the certificate of %1: %2</source>
+        <translation>%1 の証明書: %2</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 was revoked</source>
+        <translation>%1 の証明書は失効しています</translation>
+    </message>
+    <message>
+        <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
+        <translation>%1 の失効リストが古くなっています。最新のものを証明書と同じ場所に置いてください</translation>
     </message>
 </context>
 <context>

@@ -121,6 +121,10 @@
         <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
         <translation>실제 카메라보다 빠르게 펌웨어 업데이트 마법사를 진행하고 화면을 &lt;폴더&gt;에 저장한 뒤 종료합니다.</translation>
     </message>
+    <message>
+        <source>Use only update files that a trusted maker has signed, this time.</source>
+        <translation>이번에는 신뢰하는 제작자가 서명한 업데이트 파일만 사용합니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -368,6 +372,89 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CTrustedMakersDialog</name>
+    <message>
+        <source>Trusted makers</source>
+        <translation>신뢰하는 제작자</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>제작자</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>유효 기한</translation>
+    </message>
+    <message>
+        <source>Trusted by</source>
+        <translation>신뢰 주체</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>추가(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>제거(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Nobody is trusted yet. Add the certificates of the makers whose update files you use.</source>
+        <translation>아직 신뢰하는 제작자가 없습니다. 사용하는 업데이트 파일의 제작자 인증서를 추가하십시오.</translation>
+    </message>
+    <message>
+        <source>Maker: %1
+Issued by: %2
+Valid: %3 to %4
+SHA-256 fingerprint:
+%5</source>
+        <translation>제작자: %1
+발급자: %2
+유효 기간: %3 ~ %4
+SHA-256 지문:
+%5</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>사용자</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>이 컴퓨터</translation>
+    </message>
+    <message>
+        <source>Add a trusted maker</source>
+        <translation>신뢰하는 제작자 추가</translation>
+    </message>
+    <message>
+        <source>Certificates in PEM</source>
+        <translation>PEM 인증서</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>모든 파일</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read, or has not exactly one certificate in PEM.</source>
+        <translation>파일 &quot;%1&quot;을(를) 읽을 수 없거나, 파일에 PEM 인증서가 정확히 하나 들어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Trust the update files of this maker? Compare the fingerprint with the one that the maker has told you in another way.</source>
+        <translation>이 제작자의 업데이트 파일을 신뢰하시겠습니까? 제작자가 다른 방법으로 알려 준 지문과 비교하십시오.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>파일 &quot;%1&quot;에 쓸 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Trust this maker no longer? The file &quot;%1&quot; is removed.</source>
+        <translation>이 제작자를 더 이상 신뢰하지 않으시겠습니까? 파일 &quot;%1&quot;이(가) 제거됩니다.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be removed: %2.</source>
+        <translation>파일 &quot;%1&quot;을(를) 제거할 수 없습니다: %2.</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CUpdateHistoryDialog</name>
     <message>
         <source>Update history</source>
@@ -489,6 +576,10 @@
     <message>
         <source>&amp;Update history...</source>
         <translation>업데이트 기록(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Trusted &amp;makers...</source>
+        <translation>신뢰하는 제작자(&amp;M)...</translation>
     </message>
 </context>
 <context>
@@ -748,10 +839,6 @@ Firmware: %5</source>
         <translation>명령 &quot;%1&quot;의 인수가 너무 적거나 많습니다.</translation>
     </message>
     <message>
-        <source>The command &quot;%1&quot; has no option --json.</source>
-        <translation>명령 &quot;%1&quot;에는 --json 옵션이 없습니다.</translation>
-    </message>
-    <message>
         <source>Packed %1: updates: %2, bytes: %3</source>
         <translation>파일을 만들었습니다: %1(업데이트 %2개, %3바이트)</translation>
     </message>
@@ -760,32 +847,76 @@ Firmware: %5</source>
         <translation>%1에 오류가 없습니다(업데이트 %2개)</translation>
     </message>
     <message>
-        <source>Usage: guftool pack DIR FILE
-       guftool inspect [--json] FILE
-       guftool verify FILE
+        <source>The command &quot;%1&quot; has no option --%2.</source>
+        <translation>명령 &quot;%1&quot;에는 --%2 옵션이 없습니다.</translation>
+    </message>
+    <message>
+        <source>A signature needs --certificate and --key.</source>
+        <translation>서명하려면 --certificate와 --key가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <translation>&quot;%1&quot;은(는) 폴더가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Passphrase of the key:</source>
+        <translation>키의 암호:</translation>
+    </message>
+    <message>
+        <source>It cannot be signed: %1</source>
+        <translation>서명할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Signed %1</source>
+        <translation>%1에 서명했습니다</translation>
+    </message>
+    <message>
+        <source>Signed by %1, SHA-256 fingerprint %2</source>
+        <translation>서명자 %1, SHA-256 지문 %2</translation>
+    </message>
+    <message>
+        <source>Usage: guftool pack DIR FILE [--sign SIGNING]
+       guftool sign FILE SIGNING
+       guftool inspect [--json] [--trust DIR] FILE
+       guftool verify [--trust DIR] FILE
+
+SIGNING  --certificate FILE --key FILE [--chain FILE]
+         [--passphrase-file FILE], all of them in PEM but the last,
+         whose first line is the passphrase of the key
 
 pack     makes the update file FILE from DIR/update.json and the payloads
          in DIR that it names; sizes and digests that it leaves out are
          filled in
-inspect  checks FILE and shows what it holds, with --json as JSON
-verify   checks FILE
+sign     adds a signature to FILE
+inspect  checks FILE and shows what it holds, with --json as JSON, and
+         whether this computer, or DIR, trusts the one who signed it
+verify   checks FILE, with --trust also that one of the makers whose
+         certificates are in DIR has signed it
 
 Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong
-call of this program.
+call of this program, 3 when the signature is missing or not trusted.
 </source>
         <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
-        <translation>사용법: guftool pack &lt;폴더&gt; &lt;파일&gt;
-        guftool inspect [--json] &lt;파일&gt;
-        guftool verify &lt;파일&gt;
+        <translation>사용법: guftool pack &lt;폴더&gt; &lt;파일&gt; [--sign &lt;서명&gt;]
+        guftool sign &lt;파일&gt; &lt;서명&gt;
+        guftool inspect [--json] [--trust &lt;폴더&gt;] &lt;파일&gt;
+        guftool verify [--trust &lt;폴더&gt;] &lt;파일&gt;
+
+&lt;서명&gt;   --certificate &lt;파일&gt; --key &lt;파일&gt; [--chain &lt;파일&gt;]
+         [--passphrase-file &lt;파일&gt;]. 마지막 파일을 제외하고 모두 PEM이며,
+         마지막 파일의 첫 줄은 키의 암호입니다
 
 pack     &lt;폴더&gt;/update.json과 여기에 지정된 &lt;폴더&gt; 안의 데이터 파일로
          업데이트 파일 &lt;파일&gt;을 만듭니다. 생략된 크기와 다이제스트는
          자동으로 채웁니다
-inspect  &lt;파일&gt;을 검사하고 내용을 표시합니다(--json: JSON 형식)
-verify   &lt;파일&gt;을 검사합니다
+sign     &lt;파일&gt;에 서명을 추가합니다
+inspect  &lt;파일&gt;을 검사하고 내용을 표시하며(--json: JSON 형식), 이 컴퓨터나
+         &lt;폴더&gt;가 서명한 사람을 신뢰하는지 알려 줍니다
+verify   &lt;파일&gt;을 검사합니다. --trust를 지정하면 &lt;폴더&gt;에 인증서가 있는
+         제작자가 서명했는지도 검사합니다
 
 종료 코드: 정상이면 0, 파일에 오류가 있으면 1, 이 프로그램을 잘못
-호출하면 2입니다.
+호출하면 2, 서명이 없거나 신뢰할 수 없으면 3입니다.
 </translation>
     </message>
 </context>
@@ -840,6 +971,32 @@ Update %1
     <message>
         <source>%1 (%2 bytes) to %3</source>
         <translation>%1(%2바이트) → %3</translation>
+    </message>
+    <message>
+        <source>
+Signature
+  State:            %1
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>
+서명
+  상태:             %1
+</translation>
+    </message>
+    <message>
+        <source>  Signer:           %1
+  Issuer:           %2
+  Valid from:       %3
+  Valid until:      %4
+  SHA-256:          %5
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>  서명자:           %1
+  발급자:           %2
+  유효 기간 시작:   %3
+  유효 기간 끝:     %4
+  SHA-256 지문:     %5
+</translation>
     </message>
 </context>
 <context>
@@ -1068,6 +1225,10 @@ Update %1
         <source>%1 (%2 s)</source>
         <translation>%1(%2초)</translation>
     </message>
+    <message>
+        <source>SHA-256 fingerprint of the certificate: %1</source>
+        <translation>인증서의 SHA-256 지문: %1</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::NuvexUpdate::CUpdateCommandLine</name>
@@ -1199,6 +1360,10 @@ Update %1
         <source>--camera, --model and --all exclude each other.</source>
         <translation>--camera, --model, --all은 함께 사용할 수 없습니다.</translation>
     </message>
+    <message>
+        <source>check, update, resume: only with a file that a trusted maker has signed.</source>
+        <translation>check, update, resume: 신뢰하는 제작자가 서명한 파일만 사용합니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::NuvexUpdate::CUpdateLog</name>
@@ -1310,17 +1475,6 @@ Update %1
     <message>
         <source>It needs &quot;%1&quot; %2, but version %3 is installed, which is compatible with %4 and later.</source>
         <translation>&quot;%1&quot; %2이(가) 필요하지만, 설치된 버전은 %3이며 %4 버전부터만 호환됩니다.</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::PluginSystem::CPathTrust</name>
-    <message>
-        <source>it belongs to the user %1</source>
-        <translation>사용자 %1의 소유입니다</translation>
-    </message>
-    <message>
-        <source>users other than its owner can write to it</source>
-        <translation>소유자가 아닌 사용자가 쓸 수 있습니다</translation>
     </message>
 </context>
 <context>
@@ -2249,6 +2403,174 @@ Update %1
     <message>
         <source>the camera program ended unexpectedly (exit code %1)</source>
         <translation>카메라 프로그램이 예기치 않게 종료되었습니다(종료 코드 %1)</translation>
+    </message>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>사용자 %1의 소유입니다</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>소유자가 아닌 사용자가 쓸 수 있습니다</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bytes; at most %3 are allowed</source>
+        <translation>%1의 크기가 %2바이트입니다. 최대 %3바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>it cannot be signed: %1</source>
+        <translation>서명할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be copied into the temporary folder</source>
+        <translation>임시 폴더로 복사할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>its RSA key has %1 bits; at least %2 are needed</source>
+        <translation>RSA 키가 %1비트입니다. 최소 %2비트가 필요합니다</translation>
+    </message>
+    <message>
+        <source>its key is of an unknown kind; known are RSA, EC P-256, EC P-384 and Ed25519</source>
+        <translation>키의 종류를 알 수 없습니다. 사용할 수 있는 종류는 RSA, EC P-256, EC P-384, Ed25519입니다</translation>
+    </message>
+    <message>
+        <source>it is not made for signing code</source>
+        <translation>코드 서명용이 아닙니다</translation>
+    </message>
+    <message>
+        <source>line %1 is neither &quot;signatures = tell&quot; nor &quot;signatures = require&quot;</source>
+        <translation>%1행이 &quot;signatures = tell&quot;도 &quot;signatures = require&quot;도 아닙니다</translation>
+    </message>
+    <message>
+        <source>Only signed update files can be used, since the file &quot;%1&quot; cannot be believed: %2.</source>
+        <translation>파일 &quot;%1&quot;을(를) 믿을 수 없으므로 서명된 업데이트 파일만 사용할 수 있습니다: %2.</translation>
+    </message>
+    <message>
+        <source>%1; only update files of trusted makers can be used here</source>
+        <translation>%1. 여기에서는 신뢰하는 제작자의 업데이트 파일만 사용할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>it is not signed</source>
+        <translation>서명되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>it is signed by %1</source>
+        <translation>%1이(가) 서명했습니다</translation>
+    </message>
+    <message>
+        <source>its signature is not trusted: %1</source>
+        <translation>서명을 신뢰할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>the certificate of its signer is missing</source>
+        <translation>서명자의 인증서가 없습니다</translation>
+    </message>
+    <message>
+        <source>its digest is none that is known and strong enough; it has to be SHA-256, SHA-384 or SHA-512</source>
+        <translation>다이제스트가 알려져 있지 않거나 안전하지 않습니다. SHA-256, SHA-384 또는 SHA-512여야 합니다</translation>
+    </message>
+    <message>
+        <source>it is the signature of another update.json</source>
+        <translation>다른 update.json의 서명입니다</translation>
+    </message>
+    <message>
+        <source>it was not made with the key of %1, or by an unknown method</source>
+        <translation>%1의 키로 서명되지 않았거나, 알 수 없는 방법으로 서명되었습니다</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes; at most %2 are allowed</source>
+        <translation>크기가 %1바이트입니다. 최대 %2바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>it is not a detached CMS signature in DER</source>
+        <translation>분리된 CMS 서명(DER)이 아닙니다</translation>
+    </message>
+    <message>
+        <source>it has more than %1 certificates</source>
+        <translation>인증서가 %1개를 초과합니다</translation>
+    </message>
+    <message>
+        <source>it has more than %1 signers</source>
+        <translation>서명자가 %1명을 초과합니다</translation>
+    </message>
+    <message>
+        <source>it has a certificate of %1 bytes; at most %2 are allowed</source>
+        <translation>인증서의 크기가 %1바이트입니다. 최대 %2바이트까지 허용됩니다</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; has no certificate in PEM</source>
+        <translation>파일 &quot;%1&quot;에 PEM 인증서가 없습니다</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be read: %2</source>
+        <translation>파일 &quot;%1&quot;을(를) 읽을 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; has no key in PEM, or its passphrase is wrong or missing</source>
+        <translation>파일 &quot;%1&quot;에 PEM 키가 없거나, 키의 암호가 틀렸거나 없습니다</translation>
+    </message>
+    <message>
+        <source>the key in &quot;%1&quot; is not that of the certificate</source>
+        <translation>&quot;%1&quot;의 키는 인증서의 키가 아닙니다</translation>
+    </message>
+    <message>
+        <source>OpenSSL cannot sign with this key</source>
+        <translation>OpenSSL이 이 키로 서명할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not valid before %2</source>
+        <translation>%1의 인증서는 %2부터 유효합니다</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 has expired on %2</source>
+        <translation>%1의 인증서가 %2에 만료되었습니다</translation>
+    </message>
+    <message>
+        <source>%1 is not among the trusted makers</source>
+        <translation>%1은(는) 신뢰하는 제작자가 아닙니다</translation>
+    </message>
+    <message>
+        <source>more than %1 certificates lead to a trusted maker</source>
+        <translation>신뢰하는 제작자까지 인증서가 %1개를 초과합니다</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 has a weak key, or is signed by a weak method</source>
+        <translation>%1의 인증서는 키가 약하거나, 약한 방법으로 서명되었습니다</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 cannot be used (%2)</source>
+        <translation>%1의 인증서를 사용할 수 없습니다(%2)</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; is not read: %2</source>
+        <translation>폴더 &quot;%1&quot;을(를) 읽지 않습니다: %2</translation>
+    </message>
+    <message>
+        <source>of the folder &quot;%1&quot; only the first %2 files are read</source>
+        <translation>폴더 &quot;%1&quot;에서 처음 %2개의 파일만 읽습니다</translation>
+    </message>
+    <message>
+        <source>it is no regular file, or has more than %1 bytes</source>
+        <translation>일반 파일이 아니거나, 크기가 %1바이트를 초과합니다</translation>
+    </message>
+    <message>
+        <source>it has no certificate and no revocation list in PEM</source>
+        <translation>PEM 인증서도 해지 목록도 없습니다</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; is not read: %2</source>
+        <translation>파일 &quot;%1&quot;을(를) 읽지 않습니다: %2</translation>
+    </message>
+    <message>
+        <source>the certificate of %1: %2</source>
+        <translation>%1의 인증서: %2</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 was revoked</source>
+        <translation>%1의 인증서가 해지되었습니다</translation>
+    </message>
+    <message>
+        <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
+        <translation>%1의 해지 목록이 오래되었습니다. 최신 목록을 인증서 옆에 두십시오</translation>
     </message>
 </context>
 <context>

@@ -121,6 +121,10 @@
         <source>Walk through the firmware update wizard, faster than real cameras would, save pictures into &lt;dir&gt; and quit.</source>
         <translation>以快于真实相机的速度走完固件更新向导，将画面保存到 &lt;文件夹&gt; 后退出。</translation>
     </message>
+    <message>
+        <source>Use only update files that a trusted maker has signed, this time.</source>
+        <translation>本次仅使用由受信任的制作方签名的更新文件。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageView</name>
@@ -368,6 +372,89 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CTrustedMakersDialog</name>
+    <message>
+        <source>Trusted makers</source>
+        <translation>受信任的制作方</translation>
+    </message>
+    <message>
+        <source>Maker</source>
+        <translation>制作方</translation>
+    </message>
+    <message>
+        <source>Valid until</source>
+        <translation>有效期至</translation>
+    </message>
+    <message>
+        <source>Trusted by</source>
+        <translation>信任来源</translation>
+    </message>
+    <message>
+        <source>&amp;Add...</source>
+        <translation>添加(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove...</source>
+        <translation>移除(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>Nobody is trusted yet. Add the certificates of the makers whose update files you use.</source>
+        <translation>尚无受信任的制作方。请添加您所用更新文件的制作方的证书。</translation>
+    </message>
+    <message>
+        <source>Maker: %1
+Issued by: %2
+Valid: %3 to %4
+SHA-256 fingerprint:
+%5</source>
+        <translation>制作方：%1
+颁发者：%2
+有效期：%3 至 %4
+SHA-256 指纹：
+%5</translation>
+    </message>
+    <message>
+        <source>You</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>This computer</source>
+        <translation>此计算机</translation>
+    </message>
+    <message>
+        <source>Add a trusted maker</source>
+        <translation>添加受信任的制作方</translation>
+    </message>
+    <message>
+        <source>Certificates in PEM</source>
+        <translation>PEM 证书</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be read, or has not exactly one certificate in PEM.</source>
+        <translation>无法读取文件“%1”，或其中的 PEM 证书不是恰好一个。</translation>
+    </message>
+    <message>
+        <source>Trust the update files of this maker? Compare the fingerprint with the one that the maker has told you in another way.</source>
+        <translation>是否信任此制作方的更新文件？请将指纹与制作方通过其他途径告知的指纹进行比较。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be written: %2.</source>
+        <translation>无法写入文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>Trust this maker no longer? The file &quot;%1&quot; is removed.</source>
+        <translation>是否不再信任此制作方？文件“%1”将被移除。</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be removed: %2.</source>
+        <translation>无法移除文件“%1”：%2。</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CUpdateHistoryDialog</name>
     <message>
         <source>Update history</source>
@@ -489,6 +576,10 @@
     <message>
         <source>&amp;Update history...</source>
         <translation>更新历史(&amp;U)...</translation>
+    </message>
+    <message>
+        <source>Trusted &amp;makers...</source>
+        <translation>受信任的制作方(&amp;M)...</translation>
     </message>
 </context>
 <context>
@@ -748,10 +839,6 @@ Firmware: %5</source>
         <translation>命令“%1”的参数过少或过多。</translation>
     </message>
     <message>
-        <source>The command &quot;%1&quot; has no option --json.</source>
-        <translation>命令“%1”没有 --json 选项。</translation>
-    </message>
-    <message>
         <source>Packed %1: updates: %2, bytes: %3</source>
         <translation>已打包 %1：更新 %2 个，共 %3 字节</translation>
     </message>
@@ -760,32 +847,76 @@ Firmware: %5</source>
         <translation>%1 没有错误，更新 %2 个</translation>
     </message>
     <message>
-        <source>Usage: guftool pack DIR FILE
-       guftool inspect [--json] FILE
-       guftool verify FILE
+        <source>The command &quot;%1&quot; has no option --%2.</source>
+        <translation>命令“%1”没有 --%2 选项。</translation>
+    </message>
+    <message>
+        <source>A signature needs --certificate and --key.</source>
+        <translation>签名需要 --certificate 和 --key。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <translation>“%1”不是文件夹。</translation>
+    </message>
+    <message>
+        <source>Passphrase of the key:</source>
+        <translation>密钥的密码：</translation>
+    </message>
+    <message>
+        <source>It cannot be signed: %1</source>
+        <translation>无法签名：%1</translation>
+    </message>
+    <message>
+        <source>Signed %1</source>
+        <translation>已签名 %1</translation>
+    </message>
+    <message>
+        <source>Signed by %1, SHA-256 fingerprint %2</source>
+        <translation>签名者 %1，SHA-256 指纹 %2</translation>
+    </message>
+    <message>
+        <source>Usage: guftool pack DIR FILE [--sign SIGNING]
+       guftool sign FILE SIGNING
+       guftool inspect [--json] [--trust DIR] FILE
+       guftool verify [--trust DIR] FILE
+
+SIGNING  --certificate FILE --key FILE [--chain FILE]
+         [--passphrase-file FILE], all of them in PEM but the last,
+         whose first line is the passphrase of the key
 
 pack     makes the update file FILE from DIR/update.json and the payloads
          in DIR that it names; sizes and digests that it leaves out are
          filled in
-inspect  checks FILE and shows what it holds, with --json as JSON
-verify   checks FILE
+sign     adds a signature to FILE
+inspect  checks FILE and shows what it holds, with --json as JSON, and
+         whether this computer, or DIR, trusts the one who signed it
+verify   checks FILE, with --trust also that one of the makers whose
+         certificates are in DIR has signed it
 
 Exit code: 0 when all is well, 1 when a file is faulty, 2 for a wrong
-call of this program.
+call of this program, 3 when the signature is missing or not trusted.
 </source>
         <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
-        <translation>用法：guftool pack &lt;文件夹&gt; &lt;文件&gt;
-      guftool inspect [--json] &lt;文件&gt;
-      guftool verify &lt;文件&gt;
+        <translation>用法：guftool pack &lt;文件夹&gt; &lt;文件&gt; [--sign &lt;签名&gt;]
+      guftool sign &lt;文件&gt; &lt;签名&gt;
+      guftool inspect [--json] [--trust &lt;文件夹&gt;] &lt;文件&gt;
+      guftool verify [--trust &lt;文件夹&gt;] &lt;文件&gt;
+
+&lt;签名&gt;   --certificate &lt;文件&gt; --key &lt;文件&gt; [--chain &lt;文件&gt;]
+         [--passphrase-file &lt;文件&gt;]，除最后一个文件外均为 PEM 格式，
+         最后一个文件的第一行是密钥的密码
 
 pack     使用 &lt;文件夹&gt;/update.json 及其指定的、
          位于 &lt;文件夹&gt; 中的数据文件，创建更新文件 &lt;文件&gt;；
          其中省略的大小和摘要会自动补全
-inspect  检查 &lt;文件&gt; 并显示其内容，使用 --json 时以 JSON 格式显示
-verify   检查 &lt;文件&gt;
+sign     为 &lt;文件&gt; 添加签名
+inspect  检查 &lt;文件&gt; 并显示其内容，使用 --json 时以 JSON 格式显示，
+         并显示此计算机或 &lt;文件夹&gt; 是否信任签名者
+verify   检查 &lt;文件&gt;，使用 --trust 时还检查它是否由
+         证书位于 &lt;文件夹&gt; 中的制作方签名
 
-退出代码：正常时为 0，文件有错误时为 1，
-程序调用方式有误时为 2。
+退出代码：正常时为 0，文件有错误时为 1，程序调用方式有误时为 2，
+缺少签名或签名不受信任时为 3。
 </translation>
     </message>
 </context>
@@ -840,6 +971,32 @@ Update %1
     <message>
         <source>%1 (%2 bytes) to %3</source>
         <translation>%1（%2 字节）→ %3</translation>
+    </message>
+    <message>
+        <source>
+Signature
+  State:            %1
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>
+签名
+  状态：            %1
+</translation>
+    </message>
+    <message>
+        <source>  Signer:           %1
+  Issuer:           %2
+  Valid from:       %3
+  Valid until:      %4
+  SHA-256:          %5
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>  签名者：          %1
+  颁发者：          %2
+  有效期自：        %3
+  有效期至：        %4
+  SHA-256 指纹：    %5
+</translation>
     </message>
 </context>
 <context>
@@ -1068,6 +1225,10 @@ Update %1
         <source>%1 (%2 s)</source>
         <translation>%1（%2 秒）</translation>
     </message>
+    <message>
+        <source>SHA-256 fingerprint of the certificate: %1</source>
+        <translation>证书的 SHA-256 指纹：%1</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::NuvexUpdate::CUpdateCommandLine</name>
@@ -1199,6 +1360,10 @@ Update %1
         <source>--camera, --model and --all exclude each other.</source>
         <translation>--camera、--model 和 --all 不能同时使用。</translation>
     </message>
+    <message>
+        <source>check, update, resume: only with a file that a trusted maker has signed.</source>
+        <translation>check、update、resume：仅使用由受信任的制作方签名的文件。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::NuvexUpdate::CUpdateLog</name>
@@ -1310,17 +1475,6 @@ Update %1
     <message>
         <source>It needs &quot;%1&quot; %2, but version %3 is installed, which is compatible with %4 and later.</source>
         <translation>需要“%1”%2，但已安装的版本为 %3，仅与 %4 及更高版本兼容。</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::PluginSystem::CPathTrust</name>
-    <message>
-        <source>it belongs to the user %1</source>
-        <translation>属于用户 %1</translation>
-    </message>
-    <message>
-        <source>users other than its owner can write to it</source>
-        <translation>所有者以外的用户可以写入</translation>
     </message>
 </context>
 <context>
@@ -2249,6 +2403,174 @@ Update %1
     <message>
         <source>the camera program ended unexpectedly (exit code %1)</source>
         <translation>相机程序意外结束（退出代码 %1）</translation>
+    </message>
+    <message>
+        <source>it belongs to the user %1</source>
+        <translation>属于用户 %1</translation>
+    </message>
+    <message>
+        <source>users other than its owner can write to it</source>
+        <translation>所有者以外的用户可以写入</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bytes; at most %3 are allowed</source>
+        <translation>%1 有 %2 字节，最多允许 %3 字节</translation>
+    </message>
+    <message>
+        <source>it cannot be signed: %1</source>
+        <translation>无法签名：%1</translation>
+    </message>
+    <message>
+        <source>it cannot be copied into the temporary folder</source>
+        <translation>无法复制到临时文件夹</translation>
+    </message>
+    <message>
+        <source>its RSA key has %1 bits; at least %2 are needed</source>
+        <translation>其 RSA 密钥为 %1 位，至少需要 %2 位</translation>
+    </message>
+    <message>
+        <source>its key is of an unknown kind; known are RSA, EC P-256, EC P-384 and Ed25519</source>
+        <translation>其密钥种类未知，已知的有 RSA、EC P-256、EC P-384 和 Ed25519</translation>
+    </message>
+    <message>
+        <source>it is not made for signing code</source>
+        <translation>不是用于代码签名的证书</translation>
+    </message>
+    <message>
+        <source>line %1 is neither &quot;signatures = tell&quot; nor &quot;signatures = require&quot;</source>
+        <translation>第 %1 行既不是“signatures = tell”，也不是“signatures = require”</translation>
+    </message>
+    <message>
+        <source>Only signed update files can be used, since the file &quot;%1&quot; cannot be believed: %2.</source>
+        <translation>由于文件“%1”不可信，只能使用已签名的更新文件：%2。</translation>
+    </message>
+    <message>
+        <source>%1; only update files of trusted makers can be used here</source>
+        <translation>%1，此处只能使用受信任的制作方的更新文件</translation>
+    </message>
+    <message>
+        <source>it is not signed</source>
+        <translation>未签名</translation>
+    </message>
+    <message>
+        <source>it is signed by %1</source>
+        <translation>由 %1 签名</translation>
+    </message>
+    <message>
+        <source>its signature is not trusted: %1</source>
+        <translation>签名不受信任：%1</translation>
+    </message>
+    <message>
+        <source>the certificate of its signer is missing</source>
+        <translation>缺少签名者的证书</translation>
+    </message>
+    <message>
+        <source>its digest is none that is known and strong enough; it has to be SHA-256, SHA-384 or SHA-512</source>
+        <translation>其摘要未知或强度不足，必须是 SHA-256、SHA-384 或 SHA-512</translation>
+    </message>
+    <message>
+        <source>it is the signature of another update.json</source>
+        <translation>这是另一个 update.json 的签名</translation>
+    </message>
+    <message>
+        <source>it was not made with the key of %1, or by an unknown method</source>
+        <translation>不是用 %1 的密钥签名的，或签名方法未知</translation>
+    </message>
+    <message>
+        <source>it has %1 bytes; at most %2 are allowed</source>
+        <translation>有 %1 字节，最多允许 %2 字节</translation>
+    </message>
+    <message>
+        <source>it is not a detached CMS signature in DER</source>
+        <translation>不是 DER 格式的分离式 CMS 签名</translation>
+    </message>
+    <message>
+        <source>it has more than %1 certificates</source>
+        <translation>证书超过 %1 个</translation>
+    </message>
+    <message>
+        <source>it has more than %1 signers</source>
+        <translation>签名者超过 %1 个</translation>
+    </message>
+    <message>
+        <source>it has a certificate of %1 bytes; at most %2 are allowed</source>
+        <translation>有一个证书有 %1 字节，最多允许 %2 字节</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; has no certificate in PEM</source>
+        <translation>文件“%1”中没有 PEM 证书</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; cannot be read: %2</source>
+        <translation>无法读取文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; has no key in PEM, or its passphrase is wrong or missing</source>
+        <translation>文件“%1”中没有 PEM 密钥，或其密码错误或缺失</translation>
+    </message>
+    <message>
+        <source>the key in &quot;%1&quot; is not that of the certificate</source>
+        <translation>“%1”中的密钥不是该证书的密钥</translation>
+    </message>
+    <message>
+        <source>OpenSSL cannot sign with this key</source>
+        <translation>OpenSSL 无法使用此密钥签名</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 is not valid before %2</source>
+        <translation>%1 的证书从 %2 起才有效</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 has expired on %2</source>
+        <translation>%1 的证书已于 %2 过期</translation>
+    </message>
+    <message>
+        <source>%1 is not among the trusted makers</source>
+        <translation>%1 不在受信任的制作方之列</translation>
+    </message>
+    <message>
+        <source>more than %1 certificates lead to a trusted maker</source>
+        <translation>到受信任的制作方为止的证书超过 %1 个</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 has a weak key, or is signed by a weak method</source>
+        <translation>%1 的证书密钥强度不足，或其签名方法强度不足</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 cannot be used (%2)</source>
+        <translation>无法使用 %1 的证书（%2）</translation>
+    </message>
+    <message>
+        <source>the folder &quot;%1&quot; is not read: %2</source>
+        <translation>不读取文件夹“%1”：%2</translation>
+    </message>
+    <message>
+        <source>of the folder &quot;%1&quot; only the first %2 files are read</source>
+        <translation>文件夹“%1”中只读取前 %2 个文件</translation>
+    </message>
+    <message>
+        <source>it is no regular file, or has more than %1 bytes</source>
+        <translation>不是普通文件，或超过 %1 字节</translation>
+    </message>
+    <message>
+        <source>it has no certificate and no revocation list in PEM</source>
+        <translation>没有 PEM 证书，也没有吊销列表</translation>
+    </message>
+    <message>
+        <source>the file &quot;%1&quot; is not read: %2</source>
+        <translation>不读取文件“%1”：%2</translation>
+    </message>
+    <message>
+        <source>the certificate of %1: %2</source>
+        <translation>%1 的证书：%2</translation>
+    </message>
+    <message>
+        <source>the certificate of %1 was revoked</source>
+        <translation>%1 的证书已被吊销</translation>
+    </message>
+    <message>
+        <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
+        <translation>%1 的吊销列表已过期，请将最新列表放在证书旁边</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "viewer/process/cborinteger.h"
 
+#include <QCborArray>
 #include <QFileInfo>
 
 #include <limits>
@@ -19,6 +20,8 @@ static const QString ENTRY = QStringLiteral("entry");
 static const QString JOURNAL_FOLDER = QStringLiteral("journalFolder");
 static const QString RECORD = QStringLiteral("record");
 static const QString LANGUAGE = QStringLiteral("language");
+static const QString REQUIRE_SIGNATURE = QStringLiteral("requireSignature");
+static const QString TRUST_FOLDERS = QStringLiteral("trustFolders");
 
 static constexpr int DIGEST_SIZE = 32;
 
@@ -32,6 +35,8 @@ QCborMap CWorkerTask::toCbor() const
             {MANIFEST_DIGEST, manifestDigest},
             {ENTRY, entry},
             {LANGUAGE, language},
+            {REQUIRE_SIGNATURE, requiresSignature},
+            {TRUST_FOLDERS, QCborArray::fromStringList(trustFolders)},
             {JOURNAL_FOLDER, journalFolder},
             {RECORD, record}};
 }
@@ -46,6 +51,10 @@ std::optional<CWorkerTask> CWorkerTask::fromCbor(const QCborMap &map, QString &f
     task.journalFolder = map.value(JOURNAL_FOLDER).toString();
     task.record = map.value(RECORD).toByteArray();
     task.language = map.value(LANGUAGE).toString();
+    task.requiresSignature = map.value(REQUIRE_SIGNATURE).toBool();
+    const QCborArray folders = map.value(TRUST_FOLDERS).toArray();
+    for (const auto &folder : folders)
+        task.trustFolders.append(folder.toString());
     const qint64 entry = Process::toInteger(map.value(ENTRY), -1);
     if (Process::toInteger(map.value(PROTOCOL_FIELD), -1) != PROTOCOL)
         fault = QStringLiteral("the task is not of protocol %1").arg(PROTOCOL);

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QCborMap>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -22,6 +23,8 @@ struct CWorkerTask
     QString journalFolder; ///< absolute; empty: no journal is kept
     QByteArray record; ///< what the journal begins with, by toJson(CUpdateRecord)
     QString language; ///< code of the texts for the user
+    bool requiresSignature = false; ///< by a maker whose certificate is in one of...
+    QStringList trustFolders; ///< absolute
 
     [[nodiscard]] QCborMap toCbor() const;
 

@@ -14,6 +14,11 @@ QString getManifestName()
     return QStringLiteral("update.json");
 }
 
+QString getSignatureName()
+{
+    return getManifestName() + QLatin1String(".p7s");
+}
+
 CErrorText findEntryNameFault(const QString &name)
 {
     if (name.isEmpty())

@@ -5,6 +5,7 @@
 #include "payloaddevice.h"
 #include "updatefileerror.h"
 #include "updatefilelimits.h"
+#include "viewer/signature/signaturelimits.h"
 #include "viewer/text/visibletext.h"
 
 #include <QDir>
@@ -88,15 +89,27 @@ QByteArray CUpdateArchive::readManifest() const
         }
         fail(CErrorText::tr("there is no update.json in the archive"));
     }
-    if (entry->size > Limits::MANIFEST_SIZE)
-        fail(CErrorText::tr("update.json has %1 bytes; at most %2 are allowed")
-                 .arg(QString::number(entry->size), QString::number(Limits::MANIFEST_SIZE)));
+    return readWhole(*entry, Limits::MANIFEST_SIZE);
+}
 
-    const auto device = openFile(*entry, QByteArray());
-    const QByteArray manifest = device->readAll();
+std::optional<QByteArray> CUpdateArchive::readSignature() const
+{
+    const CEntry *const entry = findFile(getSignatureName());
+    if (!entry)
+        return std::nullopt;
+    return readWhole(*entry, Signature::Limits::SIGNATURE_SIZE);
+}
+
+QByteArray CUpdateArchive::readWhole(const CEntry &entry, qint64 maximumSize) const
+{
+    if (entry.size > maximumSize)
+        fail(CErrorText::tr("%1 has %2 bytes; at most %3 are allowed")
+                 .arg(entry.name, QString::number(entry.size), QString::number(maximumSize)));
+    const auto device = openFile(entry, QByteArray());
+    const QByteArray bytes = device->readAll();
     if (!device->getFault().isEmpty())
         fail(device->getFault());
-    return manifest;
+    return bytes;
 }
 
 void CUpdateArchive::checkPayload(const CPayload &payload) const

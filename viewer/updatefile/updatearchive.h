@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <optional>
 
 class QIODevice;
 struct zip;
@@ -40,6 +41,10 @@ public:
     /// The bytes of the manifest. Throws CUpdateFileError when there is none, or it is too large.
     [[nodiscard]] QByteArray readManifest() const;
 
+    /// The bytes of the manifest's signature, unread; nothing: there is none. Throws
+    /// CUpdateFileError when it is too large.
+    [[nodiscard]] std::optional<QByteArray> readSignature() const;
+
     /// Reads the payload from end to end, without keeping it, and throws CUpdateFileError unless it
     /// has exactly the size and the SHA-256 that @p payload tells.
     void checkPayload(const CPayload &payload) const;
@@ -71,6 +76,7 @@ private:
     [[nodiscard]] CEntry readEntry(quint64 index) const;
     [[nodiscard]] const CEntry *findFile(const QString &name) const;
     [[nodiscard]] const CEntry &getPayloadEntry(const CPayload &payload) const;
+    [[nodiscard]] QByteArray readWhole(const CEntry &entry, qint64 maximumSize) const;
     [[nodiscard]] std::unique_ptr<CPayloadDevice> openFile(const CEntry &entry,
                                                            const QByteArray &sha256) const;
     [[noreturn]] void fail(const Text::CErrorText &cause) const;

@@ -34,7 +34,7 @@ void checkNothingIsLeftOver(const CUpdateArchive &archive, const QVector<CPayloa
     const QStringList names = archive.getFileNames();
     for (const QString &name : names) {
         const auto isPayload = [&name](const CPayload &payload) { return payload.name == name; };
-        if (name != getManifestName()
+        if (name != getManifestName() && name != getSignatureName()
             && std::none_of(payloads.cbegin(), payloads.cend(), isPayload))
             throw CUpdateFileError(
                 archive.getPath(),
@@ -64,6 +64,8 @@ CUpdateManifest CUpdateFileReader::read(const CUpdateArchive &archive)
     CSha256 digest;
     digest.addData(json.constData(), json.size());
     result.manifest.sha256 = digest.takeResult();
+    result.manifest.json = json;
+    result.manifest.signature = archive.readSignature();
     return result.manifest;
 }
 

@@ -62,6 +62,8 @@ struct CUpdateManifest
 {
     QVector<CUpdateEntry> updates; ///< at least one, in the file's order
     QByteArray sha256; ///< of update.json, 32 raw bytes; empty: it does not come from a file
+    QByteArray json; ///< the bytes of update.json; empty: the same
+    std::optional<QByteArray> signature; ///< the bytes of update.json.p7s, unread; nothing: none
 };
 
 } // namespace Viewer::UpdateFile

@@ -44,6 +44,24 @@ static CWorkerTask makeTask()
     return task;
 }
 
+/// An update, of a file in @p folder, that succeeds once it has a record.
+static CWorkerTask makeSimulatedTask(const QTemporaryDir &folder)
+{
+    CWorkerTask task = makeTask();
+    task.kind = "simulation";
+    const Viewer::CameraPool::CCameraPool pool(TestSupport::makeCameraKinds({"--speed", "100"}));
+    for (const auto &kind : pool.getKinds()) {
+        if (const auto handle = kind->createHandle("gige-40012345"))
+            task.camera = handle->describe();
+    }
+    task.filePath = folder.filePath("update.guf");
+    TestSupport::writeUpdateFile(task.filePath, {"2.0.0"}, 20'000);
+    using namespace Viewer::UpdateFile;
+    task.manifestDigest = CUpdateFileReader::read(CUpdateArchive(task.filePath)).sha256;
+    task.language = "en";
+    return task;
+}
+
 static std::optional<CWorkerEvent> takeEvent(QByteArray &output)
 {
     bool isBroken = false;
@@ -121,13 +139,23 @@ void CCameraWorkerTest::tellsWhyItCannotBegin_data()
     QTest::newRow("a kind that nobody knows") << "paper";
     QTest::newRow("a camera that is none") << "genicam";
     QTest::newRow("a simulated camera that is none") << "simulation";
+    QTest::newRow("a file that nobody has signed") << "unsigned";
 }
 
 void CCameraWorkerTest::tellsWhyItCannotBegin()
 {
     QFETCH(QString, kind);
+    const QTemporaryDir folder;
     CWorkerTask task = makeTask();
     task.kind = kind;
+    QString error = "the update program does not know a camera of this kind";
+    if (kind == "unsigned") {
+        task = makeSimulatedTask(folder);
+        task.language = "ja";
+        task.requiresSignature = true;
+        error = "Update file " + task.filePath
+            + ": it is not signed; only update files of trusted makers can be used here";
+    }
     QProcess worker;
     worker.start(WORKER, {"update"});
     worker.write(QCborValue(task.toCbor()).toCbor());
@@ -137,7 +165,7 @@ void CCameraWorkerTest::tellsWhyItCannotBegin()
     QCOMPARE(takeEvent(output)->type, CWorkerEvent::EType::Hello);
     const auto last = takeEvent(output);
     QVERIFY(last && last->type == CWorkerEvent::EType::Failed);
-    QCOMPARE(last->error, "the update program does not know a camera of this kind");
+    QCOMPARE(last->error, error);
     QVERIFY(last->localizedError != last->error && !last->localizedError.isEmpty());
     QVERIFY(!last->hasWritten);
 }
@@ -196,21 +224,10 @@ void CCameraWorkerTest::holdsOffSleepWhileItWrites()
         address = "unix:path=" + folder.filePath("bus").toLocal8Bit();
     QVERIFY(logind != "silent" || silent.listen(folder.filePath("bus")));
 
-    CWorkerTask task = makeTask();
-    task.kind = "simulation";
-    const Viewer::CameraPool::CCameraPool pool(TestSupport::makeCameraKinds({"--speed", "100"}));
-    for (const auto &kind : pool.getKinds()) {
-        if (const auto handle = kind->createHandle("gige-40012345"))
-            task.camera = handle->describe();
-    }
-    task.filePath = folder.filePath("update.guf");
-    TestSupport::writeUpdateFile(task.filePath, {"2.0.0"}, 20'000);
-    using namespace Viewer::UpdateFile;
-    task.manifestDigest = CUpdateFileReader::read(CUpdateArchive(task.filePath)).sha256;
+    CWorkerTask task = makeSimulatedTask(folder);
     Viewer::Update::CUpdateRecord record;
     record.begin = QDateTime::currentDateTimeUtc();
     task.record = toJson(record);
-    task.language = "en";
 
     QProcess worker;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

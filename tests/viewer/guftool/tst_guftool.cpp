@@ -1,3 +1,4 @@
+#include "testmaker.h"
 #include "updatefilebuilder.h"
 
 #include <QJsonArray>
@@ -17,6 +18,8 @@ class CGufToolTest : public QObject
 private slots:
     void init();
     void packsFillsInAndShows();
+    void signsAndVerifies();
+    void asksForThePassphrase();
     void refusesFaultySources();
     void speaksTheUsersLanguage();
     void saysWhenDigestsCannotBeComputed();
@@ -74,6 +77,76 @@ void CGufToolTest::packsFillsInAndShows()
     QCOMPARE(getUpdate(json.toUtf8()), getUpdate(MANIFEST));
     QVERIFY(run("inspect a.guf")
                 .contains("by size  images/a.img (100000 bytes) to FirmwareImage  [Image]\n"));
+}
+
+void CGufToolTest::signsAndVerifies()
+{
+    const TestSupport::CTestMaker maker("Maker");
+    const TestSupport::CTestMaker other("Other");
+    QVERIFY(QDir().mkpath("trust") && QDir().mkpath("others"));
+    maker.write("maker");
+    writeFile("trust/maker.pem", maker.getCertificate());
+    writeFile("others/other.pem", other.getCertificate());
+    writeFile("locked.key", maker.getKey("a passphrase"));
+    writeFile("passphrase", "a passphrase\n");
+    QVERIFY(run("pack source a.guf").startsWith("0 "));
+    QVERIFY(
+        QFile::setPermissions("a.guf", QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther));
+    const auto check = [](const QString &command, const QString &end) {
+        const QString result = run(command);
+        QVERIFY2(result.startsWith(end.left(2)) && result.contains(end.mid(2)), qPrintable(result));
+    };
+    check("verify a.guf", "0 faultless");
+    check("verify a.guf --trust trust", "3 a.guf: it is not signed\n");
+    check("inspect a.guf", "0 State:            it is not signed\n");
+    QFile file("a.guf");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    other.write("other");
+    check("sign a.guf --certificate maker.pem --key other.key", "1 is not that of the certificate");
+    check("sign a.guf --certificate maker.pem --key locked.key --passphrase-file maker.pem",
+          "1 its passphrase is wrong");
+    check("sign source/images/a.img --certificate maker.pem --key maker.key",
+          "1 not a ZIP archive");
+    check("sign a.guf --certificate maker.pem", "2 --certificate and --key");
+    check("pack source b.guf --key maker.key", "2 has no option --key");
+    check("verify a.guf --trust nowhere", "2 is not a folder");
+    QVERIFY(file.seek(0) && file.readAll() == before);
+
+    check("sign a.guf --certificate maker.pem --key locked.key --passphrase-file passphrase",
+          "0 Signed a.guf\n");
+    check("pack source b.guf --sign --certificate other.pem --key other.key", "0 Packed b.guf");
+    check("verify a.guf", "0 faultless");
+    check("verify a.guf --trust trust", "0 Signed by CN=Maker, SHA-256 fingerprint ");
+    check("verify a.guf --trust others", "3 CN=Maker is not among the trusted makers\n");
+    check("inspect a.guf --trust trust", "0 Issuer:           CN=Maker\n");
+    check("inspect a.guf --json --trust trust", "0 \"state\": \"trusted\"");
+    check("sign b.guf --certificate maker.pem --key maker.key", "0 Signed b.guf\n");
+    check("verify b.guf --trust trust", "0 Signed by CN=Maker");
+    check("verify b.guf --trust others", "0 Signed by CN=Other");
+    QVERIFY(QFile::permissions("a.guf") & QFile::ReadOther);
+}
+
+void CGufToolTest::asksForThePassphrase()
+{
+    // script(1) makes a terminal; what is written to it is typed.
+    const TestSupport::CTestMaker maker("Maker");
+    maker.write("maker");
+    writeFile("locked.key", maker.getKey("a passphrase"));
+    QVERIFY(run("pack source a.guf").startsWith("0 "));
+    QProcess terminal;
+    terminal.start(
+        "script",
+        {"-qec", GUFTOOL_PATH " sign a.guf --certificate maker.pem --key locked.key", "/dev/null"});
+    QByteArray screen;
+    while (!screen.contains("Passphrase of the key:")) {
+        QVERIFY2(terminal.waitForReadyRead(), screen);
+        screen += terminal.readAll();
+    }
+    terminal.write("a passphrase\n");
+    QVERIFY(terminal.waitForFinished());
+    screen += terminal.readAll();
+    QVERIFY2(terminal.exitCode() == 0 && !screen.contains("a passphrase"), screen);
 }
 
 void CGufToolTest::refusesFaultySources()

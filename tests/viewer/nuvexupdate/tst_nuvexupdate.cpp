@@ -1,3 +1,4 @@
+#include "testmaker.h"
 #include "viewer/update/updatehistory.h"
 #include "viewer/update/updatejournal.h"
 
@@ -25,6 +26,7 @@ private slots:
     void init();
     void endsWithTheRightCode_data();
     void endsWithTheRightCode();
+    void usesOnlySignedFiles();
     void leavesOutWhatIsDone();
     void beginsNoFurtherCamera_data();
     void beginsNoFurtherCamera();
@@ -167,6 +169,41 @@ void CNuvexUpdateTest::endsWithTheRightCode()
     QFETCH(int, exitCode);
     QFETCH(QString, sentence);
     run(arguments, exitCode, sentence);
+}
+
+void CNuvexUpdateTest::usesOnlySignedFiles()
+{
+    const TestSupport::CTestMaker maker("Maker");
+    QVERIFY(m_home.mkpath("nuvexviewer/trust.d"));
+    maker.write(m_home.filePath("nuvexviewer/trust.d/maker"));
+    QVERIFY(QFile::remove(m_home.filePath("nuvexviewer/trust.d/maker.key")));
+    maker.write(m_home.filePath("maker"));
+    QVERIFY(QFile::copy(UPDATE_FILE, m_home.filePath("own.guf")));
+    const QString update = "update own.guf --camera 40012345 --yes --speed 100";
+    const QString refused = "own.guf: it is not signed; only update files of trusted makers can be "
+                            "used here\n";
+    run("check own.guf", 0, "own.guf: it is not signed\n");
+    run("check own.guf --require-signature", 4, refused);
+    run(update + " --require-signature", 4, refused);
+    QFile policy(m_home.filePath("nuvexviewer/policy.conf"));
+    QVERIFY(policy.open(QIODevice::WriteOnly) && policy.write("signatures = require\n") > 0);
+    policy.close();
+    run(update, 4, refused);
+    QCOMPARE(
+        QProcess::execute(GUFTOOL,
+                          {"sign", m_home.filePath("own.guf"), "--certificate",
+                           m_home.filePath("maker.pem"), "--key", m_home.filePath("maker.key")}),
+        0);
+    run("check own.guf", 0, "own.guf: it is signed by CN=Maker\n");
+    run(update, 0, "1 updated");
+    const QDir logs(m_home.filePath("nuvexviewer/logs"));
+    QFile log(logs.filePath(logs.entryList({"nuvexupdate_*.log"}).value(0)));
+    QVERIFY(log.open(QIODevice::ReadOnly));
+    QVERIFY(log.readAll().contains("own.guf: it is signed by CN=Maker\n"));
+    QVERIFY(
+        QFile::setPermissions(m_home.filePath("nuvexviewer/trust.d"), QFile::Permissions(0x7777)));
+    run("resume --yes", 0);
+    run(update + " --allow-reinstall", 4, "trust.d\" is not read: users other than its owner");
 }
 
 void CNuvexUpdateTest::leavesOutWhatIsDone()
@@ -366,8 +403,8 @@ for line in open(sys.argv[2]):
     python.start("python3", {"-c", check, SCHEMA, lines.fileName()});
     QVERIFY(python.waitForFinished(PROGRAM_TIME));
     QVERIFY2(python.exitCode() == 0, python.readAllStandardError());
-    for (const char *event : {"camera", "entry", "verdict", "message", "begin", "step", "progress",
-                              "end", "history", "summary"})
+    for (const char *event : {"camera", "signature", "entry", "verdict", "message", "begin", "step",
+                              "progress", "end", "history", "summary"})
         QVERIFY2(events.value(event) > 0, event);
 }
 

@@ -102,6 +102,16 @@ void CUpdateFileReaderTest::tellsFaultyArchives_data()
     row(patch(valid, size, 0xfffffffe), "the archive unpacks to more than 536870912 bytes");
 
     row(packAlso("readme.txt"), "has a file \"readme.txt\" that no step uploads");
+    row(packAlso("update.json.p7s"), "no fault");
+    row(packAlso("sub/update.json.p7s"), "has a file \"sub/update.json.p7s\" that no step uploads");
+    row(makeValid(payload, EPacking::Deflated,
+                  {{"update.json.p7s", QByteArray(1024 * 1024 + 1, 's')}}),
+        "update.json.p7s has 1048577 bytes; at most 1048576 are allowed");
+    const CEntry signature{"update.json.p7s", "x"};
+    for (const char *other : {"update.jsoN", "update.json.p7S"})
+        row(patch(makeValid(payload, EPacking::Deflated, {signature, {other, "x"}}), other,
+                  QByteArray(other).toLower()),
+            "two entries named \"" + QString(other).toLower());
     row(packAlso("firmware.img/"), "two entries named \"firmware.img\"");
     row(patch(packAlso("firmware.imG"), "firmware.imG", "firmware.img"), "two entries named");
     row(makeValid(payload, EPacking::Encrypted), "is encrypted");

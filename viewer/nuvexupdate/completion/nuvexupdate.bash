@@ -5,7 +5,7 @@ _nuvexupdate() {
   local commands="list check update resume history"
   local cameras="--cameras --reset-cameras --speed --no-simulation --network --camera-address --language --json
     --help"
-  local series="--parallel --canary --max-failures --dry-run --yes"
+  local series="--parallel --canary --max-failures --dry-run --yes --require-signature"
   local selection="--camera --model --all --allow-downgrade --allow-reinstall"
   COMPREPLY=()
   case $previous in
@@ -31,6 +31,7 @@ _nuvexupdate() {
     "") words="$commands --version $cameras" ;;
     update) words="$cameras $series $selection" ;;
     resume) words="$cameras $series" ;;
+    check) words="$cameras --require-signature" ;;
     history) words="--csv $cameras" ;;
     *) words=$cameras ;;
   esac

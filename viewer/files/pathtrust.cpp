@@ -9,7 +9,9 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-namespace Viewer::PluginSystem {
+namespace Viewer::Files {
+
+using Text::CErrorText;
 
 static QString getUserName(uid_t user)
 {
@@ -33,21 +35,21 @@ static bool isPrivateGroup(gid_t group, uid_t owner)
     return true;
 }
 
-QString CPathTrust::findFault(const QString &path)
+CErrorText findPathFault(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path);
     struct stat info = {};
     if (stat(name.constData(), &info) != 0)
-        return qt_error_string(errno);
+        return CErrorText(qt_error_string(errno));
     if (info.st_uid != 0 && info.st_uid != geteuid())
-        return tr("it belongs to the user %1").arg(getUserName(info.st_uid));
+        return CErrorText::tr("it belongs to the user %1").arg(getUserName(info.st_uid));
     // With an access control list the group's bits are the most that anybody on the list may do.
     const bool isListed = getxattr(name.constData(), "system.posix_acl_access", nullptr, 0) > 0;
     const bool isSafeForGroup
         = !(info.st_mode & S_IWGRP) || (!isListed && isPrivateGroup(info.st_gid, info.st_uid));
     if ((info.st_mode & S_IWOTH) || !isSafeForGroup)
-        return tr("users other than its owner can write to it");
+        return CErrorText::tr("users other than its owner can write to it");
     return {};
 }
 
-} // namespace Viewer::PluginSystem
+} // namespace Viewer::Files
