@@ -51,14 +51,18 @@ QCborMap CFeatureInfo::toCbor() const
 QString CFeatureInfo::toText(double number)
 {
     std::array<char, 32> text{};
-    const auto narrow = std::abs(number) <= std::numeric_limits<float>::max()
+    char *const end = text.data() + text.size();
+    const double size = std::abs(number);
+    const auto narrow = size <= std::numeric_limits<float>::max()
         ? static_cast<float>(number)
         : std::numeric_limits<float>::infinity();
-    char *const end = text.data() + text.size();
+    // 1000000 and not 1e+06
+    const auto format = size == 0 || (size >= 1e-4 && size < 1e15) ? std::chars_format::fixed
+                                                                   : std::chars_format::general;
     // Many cameras keep single precision: 0.1 of these has sixteen more digits in double precision.
     const std::to_chars_result result = static_cast<double>(narrow) == number
-        ? std::to_chars(text.data(), end, narrow)
-        : std::to_chars(text.data(), end, number);
+        ? std::to_chars(text.data(), end, narrow, format)
+        : std::to_chars(text.data(), end, number, format);
     return QString::fromLatin1(text.data(), static_cast<int>(result.ptr - text.data()));
 }
 
