@@ -28,24 +28,34 @@ static const QString INTEGER_MAXIMUM = QStringLiteral("integerMaximum");
 static const QString INTEGER_INCREMENT = QStringLiteral("integerIncrement");
 static const QString CHOICES = QStringLiteral("choices");
 
+/// More than any camera has, and so little that a message with some features can be read.
+static constexpr int MAXIMUM_TEXT = 1000; // characters
+static constexpr int MAXIMUM_CHOICES = 500;
+
 QCborMap CFeatureInfo::toCbor() const
 {
-    return {{NAME, name},
-            {DISPLAY_NAME, displayName},
-            {CATEGORY, category},
-            {UNIT, unit},
+    QCborArray taken;
+    for (const QString &choice : choices) {
+        // Half a choice is none.
+        if (choice.size() <= MAXIMUM_TEXT && taken.size() < MAXIMUM_CHOICES)
+            taken.append(choice);
+    }
+    return {{NAME, name.left(MAXIMUM_TEXT)},
+            {DISPLAY_NAME, displayName.left(MAXIMUM_TEXT)},
+            {CATEGORY, category.left(MAXIMUM_TEXT)},
+            {UNIT, unit.left(MAXIMUM_TEXT)},
             {KIND, static_cast<int>(kind)},
             {IS_READABLE, isReadable},
             {IS_WRITABLE, isWritable},
             {IS_LOCKED_BY_IMAGES, isLockedByImages},
-            {VALUE, value},
+            {VALUE, value.left(MAXIMUM_TEXT)},
             {MINIMUM, minimum},
             {MAXIMUM, maximum},
             {INCREMENT, increment},
             {INTEGER_MINIMUM, integerMinimum},
             {INTEGER_MAXIMUM, integerMaximum},
             {INTEGER_INCREMENT, integerIncrement},
-            {CHOICES, QCborArray::fromStringList(choices)}};
+            {CHOICES, taken}};
 }
 
 QString CFeatureInfo::toText(double number)

@@ -31,6 +31,7 @@ struct CFeatureInfo
     qint64 integerIncrement = 1; ///< at least 1
     QStringList choices; ///< Enumeration: those that the camera takes now
 
+    /// Texts that are far too long are cut off.
     [[nodiscard]] QCborMap toCbor() const;
 
     /// The shortest text that means exactly @p number, be that of single or of double precision.

@@ -6,6 +6,7 @@
 #include "viewer/camera/camerakinds.h"
 #include "viewer/process/cbormessages.h"
 
+#include <QCborValue>
 #include <QElapsedTimer>
 
 #include <algorithm>
@@ -36,7 +37,9 @@ constexpr int MOST_SLOTS = 32;
 /// Enough for one on the screen, one that is being converted and one that waits.
 constexpr int SLOTS_OF_LIBRARY = 3;
 
-constexpr int FEATURES_AT_A_TIME = 200;
+/// In a message, but for one feature that has more by itself. Few enough for its greatest number of
+/// entries, too.
+constexpr qint64 MOST_BYTES_OF_FEATURES = 64 * 1024;
 
 } // namespace
 
@@ -262,11 +265,20 @@ void CCameraImages::sendFeatures(const QStringList &names)
     const QVector<Camera::CFeatureInfo> features = m_stream->readFeatures(names);
     CStreamEvent event;
     event.type = CStreamEvent::EType::Features;
-    for (int begin = 0; begin == 0 || begin < features.size(); begin += FEATURES_AT_A_TIME) {
-        event.features = features.mid(begin, FEATURES_AT_A_TIME);
-        event.isLast = begin + FEATURES_AT_A_TIME >= features.size();
-        send(event);
+    qint64 size = 0;
+    event.isLast = false;
+    for (const Camera::CFeatureInfo &feature : features) {
+        const qint64 length = QCborValue(feature.toCbor()).toCbor().size();
+        if (size + length > MOST_BYTES_OF_FEATURES) {
+            send(event);
+            event.features.clear();
+            size = 0;
+        }
+        event.features.append(feature);
+        size += length;
     }
+    event.isLast = true;
+    send(event);
 }
 
 void CCameraImages::sendStatistics()
