@@ -22,6 +22,7 @@ CFeatureTree::CFeatureTree(QWidget *parent)
     : QWidget(parent)
     , m_model(new QStandardItemModel(this))
 {
+    m_model->setHorizontalHeaderLabels({tr("Feature"), tr("Value")});
     auto *const sorted = new QSortFilterProxyModel(this);
     sorted->setSourceModel(m_model);
     sorted->setRecursiveFilteringEnabled(true);
@@ -53,7 +54,6 @@ CFeatureTree::CFeatureTree(QWidget *parent)
     layout->addWidget(label);
     layout->addWidget(filter);
     layout->addWidget(view, 1);
-    setFeatures({});
     view->header()->resizeSection(0, view->fontMetrics().averageCharWidth() * 32);
 }
 
@@ -77,8 +77,7 @@ QStandardItem *CFeatureTree::findCategory(const QString &path)
 
 void CFeatureTree::setFeatures(const QVector<CFeatureInfo> &features)
 {
-    m_model->clear();
-    m_model->setHorizontalHeaderLabels({tr("Feature"), tr("Value")});
+    m_model->removeRows(0, m_model->rowCount());
     m_categories.clear();
     m_values.clear();
     m_names.clear();
