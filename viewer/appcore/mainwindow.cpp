@@ -79,9 +79,21 @@ void CMainWindow::setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView
     dock->toggleViewAction()->setText(tr("&Cameras"));
     m_viewMenu->addAction(m_toolBar->toggleViewAction());
     m_toolBar->toggleViewAction()->setText(tr("&Tool bar"));
-    m_viewMenu->addSeparator();
+    m_viewSeparator = m_viewMenu->addSeparator();
     createLanguageMenu(m_viewMenu->addMenu(tr("&Language")));
     cameraTree->setFocus();
+}
+
+void CMainWindow::addSettings(QWidget *settings)
+{
+    auto *const dock = new QDockWidget(tr("Camera settings"), this);
+    dock->setObjectName(QStringLiteral("settingsDock"));
+    dock->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    dock->setWidget(settings);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    dock->toggleViewAction()->setText(tr("Camera &settings"));
+    m_viewMenu->insertAction(m_viewSeparator, dock->toggleViewAction());
 }
 
 void CMainWindow::createLanguageMenu(QMenu *menu)

@@ -31,6 +31,10 @@ public:
     /// children.
     void setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView);
 
+    /// Adds a dock around @p settings, which becomes a child; hidden until the user wants it. To be
+    /// called behind setViews().
+    void addSettings(QWidget *settings);
+
     void setCloseGuard(const CloseGuard &guard);
 
     /// The guard's sentence, also shown in the status bar; empty when the window may close.
@@ -70,6 +74,7 @@ private:
     QMenu *m_helpMenu = nullptr;
     QMenu *m_selectorMenu = nullptr;
     QToolBar *m_toolBar = nullptr;
+    QAction *m_viewSeparator = nullptr; ///< behind what can be shown and hidden
     QLabel *m_statusLabel = nullptr;
     CloseGuard m_closeGuard;
 };

@@ -24,6 +24,7 @@
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
+#include "viewer/camerasettings/camerasettingsview.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
 #include "viewer/process/workerpath.h"
@@ -178,6 +179,16 @@ void CViewer::createWindow()
             [this](const QString &cameraId) {
                 m_selectorView->getModel()->setActivity(cameraId, m_pool->getActivity(cameraId));
             });
+    auto *const settings = new CameraSettings::CCameraSettingsView;
+    m_window->addSettings(settings);
+    const auto showSettings = [this, settings] {
+        const auto camera
+            = m_selectorService->getSelection().dynamicCast<Plugin::CameraPool::ICameraInfo>();
+        settings->setStream(camera ? m_pool->findStream(camera->getId()) : nullptr);
+    };
+    connect(m_selectorService.data(), &CameraSelector::CDeviceSelectorService::selectionChanged,
+            settings, showSettings);
+    connect(m_pool.get(), &CameraPool::CCameraPool::activityChanged, settings, showSettings);
     connect(m_pool.get(), &CameraPool::CCameraPool::snapshotChanged, m_selectorView->getModel(),
             &CameraSelector::CCameraSelectorModel::onSnapshotChanged);
     connect(getEnumerationService().data(), &ICameraEnumerationService::enumerationChanged, this,

@@ -20,13 +20,22 @@ struct CFeatureInfo
     EKind kind = EKind::Other;
     bool isReadable = false; ///< now
     bool isWritable = false; ///< now; of a command: it can be executed
-    QString value; ///< as ICameraDevice::readFeature() has it; empty if it is not readable
-    double minimum = 0; ///< Integer and Float
+    bool isLockedByImages = false; ///< not writable only because images come
+    /// Empty if it is not readable. A number is in the C locale and has all its digits.
+    QString value;
+    double minimum = 0; ///< Float
     double maximum = 0;
     double increment = 0; ///< 0: any value between
+    qint64 integerMinimum = 0; ///< Integer
+    qint64 integerMaximum = 0;
+    qint64 integerIncrement = 1; ///< at least 1
     QStringList choices; ///< Enumeration: those that the camera takes now
 
+    /// Texts that are far too long are cut off.
     [[nodiscard]] QCborMap toCbor() const;
+
+    /// The shortest text that means exactly @p number, be that of single or of double precision.
+    [[nodiscard]] static QString toText(double number);
 
     /// Nothing: @p map is no feature.
     [[nodiscard]] static std::optional<CFeatureInfo> fromCbor(const QCborMap &map);

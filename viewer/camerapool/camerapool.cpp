@@ -314,6 +314,8 @@ void CCameraPool::onStreamEnded(const QString &cameraId, const Text::CErrorText 
 {
     if (error.isEmpty() && d->restarts.remove(cameraId)) {
         d->streams.start(cameraId, findRemote(cameraId));
+        // findStream() gives another one from now on.
+        emit activityChanged(cameraId);
         return;
     }
     d->activities->end(cameraId);

@@ -6,6 +6,7 @@
 #include "viewer/camera/camerakinds.h"
 #include "viewer/process/cbormessages.h"
 
+#include <QCborValue>
 #include <QElapsedTimer>
 
 #include <algorithm>
@@ -36,7 +37,9 @@ constexpr int MOST_SLOTS = 32;
 /// Enough for one on the screen, one that is being converted and one that waits.
 constexpr int SLOTS_OF_LIBRARY = 3;
 
-constexpr int FEATURES_AT_A_TIME = 200;
+/// In a message, but for one feature that has more by itself. Few enough for its greatest number of
+/// entries, too.
+constexpr qint64 MOST_BYTES_OF_FEATURES = 64 * 1024;
 
 } // namespace
 
@@ -131,13 +134,13 @@ void CCameraImages::obey(const CStreamCommand &command)
             stop();
             break;
         case CStreamCommand::EType::Release:
-            release(command.slot);
+            release(command);
             break;
         case CStreamCommand::EType::Read:
             sendFeatures(command.names);
             break;
         case CStreamCommand::EType::Write:
-            m_stream->writeFeature(command.name, command.value);
+            write(command.name, command.value);
             break;
         case CStreamCommand::EType::Execute:
             m_stream->executeCommand(command.name);
@@ -145,13 +148,45 @@ void CCameraImages::obey(const CStreamCommand &command)
         }
     } catch (const CCameraError &error) {
         // Without images there is nothing to go on with.
-        if (command.type == CStreamCommand::EType::Start)
+        if (command.type == CStreamCommand::EType::Start || m_isRestarting)
             throw;
-        CStreamEvent event;
-        event.type = CStreamEvent::EType::Refused;
-        event.error = error.getText();
-        send(event);
+        refuse(error.getText());
     }
+}
+
+void CCameraImages::refuse(const CErrorText &error)
+{
+    CStreamEvent event;
+    event.type = CStreamEvent::EType::Refused;
+    event.error = error;
+    send(event);
+}
+
+/// Images stop only for what can be written in no other way: each one counts.
+void CCameraImages::write(const QString &name, const QString &value)
+{
+    const auto isLocked = [this, &name] {
+        const QVector<Camera::CFeatureInfo> features = m_stream->readFeatures({name});
+        return !features.isEmpty() && features.first().isLockedByImages;
+    };
+    const bool wasLocked = m_memory && isLocked();
+    if (wasLocked) {
+        m_isRestarting = true;
+        stop();
+        try {
+            m_stream->writeFeature(name, value);
+        } catch (const CCameraError &error) {
+            refuse(error.getText());
+        }
+    } else {
+        m_stream->writeFeature(name, value);
+        m_isRestarting = m_memory && m_stream->getFrameSize() > m_memory->getSlotSize();
+        if (m_isRestarting)
+            stop();
+    }
+    if (m_isRestarting)
+        start();
+    m_isRestarting = false;
 }
 
 void CCameraImages::start()
@@ -168,6 +203,7 @@ void CCameraImages::start()
         m_heldCount = 0;
         m_skippedFrames = 0;
     }
+    ++m_startCount;
     CStreamEvent event;
     event.type = CStreamEvent::EType::Started;
     event.descriptor = m_memory->getDescriptor();
@@ -209,18 +245,19 @@ void CCameraImages::onFrame(const Camera::CFrameInfo &frame)
     send(event);
 }
 
-void CCameraImages::release(int slot)
+void CCameraImages::release(const CStreamCommand &command)
 {
-    const auto index = static_cast<std::size_t>(slot);
+    const auto index = static_cast<std::size_t>(command.slot);
     {
         const std::lock_guard lock(m_mutex);
         // It may be one of images that came before the last stop.
-        if (!m_memory || index >= m_isHeld.size() || !m_isHeld.at(index))
+        if (!m_memory || command.start != m_startCount || index >= m_isHeld.size()
+            || !m_isHeld.at(index))
             return;
         m_isHeld.at(index) = false;
         --m_heldCount;
     }
-    m_stream->giveBack(slot);
+    m_stream->giveBack(command.slot);
 }
 
 void CCameraImages::sendFeatures(const QStringList &names)
@@ -228,11 +265,20 @@ void CCameraImages::sendFeatures(const QStringList &names)
     const QVector<Camera::CFeatureInfo> features = m_stream->readFeatures(names);
     CStreamEvent event;
     event.type = CStreamEvent::EType::Features;
-    for (int begin = 0; begin == 0 || begin < features.size(); begin += FEATURES_AT_A_TIME) {
-        event.features = features.mid(begin, FEATURES_AT_A_TIME);
-        event.isLast = begin + FEATURES_AT_A_TIME >= features.size();
-        send(event);
+    qint64 size = 0;
+    event.isLast = false;
+    for (const Camera::CFeatureInfo &feature : features) {
+        const qint64 length = QCborValue(feature.toCbor()).toCbor().size();
+        if (size + length > MOST_BYTES_OF_FEATURES) {
+            send(event);
+            event.features.clear();
+            size = 0;
+        }
+        event.features.append(feature);
+        size += length;
     }
+    event.isLast = true;
+    send(event);
 }
 
 void CCameraImages::sendStatistics()

@@ -34,7 +34,9 @@ private:
     void start();
     void stop();
     void onFrame(const Camera::CFrameInfo &frame);
-    void release(int slot);
+    void release(const Stream::CStreamCommand &command);
+    void write(const QString &name, const QString &value);
+    void refuse(const Text::CErrorText &error);
     void sendFeatures(const QStringList &names);
     void sendStatistics();
     void send(const Stream::CStreamEvent &event);
@@ -43,6 +45,8 @@ private:
     Camera::CCameraKinds m_kinds;
     std::unique_ptr<Camera::ICameraStream> m_stream;
     std::unique_ptr<Stream::CFrameMemory> m_memory; ///< null: no images come
+    qint64 m_startCount = 0;
+    bool m_isRestarting = false;
 
     std::mutex m_mutex; ///< guards what follows
     std::vector<bool> m_isHeld; ///< by slot: the other process looks at the image in it

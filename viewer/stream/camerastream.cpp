@@ -23,16 +23,16 @@ using Text::CErrorText;
 class CReleases
 {
 public:
-    explicit CReleases(const std::function<void(int slot)> &release)
+    explicit CReleases(const std::function<void(qint64 start, int slot)> &release)
         : m_release(release)
     {
     }
 
-    void add(int slot)
+    void add(qint64 start, int slot)
     {
         const std::lock_guard lock(m_mutex);
         if (m_release)
-            m_release(slot);
+            m_release(start, slot);
     }
 
     void end()
@@ -43,16 +43,16 @@ public:
 
 private:
     std::mutex m_mutex;
-    std::function<void(int slot)> m_release;
+    std::function<void(qint64 start, int slot)> m_release;
 };
 
 CCameraStream::CCameraStream(const QString &program, const CStreamTask &task,
                              const QString &cameraName, QObject *parent)
     : QObject(parent)
     , m_cameraName(cameraName)
-    , m_releases(std::make_shared<CReleases>([this](int slot) {
+    , m_releases(std::make_shared<CReleases>([this](qint64 start, int slot) {
         QMetaObject::invokeMethod(
-            this, [this, slot] { release(slot); }, Qt::QueuedConnection);
+            this, [this, start, slot] { release(start, slot); }, Qt::QueuedConnection);
     }))
 {
     m_process.setProgram(program);
@@ -126,9 +126,10 @@ void CCameraStream::send(const CStreamCommand &command)
         m_process.write(QCborValue(command.toCbor()).toCbor());
 }
 
-void CCameraStream::release(int slot)
+void CCameraStream::release(qint64 start, int slot)
 {
     CStreamCommand command;
+    command.start = start;
     command.type = CStreamCommand::EType::Release;
     command.slot = slot;
     send(command);
@@ -180,9 +181,11 @@ void CCameraStream::take(const CStreamEvent &event)
         break;
     case CStreamEvent::EType::Started: {
         QString fault;
+        ++m_startCount;
         m_window = CFrameWindow::open(
             m_process.processId(), event.descriptor, event.slotCount, event.slotSize,
-            [releases = m_releases](int slot) { releases->add(slot); }, fault);
+            [releases = m_releases, start = m_startCount](int slot) { releases->add(start, slot); },
+            fault);
         if (m_window)
             emit started();
         else

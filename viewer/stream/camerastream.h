@@ -44,6 +44,9 @@ public:
     void stop();
 
     void readFeatures(const QStringList &names);
+
+    /// Stops and starts images where the camera would not let itself be set otherwise, or they need
+    /// more memory afterwards.
     void writeFeature(const QString &name, const QString &value);
     void executeCommand(const QString &name);
 
@@ -80,7 +83,7 @@ private:
     void onErrorOccurred(QProcess::ProcessError error);
     void take(const CStreamEvent &event);
     void send(const CStreamCommand &command);
-    void release(int slot);
+    void release(qint64 start, int slot);
     void fail(const Text::CErrorText &cause);
     void announceEnd();
 
@@ -88,6 +91,7 @@ private:
     QProcess m_process;
     QByteArray m_bytes; ///< that are no whole event yet
     std::shared_ptr<CFrameWindow> m_window;
+    qint64 m_startCount = 0;
     const std::shared_ptr<CReleases> m_releases;
     QVector<Camera::CFeatureInfo> m_features; ///< of an answer that is not whole yet
     Text::CErrorText m_error;

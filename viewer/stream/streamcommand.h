@@ -22,6 +22,7 @@ struct CStreamCommand
 
     EType type = EType::Stop;
     int slot = 0;
+    qint64 start = 0; ///< which one the memory of `slot` came with, from 1; 0: none
     QString name;
     QString value;
     QStringList names;

@@ -309,6 +309,14 @@
         <source>The language changes the next time the viewer starts.</source>
         <translation>言語は次回のビューアー起動時に変更されます。</translation>
     </message>
+    <message>
+        <source>Camera settings</source>
+        <translation>カメラ設定</translation>
+    </message>
+    <message>
+        <source>Camera &amp;settings</source>
+        <translation>カメラ設定(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CPluginListDialog</name>
@@ -785,6 +793,87 @@ Firmware: %5</source>
     <message>
         <source>Cameras</source>
         <translation>カメラ</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CCameraSettingsView</name>
+    <message>
+        <source>Exposure time:</source>
+        <translation>露光時間:</translation>
+    </message>
+    <message>
+        <source>Gain:</source>
+        <translation>ゲイン:</translation>
+    </message>
+    <message>
+        <source>Frame rate:</source>
+        <translation>フレームレート:</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>幅:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高さ:</translation>
+    </message>
+    <message>
+        <source>Offset X:</source>
+        <translation>X オフセット:</translation>
+    </message>
+    <message>
+        <source>Offset Y:</source>
+        <translation>Y オフセット:</translation>
+    </message>
+    <message>
+        <source>Pixel format:</source>
+        <translation>ピクセル形式:</translation>
+    </message>
+    <message>
+        <source>Trigger:</source>
+        <translation>トリガー:</translation>
+    </message>
+    <message>
+        <source>Test pattern:</source>
+        <translation>テストパターン:</translation>
+    </message>
+    <message>
+        <source>Select a camera and click Start to see its settings.</source>
+        <translation>設定を表示するには、カメラを選択して「開始」をクリックしてください。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CFeatureTree</name>
+    <message>
+        <source>Part of a name</source>
+        <translation>名前の一部</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>機能</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>&amp;All features:</source>
+        <translation>すべての機能(&amp;A):</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CSettingEditor</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1～%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible: %2 goes from %3 to %4.</source>
+        <translation>「%1」は使用できません。%2 の範囲は %3～%4 です。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number for %2.</source>
+        <translation>「%1」は %2 に使用できる数値ではありません。</translation>
     </message>
 </context>
 <context>

@@ -309,6 +309,14 @@
         <source>The language changes the next time the viewer starts.</source>
         <translation>언어는 다음에 뷰어를 시작할 때 변경됩니다.</translation>
     </message>
+    <message>
+        <source>Camera settings</source>
+        <translation>카메라 설정</translation>
+    </message>
+    <message>
+        <source>Camera &amp;settings</source>
+        <translation>카메라 설정(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CPluginListDialog</name>
@@ -785,6 +793,87 @@ Firmware: %5</source>
     <message>
         <source>Cameras</source>
         <translation>카메라</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CCameraSettingsView</name>
+    <message>
+        <source>Exposure time:</source>
+        <translation>노출 시간:</translation>
+    </message>
+    <message>
+        <source>Gain:</source>
+        <translation>게인:</translation>
+    </message>
+    <message>
+        <source>Frame rate:</source>
+        <translation>프레임 속도:</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>너비:</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>높이:</translation>
+    </message>
+    <message>
+        <source>Offset X:</source>
+        <translation>X 오프셋:</translation>
+    </message>
+    <message>
+        <source>Offset Y:</source>
+        <translation>Y 오프셋:</translation>
+    </message>
+    <message>
+        <source>Pixel format:</source>
+        <translation>픽셀 형식:</translation>
+    </message>
+    <message>
+        <source>Trigger:</source>
+        <translation>트리거:</translation>
+    </message>
+    <message>
+        <source>Test pattern:</source>
+        <translation>테스트 패턴:</translation>
+    </message>
+    <message>
+        <source>Select a camera and click Start to see its settings.</source>
+        <translation>설정을 보려면 카메라를 선택하고 &quot;시작&quot;을 클릭하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CFeatureTree</name>
+    <message>
+        <source>Part of a name</source>
+        <translation>이름의 일부</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>기능</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>&amp;All features:</source>
+        <translation>모든 기능(&amp;A):</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CSettingEditor</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1~%2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible: %2 goes from %3 to %4.</source>
+        <translation>&quot;%1&quot;은(는) 사용할 수 없습니다. %2의 범위는 %3~%4입니다.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number for %2.</source>
+        <translation>&quot;%1&quot;은(는) %2에 사용할 수 있는 숫자가 아닙니다.</translation>
     </message>
 </context>
 <context>

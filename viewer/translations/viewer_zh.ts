@@ -309,6 +309,14 @@
         <source>The language changes the next time the viewer starts.</source>
         <translation>语言将在下次启动查看器时更改。</translation>
     </message>
+    <message>
+        <source>Camera settings</source>
+        <translation>相机设置</translation>
+    </message>
+    <message>
+        <source>Camera &amp;settings</source>
+        <translation>相机设置(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CPluginListDialog</name>
@@ -785,6 +793,87 @@ Firmware: %5</source>
     <message>
         <source>Cameras</source>
         <translation>相机</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CCameraSettingsView</name>
+    <message>
+        <source>Exposure time:</source>
+        <translation>曝光时间：</translation>
+    </message>
+    <message>
+        <source>Gain:</source>
+        <translation>增益：</translation>
+    </message>
+    <message>
+        <source>Frame rate:</source>
+        <translation>帧率：</translation>
+    </message>
+    <message>
+        <source>Width:</source>
+        <translation>宽度：</translation>
+    </message>
+    <message>
+        <source>Height:</source>
+        <translation>高度：</translation>
+    </message>
+    <message>
+        <source>Offset X:</source>
+        <translation>X 偏移：</translation>
+    </message>
+    <message>
+        <source>Offset Y:</source>
+        <translation>Y 偏移：</translation>
+    </message>
+    <message>
+        <source>Pixel format:</source>
+        <translation>像素格式：</translation>
+    </message>
+    <message>
+        <source>Trigger:</source>
+        <translation>触发：</translation>
+    </message>
+    <message>
+        <source>Test pattern:</source>
+        <translation>测试图案：</translation>
+    </message>
+    <message>
+        <source>Select a camera and click Start to see its settings.</source>
+        <translation>要查看设置，请选择一台相机并单击“开始”。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CFeatureTree</name>
+    <message>
+        <source>Part of a name</source>
+        <translation>名称的一部分</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>&amp;All features:</source>
+        <translation>所有参数(&amp;A)：</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraSettings::CSettingEditor</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not possible: %2 goes from %3 to %4.</source>
+        <translation>无法使用“%1”，%2 的范围是 %3 至 %4。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no number for %2.</source>
+        <translation>“%1”不是可用于 %2 的数字。</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,7 @@
 
 #include <QSet>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Viewer::Camera::GenICam {
@@ -46,10 +47,10 @@ void readLimits(ArvGcNode *node, CFeatureInfo &info)
     CErrorGuard incrementError;
     if (info.kind == EKind::Integer) {
         ArvGcInteger *const integer = ARV_GC_INTEGER(node);
-        info.minimum = static_cast<double>(arv_gc_integer_get_min(integer, minimumError.receive()));
-        info.maximum = static_cast<double>(arv_gc_integer_get_max(integer, maximumError.receive()));
-        info.increment
-            = static_cast<double>(arv_gc_integer_get_inc(integer, incrementError.receive()));
+        info.integerMinimum = arv_gc_integer_get_min(integer, minimumError.receive());
+        info.integerMaximum = arv_gc_integer_get_max(integer, maximumError.receive());
+        info.integerIncrement
+            = std::max<qint64>(arv_gc_integer_get_inc(integer, incrementError.receive()), 1);
         info.unit = QString::fromUtf8(arv_gc_integer_get_unit(integer));
     } else if (info.kind == EKind::Float) {
         ArvGcFloat *const number = ARV_GC_FLOAT(node);
@@ -75,7 +76,28 @@ QStringList readChoices(ArvGcEnumeration *node)
     return choices;
 }
 
-CFeatureInfo describe(ArvGcFeatureNode *feature, const QString &category)
+/// Those that the naming convention of features has cameras lock while they stream, by
+/// TLParamsLocked or by themselves: memory has been given for images of one size.
+bool isLockedWhileStreaming(const QString &name)
+{
+    static const QSet<QString> NAMES{QStringLiteral("Width"), QStringLiteral("Height"),
+                                     QStringLiteral("OffsetX"), QStringLiteral("OffsetY"),
+                                     QStringLiteral("PixelFormat")};
+    return NAMES.contains(name);
+}
+
+QString readValue(ArvGcFeatureNode *feature, CFeatureInfo::EKind kind, CErrorGuard &error)
+{
+    // The library makes a text of six digits of it.
+    if (kind == EKind::Float) {
+        const double value = arv_gc_float_get_value(ARV_GC_FLOAT(feature), error.receive());
+        return error ? QString() : CFeatureInfo::toText(value);
+    }
+    const char *const value = arv_gc_feature_node_get_value_as_string(feature, error.receive());
+    return error ? QString() : QString::fromUtf8(value);
+}
+
+CFeatureInfo describe(ArvGcFeatureNode *feature, const QString &category, bool isStreaming)
 {
     ArvGcNode *const node = ARV_GC_NODE(feature);
     CFeatureInfo info;
@@ -89,15 +111,16 @@ CFeatureInfo describe(ArvGcFeatureNode *feature, const QString &category)
     const ArvGcAccessMode mode = arv_gc_feature_node_get_actual_access_mode(feature);
     const bool isLocked = arv_gc_feature_node_is_locked(feature, lockedError.receive());
     info.isWritable = isAvailable && !isLocked && mode != ARV_GC_ACCESS_MODE_RO;
+    info.isLockedByImages = isStreaming && isAvailable && isLocked && mode != ARV_GC_ACCESS_MODE_RO
+        && isLockedWhileStreaming(info.name);
     info.isReadable = isAvailable && mode != ARV_GC_ACCESS_MODE_WO && info.kind != EKind::Command
         && info.kind != EKind::Other;
     if (!isAvailable)
         return info;
     if (info.isReadable) {
         CErrorGuard error;
-        const char *const value = arv_gc_feature_node_get_value_as_string(feature, error.receive());
+        info.value = readValue(feature, info.kind, error);
         info.isReadable = !error;
-        info.value = error ? QString() : QString::fromUtf8(value);
     }
     readLimits(node, info);
     if (info.kind == EKind::Enumeration)
@@ -108,8 +131,9 @@ CFeatureInfo describe(ArvGcFeatureNode *feature, const QString &category)
 class CTreeReader
 {
 public:
-    explicit CTreeReader(ArvDevice *device)
+    CTreeReader(ArvDevice *device, bool isStreaming)
         : m_device(device)
+        , m_isStreaming(isStreaming)
     {
     }
 
@@ -129,7 +153,7 @@ public:
             if (ARV_IS_GC_CATEGORY(child))
                 read(name, path.isEmpty() ? text : path + QStringLiteral(" / ") + text, depth + 1);
             else if (ARV_IS_GC_FEATURE_NODE(child))
-                m_features.append(describe(ARV_GC_FEATURE_NODE(child), path));
+                m_features.append(describe(ARV_GC_FEATURE_NODE(child), path, m_isStreaming));
         }
     }
 
@@ -137,16 +161,17 @@ public:
 
 private:
     ArvDevice *const m_device;
+    const bool m_isStreaming;
     QSet<QString> m_seen;
     QVector<CFeatureInfo> m_features;
 };
 
 } // namespace
 
-QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names)
+QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names, bool isStreaming)
 {
     if (names.isEmpty()) {
-        CTreeReader reader(device);
+        CTreeReader reader(device, isStreaming);
         reader.read("Root", {}, 0);
         return reader.getFeatures();
     }
@@ -154,7 +179,7 @@ QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names)
     for (const QString &name : names) {
         ArvGcNode *const node = arv_device_get_feature(device, name.toUtf8().constData());
         if (ARV_IS_GC_FEATURE_NODE(node) && !ARV_IS_GC_CATEGORY(node))
-            features.append(describe(ARV_GC_FEATURE_NODE(node), {}));
+            features.append(describe(ARV_GC_FEATURE_NODE(node), {}, isStreaming));
     }
     return features;
 }

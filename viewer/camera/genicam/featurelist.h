@@ -10,8 +10,9 @@
 namespace Viewer::Camera::GenICam {
 
 /// The features called @p names that the open camera has, or, without names, all those in its tree
-/// of categories. Reads each of them from the camera: what cannot be read has no value. The thread
-/// that owns the @p device.
-[[nodiscard]] QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names);
+/// of categories. Reads each of them from the camera: what cannot be read has no value.
+/// @p isStreaming: images come from it. The thread that owns the @p device.
+[[nodiscard]] QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names,
+                                                 bool isStreaming);
 
 } // namespace Viewer::Camera::GenICam

@@ -4,6 +4,7 @@
 #include "logging.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace Viewer::Camera::GenICam {
 
@@ -49,7 +50,8 @@ void CGenICamStream::close() noexcept
 
 QVector<CFeatureInfo> CGenICamStream::readFeatures(const QStringList &names)
 {
-    return m_device.translate([this, &names] { return listFeatures(m_device.getDevice(), names); });
+    return m_device.translate(
+        [this, &names] { return listFeatures(m_device.getDevice(), names, m_stream != nullptr); });
 }
 
 void CGenICamStream::writeFeature(const QString &name, const QString &value)
@@ -133,11 +135,21 @@ void CGenICamStream::takeFrames()
     }
 }
 
+/// Whether so many bytes as the @p frame says can be all pixels that it says. Bits of a pixel are
+/// a part of each code.
+static bool hasAllPixels(const CFrameInfo &frame)
+{
+    const qint64 bits = frame.pixelFormat >> 16 & 0xff;
+    return frame.width >= 0 && frame.height >= 0
+        && qint64(frame.width) * frame.height <= std::numeric_limits<qint64>::max() / 256
+        && (qint64(frame.width) * frame.height * bits + 7) / 8 <= frame.size;
+}
+
 void CGenICamStream::takeFrame(ArvBuffer *buffer)
 {
     CFrameInfo frame;
     frame.slot = GPOINTER_TO_INT(arv_buffer_get_user_data(buffer));
-    const bool isComplete = arv_buffer_get_status(buffer) == ARV_BUFFER_STATUS_SUCCESS;
+    bool isComplete = arv_buffer_get_status(buffer) == ARV_BUFFER_STATUS_SUCCESS;
     const ArvBufferPayloadType type = arv_buffer_get_payload_type(buffer);
     const bool hasImage = type == ARV_BUFFER_PAYLOAD_TYPE_IMAGE
         || type == ARV_BUFFER_PAYLOAD_TYPE_EXTENDED_CHUNK_DATA;
@@ -152,8 +164,11 @@ void CGenICamStream::takeFrame(ArvBuffer *buffer)
         frame.height = arv_buffer_get_image_height(buffer);
         frame.linePadding = padding;
         frame.size = static_cast<qint64>(size);
-        frame.number = arv_buffer_get_frame_id(buffer);
-        frame.timestamp = static_cast<qint64>(arv_buffer_get_timestamp(buffer));
+        constexpr guint64 GREATEST = std::numeric_limits<qint64>::max();
+        frame.number = arv_buffer_get_frame_id(buffer) & GREATEST;
+        frame.timestamp = static_cast<qint64>(arv_buffer_get_timestamp(buffer) & GREATEST);
+        // The library believes what a leader says, even where less has come.
+        isComplete = hasAllPixels(frame);
     }
     {
         const std::lock_guard lock(m_mutex);

@@ -61,8 +61,7 @@ static CFeatureInfo makeInteger(const char *name, const char *category, int valu
     info.kind = CFeatureInfo::EKind::Integer;
     info.isReadable = true;
     info.value = QString::number(value);
-    info.minimum = info.maximum = value;
-    info.increment = 1;
+    info.integerMinimum = info.integerMaximum = value;
     return info;
 }
 
@@ -100,7 +99,7 @@ QVector<CFeatureInfo> CSimulatedCameraStream::readFeatures(const QStringList &na
     rate.maximum = HIGHEST_FRAME_RATE;
     {
         const std::lock_guard lock(m_mutex);
-        rate.value = QString::number(m_frameRate);
+        rate.value = CFeatureInfo::toText(m_frameRate);
     }
     features << format << rate;
     if (names.isEmpty())
