@@ -188,6 +188,11 @@ void CImageView::pan(const QPointF &distance)
         setCenter(m_center - distance * devicePixelRatioF() / m_zoom);
 }
 
+void CImageView::resizeEvent(QResizeEvent *)
+{
+    emit pointedPixelChanged();
+}
+
 void CImageView::wheelEvent(QWheelEvent *event)
 {
     zoomByStep(static_cast<double>(event->angleDelta().y()) / WHEEL_STEP, event->position());
