@@ -23,7 +23,8 @@ void paintHistogram(QPainter &painter, const QRect &area, const Image::CHistogra
 {
     if (histogram.counts.isEmpty())
         return;
-    QRect panel(QPoint(), LARGEST.boundedTo(area.size() - QSize(2 * DISTANCE, 2 * DISTANCE)));
+    // Of a small image it leaves three quarters to be seen.
+    QRect panel(QPoint(), LARGEST.boundedTo(area.size() / 2 - QSize(DISTANCE, DISTANCE)));
     panel.moveBottomRight(area.bottomRight() - QPoint(DISTANCE, DISTANCE));
     const QRectF plot = panel.adjusted(PADDING, PADDING, -PADDING, -PADDING);
     if (plot.width() < 1 || plot.height() < 1)

@@ -80,7 +80,8 @@ void CImageTile::addStatistics(const Camera::CStreamStatistics &statistics, qint
 {
     m_rates.add(statistics, skippedCount + m_converter.getDroppedCount(), m_clock.elapsed());
     m_ratesLabel->setText(m_rates.getText());
-    m_ratesLabel->setToolTip(m_rates.getTotals());
+    // The line may be cut, the tool tip is not.
+    m_ratesLabel->setToolTip(m_rates.getText() + QLatin1String("\n\n") + m_rates.getTotals());
 }
 
 void CImageTile::setPlaceholder(const QString &title, const QString &hint)
