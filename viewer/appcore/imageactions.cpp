@@ -110,7 +110,7 @@ void CImageActions::askForFile(const QByteArray &png, const QString &name)
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     auto *const dialog = new QFileDialog(m_window, tr("Save image"),
                                          QSettings().value(PICTURE_FOLDER_KEY, pictures).toString(),
-                                         tr("PNG images (*.png)"));
+                                         tr("PNG images") + QLatin1String(" (*.png)"));
     dialog->setObjectName(QStringLiteral("saveImageDialog"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("png"));

@@ -73,7 +73,7 @@
     <message numerus="yes">
         <source>%n image(s) recorded.</source>
         <translation>
-            <numerusform>画像を %n 枚録画しました。</numerusform>
+            <numerusform>録画が終わりました: 画像 %n 枚。</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -177,8 +177,8 @@
         <translation>画像の保存</translation>
     </message>
     <message>
-        <source>PNG images (*.png)</source>
-        <translation>PNG 画像 (*.png)</translation>
+        <source>PNG images</source>
+        <translation>PNG 画像</translation>
     </message>
     <message>
         <source>out of memory</source>

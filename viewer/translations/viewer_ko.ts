@@ -177,8 +177,8 @@
         <translation>영상 저장</translation>
     </message>
     <message>
-        <source>PNG images (*.png)</source>
-        <translation>PNG 영상(*.png)</translation>
+        <source>PNG images</source>
+        <translation>PNG 영상</translation>
     </message>
     <message>
         <source>out of memory</source>

@@ -177,8 +177,8 @@
         <translation>保存图像</translation>
     </message>
     <message>
-        <source>PNG images (*.png)</source>
-        <translation>PNG 图像 (*.png)</translation>
+        <source>PNG images</source>
+        <translation>PNG 图像</translation>
     </message>
     <message>
         <source>out of memory</source>
