@@ -38,7 +38,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = Fuzz::toBytes(data, size);
     QString fault;
-    const QCborMap map = Viewer::Process::isBounded(bytes) ? QCborValue::fromCbor(bytes).toMap() : QCborMap();
+    const QCborMap map
+        = Viewer::Process::isBounded(bytes) ? QCborValue::fromCbor(bytes).toMap() : QCborMap();
     if (const auto task = CWorkerTask::fromCbor(map, fault)) {
         const auto again = CWorkerTask::fromCbor(task->toCbor(), fault);
         Fuzz::require(again && write(again->toCbor()) == write(task->toCbor()));

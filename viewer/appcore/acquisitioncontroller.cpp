@@ -1,9 +1,13 @@
 #include "acquisitioncontroller.h"
 
 #include "actioncontainer.h"
-#include "imageview.h"
 #include "menuservice.h"
 #include "modaldialogwatcher.h"
+
+#include "viewer/camera/icamerastream.h"
+#include "viewer/imageview/imagegrid.h"
+#include "viewer/imageview/imagetile.h"
+#include "viewer/imageview/imageview.h"
 
 #include <QAction>
 #include <QDir>
@@ -19,10 +23,10 @@ using Camera::ECameraActivity;
 
 static const QLatin1String RECORDING_FOLDER_KEY("recordingFolder");
 
-CAcquisitionController::CAcquisitionController(CameraPool::CCameraPool &pool, CImageView &view,
-                                               QWidget *window)
+CAcquisitionController::CAcquisitionController(CameraPool::CCameraPool &pool,
+                                               ImageView::CImageGrid &images, QWidget *window)
     : m_pool(pool)
-    , m_view(view)
+    , m_images(images)
     , m_window(window)
     , m_startAction(createAction(QStringLiteral("start"), tr("&Start"), Qt::Key_F6))
     , m_stopAction(createAction(QStringLiteral("stop"), tr("S&top"), Qt::Key_F7))
@@ -44,6 +48,19 @@ CAcquisitionController::CAcquisitionController(CameraPool::CCameraPool &pool, CI
             &CAcquisitionController::onActivityChanged);
     connect(&m_pool, &CameraPool::CCameraPool::frameReady, this,
             &CAcquisitionController::onFrameReady);
+    connect(&m_pool, &CameraPool::CCameraPool::statisticsChanged, this,
+            &CAcquisitionController::onStatisticsChanged);
+    connect(&m_pool, &CameraPool::CCameraPool::startsLockedChanged, this, [this] {
+        updateActions();
+        if (!isShowingImage())
+            updatePlaceholder();
+    });
+    connect(&m_pool, &CameraPool::CCameraPool::streamFailed, this,
+            [this](const QString &, const QString &text) { emit message(text); });
+    connect(&m_pool, &CameraPool::CCameraPool::recordingEnded, this,
+            [this](const QString &, quint64 writtenCount, quint64 lostCount) {
+                onRecordingEnded(writtenCount, lostCount);
+            });
     updateActions();
     updatePlaceholder();
 }
@@ -73,37 +90,59 @@ void CAcquisitionController::addActions(QToolBar *toolBar, QMenu *fileMenu,
 
 void CAcquisitionController::setCamera(const Plugin::CameraPool::CameraInfoPtr &camera)
 {
-    const bool sameCamera = camera && m_camera && camera->getId() == m_camera->getId();
     m_camera = camera;
+    if (camera)
+        m_images.setSelected(camera->getId(), camera->getDisplayName());
+    else
+        m_images.setSelected({}, {});
     updateActions();
-    if (!sameCamera || !m_view.hasImage())
+    if (!isShowingImage())
         updatePlaceholder();
 }
 
 void CAcquisitionController::setCamerasAvailable(bool available)
 {
     m_camerasAvailable = available;
-    if (!m_view.hasImage())
+    if (!isShowingImage())
         updatePlaceholder();
 }
 
 void CAcquisitionController::onActivityChanged(const QString &cameraId)
 {
+    const ECameraActivity activity = m_pool.getActivity(cameraId);
+    const bool isAcquiring
+        = activity == ECameraActivity::Acquiring || activity == ECameraActivity::Recording;
+    m_images.setAcquiring(cameraId, m_pool.getSnapshot(cameraId).displayName, isAcquiring);
     if (!m_camera || m_camera->getId() != cameraId)
         return;
     updateActions();
-    const ECameraActivity activity = getActivity();
-    if (activity != ECameraActivity::Acquiring && activity != ECameraActivity::Recording)
+    if (!isAcquiring)
         updatePlaceholder();
 }
 
 void CAcquisitionController::onFrameReady(const QString &cameraId, const Image::CFrame &frame)
 {
-    if (!m_camera || m_camera->getId() != cameraId)
-        return;
-    const Image::CConvertedFrame converted = m_converter.toDisplay(frame);
-    if (!converted.image.isNull())
-        m_view.setImage(converted.image);
+    if (ImageView::CImageTile *const tile = m_images.findTile(cameraId))
+        tile->showFrame(frame);
+}
+
+void CAcquisitionController::onStatisticsChanged(const QString &cameraId,
+                                                 const Camera::CStreamStatistics &statistics,
+                                                 qint64 skippedFrames)
+{
+    if (ImageView::CImageTile *const tile = m_images.findTile(cameraId))
+        tile->addStatistics(statistics, skippedFrames);
+}
+
+void CAcquisitionController::onRecordingEnded(quint64 writtenCount, quint64 lostCount)
+{
+    QString text = tr("%n image(s) recorded.", nullptr, static_cast<int>(writtenCount));
+    if (lostCount > 0) {
+        text += QLatin1Char(' ')
+            + tr("%n image(s) lost, since writing was too slow.", nullptr,
+                 static_cast<int>(lostCount));
+    }
+    emit message(text);
 }
 
 void CAcquisitionController::start()
@@ -160,27 +199,34 @@ void CAcquisitionController::updateActions()
     const bool idle = m_camera && activity == ECameraActivity::Idle;
     const bool recording = activity == ECameraActivity::Recording;
     const bool acquiring = activity == ECameraActivity::Acquiring || recording;
-    m_startAction->setEnabled(idle);
+    const bool canStart = m_camera && m_pool.getStartObstacle(m_camera->getId()).isEmpty();
+    m_startAction->setEnabled(idle && canStart);
     m_stopAction->setEnabled(acquiring);
-    m_recordAction->setEnabled(idle || activity == ECameraActivity::Acquiring);
+    m_recordAction->setEnabled((idle || activity == ECameraActivity::Acquiring) && canStart);
     m_stopRecordingAction->setEnabled(recording);
 }
 
 void CAcquisitionController::updatePlaceholder()
 {
+    ImageView::CImageTile *const tile = m_images.getSelectedTile();
+    if (!tile)
+        return;
     if (!m_camera) {
         if (m_camerasAvailable)
-            m_view.setPlaceholder(tr("No camera selected"), tr("Select a camera in the list."));
+            tile->setPlaceholder(tr("No camera selected"), tr("Select a camera in the list."));
         else
-            m_view.setPlaceholder(tr("No cameras found"), tr("Plug one in and click Refresh."));
+            tile->setPlaceholder(tr("No cameras found"), tr("Plug one in and click Refresh."));
         return;
     }
-    QString hint = tr("Click Start to see its image.");
-    if (getActivity() == ECameraActivity::Updating)
-        hint = tr("Its firmware is being updated.");
-    else if (getActivity() == ECameraActivity::InUseElsewhere)
-        hint = tr("It is in use by another application.");
-    m_view.setPlaceholder(m_camera->getDisplayName(), hint);
+    const QString obstacle = m_pool.getStartObstacle(m_camera->getId());
+    tile->setPlaceholder(m_camera->getDisplayName(),
+                         obstacle.isEmpty() ? tr("Click Start to see its image.") : obstacle);
+}
+
+bool CAcquisitionController::isShowingImage() const
+{
+    const ImageView::CImageTile *const tile = m_images.getSelectedTile();
+    return tile && tile->getView()->hasImage();
 }
 
 ECameraActivity CAcquisitionController::getActivity() const

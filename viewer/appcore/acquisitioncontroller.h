@@ -2,7 +2,6 @@
 
 #include "camerapool/icamerainfo.h"
 #include "viewer/camerapool/camerapool.h"
-#include "viewer/image/frameconverter.h"
 
 #include <QObject>
 
@@ -11,19 +10,24 @@ class QMenu;
 class QToolBar;
 class QWidget;
 
+namespace Viewer::ImageView {
+class CImageGrid;
+}
+
 namespace Viewer::AppCore {
 
 class CActionContainer;
-class CImageView;
 
-/// Starts and stops the selected camera by the actions of menus and tool bar, and shows its image.
+/// Starts and stops the selected camera by the actions of menus and tool bar, and shows the images
+/// of all that acquire.
 class CAcquisitionController : public QObject
 {
     Q_OBJECT
 
 public:
     /// All arguments are borrowed and outlive this object; @p window is the parent of dialogs.
-    CAcquisitionController(CameraPool::CCameraPool &pool, CImageView &view, QWidget *window);
+    CAcquisitionController(CameraPool::CCameraPool &pool, ImageView::CImageGrid &images,
+                           QWidget *window);
     ~CAcquisitionController() override;
 
     void addActions(QToolBar *toolBar, QMenu *fileMenu, CActionContainer &contextMenu);
@@ -42,6 +46,9 @@ private:
     QAction *createAction(const QString &name, const QString &text, const QKeySequence &shortcut);
     void onActivityChanged(const QString &cameraId);
     void onFrameReady(const QString &cameraId, const Image::CFrame &frame);
+    void onStatisticsChanged(const QString &cameraId, const Camera::CStreamStatistics &statistics,
+                             qint64 skippedFrames);
+    void onRecordingEnded(quint64 writtenCount, quint64 lostCount);
     void start();
     void stop();
     void chooseRecordingFolder();
@@ -49,11 +56,11 @@ private:
     void stopRecording();
     void updateActions();
     void updatePlaceholder();
+    [[nodiscard]] bool isShowingImage() const;
     [[nodiscard]] Camera::ECameraActivity getActivity() const;
 
     CameraPool::CCameraPool &m_pool;
-    CImageView &m_view;
-    Image::CFrameConverter m_converter;
+    ImageView::CImageGrid &m_images;
     QWidget *const m_window;
     QAction *const m_startAction;
     QAction *const m_stopAction;

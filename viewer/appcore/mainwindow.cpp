@@ -166,6 +166,11 @@ QMenu *CMainWindow::getFileMenu() const
     return m_fileMenu;
 }
 
+QMenu *CMainWindow::getViewMenu() const
+{
+    return m_viewMenu;
+}
+
 QMenu *CMainWindow::insertMenu(const QString &title)
 {
     auto *const menu = new QMenu(title, this);

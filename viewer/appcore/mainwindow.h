@@ -50,6 +50,7 @@ public:
     void setStatus(const QString &text);
 
     [[nodiscard]] QMenu *getFileMenu() const;
+    [[nodiscard]] QMenu *getViewMenu() const;
     /// A new menu in the middle of the menu bar.
     [[nodiscard]] QMenu *insertMenu(const QString &title);
     [[nodiscard]] QMenu *getHelpMenu() const;

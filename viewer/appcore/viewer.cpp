@@ -2,7 +2,7 @@
 
 #include "acquisitioncontroller.h"
 #include "actioncontainer.h"
-#include "imageview.h"
+#include "imageactions.h"
 #include "interruptionbar.h"
 #include "linkopener.h"
 #include "logfolder.h"
@@ -25,6 +25,7 @@
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
 #include "viewer/camerasettings/camerasettingsview.h"
+#include "viewer/imageview/imagegrid.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
 #include "viewer/process/workerpath.h"
@@ -152,7 +153,7 @@ void CViewer::showSignature(const QString &filePath, const Signature::CSignature
 
 void CViewer::createWindow()
 {
-    auto *const imageView = new CImageView;
+    auto *const images = new ImageView::CImageGrid;
     m_selectorView
         = new CameraSelector::CCameraSelectorView(getEnumerationService(), m_selectorService);
     m_selectorView->getModel()->setSnapshots(
@@ -162,14 +163,19 @@ void CViewer::createWindow()
         = new CInterruptionBar(m_options.journalFolder, [this](const QString &cameraId) {
               return m_pool->getSnapshot(cameraId);
           });
-    m_window->setViews(m_selectorView, m_interruptionBar, imageView);
+    m_window->setViews(m_selectorView, m_interruptionBar, images);
     connect(m_pool.get(), &CameraPool::CCameraPool::updateRunningChanged, m_interruptionBar,
             &CInterruptionBar::refresh);
     m_window->setCloseGuard([this] { return getReasonToStayOpen(); });
 
-    m_acquisition = std::make_unique<CAcquisitionController>(*m_pool, *imageView, m_window.get());
+    m_acquisition = std::make_unique<CAcquisitionController>(*m_pool, *images, m_window.get());
     connect(m_acquisition.get(), &CAcquisitionController::message, m_window.get(),
             &CMainWindow::showMessage);
+    m_imageActions = std::make_unique<CImageActions>(*images, m_window.get());
+    connect(m_imageActions.get(), &CImageActions::message, m_window.get(),
+            &CMainWindow::showMessage);
+    connect(images, &ImageView::CImageGrid::cameraActivated, m_selectorView,
+            &CameraSelector::CCameraSelectorView::selectId);
     connect(m_selectorService.data(), &CameraSelector::CDeviceSelectorService::selectionChanged,
             m_acquisition.get(), [this](const auto &info) {
                 m_acquisition->setCamera(
@@ -228,6 +234,8 @@ void CViewer::fillMenus()
     QAction *const quitAction
         = fileMenu->addAction(tr("&Quit"), m_window.get(), &QWidget::close, QKeySequence::Quit);
     quitAction->setObjectName(QStringLiteral("quit"));
+
+    m_imageActions->addActions(m_window->getViewMenu());
 
     QMenu *const helpMenu = m_window->getHelpMenu();
     if (m_logs) {

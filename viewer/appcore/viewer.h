@@ -33,6 +33,7 @@ class IDeviceFirmwareUpdateService;
 namespace Viewer::AppCore {
 
 class CAcquisitionController;
+class CImageActions;
 class CInterruptionBar;
 class CLinkOpener;
 class CLogFolder;
@@ -111,6 +112,7 @@ private:
     QSharedPointer<CameraSelector::CDeviceSelectorService> m_selectorService;
     std::unique_ptr<CMainWindow> m_window;
     std::unique_ptr<CAcquisitionController> m_acquisition;
+    std::unique_ptr<CImageActions> m_imageActions;
     std::vector<std::unique_ptr<CSwitchMenu>> m_switchMenus;
     std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;

@@ -224,7 +224,10 @@ void CCameraPool::stopRecording(const QString &cameraId)
 
 void CCameraPool::setStartsLocked(bool locked)
 {
+    if (d->startsLocked == locked)
+        return;
     d->startsLocked = locked;
+    emit startsLockedChanged();
 }
 
 bool CCameraPool::isUpdateRunning() const
@@ -276,29 +279,32 @@ void CCameraPool::onRecordingFailed(const QString &cameraId, const QString &caus
         tr("The recording of camera %1 has ended: %2.").arg(getDisplayName(cameraId), cause));
 }
 
-bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity, QString *error)
+QString CCameraPool::getStartObstacle(const QString &cameraId) const
 {
     const QString name = getDisplayName(cameraId);
-    if (d->startsLocked) {
-        setError(error,
-                 tr("Camera %1 cannot be started while the firmware updater is open.").arg(name));
-        return false;
-    }
+    if (d->startsLocked)
+        return tr("Camera %1 cannot be started while the firmware updater is open.").arg(name);
     const ICameraKind *const kind = findKind(cameraId);
-    if (!kind || !d->hasWorker) {
-        setError(error, tr("Camera %1 has no images here.").arg(name));
-        return false;
-    }
-    if (kind->getPresence(cameraId) == ECameraPresence::Absent) {
-        setError(error, tr("Camera %1 does not answer; check its cable.").arg(name));
-        return false;
-    }
-    if (getActivity(cameraId) == ECameraActivity::InUseElsewhere) {
-        setError(error, tr("Camera %1 is in use by another application.").arg(name));
-        return false;
-    }
-    if (d->activities->begin(cameraId, activity) == ECameraActivity::Updating) {
-        setError(error, tr("Camera %1 is being updated.").arg(name));
+    if (!kind || !d->hasWorker)
+        return tr("Camera %1 has no images here.").arg(name);
+    if (kind->getPresence(cameraId) == ECameraPresence::Absent)
+        return tr("Camera %1 does not answer; check its cable.").arg(name);
+    const ECameraActivity activity = getActivity(cameraId);
+    if (activity == ECameraActivity::InUseElsewhere)
+        return tr("Camera %1 is in use by another application.").arg(name);
+    if (activity == ECameraActivity::Updating || d->enumeration->getProgressElsewhere(cameraId))
+        return tr("Camera %1 is being updated.").arg(name);
+    return {};
+}
+
+bool CCameraPool::beginStream(const QString &cameraId, ECameraActivity activity, QString *error)
+{
+    QString obstacle = getStartObstacle(cameraId);
+    // An update may begin on its own thread at any time.
+    if (obstacle.isEmpty() && d->activities->begin(cameraId, activity) == ECameraActivity::Updating)
+        obstacle = tr("Camera %1 is being updated.").arg(getDisplayName(cameraId));
+    if (!obstacle.isEmpty()) {
+        setError(error, obstacle);
         return false;
     }
     d->lost.remove(cameraId);

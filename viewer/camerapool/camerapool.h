@@ -70,8 +70,12 @@ public:
 
     [[nodiscard]] Camera::ECameraActivity getActivity(const QString &cameraId) const;
 
-    /// Start and stop acquisition of one camera. False, with a sentence in @p error, when the
-    /// camera is gone, being updated, or starts are locked.
+    /// Why startAcquisition() and startRecording() would be refused now, as a sentence; empty: as
+    /// far as one can know beforehand, nothing is in their way.
+    [[nodiscard]] QString getStartObstacle(const QString &cameraId) const;
+
+    /// Start and stop acquisition of one camera. False, with a sentence in @p error, when
+    /// getStartObstacle() has one.
     bool startAcquisition(const QString &cameraId, QString *error = nullptr);
     void stopAcquisition(const QString &cameraId);
 
@@ -93,6 +97,9 @@ public:
     [[nodiscard]] const Camera::CCameraKinds &getKinds() const;
 
 signals:
+    /// GUI thread; what getStartObstacle() says may be different for every camera.
+    void startsLockedChanged();
+
     /// GUI thread; the activity or the presence of a camera has changed.
     void activityChanged(const QString &cameraId);
 

@@ -66,9 +66,7 @@ QString getFrameFileName(const QString &camera, const QDateTime &time, quint64 n
              QString::number(number).rightJustified(6, QLatin1Char('0')));
 }
 
-/// Empty if there is no memory.
-static QByteArray encodeFrame(CFrameConverter &converter, const QString &camera,
-                              const CFrame &frame)
+QByteArray encodeFrame(CFrameConverter &converter, const QString &camera, const CFrame &frame)
 {
     const QImage image = converter.toFullDepth(frame).image;
     if (image.isNull())

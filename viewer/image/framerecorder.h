@@ -13,6 +13,8 @@
 
 namespace Viewer::Image {
 
+class CFrameConverter;
+
 struct CFrame;
 
 /// What one recording is to be.
@@ -38,6 +40,11 @@ struct CRecording
 /// takes, the time, and the number of the frame.
 [[nodiscard]] QString getFrameFileName(const QString &camera, const QDateTime &time,
                                        quint64 number);
+
+/// A PNG file of the frame, with what files of a recording have, see `CFrameRecorder`. @p camera is
+/// its name. Empty if the frame cannot be read or there is no memory.
+[[nodiscard]] QByteArray encodeFrame(CFrameConverter &converter, const QString &camera,
+                                     const CFrame &frame);
 
 /// Writes frames as PNG files, what the sensor gave without a loss
 /// (`CFrameConverter::toFullDepth()`). Each file has the texts `Camera`, `FrameNumber`, `Timestamp`

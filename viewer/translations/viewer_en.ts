@@ -2,6 +2,23 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
+    <name>Viewer::AppCore::CAcquisitionController</name>
+    <message numerus="yes">
+        <source>%n image(s) recorded.</source>
+        <translation>
+            <numerusform>%n image recorded.</numerusform>
+            <numerusform>%n images recorded.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) lost, since writing was too slow.</source>
+        <translation>
+            <numerusform>%n image lost, since writing was too slow.</numerusform>
+            <numerusform>%n images lost, since writing was too slow.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CInterruptionBar</name>
     <message numerus="yes">
         <source>And %n more.</source>

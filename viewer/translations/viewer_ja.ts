@@ -59,10 +59,6 @@
         <translation>カメラが見つかりません</translation>
     </message>
     <message>
-        <source>Its firmware is being updated.</source>
-        <translation>ファームウェアを更新しています。</translation>
-    </message>
-    <message>
         <source>Recording %1 to %2.</source>
         <translation>%1 の録画を %2 に保存しています。</translation>
     </message>
@@ -74,9 +70,17 @@
         <source>Click Start to see its image.</source>
         <translation>画像を表示するには「開始」をクリックしてください。</translation>
     </message>
-    <message>
-        <source>It is in use by another application.</source>
-        <translation>別のアプリケーションで使用中です。</translation>
+    <message numerus="yes">
+        <source>%n image(s) recorded.</source>
+        <translation>
+            <numerusform>録画が終わりました: 画像 %n 枚。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) lost, since writing was too slow.</source>
+        <translation>
+            <numerusform>書き込みが間に合わず、画像 %n 枚が失われました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -127,10 +131,70 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CImageView</name>
+    <name>Viewer::AppCore::CImageActions</name>
     <message>
-        <source>Image</source>
-        <translation>画像</translation>
+        <source>&amp;Fit to window</source>
+        <translation>ウィンドウに合わせる(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Original si&amp;ze</source>
+        <translation>実際のサイズ(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>拡大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>縮小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Mark satu&amp;rated pixels</source>
+        <translation>飽和した画素に印を付ける(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram</source>
+        <translation>ヒストグラム(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve image...</source>
+        <translation>画像を保存(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py image</source>
+        <translation>画像をコピー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>There is no image to save.</source>
+        <translation>保存する画像がありません。</translation>
+    </message>
+    <message>
+        <source>The image has been copied.</source>
+        <translation>画像をコピーしました。</translation>
+    </message>
+    <message>
+        <source>There is no image to copy.</source>
+        <translation>コピーする画像がありません。</translation>
+    </message>
+    <message>
+        <source>Save image</source>
+        <translation>画像の保存</translation>
+    </message>
+    <message>
+        <source>PNG images</source>
+        <translation>PNG 画像</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>メモリが不足しています</translation>
+    </message>
+    <message>
+        <source>The image has been saved as %1.</source>
+        <translation>画像を %1 として保存しました。</translation>
+    </message>
+    <message>
+        <source>The image could not be saved as %1: %2.</source>
+        <translation>画像を %1 として保存できませんでした: %2。</translation>
     </message>
 </context>
 <context>
@@ -1086,6 +1150,43 @@ Signature
   有効期限:         %4
   SHA-256 (証明書): %5
 </translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CImageTile</name>
+    <message>
+        <source>Its image cannot be shown: %1.</source>
+        <translation>画像を表示できません: %1。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CImageView</name>
+    <message>
+        <source>Image</source>
+        <translation>画像</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CStreamRates</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s; packets: %3 resent, %4 lost; frames: %5 incomplete, %6 not shown</source>
+        <translation>%1 フレーム/秒、%2 MB/s、パケット: 再送 %3、損失 %4、フレーム: 不完全 %5、非表示 %6</translation>
+    </message>
+    <message>
+        <source>Since acquisition was started:
+frames: %1
+data: %2 MB
+resent packets: %3
+lost packets: %4
+incomplete frames: %5
+frames not shown: %6</source>
+        <translation>画像取得の開始以降:
+フレーム: %1
+データ: %2 MB
+再送されたパケット: %3
+失われたパケット: %4
+不完全なフレーム: %5
+表示しなかったフレーム: %6</translation>
     </message>
 </context>
 <context>

@@ -59,10 +59,6 @@
         <translation>카메라를 찾을 수 없음</translation>
     </message>
     <message>
-        <source>Its firmware is being updated.</source>
-        <translation>펌웨어를 업데이트하고 있습니다.</translation>
-    </message>
-    <message>
         <source>Recording %1 to %2.</source>
         <translation>%1의 영상을 %2에 녹화하고 있습니다.</translation>
     </message>
@@ -74,9 +70,17 @@
         <source>Click Start to see its image.</source>
         <translation>영상을 보려면 &quot;시작&quot;을 클릭하십시오.</translation>
     </message>
-    <message>
-        <source>It is in use by another application.</source>
-        <translation>다른 응용 프로그램에서 사용 중입니다.</translation>
+    <message numerus="yes">
+        <source>%n image(s) recorded.</source>
+        <translation>
+            <numerusform>영상 %n장을 녹화했습니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) lost, since writing was too slow.</source>
+        <translation>
+            <numerusform>쓰기가 너무 느려 영상 %n장을 잃었습니다.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -127,10 +131,70 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CImageView</name>
+    <name>Viewer::AppCore::CImageActions</name>
     <message>
-        <source>Image</source>
-        <translation>영상</translation>
+        <source>&amp;Fit to window</source>
+        <translation>창에 맞추기(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Original si&amp;ze</source>
+        <translation>원래 크기(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>확대(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>축소(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Mark satu&amp;rated pixels</source>
+        <translation>포화된 픽셀 표시(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram</source>
+        <translation>히스토그램(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve image...</source>
+        <translation>영상 저장(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py image</source>
+        <translation>영상 복사(&amp;P)</translation>
+    </message>
+    <message>
+        <source>There is no image to save.</source>
+        <translation>저장할 영상이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The image has been copied.</source>
+        <translation>영상을 복사했습니다.</translation>
+    </message>
+    <message>
+        <source>There is no image to copy.</source>
+        <translation>복사할 영상이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Save image</source>
+        <translation>영상 저장</translation>
+    </message>
+    <message>
+        <source>PNG images</source>
+        <translation>PNG 영상</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>메모리가 부족합니다</translation>
+    </message>
+    <message>
+        <source>The image has been saved as %1.</source>
+        <translation>영상을 %1(으)로 저장했습니다.</translation>
+    </message>
+    <message>
+        <source>The image could not be saved as %1: %2.</source>
+        <translation>영상을 %1(으)로 저장하지 못했습니다: %2.</translation>
     </message>
 </context>
 <context>
@@ -1086,6 +1150,43 @@ Signature
   유효 기간 끝:     %4
   SHA-256 지문:     %5
 </translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CImageTile</name>
+    <message>
+        <source>Its image cannot be shown: %1.</source>
+        <translation>영상을 표시할 수 없습니다: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CImageView</name>
+    <message>
+        <source>Image</source>
+        <translation>영상</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CStreamRates</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s; packets: %3 resent, %4 lost; frames: %5 incomplete, %6 not shown</source>
+        <translation>%1프레임/초, %2 MB/s, 패킷: 재전송 %3, 손실 %4, 프레임: 불완전 %5, 표시 안 함 %6</translation>
+    </message>
+    <message>
+        <source>Since acquisition was started:
+frames: %1
+data: %2 MB
+resent packets: %3
+lost packets: %4
+incomplete frames: %5
+frames not shown: %6</source>
+        <translation>영상 획득을 시작한 이후:
+프레임: %1
+데이터: %2 MB
+재전송된 패킷: %3
+손실된 패킷: %4
+불완전한 프레임: %5
+표시하지 않은 프레임: %6</translation>
     </message>
 </context>
 <context>

@@ -59,10 +59,6 @@
         <translation>未找到相机</translation>
     </message>
     <message>
-        <source>Its firmware is being updated.</source>
-        <translation>正在更新其固件。</translation>
-    </message>
-    <message>
         <source>Recording %1 to %2.</source>
         <translation>正在将 %1 的图像录制到 %2。</translation>
     </message>
@@ -74,9 +70,17 @@
         <source>Click Start to see its image.</source>
         <translation>单击“开始”可查看图像。</translation>
     </message>
-    <message>
-        <source>It is in use by another application.</source>
-        <translation>正被另一个应用程序使用。</translation>
+    <message numerus="yes">
+        <source>%n image(s) recorded.</source>
+        <translation>
+            <numerusform>已录制 %n 张图像。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n image(s) lost, since writing was too slow.</source>
+        <translation>
+            <numerusform>由于写入太慢，丢失了 %n 张图像。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -127,10 +131,70 @@
     </message>
 </context>
 <context>
-    <name>Viewer::AppCore::CImageView</name>
+    <name>Viewer::AppCore::CImageActions</name>
     <message>
-        <source>Image</source>
-        <translation>图像</translation>
+        <source>&amp;Fit to window</source>
+        <translation>适应窗口(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Original si&amp;ze</source>
+        <translation>原始大小(&amp;Z)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>放大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>缩小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Mark satu&amp;rated pixels</source>
+        <translation>标记饱和像素(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram</source>
+        <translation>直方图(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve image...</source>
+        <translation>保存图像(&amp;V)...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py image</source>
+        <translation>复制图像(&amp;P)</translation>
+    </message>
+    <message>
+        <source>There is no image to save.</source>
+        <translation>没有可保存的图像。</translation>
+    </message>
+    <message>
+        <source>The image has been copied.</source>
+        <translation>已复制图像。</translation>
+    </message>
+    <message>
+        <source>There is no image to copy.</source>
+        <translation>没有可复制的图像。</translation>
+    </message>
+    <message>
+        <source>Save image</source>
+        <translation>保存图像</translation>
+    </message>
+    <message>
+        <source>PNG images</source>
+        <translation>PNG 图像</translation>
+    </message>
+    <message>
+        <source>out of memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>The image has been saved as %1.</source>
+        <translation>图像已保存为 %1。</translation>
+    </message>
+    <message>
+        <source>The image could not be saved as %1: %2.</source>
+        <translation>无法将图像保存为 %1：%2。</translation>
     </message>
 </context>
 <context>
@@ -1086,6 +1150,43 @@ Signature
   有效期至：        %4
   SHA-256 指纹：    %5
 </translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CImageTile</name>
+    <message>
+        <source>Its image cannot be shown: %1.</source>
+        <translation>无法显示图像：%1。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CImageView</name>
+    <message>
+        <source>Image</source>
+        <translation>图像</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::ImageView::CStreamRates</name>
+    <message>
+        <source>%1 frames/s, %2 MB/s; packets: %3 resent, %4 lost; frames: %5 incomplete, %6 not shown</source>
+        <translation>%1 帧/秒，%2 MB/s；数据包：重传 %3，丢失 %4；帧：不完整 %5，未显示 %6</translation>
+    </message>
+    <message>
+        <source>Since acquisition was started:
+frames: %1
+data: %2 MB
+resent packets: %3
+lost packets: %4
+incomplete frames: %5
+frames not shown: %6</source>
+        <translation>自采集开始以来：
+帧：%1
+数据：%2 MB
+重传的数据包：%3
+丢失的数据包：%4
+不完整的帧：%5
+未显示的帧：%6</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,5 @@
+#include "support/camerakinds.h"
 #include "support/vieweroptions.h"
-#include "viewer/appcore/imageview.h"
 #include "viewer/appcore/logfolder.h"
 #include "viewer/appcore/mainwindow.h"
 #include "viewer/appcore/textdialog.h"
@@ -7,6 +7,9 @@
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
+#include "viewer/imageview/imagegrid.h"
+#include "viewer/imageview/imagetile.h"
+#include "viewer/imageview/imageview.h"
 #include "viewer/update/updatehistory.h"
 #include "viewer/update/updatejournal.h"
 
@@ -32,6 +35,7 @@
 #include <thread>
 
 using namespace Viewer::AppCore;
+using namespace Viewer::ImageView;
 using Plugin::CameraPool::ICameraEnumerationService;
 
 /// The viewer put together with its real cameras and with the plug-in of the samples; no other lies
@@ -46,6 +50,7 @@ private slots:
     void readsItsCommandLine();
     void samplePluginCountsAndLeavesNothing();
     void acquiresAndRecords();
+    void showsSeveralCameras();
     void wizardLocksStartsAndClosing();
     void runningUpdateKeepsTheWindowOpen_data();
     void runningUpdateKeepsTheWindowOpen();
@@ -160,7 +165,6 @@ void CViewerTest::acquiresAndRecords()
 {
     const QTemporaryDir folder;
     const QList<QAction *> buttons = m_window->getToolBar()->actions();
-    const auto *const view = m_window->findChild<CImageView *>();
     QCOMPARE(enabledButtons(), QString());
     m_tree->selectId(camera()->getId());
     QCOMPARE(enabledButtons(), "02");
@@ -174,9 +178,44 @@ void CViewerTest::acquiresAndRecords()
     buttons.at(StopRecording)->trigger();
     QTRY_COMPARE(enabledButtons(), "12");
     QCOMPARE(m_tree->currentIndex().siblingAtColumn(6).data().toString(), "Acquiring");
-    QTRY_VERIFY(view->hasImage());
+    QTRY_VERIFY(m_window->statusBar()->currentMessage().contains("recorded."));
+    auto *const images = m_window->findChild<CImageGrid *>();
+    QTRY_VERIFY(images->getSelectedTile()->getView()->hasImage());
     buttons.at(Stop)->trigger();
     QTRY_COMPARE(enabledButtons(), "02");
+    QVERIFY(!images->getSelectedTile()->getView()->hasImage());
+    // Where it would be refused, it cannot be clicked, and the reason is in place of the image.
+    QVERIFY(TestSupport::setSwitch(*m_pool, "busy:" + camera()->getId(), true));
+    QTRY_COMPARE(enabledButtons(), QString());
+    const QString reason = images->getSelectedTile()->getView()->accessibleDescription();
+    QVERIFY2(reason.contains("in use by another"), qPrintable(reason));
+}
+
+void CViewerTest::showsSeveralCameras()
+{
+    auto *const images = m_window->findChild<CImageGrid *>();
+    const auto cameras = m_viewer->getEnumerationService()
+                             ->getTransportLayerInfoVector()
+                             .constFirst()
+                             ->getCameraInfoList()
+                             .mid(0, 4);
+    for (const auto &camera : cameras)
+        QVERIFY(m_pool->startAcquisition(camera->getId()));
+    QTRY_COMPARE(images->getShownIds().size(), 4);
+    for (const auto &camera : cameras) {
+        const CImageView *const view = images->findTile(camera->getId())->getView();
+        QTRY_VERIFY(view->hasImage());
+    }
+    const QString third = cameras.at(2)->getId();
+    QTest::mouseClick(images->findTile(third)->getView(), Qt::LeftButton);
+    QCOMPARE(m_tree->currentIndex(), m_tree->getModel()->findId(third));
+    m_window->findChild<QAction *>("saveImage")->trigger();
+    QFileDialog *dialog = nullptr;
+    QTRY_VERIFY((dialog = m_window->findChild<QFileDialog *>("saveImageDialog")));
+    const QTemporaryDir folder;
+    emit dialog->fileSelected(folder.filePath("a.png"));
+    dialog->close();
+    QVERIFY(!QImage(folder.filePath("a.png")).isNull());
 }
 
 void CViewerTest::wizardLocksStartsAndClosing()
