@@ -54,7 +54,7 @@ CFeatureTree::CFeatureTree(QWidget *parent)
     layout->addWidget(label);
     layout->addWidget(filter);
     layout->addWidget(view, 1);
-    view->header()->resizeSection(0, view->fontMetrics().averageCharWidth() * 32);
+    view->header()->resizeSection(0, view->fontMetrics().averageCharWidth() * 24);
 }
 
 static QString describeValue(const CFeatureInfo &feature)
