@@ -190,12 +190,14 @@ void CImageViewTest::newestFrameIsShownAndFewAreHeld()
 {
     std::atomic_int held = 0;
     const auto send = [&](int width) {
-        CFrame frame = TestFrames::makeFrame("Mono8", width, 500);
+        CFrame frame = TestFrames::makeFrame("Mono8", width, 50);
         ++held;
         frame.memory = std::shared_ptr<const void>(
             frame.data, [&held, memory = frame.memory](const void *) { --held; });
         m_tile->showFrame(frame);
     };
+    send(100);
+    QTRY_COMPARE(m_view->getImage().width(), 100);
     for (int i = 1; i <= 20; ++i) {
         send(100 + i);
         QVERIFY2(held <= 2, qPrintable(QString::number(i)));
