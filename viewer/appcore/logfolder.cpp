@@ -1,7 +1,7 @@
 #include "logfolder.h"
 
-#include "viewer/files/statefolder.h"
 #include "viewer/files/pathtrust.h"
+#include "viewer/files/statefolder.h"
 
 #include <QDir>
 #include <QFile>
