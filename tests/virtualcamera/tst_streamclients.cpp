@@ -67,9 +67,9 @@ void CStreamClientsTest::streams()
     QFETCH(QStringList, fault);
     QFETCH(QStringList, arguments);
     CVirtualCameraProcess camera(m_address,
-                                 QStringList{"--size", "640x480", "--fps", "50"} + fault);
+                                 QStringList{"--size", "320x240", "--fps", "50"} + fault);
     const QString output = runTool("arv-camera-test-0.8",
-                                   QStringList{"--auto", "--duration=2"} + arguments, m_address);
+                                   QStringList{"--auto", "--duration=3"} + arguments, m_address);
     const QByteArray text = output.toUtf8();
     QVERIFY2(findNumber(output, "n_completed_buffers") >= 50, text);
     QVERIFY2(findNumber(output, "n_failures") == 0, text);
@@ -77,7 +77,7 @@ void CStreamClientsTest::streams()
     const qint64 packetSize = findNumber(output, "gv packet size");
     QCOMPARE(packetSize > 8000, !arguments.isEmpty());
     const QStringList events = camera.getEvents();
-    QVERIFY(events.contains("start acquisition 640x480 Mono8"));
+    QVERIFY(events.contains("start acquisition 320x240 Mono8"));
     QVERIFY(events.contains("stop acquisition"));
     const QHash<QString, qint64> numbers = camera.end();
     const bool loses = fault.contains("--lose-packet");
