@@ -1,5 +1,7 @@
 #include "streamrates.h"
 
+#include <QStringList>
+
 namespace Viewer::ImageView {
 
 static constexpr double MEGA = 1e6;
@@ -29,13 +31,19 @@ QString CStreamRates::getText() const
     const double seconds = static_cast<double>(time) / 1000;
     const double frames = static_cast<double>(now.frames - then.frames) / seconds;
     const double bytes = static_cast<double>(now.bytes - then.bytes) / seconds;
-    return tr("%1 frames/s, %2 MB/s; packets: %3 resent, %4 lost; frames: %5 "
-              "incomplete, %6 not shown")
-        .arg(QString::number(frames, 'f', 1), QString::number(bytes / MEGA, 'f', 1),
-             QString::number(now.resentPackets - then.resentPackets),
-             QString::number(now.lostPackets - then.lostPackets),
-             QString::number(now.incompleteFrames - then.incompleteFrames),
-             QString::number(m_last.droppedCount - m_previous.droppedCount));
+    QStringList parts{
+        tr("%1 frames/s, %2 MB/s")
+            .arg(QString::number(frames, 'f', 1), QString::number(bytes / MEGA, 'f', 1))};
+    // Beside a small image there is room for what is wrong, but not for what is not.
+    const auto add = [&parts](const QString &text, qint64 count) {
+        if (count > 0)
+            parts.append(text.arg(count));
+    };
+    add(tr("packets resent: %1"), now.resentPackets - then.resentPackets);
+    add(tr("packets lost: %1"), now.lostPackets - then.lostPackets);
+    add(tr("frames incomplete: %1"), now.incompleteFrames - then.incompleteFrames);
+    add(tr("frames not shown: %1"), m_last.droppedCount - m_previous.droppedCount);
+    return parts.join(QStringLiteral(", "));
 }
 
 QString CStreamRates::getTotals() const

@@ -1169,10 +1169,6 @@ Signature
 <context>
     <name>Viewer::ImageView::CStreamRates</name>
     <message>
-        <source>%1 frames/s, %2 MB/s; packets: %3 resent, %4 lost; frames: %5 incomplete, %6 not shown</source>
-        <translation>%1 フレーム/秒、%2 MB/s、パケット: 再送 %3、損失 %4、フレーム: 不完全 %5、非表示 %6</translation>
-    </message>
-    <message>
         <source>Since acquisition was started:
 frames: %1
 data: %2 MB
@@ -1187,6 +1183,26 @@ frames not shown: %6</source>
 失われたパケット: %4
 不完全なフレーム: %5
 表示しなかったフレーム: %6</translation>
+    </message>
+    <message>
+        <source>%1 frames/s, %2 MB/s</source>
+        <translation>%1 フレーム/秒、%2 MB/s</translation>
+    </message>
+    <message>
+        <source>packets resent: %1</source>
+        <translation>再送パケット: %1</translation>
+    </message>
+    <message>
+        <source>packets lost: %1</source>
+        <translation>損失パケット: %1</translation>
+    </message>
+    <message>
+        <source>frames incomplete: %1</source>
+        <translation>不完全フレーム: %1</translation>
+    </message>
+    <message>
+        <source>frames not shown: %1</source>
+        <translation>非表示フレーム: %1</translation>
     </message>
 </context>
 <context>

@@ -1169,10 +1169,6 @@ Signature
 <context>
     <name>Viewer::ImageView::CStreamRates</name>
     <message>
-        <source>%1 frames/s, %2 MB/s; packets: %3 resent, %4 lost; frames: %5 incomplete, %6 not shown</source>
-        <translation>%1프레임/초, %2 MB/s, 패킷: 재전송 %3, 손실 %4, 프레임: 불완전 %5, 표시 안 함 %6</translation>
-    </message>
-    <message>
         <source>Since acquisition was started:
 frames: %1
 data: %2 MB
@@ -1187,6 +1183,26 @@ frames not shown: %6</source>
 손실된 패킷: %4
 불완전한 프레임: %5
 표시하지 않은 프레임: %6</translation>
+    </message>
+    <message>
+        <source>%1 frames/s, %2 MB/s</source>
+        <translation>%1프레임/초, %2 MB/s</translation>
+    </message>
+    <message>
+        <source>packets resent: %1</source>
+        <translation>재전송 패킷: %1</translation>
+    </message>
+    <message>
+        <source>packets lost: %1</source>
+        <translation>손실 패킷: %1</translation>
+    </message>
+    <message>
+        <source>frames incomplete: %1</source>
+        <translation>불완전 프레임: %1</translation>
+    </message>
+    <message>
+        <source>frames not shown: %1</source>
+        <translation>표시하지 않은 프레임: %1</translation>
     </message>
 </context>
 <context>

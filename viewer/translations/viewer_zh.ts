@@ -1169,10 +1169,6 @@ Signature
 <context>
     <name>Viewer::ImageView::CStreamRates</name>
     <message>
-        <source>%1 frames/s, %2 MB/s; packets: %3 resent, %4 lost; frames: %5 incomplete, %6 not shown</source>
-        <translation>%1 帧/秒，%2 MB/s；数据包：重传 %3，丢失 %4；帧：不完整 %5，未显示 %6</translation>
-    </message>
-    <message>
         <source>Since acquisition was started:
 frames: %1
 data: %2 MB
@@ -1187,6 +1183,26 @@ frames not shown: %6</source>
 丢失的数据包：%4
 不完整的帧：%5
 未显示的帧：%6</translation>
+    </message>
+    <message>
+        <source>%1 frames/s, %2 MB/s</source>
+        <translation>%1 帧/秒，%2 MB/s</translation>
+    </message>
+    <message>
+        <source>packets resent: %1</source>
+        <translation>重传数据包：%1</translation>
+    </message>
+    <message>
+        <source>packets lost: %1</source>
+        <translation>丢失数据包：%1</translation>
+    </message>
+    <message>
+        <source>frames incomplete: %1</source>
+        <translation>不完整帧：%1</translation>
+    </message>
+    <message>
+        <source>frames not shown: %1</source>
+        <translation>未显示帧：%1</translation>
     </message>
 </context>
 <context>

@@ -234,8 +234,8 @@ void CImageViewTest::tellsRates()
     QCOMPARE(rates.getText(), QString());
     rates.add({150, 300'000'000, 2, 9, 2}, 13, 3000);
     QCOMPARE(rates.getText(),
-             "25.0 frames/s, 50.0 MB/s; packets: 4 resent, 0 lost; frames: 1 incomplete, 3 not "
-             "shown");
+             "25.0 frames/s, 50.0 MB/s, packets resent: 4, frames incomplete: 1, frames not shown: "
+             "3");
     QCOMPARE(rates.getTotals().section('\n', 1),
              "frames: 150\ndata: 300.0 MB\nresent packets: 9\nlost packets: 2\nincomplete frames: "
              "2\nframes not shown: 13");
