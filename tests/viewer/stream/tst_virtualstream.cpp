@@ -117,7 +117,7 @@ void CVirtualStreamTest::bringsEachPixel()
 
 void CVirtualStreamTest::losesNoFrame()
 {
-    open({"--fps", "100"});
+    open({"--fps", "25"});
     QTRY_VERIFY(m_frameCount >= 50 && m_statistics.frames > 0);
     QCOMPARE(m_missing, quint64(0));
     QCOMPARE(m_statistics.incompleteFrames, qint64(0));
@@ -136,7 +136,7 @@ void CVirtualStreamTest::tellsWhatTheNetworkLoses()
 {
     QFETCH(QStringList, fault);
     QFETCH(bool, isRecovered);
-    open(QStringList{"--fps", "50"} + fault);
+    open(QStringList{"--fps", "25"} + fault);
     QTRY_VERIFY_WITH_TIMEOUT(isRecovered ? m_statistics.resentPackets > 0 && m_frameCount >= 30
                                          : m_statistics.incompleteFrames > 0,
                              20000);
