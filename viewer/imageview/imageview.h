@@ -75,6 +75,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void paintImage(QPainter &painter);
     void paintPlaceholder(QPainter &painter);
     /// The zoom at which the whole image is seen.
     [[nodiscard]] double getFitZoom() const;
@@ -85,6 +86,7 @@ private:
     void zoomByStep(double steps, const QPointF &position);
 
     QImage m_image;
+    QImage m_scaledImage; // as it is on the screen, while that is smaller; null: not made yet
     Image::CHistogram m_histogram;
     QString m_title;
     QString m_hint;

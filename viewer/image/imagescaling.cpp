@@ -1,0 +1,25 @@
+#include "imagescaling.h"
+
+#include <opencv2/imgproc.hpp>
+
+namespace Viewer::Image {
+
+QImage scaleDown(const QImage &image, const QSize &size)
+{
+    QImage scaled(size, QImage::Format_RGB32);
+    if (image.isNull() || scaled.isNull())
+        return {};
+    const bool isGray = image.format() == QImage::Format_Grayscale8;
+    const cv::Mat from(image.height(), image.width(), isGray ? CV_8UC1 : CV_8UC4,
+                       const_cast<uchar *>(image.constBits()),
+                       static_cast<size_t>(image.bytesPerLine()));
+    cv::Mat to(scaled.height(), scaled.width(), CV_8UC4, scaled.bits(),
+               static_cast<size_t>(scaled.bytesPerLine()));
+    cv::Mat gray;
+    cv::resize(from, isGray ? gray : to, to.size(), 0, 0, cv::INTER_LINEAR);
+    if (isGray)
+        cv::cvtColor(gray, to, cv::COLOR_GRAY2BGRA);
+    return scaled;
+}
+
+} // namespace Viewer::Image
