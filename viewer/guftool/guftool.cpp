@@ -5,9 +5,12 @@
 #include "updatefilesigner.h"
 #include "viewer/commandline/optionreader.h"
 #include "viewer/commandline/takers.h"
+#include "viewer/files/replacefile.h"
 #include "viewer/files/statefolder.h"
+#include "viewer/signature/signaturelimits.h"
 #include "viewer/signature/signaturepolicy.h"
 #include "viewer/signature/signer.h"
+#include "viewer/signature/timestamp.h"
 #include "viewer/signature/truststore.h"
 #include "viewer/updatefile/updatefileerror.h"
 #include "viewer/updatefile/updatefilereader.h"
@@ -24,6 +27,7 @@ namespace Viewer::GufTool {
 
 using Signature::CSignaturePolicy;
 using Signature::CSigner;
+using Text::CErrorText;
 using UpdateFile::CUpdateFileError;
 using UpdateFile::CUpdateFileReader;
 using UpdateFile::CUpdateManifest;
@@ -80,6 +84,8 @@ int CGufTool::run(const QStringList &arguments)
     add("key", CommandLine::takePath(options.key));
     add("chain", CommandLine::takePath(options.chain));
     add("passphrase-file", CommandLine::takePath(options.passphraseFile));
+    add("query", CommandLine::takePath(options.query));
+    add("response", CommandLine::takePath(options.response));
     add("trust", CommandLine::takePath(options.trustFolder));
     reader.allowPositionals();
     switch (reader.parse(arguments)) {
@@ -106,8 +112,9 @@ int CGufTool::runCommand(const QStringList &arguments, const COptions &options)
     const QString &command = arguments.constFirst();
     const bool isPack = command == QLatin1String("pack");
     const bool isSign = command == QLatin1String("sign");
+    const bool isStamp = command == QLatin1String("stamp");
     const bool isInspect = command == QLatin1String("inspect");
-    if (!isPack && !isSign && !isInspect && command != QLatin1String("verify"))
+    if (!isPack && !isSign && !isStamp && !isInspect && command != QLatin1String("verify"))
         return reportWrongUsage(tr("The command \"%1\" is unknown.").arg(command));
     if (arguments.size() != (isPack ? 3 : 2))
         return reportWrongUsage(
@@ -118,9 +125,11 @@ int CGufTool::runCommand(const QStringList &arguments, const COptions &options)
     if (isSign || (isPack && options.isSigned))
         known += QStringList{QStringLiteral("certificate"), QStringLiteral("key"),
                              QStringLiteral("chain"), QStringLiteral("passphrase-file")};
+    if (isStamp)
+        known += QStringList{QStringLiteral("query"), QStringLiteral("response")};
     if (isInspect)
         known.append(QStringLiteral("json"));
-    if (!isPack && !isSign)
+    if (!isPack && !isSign && !isStamp)
         known.append(QStringLiteral("trust"));
     for (const QString &name : options.given) {
         if (!known.contains(name))
@@ -129,6 +138,8 @@ int CGufTool::runCommand(const QStringList &arguments, const COptions &options)
     }
     if ((isSign || options.isSigned) && (options.certificate.isEmpty() || options.key.isEmpty()))
         return reportWrongUsage(tr("A signature needs --certificate and --key."));
+    if (isStamp && options.query.isEmpty() == options.response.isEmpty())
+        return reportWrongUsage(tr("A time stamp needs --query or --response."));
     if (!options.trustFolder.isEmpty() && !QFileInfo(options.trustFolder).isDir())
         return reportWrongUsage(
             tr("\"%1\" is not a folder.").arg(QDir::toNativeSeparators(options.trustFolder)));
@@ -137,7 +148,19 @@ int CGufTool::runCommand(const QStringList &arguments, const COptions &options)
         return pack(arguments.at(1), arguments.at(2), options);
     if (isSign)
         return sign(arguments.at(1), options);
+    if (isStamp)
+        return stamp(arguments.at(1), options);
     return isInspect ? inspect(arguments.at(1), options) : verify(arguments.at(1), options);
+}
+
+static SignatureMaker makeSignature(const CSigner &signer)
+{
+    return [&signer](const CUpdateManifest &manifest, CErrorText &fault) {
+        const QByteArray signature = signer.sign(manifest.json, manifest.signature, fault);
+        if (!fault.isEmpty())
+            fault = CErrorText::tr("it cannot be signed: %1").arg(fault);
+        return fault.isEmpty() ? signature : QByteArray();
+    };
 }
 
 std::optional<CSigner> CGufTool::readSigner(const COptions &options)
@@ -146,7 +169,7 @@ std::optional<CSigner> CGufTool::readSigner(const COptions &options)
         return readPassphrase(options.passphraseFile,
                               tr("Passphrase of the key:") + QLatin1Char(' '));
     };
-    Text::CErrorText fault;
+    CErrorText fault;
     const std::optional<CSigner> signer
         = CSigner::fromFiles(options.certificate, options.key, options.chain, ask, fault);
     if (!signer)
@@ -160,7 +183,7 @@ int CGufTool::pack(const QString &folder, const QString &file, const COptions &o
     if (options.isSigned && !signer)
         return FileFaulty;
     const CUpdateManifest manifest
-        = CUpdateFilePacker(folder).pack(file, signer ? &*signer : nullptr);
+        = CUpdateFilePacker(folder).pack(file, signer ? makeSignature(*signer) : nullptr);
     m_output << tr("Packed %1: updates: %2, bytes: %3")
                     .arg(QDir::toNativeSeparators(file), QString::number(manifest.updates.size()),
                          QString::number(QFileInfo(file).size()))
@@ -173,15 +196,44 @@ int CGufTool::sign(const QString &file, const COptions &options)
     const std::optional<CSigner> signer = readSigner(options);
     if (!signer)
         return FileFaulty;
-    signUpdateFile(file, *signer);
+    replaceSignature(file, makeSignature(*signer));
     m_output << tr("Signed %1").arg(QDir::toNativeSeparators(file)) << Qt::endl;
+    return Success;
+}
+
+int CGufTool::stamp(const QString &file, const COptions &options)
+{
+    const QString path = QDir::toNativeSeparators(file);
+    const std::optional<QByteArray> signature = CUpdateFileReader::read(file).signature;
+    if (!signature)
+        throw CUpdateFileError(file, CErrorText::tr("it is not signed"));
+    if (!options.response.isEmpty()) {
+        QFile response(options.response);
+        if (!response.open(QIODevice::ReadOnly))
+            throw CUpdateFileError(options.response, CErrorText(response.errorString()));
+        const QByteArray answer = response.read(Signature::Limits::SIGNATURE_SIZE);
+        replaceSignature(file, [&](const CUpdateManifest &, CErrorText &fault) {
+            return Signature::addTimeStamp(*signature, answer, fault);
+        });
+        m_output << tr("Stamped %1").arg(path) << Qt::endl;
+        return Success;
+    }
+    CErrorText fault;
+    const QByteArray query = Signature::makeTimeStampQuery(*signature, fault);
+    if (fault.isEmpty())
+        fault = Files::replaceFile(options.query, query).toClause();
+    if (!fault.isEmpty())
+        throw CUpdateFileError(file, fault);
+    m_output << tr("Wrote %1, for an authority for time stamps")
+                    .arg(QDir::toNativeSeparators(options.query))
+             << Qt::endl;
     return Success;
 }
 
 void CGufTool::tellFaultsOf(const QStringList &trustFolders)
 {
     const Signature::CTrustStore store(trustFolders);
-    for (const Text::CErrorText &fault : store.getFaults())
+    for (const CErrorText &fault : store.getFaults())
         m_errorOutput << fault.getLocalized() << Qt::endl;
 }
 
@@ -229,6 +281,7 @@ QString CGufTool::getUsage()
     //: At most 80 columns wide; Korean, Japanese and Chinese letters take two.
     return tr("Usage: guftool pack DIR FILE [--sign SIGNING]\n"
               "       guftool sign FILE SIGNING\n"
+              "       guftool stamp FILE --query QUERY | --response RESPONSE\n"
               "       guftool inspect [--json] [--trust DIR] FILE\n"
               "       guftool verify [--trust DIR] FILE\n"
               "\n"
@@ -240,6 +293,8 @@ QString CGufTool::getUsage()
               "         in DIR that it names; sizes and digests that it leaves out are\n"
               "         filled in\n"
               "sign     adds a signature to FILE\n"
+              "stamp    writes QUERY, which asks an authority when the signature was\n"
+              "         made, or adds RESPONSE, which is its answer (RFC 3161)\n"
               "inspect  checks FILE and shows what it holds, with --json as JSON, and\n"
               "         whether this computer, or DIR, trusts the one who signed it\n"
               "verify   checks FILE, with --trust also that one of the makers whose\n"

@@ -39,6 +39,8 @@ private:
     {
         bool isJson = false;
         bool isSigned = false;
+        QString query;
+        QString response;
         QString certificate;
         QString key;
         QString chain;
@@ -50,6 +52,7 @@ private:
     int runCommand(const QStringList &arguments, const COptions &options);
     int pack(const QString &folder, const QString &file, const COptions &options);
     int sign(const QString &file, const COptions &options);
+    int stamp(const QString &file, const COptions &options);
     int inspect(const QString &file, const COptions &options);
     int verify(const QString &file, const COptions &options);
     /// Nothing, when the fault is told.

@@ -126,6 +126,10 @@ QString CManifestPrinter::describeSignature() const
                          signer.getValidFrom().toString(Qt::ISODate),
                          signer.getValidTo().toString(Qt::ISODate), signer.getFingerprint());
     }
+    if (m_verdict.signedAt.isValid()) {
+        //: The values begin in column 20; Korean, Japanese and Chinese letters take two columns.
+        text += tr("  Time stamp:       %1\n").arg(m_verdict.signedAt.toString(Qt::ISODate));
+    }
     return text;
 }
 

@@ -80,7 +80,7 @@ CUpdateFilePacker::CUpdateFilePacker(const QString &folder)
 {
 }
 
-CUpdateManifest CUpdateFilePacker::pack(const QString &file, const Signature::CSigner *signer) const
+CUpdateManifest CUpdateFilePacker::pack(const QString &file, const SignatureMaker &sign) const
 {
     // The author's own text, so that a fault is told with the line in which it stands there.
     const QByteArray source = readSource();
@@ -103,8 +103,8 @@ CUpdateManifest CUpdateFilePacker::pack(const QString &file, const Signature::CS
         throw CUpdateFileError(file, writeFault);
 
     try {
-        if (signer)
-            addSignature(draft, *signer);
+        if (sign)
+            setSignature(draft, sign);
         CUpdateManifest manifest = CUpdateFileReader::read(draft);
         if (std::rename(QFile::encodeName(draft).constData(),
                         QFile::encodeName(target.absoluteFilePath()).constData())

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "updatefilesigner.h"
 #include "viewer/text/errortext.h"
+
 #include "viewer/updatefile/updatemanifest.h"
 
 #include <QJsonObject>
 #include <QString>
-
-namespace Viewer::Signature {
-class CSigner;
-}
 
 namespace Viewer::GufTool {
 
@@ -21,9 +19,9 @@ public:
 
     /// Writes the update file and returns what it says. The file takes its place only when it is
     /// whole and has been read back without a fault; until then one that is there already stays as
-    /// it is. Signed by @p signer; null: not signed. Throws CUpdateFileError.
+    /// it is. With what @p sign makes, or not signed. Throws CUpdateFileError.
     UpdateFile::CUpdateManifest pack(const QString &file,
-                                     const Signature::CSigner *signer = nullptr) const;
+                                     const SignatureMaker &sign = nullptr) const;
 
 private:
     [[nodiscard]] QByteArray readSource() const;

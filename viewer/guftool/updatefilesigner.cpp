@@ -3,7 +3,6 @@
 #include "ziparchive.h"
 
 #include "viewer/files/replacefile.h"
-#include "viewer/signature/signer.h"
 #include "viewer/updatefile/entryname.h"
 #include "viewer/updatefile/updatefileerror.h"
 #include "viewer/updatefile/updatefilereader.h"
@@ -19,13 +18,13 @@ using UpdateFile::CUpdateFileError;
 using UpdateFile::CUpdateFileReader;
 using UpdateFile::CUpdateManifest;
 
-void addSignature(const QString &path, const Signature::CSigner &signer)
+void setSignature(const QString &path, const SignatureMaker &make)
 {
     const CUpdateManifest manifest = CUpdateFileReader::read(path);
     CErrorText fault;
-    const QByteArray signature = signer.sign(manifest.json, manifest.signature, fault);
-    if (!fault.isEmpty())
-        throw CUpdateFileError(path, CErrorText::tr("it cannot be signed: %1").arg(fault));
+    const QByteArray signature = make(manifest, fault);
+    if (signature.isEmpty())
+        throw CUpdateFileError(path, fault);
     int zipError = ZIP_ER_OK;
     CZipPointer archive(zip_open(QFile::encodeName(path).constData(), 0, &zipError));
     if (!archive)
@@ -38,7 +37,7 @@ void addSignature(const QString &path, const Signature::CSigner &signer)
         throw CUpdateFileError(path, fault);
 }
 
-void signUpdateFile(const QString &path, const Signature::CSigner &signer)
+void replaceSignature(const QString &path, const SignatureMaker &make)
 {
     // Tells what is wrong with it by its own name.
     static_cast<void>(CUpdateFileReader::read(QFileInfo(path).absoluteFilePath()));
@@ -49,7 +48,7 @@ void signUpdateFile(const QString &path, const Signature::CSigner &signer)
         throw CUpdateFileError(path,
                                CErrorText::tr("it cannot be copied into the temporary folder"));
     try {
-        addSignature(draftPath, signer);
+        setSignature(draftPath, make);
         static_cast<void>(CUpdateFileReader::read(draftPath));
     } catch (const CUpdateFileError &error) {
         throw CUpdateFileError(path, error.getCause());

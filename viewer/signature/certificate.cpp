@@ -25,15 +25,6 @@ static QString toText(const X509_NAME *name)
     return Text::shorten(QString::fromUtf8(data, static_cast<int>(size)), NAME_LENGTH);
 }
 
-static QDateTime toDateTime(const ASN1_TIME *time)
-{
-    tm parts = {};
-    if (!time || ASN1_TIME_to_tm(time, &parts) != 1)
-        return {};
-    return {QDate(parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday),
-            QTime(parts.tm_hour, parts.tm_min, parts.tm_sec), Qt::UTC};
-}
-
 CCertificate CCertificate::fromDer(const QByteArray &der)
 {
     CCertificate certificate;
@@ -145,17 +136,22 @@ CErrorText CCertificate::findKeyFault() const
                           "Ed25519");
 }
 
-CErrorText CCertificate::findPurposeFault(ERole role) const
+CErrorText CCertificate::findPurposeFault(EPurpose purpose, ERole role) const
 {
+    const bool isForCode = purpose == EPurpose::SigningCode;
+    const quint32 wanted = isForCode ? XKU_CODE_SIGN : XKU_TIMESTAMP;
     const quint32 flags = X509_get_extension_flags(get());
     const quint32 purposes = X509_get_extended_key_usage(get());
     // An authority's certificate usually does not say for what it may issue others. Where it does,
     // that counts.
     const bool fits = role == ERole::Signer
-        ? (flags & EXFLAG_XKUSAGE) && (purposes & XKU_CODE_SIGN)
+        ? (flags & EXFLAG_XKUSAGE) && (purposes & wanted)
             && (!(flags & EXFLAG_KUSAGE) || (X509_get_key_usage(get()) & KU_DIGITAL_SIGNATURE))
-        : !(flags & EXFLAG_XKUSAGE) || (purposes & (XKU_CODE_SIGN | XKU_ANYEKU));
-    return fits ? CErrorText() : CErrorText::tr("it is not made for signing code");
+        : !(flags & EXFLAG_XKUSAGE) || (purposes & (wanted | XKU_ANYEKU));
+    if (fits)
+        return {};
+    return isForCode ? CErrorText::tr("it is not made for signing code")
+                     : CErrorText::tr("it is not made for time stamps");
 }
 
 x509_st *CCertificate::get() const

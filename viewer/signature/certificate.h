@@ -45,13 +45,15 @@ public:
     /// enough, and of a known kind.
     [[nodiscard]] Text::CErrorText findKeyFault() const;
 
+    enum class EPurpose { SigningCode, StampingTime };
+
     enum class ERole {
-        Signer, ///< has to be made for signing code
+        Signer, ///< has to be made for the purpose
         Authority, ///< may leave open for what it issues certificates
     };
 
-    /// Why it cannot have this part in the signature of an update file, as a clause; empty: it can.
-    [[nodiscard]] Text::CErrorText findPurposeFault(ERole role) const;
+    /// Why it cannot have this part in a signature for @p purpose, as a clause; empty: it can.
+    [[nodiscard]] Text::CErrorText findPurposeFault(EPurpose purpose, ERole role) const;
 
     /// Null: none. OpenSSL counts references in what is otherwise constant.
     [[nodiscard]] x509_st *get() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 
 #include <openssl/bio.h>
 #include <openssl/evp.h>
@@ -44,6 +45,16 @@ QByteArray encode(Encoder encoder, const T *object)
     const QByteArray bytes(reinterpret_cast<const char *>(data), size > 0 ? size : 0);
     OPENSSL_free(data);
     return bytes;
+}
+
+/// UTC, in whole seconds; null: it is none.
+inline QDateTime toDateTime(const ASN1_TIME *time)
+{
+    tm parts = {};
+    if (!time || ASN1_TIME_to_tm(time, &parts) != 1)
+        return {};
+    return {QDate(parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday),
+            QTime(parts.tm_hour, parts.tm_min, parts.tm_sec), Qt::UTC};
 }
 
 } // namespace Viewer::Signature

@@ -11,6 +11,7 @@ constexpr int SIGNERS = 8;
 constexpr int CERTIFICATES = 16; ///< in one signature
 constexpr int CERTIFICATE_SIZE = 64 * 1024;
 constexpr int ATTRIBUTES = 32; ///< of one signer
+constexpr int TIME_STAMP_SIZE = 64 * 1024;
 constexpr int CHAIN_DEPTH = 8; ///< certificates between a signer's and a trusted one
 
 constexpr qint64 FILE_SIZE = 4 * 1024 * 1024; ///< of certificates, keys, revocation lists

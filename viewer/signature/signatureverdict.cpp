@@ -41,6 +41,8 @@ QJsonObject CSignatureVerdict::toJson() const
     object.insert(QStringLiteral("validFrom"), signer.getValidFrom().toString(Qt::ISODate));
     object.insert(QStringLiteral("validTo"), signer.getValidTo().toString(Qt::ISODate));
     object.insert(QStringLiteral("fingerprint"), signer.getFingerprint());
+    if (signedAt.isValid())
+        object.insert(QStringLiteral("signedAt"), signedAt.toString(Qt::ISODate));
     return object;
 }
 

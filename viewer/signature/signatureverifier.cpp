@@ -1,7 +1,9 @@
 #include "signatureverifier.h"
 
+#include "digest.h"
 #include "opensslpointer.h"
 #include "signeddata.h"
+#include "timestamp.h"
 #include "truststore.h"
 
 #include <openssl/err.h>
@@ -13,21 +15,6 @@ namespace Viewer::Signature {
 using Text::CErrorText;
 
 namespace {
-
-/// Null: @p nid is none that is strong enough.
-const EVP_MD *findDigest(int nid)
-{
-    switch (nid) {
-    case NID_sha256:
-        return EVP_sha256();
-    case NID_sha384:
-        return EVP_sha384();
-    case NID_sha512:
-        return EVP_sha512();
-    default:
-        return nullptr;
-    }
-}
 
 bool isOf(const CCertificate &certificate, const CSignerInfo &signer)
 {
@@ -69,17 +56,6 @@ bool hasSigned(const CCertificate &certificate, const CSignerInfo &signer, int d
     return isRight;
 }
 
-QByteArray computeDigest(const QByteArray &bytes, const EVP_MD *digest)
-{
-    unsigned char result[EVP_MAX_MD_SIZE];
-    unsigned int size = 0;
-    if (EVP_Digest(bytes.constData(), static_cast<size_t>(bytes.size()), result, &size, digest,
-                   nullptr)
-        != 1)
-        return {};
-    return {reinterpret_cast<const char *>(result), static_cast<int>(size)};
-}
-
 /// The certificate of @p signer and, as far as nobody has to be trusted for that, what is wrong.
 CSignatureVerdict verifySigner(const QByteArray &manifest, const CSignerInfo &signer,
                                const QVector<CCertificate> &certificates)
@@ -112,6 +88,21 @@ CSignatureVerdict verifySigner(const QByteArray &manifest, const CSignerInfo &si
     return verdict;
 }
 
+/// Whether the signer of @p verdict, who has signed, is trusted.
+void judgeSigner(const CSignerInfo &signer, const QVector<CCertificate> &others,
+                 const CTrustStore &store, const QDateTime &now, CSignatureVerdict &verdict)
+{
+    CTimeStamp stamp;
+    if (!signer.timeStamp.isEmpty())
+        stamp = CTimeStamp::fromToken(signer.timeStamp, signer.signature, store, now);
+    verdict.signedAt = stamp.time;
+    verdict.reason = store.findFault(verdict.signer, others, CCertificate::EPurpose::SigningCode,
+                                     stamp.time.isValid() ? stamp.time : now, now);
+    if (!verdict.reason.isEmpty() && !stamp.fault.isEmpty())
+        verdict.reason = CErrorText::tr("%1; its time stamp is not trusted: %2")
+                             .arg(verdict.reason, stamp.fault);
+}
+
 } // namespace
 
 CSignatureVerdict verifySignature(const QByteArray &manifest,
@@ -138,7 +129,7 @@ CSignatureVerdict verifySignature(const QByteArray &manifest,
     for (const CSignerInfo &signer : data->signers) {
         CSignatureVerdict verdict = verifySigner(manifest, signer, known);
         if (verdict.reason.isEmpty())
-            verdict.reason = store.findFault(verdict.signer, others, now);
+            judgeSigner(signer, others, store, now, verdict);
         if (verdict.reason.isEmpty()) {
             verdict.state = CSignatureVerdict::EState::Trusted;
             return verdict;

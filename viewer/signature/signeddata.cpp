@@ -92,6 +92,12 @@ std::optional<CSignerInfo> readSigner(const CDerElement &element)
     signer.manifestDigest = digest.content;
     signer.algorithm = readAlgorithm(fields.at(4));
     signer.signature = fields.at(5).content;
+    // What is not signed may be anything, and counts only where it proves itself.
+    if (fields.size() == 7)
+        signer.timeStamp = findAttribute(readElements(fields.at(6).content, {ETag::Sequence},
+                                                      Limits::ATTRIBUTES),
+                                         NID_id_smime_aa_timeStampToken)
+                               .bytes;
     return signer;
 }
 
@@ -108,6 +114,11 @@ QByteArray makeSet(QVector<QByteArray> elements)
 {
     std::sort(elements.begin(), elements.end());
     return makeDer(ETag::Set, join(elements));
+}
+
+QByteArray makeAttribute(int nid, const QByteArray &value)
+{
+    return makeDer(ETag::Sequence, makeObjectId(nid) + makeDer(ETag::Set, value));
 }
 
 /// The fields of the message itself; empty: @p der is none, or none whose content is elsewhere.
@@ -152,12 +163,23 @@ int toNid(const QByteArray &element)
 
 QByteArray makeSignedAttributes(const QByteArray &manifestDigest)
 {
-    const auto makeAttribute = [](int nid, const QByteArray &value) {
-        return makeDer(ETag::Sequence, makeObjectId(nid) + makeDer(ETag::Set, value));
-    };
     return makeSet(
         {makeAttribute(NID_pkcs9_contentType, makeObjectId(NID_pkcs7_data)),
          makeAttribute(NID_pkcs9_messageDigest, makeDer(ETag::OctetString, manifestDigest))});
+}
+
+CSignerInfo CSignerInfo::withTimeStamp(const QByteArray &token) const
+{
+    const auto outer = readDer(bytes, 1).value_or(CElements());
+    const auto fields = readDer(outer.value(0).content, 7).value_or(CElements());
+    QByteArray content;
+    for (const CDerElement &field : fields.mid(0, 6))
+        content += field.bytes;
+    content += makeDer(ETag::Context1, makeAttribute(NID_id_smime_aa_timeStampToken, token));
+    CSignerInfo stamped = *this;
+    stamped.bytes = makeDer(ETag::Sequence, content);
+    stamped.timeStamp = token;
+    return stamped;
 }
 
 std::optional<CSignedData> CSignedData::fromDer(const QByteArray &der, CErrorText &fault)

@@ -15,6 +15,10 @@ struct CSignerInfo
     QByteArray manifestDigest; ///< that of the signed attributes
     QByteArray algorithm; ///< object id
     QByteArray signature;
+    QByteArray timeStamp; ///< a token of RFC 3161, of the signature; empty: none
+
+    /// With @p token instead of what stood beside the signature unsigned.
+    [[nodiscard]] CSignerInfo withTimeStamp(const QByteArray &token) const;
 };
 
 /// A detached CMS signature (RFC 5652) in DER: of a content that is elsewhere, with at least one

@@ -1,5 +1,6 @@
 #include "signer.h"
 
+#include "digest.h"
 #include "opensslpointer.h"
 #include "signaturelimits.h"
 #include "signatureverifier.h"
@@ -119,19 +120,14 @@ QByteArray CSigner::sign(const QByteArray &manifest, const std::optional<QByteAr
     const int digestNid = chooseDigest(m_key.get());
     const bool hasOwnDigest = EVP_PKEY_get_base_id(m_key.get()) == EVP_PKEY_ED25519;
     const EVP_MD *const digest = EVP_get_digestbynid(digestNid);
-    unsigned char manifestDigest[EVP_MAX_MD_SIZE];
-    unsigned int digestSize = 0;
+    const QByteArray manifestDigest = computeDigest(manifest, digest);
     const CDigestPointer context(EVP_MD_CTX_new());
-    bool isDone = context
-        && EVP_Digest(manifest.constData(), static_cast<size_t>(manifest.size()), manifestDigest,
-                      &digestSize, digest, nullptr)
-            == 1
+    bool isDone = context && !manifestDigest.isEmpty()
         && EVP_DigestSignInit(context.get(), nullptr, hasOwnDigest ? nullptr : digest, nullptr,
                               m_key.get())
             == 1;
     CSignerInfo signer;
-    signer.attributes = makeSignedAttributes(
-        {reinterpret_cast<const char *>(manifestDigest), static_cast<int>(digestSize)});
+    signer.attributes = makeSignedAttributes(manifestDigest);
     size_t size = isDone ? static_cast<size_t>(EVP_PKEY_get_size(m_key.get())) : 0;
     signer.signature.resize(static_cast<int>(size));
     isDone = isDone

@@ -1,6 +1,7 @@
 #include "truststore.h"
 
 #include "opensslpointer.h"
+#include "opensslstack.h"
 #include "signaturelimits.h"
 #include "viewer/files/pathtrust.h"
 #include "viewer/text/visibletext.h"
@@ -23,7 +24,6 @@ namespace {
 /// Of the 128 bits that the weakest allowed key has.
 constexpr int SECURITY_LEVEL = 3;
 
-using CStorePointer = std::unique_ptr<X509_STORE, COpenSslDeleter<X509_STORE_free>>;
 using CContextPointer = std::unique_ptr<X509_STORE_CTX, COpenSslDeleter<X509_STORE_CTX_free>>;
 
 struct CStackDeleter
@@ -168,41 +168,49 @@ const QVector<CErrorText> &CTrustStore::getFaults() const
     return m_faults;
 }
 
+std::shared_ptr<X509_STORE> CTrustStore::makeOpenSslStore(const QDateTime &time) const
+{
+    std::shared_ptr<X509_STORE> store(X509_STORE_new(), X509_STORE_free);
+    if (!store)
+        return nullptr;
+    for (const CMaker &maker : m_makers)
+        X509_STORE_add_cert(store.get(), maker.certificate.get());
+    X509_VERIFY_PARAM *const parameters = X509_STORE_get0_param(store.get());
+    X509_VERIFY_PARAM_set_flags(parameters, X509_V_FLAG_PARTIAL_CHAIN);
+    X509_VERIFY_PARAM_set_time(parameters, time.toSecsSinceEpoch());
+    X509_VERIFY_PARAM_set_depth(parameters, Limits::CHAIN_DEPTH);
+    X509_VERIFY_PARAM_set_auth_level(parameters, SECURITY_LEVEL);
+    return store;
+}
+
 CErrorText CTrustStore::findFault(const CCertificate &signer, const QVector<CCertificate> &others,
+                                  CCertificate::EPurpose purpose, const QDateTime &time,
                                   const QDateTime &now) const
 {
-    const CStorePointer store(X509_STORE_new());
+    const auto store = makeOpenSslStore(time);
     const CStackPointer untrusted(sk_X509_new_null());
     const CContextPointer context(X509_STORE_CTX_new());
     if (!store || !untrusted || !context)
         return CErrorText::tr("out of memory");
-    for (const CMaker &maker : m_makers)
-        X509_STORE_add_cert(store.get(), maker.certificate.get());
     for (const CCertificate &other : others)
         sk_X509_push(untrusted.get(), other.get());
     if (X509_STORE_CTX_init(context.get(), store.get(), signer.get(), untrusted.get()) != 1)
         return CErrorText::tr("out of memory");
-    X509_VERIFY_PARAM *const parameters = X509_STORE_CTX_get0_param(context.get());
-    X509_VERIFY_PARAM_set_flags(parameters, X509_V_FLAG_PARTIAL_CHAIN);
-    X509_VERIFY_PARAM_set_time(parameters, now.toSecsSinceEpoch());
-    X509_VERIFY_PARAM_set_depth(parameters, Limits::CHAIN_DEPTH);
-    X509_VERIFY_PARAM_set_auth_level(parameters, SECURITY_LEVEL);
     const bool isVerified = X509_verify_cert(context.get()) == 1;
     ERR_clear_error();
     if (!isVerified)
         return describeChainFault(*context);
 
-    QVector<CCertificate> chain;
-    STACK_OF(X509) *const found = X509_STORE_CTX_get0_chain(context.get());
-    for (int i = 0; i < sk_X509_num(found); ++i) {
-        chain.append(CCertificate::fromOpenSsl(sk_X509_value(found, i)));
+    const QVector<CCertificate> chain = toCertificates(X509_STORE_CTX_get0_chain(context.get()));
+    for (const CCertificate &certificate : chain) {
         using ERole = CCertificate::ERole;
-        CErrorText fault = chain.constLast().findKeyFault();
+        const bool isFirst = &certificate == &chain.constFirst();
+        CErrorText fault = certificate.findKeyFault();
         if (fault.isEmpty())
-            fault = chain.constLast().findPurposeFault(i == 0 ? ERole::Signer : ERole::Authority);
+            fault
+                = certificate.findPurposeFault(purpose, isFirst ? ERole::Signer : ERole::Authority);
         if (!fault.isEmpty())
-            return CErrorText::tr("the certificate of %1: %2")
-                .arg(chain.constLast().getSubject(), fault);
+            return CErrorText::tr("the certificate of %1: %2").arg(certificate.getSubject(), fault);
     }
     return findRevocation(chain, now);
 }

@@ -7,6 +7,7 @@
 #include <memory>
 
 struct X509_crl_st;
+struct x509_store_st;
 
 namespace Viewer::Signature {
 
@@ -37,11 +38,17 @@ public:
     /// One clause for each file or folder that was not read.
     [[nodiscard]] const QVector<Text::CErrorText> &getFaults() const;
 
-    /// Why @p signer is not to be believed at the time @p now, as a clause; empty: a chain over
-    /// @p others leads to a trusted maker, and all of it is strong, valid and not revoked.
+    /// Why what @p signer has signed for @p purpose at @p time is not to be believed @p now, as a
+    /// clause; empty: a chain over @p others leads to a trusted maker, and all of it was valid at
+    /// that time, is strong and not revoked.
     [[nodiscard]] Text::CErrorText findFault(const CCertificate &signer,
                                              const QVector<CCertificate> &others,
+                                             CCertificate::EPurpose purpose, const QDateTime &time,
                                              const QDateTime &now) const;
+
+    /// All trusted certificates, for checks as of @p time that need a strong chain to any of them.
+    /// Null: there is no memory.
+    [[nodiscard]] std::shared_ptr<x509_store_st> makeOpenSslStore(const QDateTime &time) const;
 
 private:
     void readFolder(const QString &folder);

@@ -1028,8 +1028,21 @@ Firmware: %5</source>
         <translation>署名者 %1、SHA-256 フィンガープリント %2</translation>
     </message>
     <message>
+        <source>A time stamp needs --query or --response.</source>
+        <translation>タイムスタンプには --query または --response が必要です。</translation>
+    </message>
+    <message>
+        <source>Stamped %1</source>
+        <translation>タイムスタンプを追加しました: %1</translation>
+    </message>
+    <message>
+        <source>Wrote %1, for an authority for time stamps</source>
+        <translation>%1 を書き出しました。タイムスタンプ局に送ってください</translation>
+    </message>
+    <message>
         <source>Usage: guftool pack DIR FILE [--sign SIGNING]
        guftool sign FILE SIGNING
+       guftool stamp FILE --query QUERY | --response RESPONSE
        guftool inspect [--json] [--trust DIR] FILE
        guftool verify [--trust DIR] FILE
 
@@ -1041,6 +1054,8 @@ pack     makes the update file FILE from DIR/update.json and the payloads
          in DIR that it names; sizes and digests that it leaves out are
          filled in
 sign     adds a signature to FILE
+stamp    writes QUERY, which asks an authority when the signature was
+         made, or adds RESPONSE, which is its answer (RFC 3161)
 inspect  checks FILE and shows what it holds, with --json as JSON, and
          whether this computer, or DIR, trusts the one who signed it
 verify   checks FILE, with --trust also that one of the makers whose
@@ -1052,6 +1067,7 @@ call of this program, 3 when the signature is missing or not trusted.
         <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
         <translation>使い方: guftool pack &lt;フォルダー&gt; &lt;ファイル&gt; [--sign &lt;署名&gt;]
         guftool sign &lt;ファイル&gt; &lt;署名&gt;
+        guftool stamp &lt;ファイル&gt; --query &lt;要求&gt; | --response &lt;応答&gt;
         guftool inspect [--json] [--trust &lt;フォルダー&gt;] &lt;ファイル&gt;
         guftool verify [--trust &lt;フォルダー&gt;] &lt;ファイル&gt;
 
@@ -1063,6 +1079,8 @@ pack     &lt;フォルダー&gt;/update.json と、そこに指定された &lt;
          データファイルから更新ファイル &lt;ファイル&gt; を作成します。省略された
          サイズとダイジェストは自動的に補われます
 sign     &lt;ファイル&gt; に署名を追加します
+stamp    署名の時刻をタイムスタンプ局に問い合わせる &lt;要求&gt; を書き出すか、
+         その回答である &lt;応答&gt; を追加します (RFC 3161)
 inspect  &lt;ファイル&gt; を検査し、内容を表示し (--json: JSON 形式)、署名者が
          このコンピューターまたは &lt;フォルダー&gt; で信頼されているかを示します
 verify   &lt;ファイル&gt; を検査します。--trust を付けると、&lt;フォルダー&gt; に証明書が
@@ -1149,6 +1167,13 @@ Signature
   有効期間の開始:   %3
   有効期限:         %4
   SHA-256 (証明書): %5
+</translation>
+    </message>
+    <message>
+        <source>  Time stamp:       %1
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>  タイムスタンプ:   %1
 </translation>
     </message>
 </context>
@@ -2777,6 +2802,42 @@ frames not shown: %6</source>
     <message>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1 の失効リストが古くなっています。最新のものを証明書と同じ場所に置いてください</translation>
+    </message>
+    <message>
+        <source>it is not made for time stamps</source>
+        <translation>タイムスタンプ用の証明書ではありません</translation>
+    </message>
+    <message>
+        <source>%1; its time stamp is not trusted: %2</source>
+        <translation>%1。タイムスタンプは信頼できません: %2</translation>
+    </message>
+    <message>
+        <source>it is none that is understood</source>
+        <translation>理解できない形式です</translation>
+    </message>
+    <message>
+        <source>it is of another signature, or its digest is weak</source>
+        <translation>別の署名のものか、ダイジェストが弱すぎます</translation>
+    </message>
+    <message>
+        <source>it is from the future; check this computer&apos;s clock</source>
+        <translation>未来の時刻です。このコンピューターの時計を確認してください</translation>
+    </message>
+    <message>
+        <source>it is not signed by an authority for time stamps that is trusted</source>
+        <translation>信頼されたタイムスタンプ局の署名がありません</translation>
+    </message>
+    <message>
+        <source>all its signatures have time stamps</source>
+        <translation>すべての署名にタイムスタンプがあります</translation>
+    </message>
+    <message>
+        <source>the answer has no time stamp</source>
+        <translation>応答にタイムスタンプがありません</translation>
+    </message>
+    <message>
+        <source>the time stamp in the answer is of another signature</source>
+        <translation>応答のタイムスタンプは別の署名のものです</translation>
     </message>
 </context>
 <context>

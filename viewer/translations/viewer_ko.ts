@@ -1028,8 +1028,21 @@ Firmware: %5</source>
         <translation>서명자 %1, SHA-256 지문 %2</translation>
     </message>
     <message>
+        <source>A time stamp needs --query or --response.</source>
+        <translation>타임스탬프에는 --query 또는 --response가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>Stamped %1</source>
+        <translation>타임스탬프를 추가했습니다: %1</translation>
+    </message>
+    <message>
+        <source>Wrote %1, for an authority for time stamps</source>
+        <translation>%1을(를) 썼습니다. 타임스탬프 기관에 보내십시오</translation>
+    </message>
+    <message>
         <source>Usage: guftool pack DIR FILE [--sign SIGNING]
        guftool sign FILE SIGNING
+       guftool stamp FILE --query QUERY | --response RESPONSE
        guftool inspect [--json] [--trust DIR] FILE
        guftool verify [--trust DIR] FILE
 
@@ -1041,6 +1054,8 @@ pack     makes the update file FILE from DIR/update.json and the payloads
          in DIR that it names; sizes and digests that it leaves out are
          filled in
 sign     adds a signature to FILE
+stamp    writes QUERY, which asks an authority when the signature was
+         made, or adds RESPONSE, which is its answer (RFC 3161)
 inspect  checks FILE and shows what it holds, with --json as JSON, and
          whether this computer, or DIR, trusts the one who signed it
 verify   checks FILE, with --trust also that one of the makers whose
@@ -1052,6 +1067,7 @@ call of this program, 3 when the signature is missing or not trusted.
         <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
         <translation>사용법: guftool pack &lt;폴더&gt; &lt;파일&gt; [--sign &lt;서명&gt;]
         guftool sign &lt;파일&gt; &lt;서명&gt;
+        guftool stamp &lt;파일&gt; --query &lt;요청&gt; | --response &lt;응답&gt;
         guftool inspect [--json] [--trust &lt;폴더&gt;] &lt;파일&gt;
         guftool verify [--trust &lt;폴더&gt;] &lt;파일&gt;
 
@@ -1063,6 +1079,8 @@ pack     &lt;폴더&gt;/update.json과 여기에 지정된 &lt;폴더&gt; 안의
          업데이트 파일 &lt;파일&gt;을 만듭니다. 생략된 크기와 다이제스트는
          자동으로 채웁니다
 sign     &lt;파일&gt;에 서명을 추가합니다
+stamp    서명한 시각을 타임스탬프 기관에 묻는 &lt;요청&gt;을 쓰거나 그 답인
+         &lt;응답&gt;(RFC 3161)을 추가합니다
 inspect  &lt;파일&gt;을 검사하고 내용을 표시하며(--json: JSON 형식), 이 컴퓨터나
          &lt;폴더&gt;가 서명한 사람을 신뢰하는지 알려 줍니다
 verify   &lt;파일&gt;을 검사합니다. --trust를 지정하면 &lt;폴더&gt;에 인증서가 있는
@@ -1149,6 +1167,13 @@ Signature
   유효 기간 시작:   %3
   유효 기간 끝:     %4
   SHA-256 지문:     %5
+</translation>
+    </message>
+    <message>
+        <source>  Time stamp:       %1
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>  타임스탬프:       %1
 </translation>
     </message>
 </context>
@@ -2777,6 +2802,42 @@ frames not shown: %6</source>
     <message>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1의 해지 목록이 오래되었습니다. 최신 목록을 인증서 옆에 두십시오</translation>
+    </message>
+    <message>
+        <source>it is not made for time stamps</source>
+        <translation>타임스탬프용 인증서가 아닙니다</translation>
+    </message>
+    <message>
+        <source>%1; its time stamp is not trusted: %2</source>
+        <translation>%1. 타임스탬프를 신뢰할 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>it is none that is understood</source>
+        <translation>이해할 수 없는 형식입니다</translation>
+    </message>
+    <message>
+        <source>it is of another signature, or its digest is weak</source>
+        <translation>다른 서명의 것이거나 다이제스트가 약합니다</translation>
+    </message>
+    <message>
+        <source>it is from the future; check this computer&apos;s clock</source>
+        <translation>미래의 시각입니다. 이 컴퓨터의 시계를 확인하십시오</translation>
+    </message>
+    <message>
+        <source>it is not signed by an authority for time stamps that is trusted</source>
+        <translation>신뢰할 수 있는 타임스탬프 기관이 서명하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>all its signatures have time stamps</source>
+        <translation>모든 서명에 타임스탬프가 있습니다</translation>
+    </message>
+    <message>
+        <source>the answer has no time stamp</source>
+        <translation>응답에 타임스탬프가 없습니다</translation>
+    </message>
+    <message>
+        <source>the time stamp in the answer is of another signature</source>
+        <translation>응답의 타임스탬프는 다른 서명의 것입니다</translation>
     </message>
 </context>
 <context>

@@ -1028,8 +1028,21 @@ Firmware: %5</source>
         <translation>签名者 %1，SHA-256 指纹 %2</translation>
     </message>
     <message>
+        <source>A time stamp needs --query or --response.</source>
+        <translation>时间戳需要 --query 或 --response。</translation>
+    </message>
+    <message>
+        <source>Stamped %1</source>
+        <translation>已添加时间戳：%1</translation>
+    </message>
+    <message>
+        <source>Wrote %1, for an authority for time stamps</source>
+        <translation>已写出 %1，请发送给时间戳机构</translation>
+    </message>
+    <message>
         <source>Usage: guftool pack DIR FILE [--sign SIGNING]
        guftool sign FILE SIGNING
+       guftool stamp FILE --query QUERY | --response RESPONSE
        guftool inspect [--json] [--trust DIR] FILE
        guftool verify [--trust DIR] FILE
 
@@ -1041,6 +1054,8 @@ pack     makes the update file FILE from DIR/update.json and the payloads
          in DIR that it names; sizes and digests that it leaves out are
          filled in
 sign     adds a signature to FILE
+stamp    writes QUERY, which asks an authority when the signature was
+         made, or adds RESPONSE, which is its answer (RFC 3161)
 inspect  checks FILE and shows what it holds, with --json as JSON, and
          whether this computer, or DIR, trusts the one who signed it
 verify   checks FILE, with --trust also that one of the makers whose
@@ -1052,6 +1067,7 @@ call of this program, 3 when the signature is missing or not trusted.
         <extracomment>At most 80 columns wide; Korean, Japanese and Chinese letters take two.</extracomment>
         <translation>用法：guftool pack &lt;文件夹&gt; &lt;文件&gt; [--sign &lt;签名&gt;]
       guftool sign &lt;文件&gt; &lt;签名&gt;
+      guftool stamp &lt;文件&gt; --query &lt;请求&gt; | --response &lt;响应&gt;
       guftool inspect [--json] [--trust &lt;文件夹&gt;] &lt;文件&gt;
       guftool verify [--trust &lt;文件夹&gt;] &lt;文件&gt;
 
@@ -1063,6 +1079,8 @@ pack     使用 &lt;文件夹&gt;/update.json 及其指定的、
          位于 &lt;文件夹&gt; 中的数据文件，创建更新文件 &lt;文件&gt;；
          其中省略的大小和摘要会自动补全
 sign     为 &lt;文件&gt; 添加签名
+stamp    写出向时间戳机构查询签名时间的 &lt;请求&gt;，
+         或添加其答复 &lt;响应&gt;（RFC 3161）
 inspect  检查 &lt;文件&gt; 并显示其内容，使用 --json 时以 JSON 格式显示，
          并显示此计算机或 &lt;文件夹&gt; 是否信任签名者
 verify   检查 &lt;文件&gt;，使用 --trust 时还检查它是否由
@@ -1149,6 +1167,13 @@ Signature
   有效期自：        %3
   有效期至：        %4
   SHA-256 指纹：    %5
+</translation>
+    </message>
+    <message>
+        <source>  Time stamp:       %1
+</source>
+        <extracomment>The values begin in column 20; Korean, Japanese and Chinese letters take two columns.</extracomment>
+        <translation>  时间戳：          %1
 </translation>
     </message>
 </context>
@@ -2777,6 +2802,42 @@ frames not shown: %6</source>
     <message>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1 的吊销列表已过期，请将最新列表放在证书旁边</translation>
+    </message>
+    <message>
+        <source>it is not made for time stamps</source>
+        <translation>不是用于时间戳的证书</translation>
+    </message>
+    <message>
+        <source>%1; its time stamp is not trusted: %2</source>
+        <translation>%1，且其时间戳不受信任：%2</translation>
+    </message>
+    <message>
+        <source>it is none that is understood</source>
+        <translation>无法识别其格式</translation>
+    </message>
+    <message>
+        <source>it is of another signature, or its digest is weak</source>
+        <translation>属于另一个签名，或其摘要强度不足</translation>
+    </message>
+    <message>
+        <source>it is from the future; check this computer&apos;s clock</source>
+        <translation>时间在将来，请检查此计算机的时钟</translation>
+    </message>
+    <message>
+        <source>it is not signed by an authority for time stamps that is trusted</source>
+        <translation>未由受信任的时间戳机构签名</translation>
+    </message>
+    <message>
+        <source>all its signatures have time stamps</source>
+        <translation>所有签名均已有时间戳</translation>
+    </message>
+    <message>
+        <source>the answer has no time stamp</source>
+        <translation>响应中没有时间戳</translation>
+    </message>
+    <message>
+        <source>the time stamp in the answer is of another signature</source>
+        <translation>响应中的时间戳属于另一个签名</translation>
     </message>
 </context>
 <context>

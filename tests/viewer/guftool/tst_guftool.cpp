@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -20,6 +21,7 @@ private slots:
     void packsFillsInAndShows();
     void signsAndVerifies();
     void asksForThePassphrase();
+    void addsTimeStamps();
     void refusesFaultySources();
     void speaksTheUsersLanguage();
     void saysWhenDigestsCannotBeComputed();
@@ -37,6 +39,13 @@ static QByteArray getSource()
 {
     const int begin = MANIFEST.indexOf("\"size\"");
     return QByteArray(MANIFEST).remove(begin, MANIFEST.indexOf("\"targetFile\"") - begin);
+}
+
+/// Whether @p command, in this folder, starts and ends well.
+static bool runProgram(const QString &command)
+{
+    QStringList parts = command.split(' ');
+    return QProcess::execute(parts.takeFirst(), parts) == 0;
 }
 
 /// The exit code and what was printed, which has to be on the error output when the code is not 0.
@@ -147,6 +156,34 @@ void CGufToolTest::asksForThePassphrase()
     QVERIFY(terminal.waitForFinished());
     screen += terminal.readAll();
     QVERIFY2(terminal.exitCode() == 0 && !screen.contains("a passphrase"), screen);
+}
+
+void CGufToolTest::addsTimeStamps()
+{
+    if (QStandardPaths::findExecutable("openssl").isEmpty())
+        QSKIP("openssl is not installed");
+    TestSupport::CTestMaker::COptions options;
+    options.purpose = "critical,timeStamping";
+    const TestSupport::CTestMaker maker("Maker");
+    const TestSupport::CTestMaker clock("Clock", options);
+    QVERIFY(QDir().mkpath("trust"));
+    maker.write("trust/maker");
+    clock.write("trust/clock");
+    writeFile("serial", "01\n");
+    writeFile("ts.cnf",
+              "[tsa]\nserial = serial\nsigner_cert = trust/clock.pem\nsigner_key = "
+              "trust/clock.key\nsigner_digest = sha256\ndefault_policy = 1.2.3.4\ndigests = "
+              "sha256\n");
+    QVERIFY(run("pack source a.guf").startsWith("0 "));
+    QCOMPARE(run("stamp a.guf --query a.tsq"), QString("1 Update file a.guf: it is not signed\n"));
+    QVERIFY(run("sign a.guf --certificate trust/maker.pem --key trust/maker.key").startsWith("0 "));
+    QVERIFY(run("stamp a.guf --query a.tsq").contains("a.tsq, for an authority"));
+    QVERIFY(
+        runProgram("openssl ts -reply -config ts.cnf -section tsa -queryfile a.tsq -out a.tsr"));
+    QVERIFY(run("stamp a.guf --response a.tsq").startsWith("1 "));
+    QCOMPARE(run("stamp a.guf --response a.tsr"), QString("0 Stamped a.guf\n"));
+    QVERIFY(run("stamp a.guf --query a.tsq").startsWith("1 "));
+    QVERIFY(run("inspect a.guf --trust trust").contains("  Time stamp:       20"));
 }
 
 void CGufToolTest::refusesFaultySources()

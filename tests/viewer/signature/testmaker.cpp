@@ -1,10 +1,13 @@
 #include "testmaker.h"
 
+#include "viewer/signature/timestamp.h"
+
 #include <QFile>
 
 #include <openssl/cms.h>
 #include <openssl/err.h>
 #include <openssl/pem.h>
+#include <openssl/ts.h>
 #include <openssl/x509v3.h>
 
 namespace TestSupport {
@@ -143,6 +146,42 @@ QByteArray CTestMaker::sign(const QByteArray &manifest, const char *digest,
     CMS_ContentInfo_free(cms);
     BIO_free(content);
     return der;
+}
+
+QByteArray CTestMaker::stamp(const QByteArray &signature, int day) const
+{
+    Viewer::Text::CErrorText fault;
+    const QByteArray query = Viewer::Signature::makeTimeStampQuery(signature, fault);
+    BIO *const reader = BIO_new_mem_buf(query.constData(), query.size());
+    TS_RESP_CTX *const context = TS_RESP_CTX_new();
+    ASN1_OBJECT *const policy = OBJ_txt2obj("1.2.3.4", 1);
+    const auto number = [](TS_RESP_CTX *, void *) {
+        ASN1_INTEGER *const serial = ASN1_INTEGER_new();
+        ASN1_INTEGER_set(serial, 1);
+        return serial;
+    };
+    const auto tellTime = [](TS_RESP_CTX *, void *days, long *seconds, long *microseconds) {
+        *seconds = time(nullptr) + *static_cast<int *>(days) * 86400L;
+        *microseconds = 0;
+        return 1;
+    };
+    TS_RESP_CTX_set_serial_cb(context, number, nullptr);
+    TS_RESP_CTX_set_time_cb(context, tellTime, &day);
+    require(TS_RESP_CTX_set_signer_cert(context, m_certificate.get()) == 1
+                && TS_RESP_CTX_set_signer_key(context, m_key.get()) == 1
+                && TS_RESP_CTX_set_signer_digest(context, EVP_sha256()) == 1
+                && TS_RESP_CTX_add_md(context, EVP_sha256()) == 1
+                && TS_RESP_CTX_set_def_policy(context, policy) == 1,
+            "authority for time stamps");
+    TS_RESP *const answer = TS_RESP_create_response(context, reader);
+    const QByteArray der = collect([answer](BIO *bio) { return i2d_TS_RESP_bio(bio, answer); });
+    TS_RESP_free(answer);
+    ASN1_OBJECT_free(policy);
+    TS_RESP_CTX_free(context);
+    BIO_free(reader);
+    const QByteArray stamped = Viewer::Signature::addTimeStamp(signature, der, fault);
+    require(!stamped.isEmpty(), "time stamp");
+    return stamped;
 }
 
 void CTestMaker::write(const QString &path) const

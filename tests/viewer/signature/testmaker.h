@@ -43,6 +43,10 @@ public:
                                   const QVector<const CTestMaker *> &others = {},
                                   EForm form = EForm::Detached) const;
 
+    /// @p signature, a message with one signer, with the time stamp of this maker, who does it so
+    /// many days from now and has to have the purpose "critical,timeStamping".
+    [[nodiscard]] QByteArray stamp(const QByteArray &signature, int day) const;
+
     /// Writes certificate and key beside each other: "<path>.pem" and "<path>.key".
     void write(const QString &path) const;
 

@@ -2,6 +2,7 @@
 #include "viewer/signature/signaturelimits.h"
 #include "viewer/signature/signaturepolicy.h"
 #include "viewer/signature/signatureverifier.h"
+#include "viewer/signature/signeddata.h"
 #include "viewer/signature/signer.h"
 #include "viewer/signature/truststore.h"
 
@@ -72,6 +73,7 @@ void CSignatureTest::judges_data()
     using EForm = CTestMaker::EForm;
     COptions authority;
     authority.purpose.clear();
+    authority.validFrom = -30;
     const CTestMaker root("Root", authority);
     const auto make = [&root](const char *name, auto change) {
         COptions options;
@@ -122,6 +124,50 @@ void CSignatureTest::judges_data()
     refuse("expired", expired.sign(MANIFEST), trust,
            "the certificate of CN=Old has expired on "
                + QDateTime::currentDateTimeUtc().addDays(-2).toString("yyyy-MM-dd"));
+    const auto makeStamper = [&make](const char *name, auto change) {
+        return make(name, [&change](COptions &o) {
+            o.purpose = "critical,timeStamping";
+            o.validFrom = -20;
+            change(o);
+        });
+    };
+    const CTestMaker stamper = makeStamper("Clock", [](auto &) {});
+    const QString tooLate = "the certificate of CN=Old has expired on "
+        + QDateTime::currentDateTimeUtc().addDays(-2).toString("yyyy-MM-dd");
+    const QByteArray old = expired.sign(MANIFEST);
+    row("expired, but stamped before", stamper.stamp(old, -5), trust, "it is signed by CN=Old");
+    row("by an authority whose certificate has expired since",
+        makeStamper("Clock", [](auto &o) { o.validTo = -4; }).stamp(old, -5), trust,
+        "it is signed by CN=Old");
+    refuse("stamped when it had expired", stamper.stamp(old, -1), trust, tooLate);
+    refuse("stamped before it was valid", stamper.stamp(old, -15), trust,
+           "the certificate of CN=Old is not valid before "
+               + QDateTime::currentDateTimeUtc().addDays(-9).toString("yyyy-MM-dd"));
+    refuse("stamped in the future", stamper.stamp(old, 2), trust,
+           tooLate
+               + "; its time stamp is not trusted: it is from the future; check this computer's "
+                 "clock");
+    refuse("an unknown authority's stamp",
+           makeStamper("Clock", [](auto &o) { o.issuer = nullptr; }).stamp(old, -5), trust,
+           tooLate
+               + "; its time stamp is not trusted: it is not signed by an authority for time "
+                 "stamps that is trusted");
+    refuse("a revoked authority's stamp", stamper.stamp(old, -5), trust + root.revoke(stamper),
+           tooLate + "; its time stamp is not trusted: the certificate of CN=Clock was revoked");
+    QByteArray spoilt = stamper.stamp(old, -5);
+    spoilt[spoilt.size() - 1] = static_cast<char>(spoilt.back() ^ 1);
+    refuse("a changed stamp", spoilt, trust,
+           tooLate
+               + "; its time stamp is not trusted: it is not signed by an authority for time "
+                 "stamps that is trusted");
+    row(
+        "a changed stamp that nobody needs",
+        [&] {
+            QByteArray bytes = stamper.stamp(good, -0);
+            bytes[bytes.size() - 1] = static_cast<char>(bytes.back() ^ 1);
+            return bytes;
+        }(),
+        trust, "it is signed by CN=Maker");
     const CTestMaker early = make("New", [](auto &o) { o.validFrom = 2; });
     refuse("not yet valid", early.sign(MANIFEST), trust,
            "the certificate of CN=New is not valid before "
