@@ -17,6 +17,7 @@
 #include "viewer/update/firmwareupdateinfo.h"
 #include "viewer/update/interruptedupdates.h"
 #include "viewer/update/updatehistory.h"
+#include "viewer/updatefile/updatefileerror.h"
 
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
@@ -166,6 +167,9 @@ bool CUpdateProgram::readFile(const QString &path, QVector<InfoPtr> &entries)
         entries = m_pool->getService<IDeviceFirmwareUpdateService>()->getFirmwareUpdateInfos(
             path, QString());
         return true;
+    } catch (const UpdateFile::CUpdateFileError &error) {
+        warn(QStringLiteral("faulty-file"), error.getText().getLocalized());
+        return false;
     } catch (const BaseException &exception) {
         warn(QStringLiteral("faulty-file"),
              QCoreApplication::translate(nullptr, exception.getMessage().toUtf8()));
