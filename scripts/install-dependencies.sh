@@ -32,18 +32,23 @@ run_packages=(
 )
 test_packages=(
   ansible-core
+  appstream
   aravis-tools
   aravis-tools-cli
   ccache
   clang-format
   clang-tidy
+  cmark-gfm
   dbus
+  desktop-file-utils
   git
   iproute2
+  mandoc
   openssl
   procps
   python3-dbusmock
   python3-jsonschema
+  shared-mime-info
   unzip
   # The address and thread sanitizers' libraries come with the compiler.
 )
