@@ -49,6 +49,7 @@ test_packages=(
   procps
   python3-dbusmock
   python3-jsonschema
+  reuse
   shared-mime-info
   unzip
   # The address and thread sanitizers' libraries come with the compiler.

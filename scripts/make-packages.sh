@@ -32,7 +32,7 @@ fi
 
 SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
 export SOURCE_DATE_EPOCH
-export DEB_BUILD_OPTIONS="nocheck parallel=$(nproc)"
+export DEB_BUILD_OPTIONS="nocheck noautodbgsym parallel=$(nproc)"
 # debhelper gives a build a home of its own, in which a cache would be of no use to the next one.
 if command -v ccache > /dev/null; then
   CCACHE_DIR=$(ccache --get-config cache_dir)
