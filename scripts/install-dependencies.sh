@@ -5,6 +5,7 @@
 #   scripts/install-dependencies.sh test      to build, to test and to check the format as well
 #   scripts/install-dependencies.sh fuzz      to build and to run the fuzzers
 #   scripts/install-dependencies.sh pictures  to renew the pictures of the README
+#   scripts/install-dependencies.sh package   to build and to try Debian packages
 set -euo pipefail
 
 run_packages=(
@@ -32,18 +33,24 @@ run_packages=(
 )
 test_packages=(
   ansible-core
+  appstream
   aravis-tools
   aravis-tools-cli
   ccache
   clang-format
   clang-tidy
+  cmark-gfm
   dbus
+  desktop-file-utils
   git
   iproute2
+  mandoc
   openssl
   procps
   python3-dbusmock
   python3-jsonschema
+  reuse
+  shared-mime-info
   unzip
   # The address and thread sanitizers' libraries come with the compiler.
 )
@@ -58,14 +65,24 @@ fuzz_packages=(
 picture_packages=(
   imagemagick
 )
+package_packages=(
+  ccache
+  cmark-gfm
+  debhelper
+  dpkg-dev
+  git
+  lintian
+  mmdebstrap
+)
 
 case "${1:-}" in
   run) packages=("${run_packages[@]}") ;;
   test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
   fuzz) packages=("${run_packages[@]}" "${fuzz_packages[@]}") ;;
   pictures) packages=("${run_packages[@]}" "${picture_packages[@]}") ;;
+  package) packages=("${run_packages[@]}" "${package_packages[@]}") ;;
   *)
-    echo "usage: $0 run|test|fuzz|pictures" >&2
+    echo "usage: $0 run|test|fuzz|pictures|package" >&2
     exit 2
     ;;
 esac

@@ -7,6 +7,7 @@
 #include "viewer/demo/wizarddemo.h"
 #include "viewer/files/statefolder.h"
 #include "viewer/process/closesignals.h"
+#include "viewer/process/installation.h"
 #include "viewer/signature/signaturepolicy.h"
 
 #include "core/baseexception.h"
@@ -150,6 +151,8 @@ int main(int argc, char **argv)
     }
     // The main window alone ends the viewer: between two pages of a wizard no other window shows.
     QApplication::setQuitOnLastWindowClosed(false);
+    // By which a desktop finds name and icon of the windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("nuvexviewer"));
     const CSpokenCommandLine commandLine;
     if (commandLine.getResult() != AppCore::CCommandLine::EResult::Start) {
         printError(commandLine.getReader().getMessage());
@@ -158,6 +161,9 @@ int main(int argc, char **argv)
     AppCore::CCommandLineOptions options = commandLine.getReader().takeOptions();
     for (const std::unique_ptr<Camera::ICameraKind> &kind : options.kinds)
         kind->setDataFolder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    if (options.samplesDirectory.isEmpty())
+        options.samplesDirectory = Process::findSampleFolder();
+    options.manual = Process::findManual();
     options.policyFolder = Signature::CSignaturePolicy::getSystemFolder();
     options.configFolder = Files::getConfigFolder();
     options.journalFolder = Files::getStateFolder(QStringLiteral("updates"));

@@ -4,7 +4,8 @@ function(run)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
-run(${CMAKE_COMMAND} --install ${PROJECT_BUILD} --prefix ${WORK}/installed)
+run(${CMAKE_COMMAND} --install ${PROJECT_BUILD} --prefix ${WORK}/installed
+  --component Contract)
 foreach(source IN LISTS SOURCES)
   get_filename_component(name ${source} NAME)
   run(${CMAKE_COMMAND} -S ${source} -B ${WORK}/${name} -G ${GENERATOR}

@@ -16,6 +16,7 @@ struct CCommandLineOptions
     QStringList pluginDirectories;
     QString language; ///< empty: as remembered
     QString samplesDirectory; ///< empty: none
+    QString manual; ///< its first page; not from the command line; empty: none
     QString demoDirectory; ///< empty: no demonstration
     bool requiresSignature = false; ///< whatever the policy says
     QString policyFolder; ///< the computer's owner's; not from the command line; empty: none

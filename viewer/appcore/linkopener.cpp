@@ -44,6 +44,11 @@ void CLinkOpener::setLogFolder(const QString &folder)
     m_logFolder = folder;
 }
 
+void CLinkOpener::setManual(const QString &file)
+{
+    m_manual = QUrl::fromLocalFile(file);
+}
+
 void CLinkOpener::addFolder(const QString &folder)
 {
     m_folders.append(folder);
@@ -89,6 +94,8 @@ void CLinkOpener::open(const QUrl &url)
         run(own, false);
     else if (Core::Text::isWebLink(address))
         run(address, true);
+    else if (!m_manual.isEmpty() && url == m_manual)
+        run(m_manual.toLocalFile(), true);
     else
         showAddress(url.isValid() ? address : url.errorString(),
                     tr("The viewer opens only web pages, mail addresses and its own logs. This "

@@ -5,18 +5,18 @@
 #include <QSet>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 class QDialog;
 class QLabel;
-class QUrl;
 
 namespace Viewer::AppCore {
 
 /// Opens the links in labels with the desktop's own programs and, where the desktop has none, shows
 /// a text file's text, or the address to copy, in a window of the viewer. Opened are web pages,
-/// mail addresses, logs of updates and the viewer's own folders; of every other link the address is
-/// shown, since what a desktop does with a file or a foreign scheme nobody knows. It stands in for
-/// the whole application from construction to destruction.
+/// mail addresses, the manual, logs of updates and the viewer's own folders; of every other link
+/// the address is shown, since what a desktop does with a file or a foreign scheme nobody knows. It
+/// stands in for the whole application from construction to destruction.
 class CLinkOpener : public QObject
 {
     Q_OBJECT
@@ -32,6 +32,9 @@ public:
 
     /// Files "*.log" anywhere below @p folder are opened; without a call none.
     void setLogFolder(const QString &folder);
+
+    /// Opens the page @p file, too, as a web page.
+    void setManual(const QString &file);
 
     /// Opens @p folder itself, too.
     void addFolder(const QString &folder);
@@ -55,6 +58,7 @@ private:
     const QString m_program;
     QSet<QString> m_schemes; ///< that Qt hands over
     QString m_logFolder;
+    QUrl m_manual; ///< empty: none
     QStringList m_folders;
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
 };

@@ -28,7 +28,7 @@
 #include "viewer/imageview/imagegrid.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
-#include "viewer/process/workerpath.h"
+#include "viewer/process/installation.h"
 #include "viewer/updatefile/updatefileerror.h"
 
 #include <QApplication>
@@ -95,6 +95,7 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
         m_linkOpener->addFolder(m_logs->getRoot());
     }
     m_linkOpener->addFolder(m_options.samplesDirectory);
+    m_linkOpener->setManual(m_options.manual);
     m_pool->setWorker(Process::getWorkerPath(), language);
     if (m_logs)
         m_pool->setLogFinder([this] { return m_logs->findOwnLog(); });
@@ -238,6 +239,13 @@ void CViewer::fillMenus()
     m_imageActions->addActions(m_window->getViewMenu());
 
     QMenu *const helpMenu = m_window->getHelpMenu();
+    if (!m_options.manual.isEmpty()) {
+        QAction *const manualAction = helpMenu->addAction(
+            tr("&Manual"), this,
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(m_options.manual)); },
+            QKeySequence::HelpContents);
+        manualAction->setObjectName(QStringLiteral("manual"));
+    }
     if (m_logs) {
         helpMenu->addAction(tr("&Logs..."), this, &CViewer::showLogs)
             ->setObjectName(QStringLiteral("logs"));
@@ -292,7 +300,7 @@ void CViewer::addBuiltIns()
 bool CViewer::start(QStringList &failures)
 {
     const QStringList directories
-        = QStringList(QCoreApplication::applicationDirPath()) + m_options.pluginDirectories;
+        = QStringList(Process::getPluginFolder()) + m_options.pluginDirectories;
     const bool complete = m_pluginManager->start(directories, m_language);
     failures = m_pluginManager->getFailures();
     if (!complete)

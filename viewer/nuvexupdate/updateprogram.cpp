@@ -9,7 +9,7 @@
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/devicefirmwareupdateservice.h"
 #include "viewer/files/statefolder.h"
-#include "viewer/process/workerpath.h"
+#include "viewer/process/installation.h"
 #include "viewer/signature/signaturepolicy.h"
 #include "viewer/signature/truststore.h"
 #include "viewer/text/csv.h"

@@ -1,5 +1,6 @@
 #!/bin/bash
-# Renders the SVG sources in icons/ to the PNG files that are compiled into the viewer.
+# Renders the SVG sources in icons/ to the PNG files that are compiled into the viewer, and to those that
+# a desktop shows for the viewer and its files.
 # Needs rsvg-convert (Debian: librsvg2-bin). Run it after changing a source, then commit both.
 set -euo pipefail
 cd "$(dirname "$0")/icons"
@@ -13,3 +14,9 @@ for name in start stop record stop_record refresh; do render "$name" 24; done
 for name in layer camera; do render "$name" 16; done
 render placeholder 64
 render viewer 64
+
+for size in 16 22 24 32 48 64 128 256; do
+  for name in viewer updatefile; do
+    rsvg-convert --width $size --height $size $name.svg --output ../../../installation/icons/${name}_$size.png
+  done
+done

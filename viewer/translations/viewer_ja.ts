@@ -653,6 +653,10 @@ SHA-256 フィンガープリント:
         <source>Trusted &amp;makers...</source>
         <translation>信頼する作成者(&amp;M)...</translation>
     </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>マニュアル(&amp;M)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Camera::GenICam</name>

@@ -653,6 +653,10 @@ SHA-256 지문:
         <source>Trusted &amp;makers...</source>
         <translation>신뢰하는 제작자(&amp;M)...</translation>
     </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>설명서(&amp;M)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Camera::GenICam</name>

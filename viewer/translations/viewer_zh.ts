@@ -653,6 +653,10 @@ SHA-256 指纹：
         <source>Trusted &amp;makers...</source>
         <translation>受信任的制作方(&amp;M)...</translation>
     </message>
+    <message>
+        <source>&amp;Manual</source>
+        <translation>手册(&amp;M)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Camera::GenICam</name>

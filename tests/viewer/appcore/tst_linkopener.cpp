@@ -75,6 +75,8 @@ void CLinkOpenerTest::opensOnlyWhatItKnows_data()
     QTest::newRow("log") << "%1/logs/run/with space.log" << true;
     QTest::newRow("log as address") << "file://%1/logs/run/with%20space.log" << true;
     QTest::newRow("folder of the logs") << "file://%1/logs" << true;
+    QTest::newRow("manual") << "file://%1/manual/index.html" << true;
+    QTest::newRow("other page beside it") << "file://%1/manual/other.html" << false;
     QTest::newRow("folder within it") << "%1/logs/run" << false;
     QTest::newRow("other file beside a log") << "%1/logs/run/program" << false;
     QTest::newRow("link beside a log") << "%1/logs/run/link.log" << false;
@@ -95,10 +97,10 @@ void CLinkOpenerTest::opensOnlyWhatItKnows()
     QFETCH(QString, link);
     QFETCH(bool, isOpened);
     QDir folder(m_folder.path());
-    for (const char *name : {"logs/run", "logs2"})
+    for (const char *name : {"logs/run", "logs2", "manual"})
         folder.mkpath(name);
-    for (const char *name :
-         {"logs/run/with space.log", "logs/run/program", "outside.log", "logs2/outside.log"})
+    for (const char *name : {"logs/run/with space.log", "logs/run/program", "outside.log",
+                             "logs2/outside.log", "manual/index.html", "manual/other.html"})
         makeFile(name, "#!/bin/sh\n");
     QFile::link("/etc/passwd", folder.filePath("logs/run/link.log"));
     mkfifo(QFile::encodeName(folder.filePath("logs/run/pipe.log")).constData(), S_IRUSR);
@@ -109,6 +111,7 @@ void CLinkOpenerTest::opensOnlyWhatItKnows()
                                 "mv ${0%/*}/new ${0%/*}/received\n"));
     opener.setLogFolder(folder.filePath("logs"));
     opener.addFolder(folder.filePath("logs"));
+    opener.setManual(folder.canonicalPath() + "/manual/index.html");
     const QString target = link.contains("%1") ? link.arg(folder.canonicalPath()) : link;
     clickLink(target);
     const std::unique_ptr<CTextDialog> shown(m_wizard.findChild<CTextDialog *>());

@@ -292,15 +292,26 @@ void CViewerTest::opensItsOwnFoldersAndLogs()
     QFile log(QDir::tempPath() + "/a.log");
     QVERIFY(log.open(QIODevice::WriteOnly) && log.write("lines") == 5);
     log.close();
+    QVERIFY(!m_window->findChild<QAction *>("manual"));
     m_viewer.reset();
-    const CViewer viewer(TestSupport::readOptions({"--samples", stateHome}), "en", &logs);
-    for (const QString &path : {stateHome, logs.getRoot(), log.fileName()}) {
-        QVERIFY(QDesktopServices::openUrl(QUrl::fromLocalFile(path)));
+    CCommandLineOptions options = TestSupport::readOptions({"--samples", stateHome});
+    options.manual = "/manual/index.html";
+    const CViewer viewer(std::move(options), "en", &logs);
+    const auto takeShown = [] {
         std::unique_ptr<CTextDialog> shown;
         for (QWidget *const widget : QApplication::topLevelWidgets()) {
             if (auto *const dialog = qobject_cast<CTextDialog *>(widget))
                 shown.reset(dialog);
         }
+        return shown;
+    };
+    viewer.getMainWindow().findChild<QAction *>("manual")->trigger();
+    auto manual = takeShown();
+    QVERIFY(manual && manual->getText() == "/manual/index.html");
+    manual.reset();
+    for (const QString &path : {stateHome, logs.getRoot(), log.fileName()}) {
+        QVERIFY(QDesktopServices::openUrl(QUrl::fromLocalFile(path)));
+        const auto shown = takeShown();
         QVERIFY(shown);
         QCOMPARE(shown->getText(), path == log.fileName() ? "lines" : path);
         QVERIFY(!shown->findChild<QLabel *>()->isVisible());
