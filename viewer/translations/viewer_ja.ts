@@ -1779,10 +1779,6 @@ frames not shown: %6</source>
         <translation>メモリが不足しています</translation>
     </message>
     <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>このカメラの更新前に、一連の更新が中止されました</translation>
-    </message>
-    <message>
         <source>it is already being updated</source>
         <translation>すでに更新中です</translation>
     </message>
@@ -2777,6 +2773,10 @@ frames not shown: %6</source>
     <message>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1 の失効リストが古くなっています。最新のものを証明書と同じ場所に置いてください</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
+        <translation>このカメラの更新前に、一連の更新が中止されました。このカメラは変更されておらず、バージョンは元のままです</translation>
     </message>
 </context>
 <context>

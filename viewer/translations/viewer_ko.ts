@@ -1779,10 +1779,6 @@ frames not shown: %6</source>
         <translation>메모리가 부족합니다</translation>
     </message>
     <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다</translation>
-    </message>
-    <message>
         <source>it is already being updated</source>
         <translation>이미 업데이트 중입니다</translation>
     </message>
@@ -2777,6 +2773,10 @@ frames not shown: %6</source>
     <message>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1의 해지 목록이 오래되었습니다. 최신 목록을 인증서 옆에 두십시오</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
+        <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다. 이 카메라는 변경되지 않았으며 버전이 그대로입니다</translation>
     </message>
 </context>
 <context>

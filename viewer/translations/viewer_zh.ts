@@ -1779,10 +1779,6 @@ frames not shown: %6</source>
         <translation>内存不足</translation>
     </message>
     <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>在更新此相机之前，批量更新已停止</translation>
-    </message>
-    <message>
         <source>it is already being updated</source>
         <translation>已在更新中</translation>
     </message>
@@ -2777,6 +2773,10 @@ frames not shown: %6</source>
     <message>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1 的吊销列表已过期，请将最新列表放在证书旁边</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
+        <translation>在更新此相机之前，批量更新已停止。此相机未被更改，仍保持原来的版本</translation>
     </message>
 </context>
 <context>
