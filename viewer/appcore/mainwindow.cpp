@@ -143,6 +143,18 @@ void CMainWindow::showMessage(const QString &message)
     statusBar()->showMessage(message, MESSAGE_TIME);
 }
 
+void CMainWindow::showLastingMessage(const QString &message)
+{
+    m_lastingMessage = message;
+    statusBar()->showMessage(message);
+}
+
+void CMainWindow::clearLastingMessage()
+{
+    if (statusBar()->currentMessage() == m_lastingMessage)
+        statusBar()->clearMessage();
+}
+
 void CMainWindow::setStatus(const QString &text)
 {
     m_statusLabel->setText(text);

@@ -46,6 +46,10 @@ public:
     /// Shows @p message in the status bar for a while.
     void showMessage(const QString &message);
 
+    /// The same until the next message, or clearLastingMessage().
+    void showLastingMessage(const QString &message);
+    void clearLastingMessage();
+
     /// Shows @p text at the right end of the status bar until the next call.
     void setStatus(const QString &text);
 
@@ -77,6 +81,7 @@ private:
     QToolBar *m_toolBar = nullptr;
     QAction *m_viewSeparator = nullptr; ///< behind what can be shown and hidden
     QLabel *m_statusLabel = nullptr;
+    QString m_lastingMessage;
     CloseGuard m_closeGuard;
 };
 

@@ -1,5 +1,6 @@
 #include "viewer.h"
 
+#include "aboutbox.h"
 #include "acquisitioncontroller.h"
 #include "actioncontainer.h"
 #include "imageactions.h"
@@ -25,10 +26,14 @@
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
 #include "viewer/camerasettings/camerasettingsview.h"
+#include "viewer/image/frameconverter.h"
+#include "viewer/image/pngencoder.h"
 #include "viewer/imageview/imagegrid.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
 #include "viewer/process/workerpath.h"
+#include "viewer/signature/truststore.h"
+#include "viewer/updatefile/updatearchive.h"
 #include "viewer/updatefile/updatefileerror.h"
 
 #include <QApplication>
@@ -36,7 +41,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QSessionManager>
 #include <QSettings>
@@ -141,6 +145,21 @@ void CViewer::setSignaturePolicy()
     service->setSignaturePolicy(m_signaturePolicy);
     connect(service.data(), &CameraPool::CDeviceFirmwareUpdateService::signatureJudged, this,
             &CViewer::showSignature);
+    // Asked for each camera of a series, it may be told as often; the last one is shown.
+    m_refusalTimer.setSingleShot(true);
+    m_refusalTimer.setInterval(0);
+    connect(service.data(), &CameraPool::CDeviceFirmwareUpdateService::fileRefused, this,
+            [this](const Text::CErrorText &sentence) {
+                m_refusal = tr("%1.").arg(sentence.getLocalized());
+                m_refusalTimer.start();
+            });
+    connect(&m_refusalTimer, &QTimer::timeout, this,
+            [this] { m_window->showLastingMessage(m_refusal); });
+    connect(m_dialogWatcher.get(), &CModalDialogWatcher::dialogVisibleChanged, m_window.get(),
+            [this](bool visible) {
+                if (!visible)
+                    m_window->clearLastingMessage();
+            });
 }
 
 void CViewer::showSignature(const QString &filePath, const Signature::CSignatureVerdict &verdict)
@@ -148,6 +167,7 @@ void CViewer::showSignature(const QString &filePath, const Signature::CSignature
     const Text::CErrorText refusal = m_signaturePolicy.findRefusal(verdict);
     const UpdateFile::CUpdateFileError sentence(QFileInfo(filePath).fileName(),
                                                 refusal.isEmpty() ? verdict.describe() : refusal);
+    m_refusalTimer.stop();
     m_window->showMessage(sentence.getText().getLocalized());
 }
 
@@ -390,11 +410,15 @@ void CViewer::showPlugins()
 
 void CViewer::showAbout()
 {
-    auto *const box = new QMessageBox(
-        QMessageBox::NoIcon, tr("About"),
-        tr("<h3>Nuvex Viewer %1</h3><p>Shows cameras and lets plug-ins work with them.</p>")
-            .arg(QCoreApplication::applicationVersion()),
-        QMessageBox::Close, m_window.get());
+    QVector<Text::CLibraryVersion> libraries{
+        {QStringLiteral("Qt"), QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion())},
+        UpdateFile::CUpdateArchive::getLibrary(),
+        Signature::CTrustStore::getLibrary(),
+        Image::CFrameConverter::getLibrary(),
+        Image::getPngLibrary()};
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : m_pool->getKinds())
+        libraries += kind->getLibraries();
+    auto *const box = new CAboutBox(libraries, m_window.get());
     box->setIconPixmap(m_window->windowIcon().pixmap(m_window->windowHandle(), {64, 64}));
     openOwn(box);
 }

@@ -121,6 +121,8 @@ private:
     bool m_closeRequested = false;
     QString m_toldReason; ///< why it was not closed, as last told
     QTimer m_nextReasonTimer;
+    QString m_refusal; ///< why an update file does not fit, to be shown by the timer
+    QTimer m_refusalTimer;
 };
 
 } // namespace Viewer::AppCore

@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CAboutBox</name>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1 (ビルド時は %2)</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;カメラを表示し、プラグインで操作できるようにします。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;License: MIT&lt;/p&gt;&lt;p&gt;Libraries:&lt;/p&gt;</source>
+        <translation>&lt;p&gt;ライセンス: MIT&lt;/p&gt;&lt;p&gt;ライブラリ:&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -626,14 +645,6 @@ SHA-256 フィンガープリント:
         </translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>バージョン情報</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;カメラを表示し、プラグインで操作できるようにします。&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>カメラを検索 (F5)</translation>
     </message>
@@ -652,6 +663,10 @@ SHA-256 フィンガープリント:
     <message>
         <source>Trusted &amp;makers...</source>
         <translation>信頼する作成者(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
     </message>
 </context>
 <context>
@@ -725,6 +740,21 @@ SHA-256 フィンガープリント:
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
         <translation>シミュレーションカメラを実際のカメラの &lt;n&gt; 倍の速さで動かします (既定値 1)。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>別のアプリケーションが使用しています</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>ステータスが %1 です</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>ステータスが %1 です: %2</translation>
     </message>
 </context>
 <context>
@@ -1203,21 +1233,6 @@ frames not shown: %6</source>
     <message>
         <source>frames not shown: %1</source>
         <translation>非表示フレーム: %1</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::NuvexUpdate</name>
-    <message>
-        <source>it is in use by another application</source>
-        <translation>別のアプリケーションが使用しています</translation>
-    </message>
-    <message>
-        <source>its status is %1</source>
-        <translation>ステータスが %1 です</translation>
-    </message>
-    <message>
-        <source>its status is %1: %2</source>
-        <translation>ステータスが %1 です: %2</translation>
     </message>
 </context>
 <context>

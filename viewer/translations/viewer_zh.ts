@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CAboutBox</name>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1（构建时为 %2）</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;显示相机，并允许插件使用相机。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;License: MIT&lt;/p&gt;&lt;p&gt;Libraries:&lt;/p&gt;</source>
+        <translation>&lt;p&gt;许可证：MIT&lt;/p&gt;&lt;p&gt;库：&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -626,14 +645,6 @@ SHA-256 指纹：
         </translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>关于</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;显示相机，并允许插件使用相机。&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>搜索相机 (F5)</translation>
     </message>
@@ -652,6 +663,10 @@ SHA-256 指纹：
     <message>
         <source>Trusted &amp;makers...</source>
         <translation>受信任的制作方(&amp;M)...</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
     </message>
 </context>
 <context>
@@ -725,6 +740,21 @@ SHA-256 指纹：
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
         <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（默认 1）。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>正被其他程序占用</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>状态为 %1</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>状态为 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -1203,21 +1233,6 @@ frames not shown: %6</source>
     <message>
         <source>frames not shown: %1</source>
         <translation>未显示帧：%1</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::NuvexUpdate</name>
-    <message>
-        <source>it is in use by another application</source>
-        <translation>正被其他程序占用</translation>
-    </message>
-    <message>
-        <source>its status is %1</source>
-        <translation>状态为 %1</translation>
-    </message>
-    <message>
-        <source>its status is %1: %2</source>
-        <translation>状态为 %1：%2</translation>
     </message>
 </context>
 <context>
