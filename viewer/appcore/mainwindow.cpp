@@ -68,6 +68,7 @@ void CMainWindow::setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView
     dock->setWidget(cameraTree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
     resizeDocks({dock}, {560}, Qt::Horizontal);
+    m_cameraDock = dock;
     auto *const middle = new QWidget(this);
     auto *const layout = new QVBoxLayout(middle);
     layout->setContentsMargins({});
@@ -82,6 +83,16 @@ void CMainWindow::setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView
     m_viewSeparator = m_viewMenu->addSeparator();
     createLanguageMenu(m_viewMenu->addMenu(tr("&Language")));
     cameraTree->setFocus();
+}
+
+void CMainWindow::showCameras()
+{
+    m_cameraDock->show();
+}
+
+void CMainWindow::addViewAction(QAction *action)
+{
+    m_viewMenu->insertAction(m_viewSeparator, action);
 }
 
 void CMainWindow::addSettings(QWidget *settings)

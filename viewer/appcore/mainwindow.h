@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QToolBar;
@@ -30,6 +31,12 @@ public:
     /// Puts @p cameraTree into the dock and @p imageView into the middle, below @p bar; all become
     /// children.
     void setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView);
+
+    /// Shows the dock with the tree, if the user has closed it.
+    void showCameras();
+
+    /// Adds @p action to the View menu, with those that show something.
+    void addViewAction(QAction *action);
 
     /// Adds a dock around @p settings, which becomes a child; hidden until the user wants it. To be
     /// called behind setViews().
@@ -80,6 +87,7 @@ private:
     QMenu *m_selectorMenu = nullptr;
     QToolBar *m_toolBar = nullptr;
     QAction *m_viewSeparator = nullptr; ///< behind what can be shown and hidden
+    QDockWidget *m_cameraDock = nullptr;
     QLabel *m_statusLabel = nullptr;
     QString m_lastingMessage;
     CloseGuard m_closeGuard;

@@ -23,6 +23,7 @@
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/devicefirmwareupdateservice.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
+#include "viewer/cameraselector/cameraselectorpanel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
 #include "viewer/camerasettings/camerasettingsview.h"
@@ -183,9 +184,17 @@ void CViewer::createWindow()
         = new CInterruptionBar(m_options.journalFolder, [this](const QString &cameraId) {
               return m_pool->getSnapshot(cameraId);
           });
-    m_window->setViews(m_selectorView, m_interruptionBar, images);
+    auto *const cameras = new CameraSelector::CCameraSelectorPanel(m_selectorView);
+    m_window->setViews(cameras, m_interruptionBar, images);
     connect(m_pool.get(), &CameraPool::CCameraPool::updateRunningChanged, m_interruptionBar,
             &CInterruptionBar::refresh);
+    m_filterAction = new QAction(tr("Fin&d cameras"), m_window.get());
+    m_filterAction->setObjectName(QStringLiteral("filterCameras"));
+    m_filterAction->setShortcut(QKeySequence::Find);
+    connect(m_filterAction, &QAction::triggered, cameras, [this, cameras] {
+        m_window->showCameras();
+        cameras->beginFilter();
+    });
     m_window->setCloseGuard([this] { return getReasonToStayOpen(); });
 
     m_acquisition = std::make_unique<CAcquisitionController>(*m_pool, *images, m_window.get());
@@ -255,6 +264,7 @@ void CViewer::fillMenus()
         = fileMenu->addAction(tr("&Quit"), m_window.get(), &QWidget::close, QKeySequence::Quit);
     quitAction->setObjectName(QStringLiteral("quit"));
 
+    m_window->addViewAction(m_filterAction);
     m_imageActions->addActions(m_window->getViewMenu());
 
     QMenu *const helpMenu = m_window->getHelpMenu();

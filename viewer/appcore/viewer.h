@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+class QAction;
+
 namespace Viewer::CameraPool {
 class CCameraPool;
 }
@@ -117,6 +119,7 @@ private:
     std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;
     CameraSelector::CCameraSelectorView *m_selectorView = nullptr; ///< the window's child
+    QAction *m_filterAction = nullptr; ///< the same
     CInterruptionBar *m_interruptionBar = nullptr; ///< the same
     bool m_closeRequested = false;
     QString m_toldReason; ///< why it was not closed, as last told

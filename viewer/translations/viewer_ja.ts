@@ -668,6 +668,10 @@ SHA-256 フィンガープリント:
         <source>%1.</source>
         <translation>%1。</translation>
     </message>
+    <message>
+        <source>Fin&amp;d cameras</source>
+        <translation>カメラを探す(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Camera::GenICam</name>
@@ -883,10 +887,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CameraSelector::CCameraSelectorPanel</name>
+    <message>
+        <source>Filter cameras</source>
+        <translation>カメラを絞り込む</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
         <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>&amp;Order as found</source>
+        <translation>見つかった順(&amp;O)</translation>
     </message>
 </context>
 <context>

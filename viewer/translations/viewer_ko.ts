@@ -668,6 +668,10 @@ SHA-256 지문:
         <source>%1.</source>
         <translation>%1.</translation>
     </message>
+    <message>
+        <source>Fin&amp;d cameras</source>
+        <translation>카메라 찾기(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Camera::GenICam</name>
@@ -883,10 +887,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CameraSelector::CCameraSelectorPanel</name>
+    <message>
+        <source>Filter cameras</source>
+        <translation>카메라 필터</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
         <translation>카메라</translation>
+    </message>
+    <message>
+        <source>&amp;Order as found</source>
+        <translation>찾은 순서대로(&amp;O)</translation>
     </message>
 </context>
 <context>

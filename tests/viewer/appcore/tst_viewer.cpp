@@ -211,7 +211,7 @@ void CViewerTest::showsSeveralCameras()
     }
     const QString third = cameras.at(2)->getId();
     QTest::mouseClick(images->findTile(third)->getView(), Qt::LeftButton);
-    QCOMPARE(m_tree->currentIndex(), m_tree->getModel()->findId(third));
+    QCOMPARE(m_tree->currentIndex(), m_tree->findId(third));
     m_window->findChild<QAction *>("saveImage")->trigger();
     QFileDialog *dialog = nullptr;
     QTRY_VERIFY((dialog = m_window->findChild<QFileDialog *>("saveImageDialog")));
