@@ -68,6 +68,7 @@ void CMainWindow::setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView
     dock->setWidget(cameraTree);
     addDockWidget(Qt::LeftDockWidgetArea, dock);
     resizeDocks({dock}, {560}, Qt::Horizontal);
+    m_cameraDock = dock;
     auto *const middle = new QWidget(this);
     auto *const layout = new QVBoxLayout(middle);
     layout->setContentsMargins({});
@@ -82,6 +83,16 @@ void CMainWindow::setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView
     m_viewSeparator = m_viewMenu->addSeparator();
     createLanguageMenu(m_viewMenu->addMenu(tr("&Language")));
     cameraTree->setFocus();
+}
+
+void CMainWindow::showCameras()
+{
+    m_cameraDock->show();
+}
+
+void CMainWindow::addViewAction(QAction *action)
+{
+    m_viewMenu->insertAction(m_viewSeparator, action);
 }
 
 void CMainWindow::addSettings(QWidget *settings)
@@ -141,6 +152,18 @@ void CMainWindow::restorePlace()
 void CMainWindow::showMessage(const QString &message)
 {
     statusBar()->showMessage(message, MESSAGE_TIME);
+}
+
+void CMainWindow::showLastingMessage(const QString &message)
+{
+    m_lastingMessage = message;
+    statusBar()->showMessage(message);
+}
+
+void CMainWindow::clearLastingMessage()
+{
+    if (statusBar()->currentMessage() == m_lastingMessage)
+        statusBar()->clearMessage();
 }
 
 void CMainWindow::setStatus(const QString &text)

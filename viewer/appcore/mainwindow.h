@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class QDockWidget;
 class QLabel;
 class QMenu;
 class QToolBar;
@@ -31,6 +32,12 @@ public:
     /// children.
     void setViews(QWidget *cameraTree, QWidget *bar, QWidget *imageView);
 
+    /// Shows the dock with the tree, if the user has closed it.
+    void showCameras();
+
+    /// Adds @p action to the View menu, with those that show something.
+    void addViewAction(QAction *action);
+
     /// Adds a dock around @p settings, which becomes a child; hidden until the user wants it. To be
     /// called behind setViews().
     void addSettings(QWidget *settings);
@@ -45,6 +52,10 @@ public:
 
     /// Shows @p message in the status bar for a while.
     void showMessage(const QString &message);
+
+    /// The same until the next message, or clearLastingMessage().
+    void showLastingMessage(const QString &message);
+    void clearLastingMessage();
 
     /// Shows @p text at the right end of the status bar until the next call.
     void setStatus(const QString &text);
@@ -76,7 +87,9 @@ private:
     QMenu *m_selectorMenu = nullptr;
     QToolBar *m_toolBar = nullptr;
     QAction *m_viewSeparator = nullptr; ///< behind what can be shown and hidden
+    QDockWidget *m_cameraDock = nullptr;
     QLabel *m_statusLabel = nullptr;
+    QString m_lastingMessage;
     CloseGuard m_closeGuard;
 };
 

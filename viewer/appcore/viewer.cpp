@@ -1,5 +1,6 @@
 #include "viewer.h"
 
+#include "aboutbox.h"
 #include "acquisitioncontroller.h"
 #include "actioncontainer.h"
 #include "imageactions.h"
@@ -22,13 +23,18 @@
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/camerapool/devicefirmwareupdateservice.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
+#include "viewer/cameraselector/cameraselectorpanel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
 #include "viewer/camerasettings/camerasettingsview.h"
+#include "viewer/image/frameconverter.h"
+#include "viewer/image/pngencoder.h"
 #include "viewer/imageview/imagegrid.h"
 #include "viewer/pluginsystem/plugininitializer.h"
 #include "viewer/pluginsystem/pluginmanager.h"
 #include "viewer/process/installation.h"
+#include "viewer/signature/truststore.h"
+#include "viewer/updatefile/updatearchive.h"
 #include "viewer/updatefile/updatefileerror.h"
 
 #include <QApplication>
@@ -36,7 +42,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
 #include <QRegularExpression>
 #include <QSessionManager>
 #include <QSettings>
@@ -142,6 +147,21 @@ void CViewer::setSignaturePolicy()
     service->setSignaturePolicy(m_signaturePolicy);
     connect(service.data(), &CameraPool::CDeviceFirmwareUpdateService::signatureJudged, this,
             &CViewer::showSignature);
+    // Asked for each camera of a series, it may be told as often; the last one is shown.
+    m_refusalTimer.setSingleShot(true);
+    m_refusalTimer.setInterval(0);
+    connect(service.data(), &CameraPool::CDeviceFirmwareUpdateService::fileRefused, this,
+            [this](const Text::CErrorText &sentence) {
+                m_refusal = tr("%1.").arg(sentence.getLocalized());
+                m_refusalTimer.start();
+            });
+    connect(&m_refusalTimer, &QTimer::timeout, this,
+            [this] { m_window->showLastingMessage(m_refusal); });
+    connect(m_dialogWatcher.get(), &CModalDialogWatcher::dialogVisibleChanged, m_window.get(),
+            [this](bool visible) {
+                if (!visible)
+                    m_window->clearLastingMessage();
+            });
 }
 
 void CViewer::showSignature(const QString &filePath, const Signature::CSignatureVerdict &verdict)
@@ -149,6 +169,7 @@ void CViewer::showSignature(const QString &filePath, const Signature::CSignature
     const Text::CErrorText refusal = m_signaturePolicy.findRefusal(verdict);
     const UpdateFile::CUpdateFileError sentence(QFileInfo(filePath).fileName(),
                                                 refusal.isEmpty() ? verdict.describe() : refusal);
+    m_refusalTimer.stop();
     m_window->showMessage(sentence.getText().getLocalized());
 }
 
@@ -164,9 +185,17 @@ void CViewer::createWindow()
         = new CInterruptionBar(m_options.journalFolder, [this](const QString &cameraId) {
               return m_pool->getSnapshot(cameraId);
           });
-    m_window->setViews(m_selectorView, m_interruptionBar, images);
+    auto *const cameras = new CameraSelector::CCameraSelectorPanel(m_selectorView);
+    m_window->setViews(cameras, m_interruptionBar, images);
     connect(m_pool.get(), &CameraPool::CCameraPool::updateRunningChanged, m_interruptionBar,
             &CInterruptionBar::refresh);
+    m_filterAction = new QAction(tr("Fin&d cameras"), m_window.get());
+    m_filterAction->setObjectName(QStringLiteral("filterCameras"));
+    m_filterAction->setShortcut(QKeySequence::Find);
+    connect(m_filterAction, &QAction::triggered, cameras, [this, cameras] {
+        m_window->showCameras();
+        cameras->beginFilter();
+    });
     m_window->setCloseGuard([this] { return getReasonToStayOpen(); });
 
     m_acquisition = std::make_unique<CAcquisitionController>(*m_pool, *images, m_window.get());
@@ -236,6 +265,7 @@ void CViewer::fillMenus()
         = fileMenu->addAction(tr("&Quit"), m_window.get(), &QWidget::close, QKeySequence::Quit);
     quitAction->setObjectName(QStringLiteral("quit"));
 
+    m_window->addViewAction(m_filterAction);
     m_imageActions->addActions(m_window->getViewMenu());
 
     QMenu *const helpMenu = m_window->getHelpMenu();
@@ -398,11 +428,15 @@ void CViewer::showPlugins()
 
 void CViewer::showAbout()
 {
-    auto *const box = new QMessageBox(
-        QMessageBox::NoIcon, tr("About"),
-        tr("<h3>Nuvex Viewer %1</h3><p>Shows cameras and lets plug-ins work with them.</p>")
-            .arg(QCoreApplication::applicationVersion()),
-        QMessageBox::Close, m_window.get());
+    QVector<Text::CLibraryVersion> libraries{
+        {QStringLiteral("Qt"), QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion())},
+        UpdateFile::CUpdateArchive::getLibrary(),
+        Signature::CTrustStore::getLibrary(),
+        Image::CFrameConverter::getLibrary(),
+        Image::getPngLibrary()};
+    for (const std::unique_ptr<Camera::ICameraKind> &kind : m_pool->getKinds())
+        libraries += kind->getLibraries();
+    auto *const box = new CAboutBox(libraries, m_window.get());
     box->setIconPixmap(m_window->windowIcon().pixmap(m_window->windowHandle(), {64, 64}));
     openOwn(box);
 }

@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+class QAction;
+
 namespace Viewer::CameraPool {
 class CCameraPool;
 }
@@ -117,10 +119,13 @@ private:
     std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;
     CameraSelector::CCameraSelectorView *m_selectorView = nullptr; ///< the window's child
+    QAction *m_filterAction = nullptr; ///< the same
     CInterruptionBar *m_interruptionBar = nullptr; ///< the same
     bool m_closeRequested = false;
     QString m_toldReason; ///< why it was not closed, as last told
     QTimer m_nextReasonTimer;
+    QString m_refusal; ///< why an update file does not fit, to be shown by the timer
+    QTimer m_refusalTimer;
 };
 
 } // namespace Viewer::AppCore

@@ -26,6 +26,11 @@ QString ICameraKind::getMenuTitle() const
     return {};
 }
 
+QVector<Text::CLibraryVersion> ICameraKind::getLibraries() const
+{
+    return {};
+}
+
 QVector<CCameraSwitch> ICameraKind::getSwitches()
 {
     return {};

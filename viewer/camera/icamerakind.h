@@ -7,6 +7,7 @@
 #include "icamerahandle.h"
 #include "icamerastream.h"
 #include "viewer/commandline/option.h"
+#include "viewer/text/libraryversion.h"
 
 #include <QCborMap>
 #include <QObject>
@@ -47,6 +48,9 @@ public:
     virtual void start();
 
     // At any time:
+
+    /// What this kind works with.
+    [[nodiscard]] virtual QVector<Text::CLibraryVersion> getLibraries() const;
 
     /// The title of the menu with the switches, with its mnemonic; empty: they stand among the
     /// program's own entries.

@@ -1,22 +1,18 @@
 #include "devicefirmwareupdateservice.h"
 
 #include "camerainfo.h"
+#include "cameraverdict.h"
 #include "viewer/camera/icameradevice.h"
 #include "viewer/camera/icameradevicefactory.h"
 #include "viewer/camera/icamerahandle.h"
 #include "viewer/update/devicefirmwareupdate.h"
-#include "viewer/update/entryfit.h"
 #include "viewer/update/firmwareupdateinfo.h"
-#include "viewer/updatefile/firmwareversion.h"
 #include "viewer/updatefile/updatefileerror.h"
 
 #include "core/baseexception.h"
 
-#include <QFileInfo>
-
 #include <QDir>
-
-#include <algorithm>
+#include <QFileInfo>
 
 namespace Viewer::CameraPool {
 
@@ -24,17 +20,6 @@ using Core::Exception::BaseException;
 using Plugin::CameraPool::ICameraInfo;
 using Plugin::CameraPool::IDeviceFirmwareUpdate;
 using Plugin::CameraPool::IFirmwareUpdateInfo;
-
-/// Unreadable versions come last; a stable order for a stable sort.
-static bool isNewer(const QSharedPointer<IFirmwareUpdateInfo> &left,
-                    const QSharedPointer<IFirmwareUpdateInfo> &right)
-{
-    const std::optional<UpdateFile::CFirmwareVersion> leftVersion
-        = UpdateFile::CFirmwareVersion::parse(left->getVersion());
-    const std::optional<UpdateFile::CFirmwareVersion> rightVersion
-        = UpdateFile::CFirmwareVersion::parse(right->getVersion());
-    return leftVersion && (!rightVersion || *leftVersion > *rightVersion);
-}
 
 CDeviceFirmwareUpdateService::CDeviceFirmwareUpdateService(
     Camera::ICameraDeviceFactory &factory, const CameraFinder &findCamera,
@@ -72,6 +57,9 @@ CDeviceFirmwareUpdateService::getFirmwareUpdateInfos(const QString &updateFilePa
             infos.append(QSharedPointer<IFirmwareUpdateInfo>(
                 new Update::CFirmwareUpdateInfo(manifest, i, path)));
         return infos;
+    } catch (const UpdateFile::CUpdateFileError &error) {
+        emit fileRefused(error.getText());
+        throw;
     } catch (const BaseException &) {
         throw;
     } catch (const std::exception &exception) {
@@ -93,12 +81,12 @@ bool CDeviceFirmwareUpdateService::getCompatibleFirmwareUpdates(
     updatable = camera->getCameraStatusCode() == 0;
     if (!updatable)
         return true;
-    for (const QSharedPointer<IFirmwareUpdateInfo> &info : all) {
-        const auto *const own = dynamic_cast<const Update::CFirmwareUpdateInfo *>(info.data());
-        if (own && Update::findMisfit(*camera, own->getEntry()).isEmpty())
-            compatible.append(info);
-    }
-    std::stable_sort(compatible.begin(), compatible.end(), isNewer);
+    compatible = findFitting(*camera, all);
+    const Text::CErrorText misfit = findMisfit(*camera, all);
+    if (!misfit.isEmpty())
+        emit fileRefused(UpdateFile::CUpdateFileError(
+                             QFileInfo(all.constFirst()->getFileName()).fileName(), misfit)
+                             .getText());
     return true;
 }
 

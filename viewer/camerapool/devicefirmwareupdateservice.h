@@ -77,6 +77,10 @@ signals:
     /// A faultless update file was read, whether the policy refuses it or not.
     void signatureJudged(const QString &filePath, const Signature::CSignatureVerdict &verdict);
 
+    /// Why a file cannot be used, or has nothing for the camera that was asked for: one sentence
+    /// without a full stop, for a user who is only told that the file does not fit.
+    void fileRefused(const Text::CErrorText &sentence);
+
     /// On the thread of this object; one of the jobs has executed.
     void updateEnded(const QString &cameraId, bool isUpdated);
 

@@ -5,6 +5,8 @@
 #include "pixelformat.h"
 #include "unpacking.h"
 
+#include <opencv2/core/utility.hpp>
+#include <opencv2/core/version.hpp>
 #include <opencv2/imgproc.hpp>
 
 #include <algorithm>
@@ -116,6 +118,12 @@ static CConvertedFrame toResult(QImage image)
     if (image.isNull())
         return {{}, CErrorText::tr("out of memory")};
     return {std::move(image), {}};
+}
+
+Text::CLibraryVersion CFrameConverter::getLibrary()
+{
+    return {QStringLiteral("OpenCV"), QStringLiteral(CV_VERSION),
+            QString::fromStdString(cv::getVersionString())};
 }
 
 CFrameConverter::CFrameConverter()

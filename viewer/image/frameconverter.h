@@ -2,6 +2,7 @@
 
 #include "imagememory.h"
 #include "viewer/text/errortext.h"
+#include "viewer/text/libraryversion.h"
 
 #include <QImage>
 #include <QRgb>
@@ -37,6 +38,9 @@ class CFrameConverter
 {
 public:
     CFrameConverter();
+
+    /// The library that computes colours.
+    [[nodiscard]] static Text::CLibraryVersion getLibrary();
 
     /// `Format_Grayscale8` for mono, `Format_RGB32` for colours and marks. Deeper samples lose
     /// their lower bits. A Mono8 image without marks is the frame's memory and costs nothing.

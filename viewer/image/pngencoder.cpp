@@ -78,6 +78,12 @@ static QByteArray packLines(const QImage &image)
     return packed;
 }
 
+Text::CLibraryVersion getPngLibrary()
+{
+    return {QStringLiteral("zlib"), QStringLiteral(ZLIB_VERSION),
+            QString::fromLatin1(zlibVersion())};
+}
+
 QByteArray encodePng(const QImage &image, const PngTexts &texts)
 {
     const QByteArray packed = packLines(image);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "viewer/text/libraryversion.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QPair>
@@ -7,6 +9,9 @@
 #include <QVector>
 
 namespace Viewer::Image {
+
+/// The library that packs pictures.
+[[nodiscard]] Text::CLibraryVersion getPngLibrary();
 
 /// Names and texts that a PNG file has beside its picture. A name is 1 to 79 Latin-1 characters.
 using PngTexts = QVector<QPair<QByteArray, QString>>;

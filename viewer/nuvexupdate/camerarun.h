@@ -1,12 +1,15 @@
 #pragma once
 
-#include "cameraverdict.h"
+#include "viewer/camerapool/cameraverdict.h"
 
 #include <QElapsedTimer>
 
 #include <chrono>
 
 namespace Viewer::NuvexUpdate {
+
+using CameraPool::CCameraVerdict;
+using CameraPool::EVerdict;
 
 /// What has become of a camera that was to be updated.
 enum class EOutcome {

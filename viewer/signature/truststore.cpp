@@ -10,7 +10,9 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <openssl/crypto.h>
 #include <openssl/err.h>
+#include <openssl/opensslv.h>
 #include <openssl/pem.h>
 #include <openssl/x509_vfy.h>
 #include <openssl/x509v3.h>
@@ -92,6 +94,12 @@ bool isListFor(X509_CRL *list, const QVector<CCertificate> &chain, int index)
 }
 
 } // namespace
+
+Text::CLibraryVersion CTrustStore::getLibrary()
+{
+    return {QStringLiteral("OpenSSL"), QStringLiteral(OPENSSL_VERSION_STR),
+            QString::fromLatin1(OpenSSL_version(OPENSSL_VERSION_STRING))};
+}
 
 CTrustStore::CTrustStore(const CCertificate &certificate)
     : m_makers{{QString(), certificate}}

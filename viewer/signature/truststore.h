@@ -1,6 +1,7 @@
 #pragma once
 
 #include "certificate.h"
+#include "viewer/text/libraryversion.h"
 
 #include <QStringList>
 
@@ -22,6 +23,9 @@ public:
         QString filePath;
         CCertificate certificate;
     };
+
+    /// The library that checks certificates.
+    [[nodiscard]] static Text::CLibraryVersion getLibrary();
 
     /// Trusts nobody.
     CTrustStore() = default;

@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CAboutBox</name>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1 (ビルド時は %2)</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;カメラを表示し、プラグインで操作できるようにします。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;License: MIT&lt;/p&gt;&lt;p&gt;Libraries:&lt;/p&gt;</source>
+        <translation>&lt;p&gt;ライセンス: MIT&lt;/p&gt;&lt;p&gt;ライブラリ:&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -626,14 +645,6 @@ SHA-256 フィンガープリント:
         </translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>バージョン情報</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;カメラを表示し、プラグインで操作できるようにします。&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>カメラを検索 (F5)</translation>
     </message>
@@ -656,6 +667,14 @@ SHA-256 フィンガープリント:
     <message>
         <source>&amp;Manual</source>
         <translation>マニュアル(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Fin&amp;d cameras</source>
+        <translation>カメラを探す(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -729,6 +748,21 @@ SHA-256 フィンガープリント:
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
         <translation>シミュレーションカメラを実際のカメラの &lt;n&gt; 倍の速さで動かします (既定値 1)。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>別のアプリケーションが使用しています</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>ステータスが %1 です</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>ステータスが %1 です: %2</translation>
     </message>
 </context>
 <context>
@@ -857,10 +891,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CameraSelector::CCameraSelectorPanel</name>
+    <message>
+        <source>Filter cameras</source>
+        <translation>カメラを絞り込む</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
         <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>&amp;Order as found</source>
+        <translation>見つかった順(&amp;O)</translation>
     </message>
 </context>
 <context>
@@ -1232,21 +1281,6 @@ frames not shown: %6</source>
     <message>
         <source>frames not shown: %1</source>
         <translation>非表示フレーム: %1</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::NuvexUpdate</name>
-    <message>
-        <source>it is in use by another application</source>
-        <translation>別のアプリケーションが使用しています</translation>
-    </message>
-    <message>
-        <source>its status is %1</source>
-        <translation>ステータスが %1 です</translation>
-    </message>
-    <message>
-        <source>its status is %1: %2</source>
-        <translation>ステータスが %1 です: %2</translation>
     </message>
 </context>
 <context>
@@ -1806,10 +1840,6 @@ frames not shown: %6</source>
     <message>
         <source>out of memory</source>
         <translation>メモリが不足しています</translation>
-    </message>
-    <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>このカメラの更新前に、一連の更新が中止されました</translation>
     </message>
     <message>
         <source>it is already being updated</source>
@@ -2842,6 +2872,10 @@ frames not shown: %6</source>
     <message>
         <source>the time stamp in the answer is of another signature</source>
         <translation>応答のタイムスタンプは別の署名のものです</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
+        <translation>このカメラの更新前に、一連の更新が中止されました。このカメラは変更されておらず、バージョンは元のままです</translation>
     </message>
 </context>
 <context>

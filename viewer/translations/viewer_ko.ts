@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CAboutBox</name>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1, %2(으)로 빌드됨</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;카메라를 표시하고 플러그인으로 카메라를 제어합니다.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;License: MIT&lt;/p&gt;&lt;p&gt;Libraries:&lt;/p&gt;</source>
+        <translation>&lt;p&gt;라이선스: MIT&lt;/p&gt;&lt;p&gt;라이브러리:&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -626,14 +645,6 @@ SHA-256 지문:
         </translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>정보</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;카메라를 표시하고 플러그인으로 카메라를 제어합니다.&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>카메라 검색(F5)</translation>
     </message>
@@ -656,6 +667,14 @@ SHA-256 지문:
     <message>
         <source>&amp;Manual</source>
         <translation>설명서(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Fin&amp;d cameras</source>
+        <translation>카메라 찾기(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -729,6 +748,21 @@ SHA-256 지문:
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
         <translation>시뮬레이션 카메라를 실제 카메라의 &lt;n&gt;배 속도로 작동합니다(기본값 1).</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>다른 응용 프로그램에서 사용 중입니다</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>상태가 %1입니다</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>상태가 %1입니다: %2</translation>
     </message>
 </context>
 <context>
@@ -857,10 +891,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CameraSelector::CCameraSelectorPanel</name>
+    <message>
+        <source>Filter cameras</source>
+        <translation>카메라 필터</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
         <translation>카메라</translation>
+    </message>
+    <message>
+        <source>&amp;Order as found</source>
+        <translation>찾은 순서대로(&amp;O)</translation>
     </message>
 </context>
 <context>
@@ -1232,21 +1281,6 @@ frames not shown: %6</source>
     <message>
         <source>frames not shown: %1</source>
         <translation>표시하지 않은 프레임: %1</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::NuvexUpdate</name>
-    <message>
-        <source>it is in use by another application</source>
-        <translation>다른 응용 프로그램에서 사용 중입니다</translation>
-    </message>
-    <message>
-        <source>its status is %1</source>
-        <translation>상태가 %1입니다</translation>
-    </message>
-    <message>
-        <source>its status is %1: %2</source>
-        <translation>상태가 %1입니다: %2</translation>
     </message>
 </context>
 <context>
@@ -1806,10 +1840,6 @@ frames not shown: %6</source>
     <message>
         <source>out of memory</source>
         <translation>메모리가 부족합니다</translation>
-    </message>
-    <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다</translation>
     </message>
     <message>
         <source>it is already being updated</source>
@@ -2842,6 +2872,10 @@ frames not shown: %6</source>
     <message>
         <source>the time stamp in the answer is of another signature</source>
         <translation>응답의 타임스탬프는 다른 서명의 것입니다</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
+        <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다. 이 카메라는 변경되지 않았으며 버전이 그대로입니다</translation>
     </message>
 </context>
 <context>

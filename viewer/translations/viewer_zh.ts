@@ -9,6 +9,25 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CAboutBox</name>
+    <message>
+        <source>%1, built with %2</source>
+        <translation>%1（构建时为 %2）</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>关于</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;显示相机，并允许插件使用相机。&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;License: MIT&lt;/p&gt;&lt;p&gt;Libraries:&lt;/p&gt;</source>
+        <translation>&lt;p&gt;许可证：MIT&lt;/p&gt;&lt;p&gt;库：&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CAcquisitionController</name>
     <message>
         <source>&amp;Start</source>
@@ -626,14 +645,6 @@ SHA-256 指纹：
         </translation>
     </message>
     <message>
-        <source>About</source>
-        <translation>关于</translation>
-    </message>
-    <message>
-        <source>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;Shows cameras and lets plug-ins work with them.&lt;/p&gt;</source>
-        <translation>&lt;h3&gt;Nuvex Viewer %1&lt;/h3&gt;&lt;p&gt;显示相机，并允许插件使用相机。&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>Search for cameras (F5)</source>
         <translation>搜索相机 (F5)</translation>
     </message>
@@ -656,6 +667,14 @@ SHA-256 指纹：
     <message>
         <source>&amp;Manual</source>
         <translation>手册(&amp;M)</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Fin&amp;d cameras</source>
+        <translation>查找相机(&amp;D)</translation>
     </message>
 </context>
 <context>
@@ -729,6 +748,21 @@ SHA-256 指纹：
     <message>
         <source>Let the simulated cameras work &lt;n&gt; times as fast as real ones (default 1).</source>
         <translation>让模拟相机以真实相机 &lt;n&gt; 倍的速度工作（默认 1）。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::CameraPool</name>
+    <message>
+        <source>it is in use by another application</source>
+        <translation>正被其他程序占用</translation>
+    </message>
+    <message>
+        <source>its status is %1</source>
+        <translation>状态为 %1</translation>
+    </message>
+    <message>
+        <source>its status is %1: %2</source>
+        <translation>状态为 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -857,10 +891,25 @@ Firmware: %5</source>
     </message>
 </context>
 <context>
+    <name>Viewer::CameraSelector::CCameraSelectorPanel</name>
+    <message>
+        <source>Filter cameras</source>
+        <translation>筛选相机</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1/%2</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::CameraSelector::CCameraSelectorView</name>
     <message>
         <source>Cameras</source>
         <translation>相机</translation>
+    </message>
+    <message>
+        <source>&amp;Order as found</source>
+        <translation>按找到的顺序(&amp;O)</translation>
     </message>
 </context>
 <context>
@@ -1232,21 +1281,6 @@ frames not shown: %6</source>
     <message>
         <source>frames not shown: %1</source>
         <translation>未显示帧：%1</translation>
-    </message>
-</context>
-<context>
-    <name>Viewer::NuvexUpdate</name>
-    <message>
-        <source>it is in use by another application</source>
-        <translation>正被其他程序占用</translation>
-    </message>
-    <message>
-        <source>its status is %1</source>
-        <translation>状态为 %1</translation>
-    </message>
-    <message>
-        <source>its status is %1: %2</source>
-        <translation>状态为 %1：%2</translation>
     </message>
 </context>
 <context>
@@ -1806,10 +1840,6 @@ frames not shown: %6</source>
     <message>
         <source>out of memory</source>
         <translation>内存不足</translation>
-    </message>
-    <message>
-        <source>The series of updates was stopped before this camera</source>
-        <translation>在更新此相机之前，批量更新已停止</translation>
     </message>
     <message>
         <source>it is already being updated</source>
@@ -2842,6 +2872,10 @@ frames not shown: %6</source>
     <message>
         <source>the time stamp in the answer is of another signature</source>
         <translation>响应中的时间戳属于另一个签名</translation>
+    </message>
+    <message>
+        <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
+        <translation>在更新此相机之前，批量更新已停止。此相机未被更改，仍保持原来的版本</translation>
     </message>
 </context>
 <context>

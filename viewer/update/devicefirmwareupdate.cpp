@@ -80,7 +80,8 @@ void CDeviceFirmwareUpdate::executeFirmwareUpdate()
         // A series that the user has cancelled executes its last job once more and waits for an
         // answer: saying nothing would make it ask for ever, "done" would count a camera that was
         // never touched.
-        announceEnd(CErrorText::tr("The series of updates was stopped before this camera"));
+        announceEnd(CErrorText::tr("The series of updates was stopped before this camera; it was "
+                                   "not touched and keeps its version"));
         return;
     }
     bool claimed = false;

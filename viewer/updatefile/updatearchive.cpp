@@ -53,6 +53,12 @@ CErrorText describeOpenFault(int zipError, const QByteArray &firstBytes)
 
 } // namespace
 
+Text::CLibraryVersion CUpdateArchive::getLibrary()
+{
+    return {QStringLiteral("libzip"), QStringLiteral(LIBZIP_VERSION),
+            QString::fromLatin1(zip_libzip_version())};
+}
+
 CUpdateArchive::CUpdateArchive(const QString &path)
     : m_path(QFileInfo(QDir::fromNativeSeparators(path)).absoluteFilePath())
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "updatemanifest.h"
+#include "viewer/text/libraryversion.h"
 
 #include <QByteArray>
 #include <QString>
@@ -26,6 +27,9 @@ class CPayloadDevice;
 class CUpdateArchive
 {
 public:
+    /// The library that unpacks archives.
+    [[nodiscard]] static Text::CLibraryVersion getLibrary();
+
     /// Opens the file and checks what holds for the archive as a whole: its size, the number,
     /// names, compression and encryption of its entries and their declared sizes. @p path has
     /// native or plain separators. Throws CUpdateFileError.

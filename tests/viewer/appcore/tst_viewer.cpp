@@ -15,6 +15,7 @@
 
 #include "camerapool/icameraenumerationservice.h"
 #include "camerapool/idevicefirmwareupdateservice.h"
+#include "core/baseexception.h"
 
 #include <QAction>
 #include <QDesktopServices>
@@ -54,6 +55,8 @@ private slots:
     void wizardLocksStartsAndClosing();
     void runningUpdateKeepsTheWindowOpen_data();
     void runningUpdateKeepsTheWindowOpen();
+    void saysWhyAFileDoesNotFit();
+    void tellsWhatItIsMadeOf();
     void closingEndsTheApplication();
     void opensItsOwnFoldersAndLogs();
     void tellsOfInterruptedUpdates();
@@ -208,7 +211,7 @@ void CViewerTest::showsSeveralCameras()
     }
     const QString third = cameras.at(2)->getId();
     QTest::mouseClick(images->findTile(third)->getView(), Qt::LeftButton);
-    QCOMPARE(m_tree->currentIndex(), m_tree->getModel()->findId(third));
+    QCOMPARE(m_tree->currentIndex(), m_tree->findId(third));
     m_window->findChild<QAction *>("saveImage")->trigger();
     QFileDialog *dialog = nullptr;
     QTRY_VERIFY((dialog = m_window->findChild<QFileDialog *>("saveImageDialog")));
@@ -387,6 +390,41 @@ void CViewerTest::tellsOfInterruptedUpdates()
     for (const auto &ended : CUpdateHistory(CUpdateHistory::getPath(folder.path())).read().records)
         history.append(QString("%1 %2").arg(ended.cameraId).arg(int(ended.outcome)));
     QCOMPARE(history.join(", "), QString("nowhere 4, %1 4, ended 1").arg(id));
+}
+
+void CViewerTest::saysWhyAFileDoesNotFit()
+{
+    const auto updates = m_viewer->getUpdateService();
+    const auto cameras = m_viewer->getEnumerationService()
+                             ->getTransportLayerInfoVector()
+                             .last()
+                             ->getCameraInfoList();
+    const auto infos = updates->getFirmwareUpdateInfos(SAMPLE_FILE, {});
+    QDialog page(m_window);
+    page.setModal(true);
+    page.show();
+    QVector<QSharedPointer<Plugin::CameraPool::IFirmwareUpdateInfo>> compatible;
+    bool updatable = false;
+    const auto getMessage = [this] { return m_window->statusBar()->currentMessage(); };
+    updates->getCompatibleFirmwareUpdates(cameras.constFirst(), infos, compatible, updatable);
+    QTRY_VERIFY2(getMessage().endsWith(": it is for the model VX-1400M."),
+                 qPrintable(getMessage()));
+    QVERIFY_EXCEPTION_THROWN(updates->getFirmwareUpdateInfos(SAMPLE_PLUGIN_FOLDER, {}),
+                             Core::Exception::BaseException);
+    QTRY_VERIFY2(getMessage().endsWith(": this is a folder, not a file."),
+                 qPrintable(getMessage()));
+    // Nothing hides it while the page is there, and it goes along.
+    page.hide();
+    QTRY_COMPARE(getMessage(), QString());
+}
+
+void CViewerTest::tellsWhatItIsMadeOf()
+{
+    m_window->findChild<QAction *>("about")->trigger();
+    const QString text = m_window->findChild<QMessageBox *>("aboutBox")->text();
+    for (const QString part : {"MIT", qVersion(), "libzip", "OpenSSL", "OpenCV", "zlib"})
+        QVERIFY2(text.contains(part), qPrintable(text));
+    QVERIFY2(!text.contains("built with"), qPrintable(text));
 }
 
 void CViewerTest::closingEndsTheApplication()

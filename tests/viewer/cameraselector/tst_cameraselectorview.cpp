@@ -1,27 +1,136 @@
 #include "support/fakehost.h"
 #include "support/watcheddocument.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
+#include "viewer/cameraselector/cameraselectorpanel.h"
+#include "viewer/cameraselector/cameraselectorproxy.h"
 #include "viewer/cameraselector/cameraselectorview.h"
 #include "viewer/cameraselector/deviceselectorservice.h"
 
 #include <QAbstractItemModelTester>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QtTest>
 
 using namespace TestSupport;
 using namespace Viewer::CameraSelector;
+
+static constexpr auto REPORTING = QAbstractItemModelTester::FailureReportingMode::QtTest;
 
 class CCameraSelectorViewTest : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase();
+    void init() { QSettings().clear(); }
+    void ordersAndFilters();
+    void countsOrderOnceForManyChanges();
     void announcesEachSelection();
     void namesOfCamerasAreText();
     void showsAddressesOnDemand();
 };
+
+void CCameraSelectorViewTest::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName("NuvexTest");
+    QCoreApplication::setApplicationName("tst_cameraselectorview");
+}
+
+/// The ids of the cameras in @p view, layer by layer.
+static QString getIds(const CCameraSelectorView &view)
+{
+    QStringList layers;
+    for (int row = 0; row < view.model()->rowCount(); ++row) {
+        const QModelIndex layer = view.model()->index(row, 0);
+        QStringList ids;
+        for (int camera = 0; camera < view.model()->rowCount(layer); ++camera)
+            ids.append(view.model()->index(camera, 0, layer).data().toString().mid(7));
+        layers.append(ids.join(' '));
+    }
+    return layers.join(" | ");
+}
+
+void CCameraSelectorViewTest::ordersAndFilters()
+{
+    const auto enumeration = QSharedPointer<CFakeEnumerationService>::create();
+    enumeration->layers = {makeLayer("gev", {{"c10"}, {"C9", "VX-2"}, {"c1", "VX-2"}, {"d"}}),
+                           makeLayer("u3v", {{"c2"}, {"b"}})};
+    const auto service = QSharedPointer<CDeviceSelectorService>::create();
+    auto *const view = new CCameraSelectorView(enumeration, service);
+    CCameraSelectorPanel panel(view);
+    const auto *const count = panel.findChild<QLabel *>("cameraFilterCount");
+    auto *const edit = panel.findChild<QLineEdit *>("cameraFilter");
+    const QAbstractItemModelTester tester(view->model(), REPORTING);
+    panel.show();
+    const auto clickTitle = [view](int column) {
+        QTest::mouseClick(view->header()->viewport(), Qt::LeftButton, {},
+                          QPoint(view->header()->sectionViewportPosition(column) + 20, 5));
+    };
+    view->selectId("c1");
+    QCOMPARE(getIds(*view), "c10 C9 c1 d | c2 b");
+    clickTitle(CCameraSelectorModel::NameColumn);
+    QCOMPARE(getIds(*view), "c1 C9 c10 d | b c2");
+    QCOMPARE(view->currentIndex(), view->findId("c1"));
+    clickTitle(CCameraSelectorModel::NameColumn);
+    QCOMPARE(getIds(*view), "d c10 C9 c1 | c2 b");
+    // Equals keep the order of the search, in both directions.
+    clickTitle(CCameraSelectorModel::ModelColumn);
+    QCOMPARE(getIds(*view), "c10 d C9 c1 | c2 b");
+    clickTitle(CCameraSelectorModel::ModelColumn);
+    QCOMPARE(getIds(*view), "C9 c1 c10 d | c2 b");
+    enumeration->announce(enumeration->layers);
+    QCOMPARE(getIds(*view), "C9 c1 c10 d | c2 b");
+    QCOMPARE(getIds(CCameraSelectorView(enumeration, service)), "C9 c1 c10 d | c2 b");
+
+    // What is selected stays so while it is shown, and when it is shown again.
+    QTest::keyClicks(edit, "vx-2");
+    QCOMPARE(getIds(*view), "C9 c1");
+    QCOMPARE(count->text(), "2 of 6");
+    QCOMPARE(service->getSelection()->getId(), "c1");
+    QTest::keyClick(edit, 'x');
+    QVERIFY(getIds(*view).isEmpty() && !service->getSelection());
+    QTest::keyClick(edit, Qt::Key_Escape);
+    QVERIFY(edit->text().isEmpty() && !count->isVisible());
+    QCOMPARE(service->getSelection()->getId(), "c1");
+    QVERIFY(view->isExpanded(view->findId("c1").parent()));
+    // The image of a camera that is not shown was clicked.
+    edit->setText("u3v");
+    view->setFilter("b");
+    QCOMPARE(edit->text(), "b");
+    view->selectId("d");
+    QVERIFY(edit->text().isEmpty());
+    QCOMPARE(view->currentIndex(), view->findId("d"));
+}
+
+void CCameraSelectorViewTest::countsOrderOnceForManyChanges()
+{
+    CCameraSelectorModel model;
+    QList<CCameraDescription> cameras;
+    for (int i = 0; i < 100; ++i)
+        cameras.append({QString::number(i)});
+    model.setTransportLayers({makeLayer("gev", cameras.toVector())});
+    CCameraSelectorProxy proxy(model);
+    const QAbstractItemModelTester tester(&proxy, REPORTING);
+    proxy.sort(CCameraSelectorModel::StateColumn);
+    proxy.setFilter("ready");
+    const QSignalSpy resets(&proxy, &QAbstractItemModel::modelReset);
+    const QSignalSpy changes(&proxy, &QAbstractItemModel::dataChanged);
+    for (int i = 0; i < 50; ++i)
+        model.setActivity(QString::number(i), Viewer::Camera::ECameraActivity::Updating);
+    QCOMPARE(changes.size(), 50);
+    QCOMPARE(proxy.getCameraCount(), 100);
+    QTRY_COMPARE(proxy.getCameraCount(), 50);
+    for (int i = 0; i < 50; ++i)
+        model.setActivity(QString::number(i), Viewer::Camera::ECameraActivity::Idle);
+    QTRY_COMPARE(proxy.getCameraCount(), 100);
+    QCOMPARE(resets.size(), 2);
+}
 
 void CCameraSelectorViewTest::announcesEachSelection()
 {
@@ -30,9 +139,8 @@ void CCameraSelectorViewTest::announcesEachSelection()
         = {makeLayer("gev", {{"a"}, {"b", "VX-2", {}, "2.0.0", 4}}), makeLayer("u3v", {{"c"}})};
     const auto service = QSharedPointer<CDeviceSelectorService>::create();
     CCameraSelectorView view(enumeration, service);
-    const auto *const model = view.getModel();
-    const QAbstractItemModelTester tester(view.getModel(),
-                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    const QAbstractItemModelTester tester(view.getModel(), REPORTING);
+    const QAbstractItemModelTester shownTester(view.model(), REPORTING);
     view.resize(500, 400);
     view.show();
     QSignalSpy spy(service.data(), &CDeviceSelectorService::selectionChanged);
@@ -47,7 +155,7 @@ void CCameraSelectorViewTest::announcesEachSelection()
         return ids.join(' ');
     };
 
-    const QPoint camera = view.visualRect(model->findId("b")).center();
+    const QPoint camera = view.visualRect(view.findId("b")).center();
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, camera);
     QCOMPARE(takeIds(), "b");
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, camera);
@@ -63,7 +171,7 @@ void CCameraSelectorViewTest::announcesEachSelection()
 
     const auto updated = makeLayer("gev", {{"new"}, {"a"}, {"b", "VX-1", {}, "9.0.0"}});
     enumeration->announce({updated});
-    QVERIFY(view.selectionModel()->isSelected(model->findId("b")));
+    QVERIFY(view.selectionModel()->isSelected(view.findId("b")));
     // The camera has changed: the announcement carries the new object.
     QCOMPARE(service->getSelection(), updated->getCameraInfoList().at(2));
     QCOMPARE(takeIds(), "b");

@@ -160,7 +160,8 @@ void CNuvexUpdateTest::endsWithTheRightCode_data()
     row("check nowhere.guf", 4, "nowhere.guf");
     row("update " DEFAULT_CAMERAS " --all --yes", 4, "default.json");
     row("update " SAMPLES "/ux-900m_1.6.0.guf --all --yes --speed 100", 5,
-        "Test bench (22900118)    1.5.0  1.5.0           not updated: its status is 16");
+        "Test bench (22900118)    1.5.0  1.5.0           not updated: its status is 16: the boot "
+        "loader is too old");
 }
 
 void CNuvexUpdateTest::endsWithTheRightCode()

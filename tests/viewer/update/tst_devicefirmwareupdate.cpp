@@ -363,7 +363,9 @@ void CDeviceFirmwareUpdateTest::touchesNeitherTwiceNorWhatIsInUse()
             const CJobRecorder recorder(*job);
             executeOnThread(*job);
             QCOMPARE(recorder.getMilestones(),
-                     QStringList("error The series of updates was stopped before this camera"));
+                     QStringList(
+                         "error The series of updates was stopped before this camera; it was not "
+                         "touched and keeps its version"));
         }
         QCOMPARE(m_script->calls, calls);
         QCOMPARE(job->getFirmwareVersion(), version);

@@ -13,6 +13,8 @@
 
 #include <QSet>
 
+#include <arv.h>
+
 namespace Viewer::Camera::GenICam {
 
 using Text::CErrorText;
@@ -95,6 +97,16 @@ void CGenICam::start()
             Q_EMIT camerasChanged();
     });
     m_searchTimer.start(SEARCH_INTERVAL);
+}
+
+QVector<Text::CLibraryVersion> CGenICam::getLibraries() const
+{
+    const QString version = QStringLiteral("%1.%2.%3");
+    return {{QStringLiteral("Aravis"),
+             version.arg(ARAVIS_MAJOR_VERSION).arg(ARAVIS_MINOR_VERSION).arg(ARAVIS_MICRO_VERSION),
+             version.arg(arv_get_major_version())
+                 .arg(arv_get_minor_version())
+                 .arg(arv_get_micro_version())}};
 }
 
 QVector<CCameraSwitch> CGenICam::getSwitches()

@@ -34,6 +34,7 @@ public:
     [[nodiscard]] std::unique_ptr<ICameraStream> makeStream(const QCborMap &description) override;
     [[nodiscard]] QVector<CommandLine::COption> getOptions() override;
     void start() override;
+    [[nodiscard]] QVector<Text::CLibraryVersion> getLibraries() const override;
     [[nodiscard]] QVector<CCameraSwitch> getSwitches() override;
     [[nodiscard]] ECameraPresence getPresence(const QString &cameraId) const override;
 

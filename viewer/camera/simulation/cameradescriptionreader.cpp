@@ -106,12 +106,12 @@ private:
         CCameraDescriptionEntry entry;
         CCameraSnapshot &camera = entry.camera;
         entry.uploadSpeed = CCameraDescriptionReader::DEFAULT_UPLOAD_SPEED;
-        static const CJsonFields FIELDS{{QStringLiteral("id"), QStringLiteral("displayName"),
-                                         QStringLiteral("model"), QStringLiteral("serialNumber"),
-                                         QStringLiteral("deviceVersion"),
-                                         QStringLiteral("firmwareVersion")},
-                                        {QStringLiteral("statusCode"),
-                                         QStringLiteral("uploadSpeed"), QStringLiteral("faults")}};
+        static const CJsonFields FIELDS{
+            {QStringLiteral("id"), QStringLiteral("displayName"), QStringLiteral("model"),
+             QStringLiteral("serialNumber"), QStringLiteral("deviceVersion"),
+             QStringLiteral("firmwareVersion")},
+            {QStringLiteral("statusCode"), QStringLiteral("statusReason"),
+             QStringLiteral("uploadSpeed"), QStringLiteral("faults")}};
         CJsonMembers members(m_scanner, FIELDS);
         QString name;
         while (members.next(name)) {
@@ -130,6 +130,8 @@ private:
             else if (name == QLatin1String("statusCode"))
                 camera.statusCode = static_cast<qint32>(m_scanner.readInteger(
                     std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()));
+            else if (name == QLatin1String("statusReason"))
+                camera.statusReason = readText();
             else if (name == QLatin1String("uploadSpeed"))
                 entry.uploadSpeed
                     = m_scanner.readInteger(1, CCameraDescriptionReader::MAXIMUM_UPLOAD_SPEED);

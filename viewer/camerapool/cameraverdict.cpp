@@ -1,26 +1,27 @@
 #include "cameraverdict.h"
 
-#include "viewer/camerapool/camerapool.h"
+#include "camerapool.h"
 #include "viewer/update/entryfit.h"
 #include "viewer/update/firmwareupdateinfo.h"
 #include "viewer/updatefile/firmwareversion.h"
 
 #include "camerapool/icamerastatusservice.h"
-#include "camerapool/idevicefirmwareupdateservice.h"
 
 #include <QCoreApplication>
 
-namespace Viewer::NuvexUpdate {
+#include <algorithm>
+#include <optional>
+
+namespace Viewer::CameraPool {
 
 using Plugin::CameraPool::CameraInfoPtr;
 using Plugin::CameraPool::EFirmwareUpdateDirection;
 using Plugin::CameraPool::ICameraStatusService;
-using Plugin::CameraPool::IDeviceFirmwareUpdateService;
 using Update::CFirmwareUpdateInfo;
 
 static QString tr(const char *text)
 {
-    return QCoreApplication::translate("Viewer::NuvexUpdate", text);
+    return QCoreApplication::translate("Viewer::CameraPool", text);
 }
 
 static EVerdict toVerdict(EFirmwareUpdateDirection direction)
@@ -38,24 +39,53 @@ static EVerdict toVerdict(EFirmwareUpdateDirection direction)
     return EVerdict::DoesNotFit;
 }
 
-/// Of the entry that comes closest; empty: one fits, whether the camera can be updated now or not.
-static QString findMisfit(const Plugin::CameraPool::ICameraInfo &camera,
-                          const QVector<CCameraVerdict::InfoPtr> &entries)
+static const UpdateFile::CUpdateEntry *getEntry(const CCameraVerdict::InfoPtr &info)
 {
-    QString reason;
+    const auto *const own = dynamic_cast<const CFirmwareUpdateInfo *>(info.data());
+    return own ? &own->getEntry() : nullptr;
+}
+
+Text::CErrorText findMisfit(const Plugin::CameraPool::ICameraInfo &camera,
+                            const QVector<CCameraVerdict::InfoPtr> &entries)
+{
+    Text::CErrorText reason;
     bool isAnyOfModel = false;
     for (const CCameraVerdict::InfoPtr &info : entries) {
-        const UpdateFile::CUpdateEntry &entry
-            = static_cast<const CFirmwareUpdateInfo &>(*info).getEntry();
-        const QString misfit = Update::findMisfit(camera, entry).getLocalized();
+        const UpdateFile::CUpdateEntry *const entry = getEntry(info);
+        if (!entry)
+            continue;
+        const Text::CErrorText misfit = Update::findMisfit(camera, *entry);
         if (misfit.isEmpty())
             return {};
-        const bool isOfModel = entry.models.contains(camera.getModelName());
+        const bool isOfModel = entry->models.contains(camera.getModelName());
         if (reason.isEmpty() || (isOfModel && !isAnyOfModel))
             reason = misfit;
         isAnyOfModel = isAnyOfModel || isOfModel;
     }
     return reason;
+}
+
+/// Unreadable versions come last; a stable order for a stable sort.
+static bool isNewer(const CCameraVerdict::InfoPtr &left, const CCameraVerdict::InfoPtr &right)
+{
+    const std::optional<UpdateFile::CFirmwareVersion> leftVersion
+        = UpdateFile::CFirmwareVersion::parse(left->getVersion());
+    const std::optional<UpdateFile::CFirmwareVersion> rightVersion
+        = UpdateFile::CFirmwareVersion::parse(right->getVersion());
+    return leftVersion && (!rightVersion || *leftVersion > *rightVersion);
+}
+
+QVector<CCameraVerdict::InfoPtr> findFitting(const Plugin::CameraPool::ICameraInfo &camera,
+                                             const QVector<CCameraVerdict::InfoPtr> &entries)
+{
+    QVector<CCameraVerdict::InfoPtr> fitting;
+    for (const CCameraVerdict::InfoPtr &info : entries) {
+        const UpdateFile::CUpdateEntry *const entry = getEntry(info);
+        if (entry && Update::findMisfit(camera, *entry).isEmpty())
+            fitting.append(info);
+    }
+    std::stable_sort(fitting.begin(), fitting.end(), isNewer);
+    return fitting;
 }
 
 QString getVerdictName(EVerdict verdict)
@@ -75,7 +105,7 @@ QString getVerdictName(EVerdict verdict)
     return {};
 }
 
-QString findObstacle(const CameraPool::CCameraPool &pool, const CameraInfoPtr &camera)
+QString findObstacle(const CCameraPool &pool, const CameraInfoPtr &camera)
 {
     if (pool.getService<ICameraStatusService>()->isCameraBusy(camera))
         return tr("it is in use by another application");
@@ -87,28 +117,25 @@ QString findObstacle(const CameraPool::CCameraPool &pool, const CameraInfoPtr &c
                             : tr("its status is %1: %2").arg(code, reason);
 }
 
-CCameraVerdict judgeCamera(const CameraPool::CCameraPool &pool, const CameraInfoPtr &camera,
+CCameraVerdict judgeCamera(const CCameraPool &pool, const CameraInfoPtr &camera,
                            const QVector<CCameraVerdict::InfoPtr> &entries)
 {
     CCameraVerdict verdict;
     verdict.camera = camera;
     verdict.snapshot = pool.getSnapshot(camera->getId());
-    QVector<CCameraVerdict::InfoPtr> compatible;
-    bool isUpdatable = false;
-    pool.getService<IDeviceFirmwareUpdateService>()->getCompatibleFirmwareUpdates(
-        camera, entries, compatible, isUpdatable);
-    verdict.reason = findMisfit(*camera, entries);
+    verdict.reason = findMisfit(*camera, entries).getLocalized();
     if (!verdict.reason.isEmpty())
         return verdict;
+    const QVector<CCameraVerdict::InfoPtr> fitting = findFitting(*camera, entries);
     verdict.reason = findObstacle(pool, camera);
-    if (!verdict.reason.isEmpty() || compatible.isEmpty()) {
+    if (!verdict.reason.isEmpty() || fitting.isEmpty()) {
         verdict.verdict = EVerdict::NotNow;
     } else {
-        verdict.update = compatible.constFirst();
+        verdict.update = fitting.constFirst();
         verdict.verdict = toVerdict(
             UpdateFile::getDirection(camera->getFirmwareVersion(), verdict.update->getVersion()));
     }
     return verdict;
 }
 
-} // namespace Viewer::NuvexUpdate
+} // namespace Viewer::CameraPool

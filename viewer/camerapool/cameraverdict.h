@@ -1,6 +1,7 @@
 #pragma once
 
 #include "viewer/camera/camerasnapshot.h"
+#include "viewer/text/errortext.h"
 
 #include "camerapool/icamerainfo.h"
 #include "camerapool/ifirmwareupdateinfo.h"
@@ -10,10 +11,8 @@
 #include <QVector>
 
 namespace Viewer::CameraPool {
-class CCameraPool;
-}
 
-namespace Viewer::NuvexUpdate {
+class CCameraPool;
 
 /// What an update file would do to a camera.
 enum class EVerdict {
@@ -40,12 +39,22 @@ struct CCameraVerdict
 };
 
 /// Why the camera cannot be updated now, as a clause in the user's language; empty: it can.
-[[nodiscard]] QString findObstacle(const CameraPool::CCameraPool &pool,
+[[nodiscard]] QString findObstacle(const CCameraPool &pool,
                                    const Plugin::CameraPool::CameraInfoPtr &camera);
 
+/// Why none of the entries of a file is for @p camera, as a clause about the entry that comes
+/// closest; empty: one is, whether the camera can be updated now or not.
+[[nodiscard]] Text::CErrorText findMisfit(const Plugin::CameraPool::ICameraInfo &camera,
+                                          const QVector<CCameraVerdict::InfoPtr> &entries);
+
+/// The entries that fit @p camera, the newest first.
+[[nodiscard]] QVector<CCameraVerdict::InfoPtr>
+findFitting(const Plugin::CameraPool::ICameraInfo &camera,
+            const QVector<CCameraVerdict::InfoPtr> &entries);
+
 /// Chooses for @p camera among the entries of one file, in the same way as the wizard does.
-[[nodiscard]] CCameraVerdict judgeCamera(const CameraPool::CCameraPool &pool,
+[[nodiscard]] CCameraVerdict judgeCamera(const CCameraPool &pool,
                                          const Plugin::CameraPool::CameraInfoPtr &camera,
                                          const QVector<CCameraVerdict::InfoPtr> &entries);
 
-} // namespace Viewer::NuvexUpdate
+} // namespace Viewer::CameraPool
