@@ -94,6 +94,7 @@ for program in guftool nuvexupdate nuvexviewer virtualcamera; do
   as_user bash -c "source /usr/share/bash-completion/completions/$program && complete -p $program"
 done
 for file in applications/nuvexviewer.desktop mime/packages/nuvexviewer.xml doc/nuvexviewer/html/index.html \
+  doc/nuvexviewer/html/nuvexupdate.schema.json \
   icons/hicolor/48x48/apps/nuvexviewer.png metainfo/example.nuvex.viewer.metainfo.xml; do
   [ -f "$root/usr/share/$file" ] || fail "there is no $file"
 done
