@@ -15,6 +15,7 @@ struct CCommandLineOptions
     Camera::CCameraKinds kinds; ///< not started; each knows what was asked of it
     QStringList pluginDirectories;
     QString language; ///< empty: as remembered
+    QString updateFile; ///< to be shown at the start; absolute; empty: none
     QString samplesDirectory; ///< empty: none
     QString demoDirectory; ///< empty: no demonstration
     bool requiresSignature = false; ///< whatever the policy says
@@ -46,6 +47,7 @@ public:
 
 private:
     [[nodiscard]] QVector<CommandLine::COption> getOptions();
+    [[nodiscard]] bool takeUpdateFile(const QStringList &arguments);
 
     CCommandLineOptions m_options;
     QString m_message;
