@@ -24,6 +24,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QSettings>
 #include <QtTest>
 
 using namespace TestSupport;
@@ -315,6 +316,7 @@ void CTranslationsTest::viewerSpeaksTheLanguage()
         QCOMPARE(findEnglish(getTexts(*ofQt)), QString());
 
     qputenv("XDG_STATE_HOME", m_folder.path().toUtf8());
+    QSettings().clear();
     const Viewer::AppCore::CLogFolder logs;
     Viewer::AppCore::CLogListDialog logList(logs);
     Viewer::AppCore::CUpdateHistoryDialog history({{}, 2, {}}, QLocale(language));

@@ -21,13 +21,34 @@ CCommandLine::EResult CCommandLine::parse(const QStringList &arguments)
     for (const std::unique_ptr<Camera::ICameraKind> &kind : m_options.kinds)
         reader.add(kind->getOptions());
     reader.add(getOptions());
-    const EResult result = reader.parse(arguments);
+    const QString name = tr("file");
+    reader.addPositional(name, tr("Show what the update file <file> holds."),
+                         QStringLiteral("[%1]").arg(name));
+    EResult result = reader.parse(arguments);
     m_message = reader.getMessage();
+    if (result == EResult::Start && !takeUpdateFile(reader.getPositionals()))
+        result = EResult::Error;
     if (!m_options.demoDirectory.isEmpty()) {
         for (const std::unique_ptr<Camera::ICameraKind> &kind : m_options.kinds)
             kind->prepareDemonstration();
     }
     return result;
+}
+
+bool CCommandLine::takeUpdateFile(const QStringList &arguments)
+{
+    if (arguments.isEmpty())
+        return true;
+    if (arguments.size() > 1)
+        m_message = tr("There is more than one update file: \"%1\" and \"%2\".")
+                        .arg(arguments.at(0), arguments.at(1));
+    else if (arguments.constFirst().isEmpty())
+        m_message = tr("The name of the update file is empty.");
+    else if (!m_options.demoDirectory.isEmpty())
+        m_message = tr("The demonstration shows no update file.");
+    else
+        m_options.updateFile = QFileInfo(arguments.constFirst()).absoluteFilePath();
+    return !m_options.updateFile.isEmpty();
 }
 
 QVector<COption> CCommandLine::getOptions()

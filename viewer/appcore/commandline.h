@@ -15,6 +15,7 @@ struct CCommandLineOptions
     Camera::CCameraKinds kinds; ///< not started; each knows what was asked of it
     QStringList pluginDirectories;
     QString language; ///< empty: as remembered
+    QString updateFile; ///< to be shown at the start; absolute; empty: none
     QString samplesDirectory; ///< empty: none
     QString manual; ///< its first page; not from the command line; empty: none
     QString demoDirectory; ///< empty: no demonstration
@@ -47,6 +48,7 @@ public:
 
 private:
     [[nodiscard]] QVector<CommandLine::COption> getOptions();
+    [[nodiscard]] bool takeUpdateFile(const QStringList &arguments);
 
     CCommandLineOptions m_options;
     QString m_message;

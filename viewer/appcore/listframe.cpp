@@ -59,6 +59,12 @@ void CListFrame::setDetails(const QString &details)
     m_detailsLabel->setText(details);
 }
 
+void CListFrame::replaceDetails(QWidget *widget)
+{
+    delete layout()->replaceWidget(m_detailsLabel, widget);
+    m_detailsLabel->hide();
+}
+
 void CListFrame::addAboveList(QLayout *row)
 {
     auto *const frameLayout = static_cast<QVBoxLayout *>(layout());
@@ -70,6 +76,11 @@ QPushButton *CListFrame::addButton(const QString &text, const char *name)
     QPushButton *const button = m_buttonBox->addButton(text, QDialogButtonBox::ActionRole);
     button->setObjectName(QLatin1String(name));
     return button;
+}
+
+QPushButton *CListFrame::getCloseButton() const
+{
+    return m_buttonBox->button(QDialogButtonBox::Close);
 }
 
 QTreeView *CListFrame::getView() const

@@ -23,6 +23,9 @@ protected:
     /// Takes over @p view.
     CListFrame(const QString &title, QTreeView *view, QWidget *parent);
 
+    /// Puts @p widget in the place of the details below the list; takes it over.
+    void replaceDetails(QWidget *widget);
+
     /// A sentence above the list; empty: none.
     void setHint(const QString &hint);
 
@@ -36,6 +39,7 @@ protected:
     QPushButton *addButton(const QString &text, const char *name);
 
     [[nodiscard]] QTreeView *getView() const;
+    [[nodiscard]] QPushButton *getCloseButton() const;
 
 private:
     QTreeView *const m_view;

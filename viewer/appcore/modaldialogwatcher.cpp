@@ -49,6 +49,10 @@ bool CModalDialogWatcher::eventFilter(QObject *watched, QEvent *event)
                 m_hideTimer.start();
             else
                 updateState();
+            if (widget->isModal() && event->type() == QEvent::Show)
+                emit modalWindowShown(widget);
+            else if (widget->isModal())
+                emit modalWindowHidden();
         }
     }
     return QObject::eventFilter(watched, event);

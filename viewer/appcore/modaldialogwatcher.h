@@ -29,6 +29,11 @@ public:
 signals:
     void dialogVisibleChanged(bool visible);
 
+    /// Any modal window, the viewer's own ones too: it is about to block the others, or has ceased
+    /// to.
+    void modalWindowShown(const QWidget *window);
+    void modalWindowHidden();
+
 private:
     void updateState();
 

@@ -15,6 +15,7 @@
 #include "seriesnotifier.h"
 #include "switchmenu.h"
 #include "trustedmakersdialog.h"
+#include "updatefileopener.h"
 #include "updatehistorydialog.h"
 #include "windowservice.h"
 
@@ -42,7 +43,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
-#include <QRegularExpression>
 #include <QSessionManager>
 #include <QSettings>
 #include <QToolBar>
@@ -54,14 +54,6 @@ namespace Viewer::AppCore {
 
 using Plugin::CameraPool::ICameraEnumerationService;
 using Plugin::CameraPool::IDeviceFirmwareUpdateService;
-
-// Qt drops the "&" of a mnemonic from a button's text, but not the parentheses and the letter that
-// stand behind a text whose script has no letters to underline.
-static QString withoutMnemonic(QString text)
-{
-    static const QRegularExpression mnemonic(QStringLiteral("\\(&.\\)|&|\\.\\.\\.$"));
-    return text.remove(mnemonic);
-}
 
 static constexpr int NEXT_REASON_TIME = 1000; // milliseconds
 
@@ -105,6 +97,8 @@ CViewer::CViewer(CCommandLineOptions options, const QString &language, const CLo
     if (m_logs)
         m_pool->setLogFinder([this] { return m_logs->findOwnLog(); });
     createWindow();
+    m_updateFiles = std::make_unique<CUpdateFileOpener>(
+        *m_pool, *m_dialogWatcher, [this] { return m_signaturePolicy; }, *m_window);
     setSignaturePolicy();
     fillMenus();
     registerServices();
@@ -159,9 +153,15 @@ void CViewer::setSignaturePolicy()
             [this] { m_window->showLastingMessage(m_refusal); });
     connect(m_dialogWatcher.get(), &CModalDialogWatcher::dialogVisibleChanged, m_window.get(),
             [this](bool visible) {
-                if (!visible)
+                if (visible)
+                    m_updateFiles->offerFolder();
+                else
                     m_window->clearLastingMessage();
             });
+    // A demonstration is no use by the user.
+    if (m_options.demoDirectory.isEmpty())
+        connect(service.data(), &CameraPool::CDeviceFirmwareUpdateService::signatureJudged,
+                m_updateFiles.get(), &CUpdateFileOpener::remember);
 }
 
 void CViewer::showSignature(const QString &filePath, const Signature::CSignatureVerdict &verdict)
@@ -236,6 +236,8 @@ void CViewer::fillMenus()
     QMenu *const fileMenu = m_window->getFileMenu();
     const auto contextMenu = m_menuService->getActionContainer(Ids::CAMERA_SELECTOR_CONTEXT_MENU)
                                  .staticCast<CActionContainer>();
+    m_updateFiles->addActions(*fileMenu);
+    fileMenu->addSeparator();
     m_acquisition->addActions(m_window->getToolBar(), fileMenu, *contextMenu);
 
     auto *const refreshAction = new QAction(QIcon(QStringLiteral(":/viewer/icons/refresh.png")),
@@ -249,7 +251,7 @@ void CViewer::fillMenus()
     m_window->getToolBar()->addAction(refreshAction);
     const QList<QAction *> toolActions = m_window->getToolBar()->actions();
     for (QAction *const action : toolActions)
-        action->setIconText(withoutMnemonic(action->text()));
+        action->setIconText(CSwitchMenu::withoutMnemonic(action->text()));
     fileMenu->addSeparator();
     fileMenu->addAction(refreshAction);
     addSwitches();
@@ -295,8 +297,8 @@ void CViewer::addSwitches()
         if (title.isEmpty())
             CSwitchMenu::add(*kind, *m_window->getFileMenu());
         else
-            m_switchMenus.push_back(
-                std::make_unique<CSwitchMenu>(*kind, m_window->insertMenu(title)));
+            m_switchMenus.push_back(std::make_unique<CSwitchMenu>(*kind, *m_dialogWatcher,
+                                                                  m_window->insertMenu(title)));
     }
 }
 
@@ -335,7 +337,9 @@ bool CViewer::start(QStringList &failures)
     failures = m_pluginManager->getFailures();
     if (!complete)
         return false;
-    m_interruptionBar->setUpdateAction(m_menuService->findAction("FirmwareUpdater.Menu.Start"));
+    QAction *const updateAction = m_menuService->findAction("FirmwareUpdater.Menu.Start");
+    m_interruptionBar->setUpdateAction(updateAction);
+    m_updateFiles->setUpdateAction(updateAction);
     m_window->restorePlace();
     m_window->show();
     QStringList messages;
@@ -352,6 +356,8 @@ bool CViewer::start(QStringList &failures)
     if (!messages.isEmpty())
         m_window->showMessage(messages.join(QLatin1Char(' ')));
     m_pool->start();
+    if (!m_options.updateFile.isEmpty())
+        m_updateFiles->open(m_options.updateFile);
     return true;
 }
 

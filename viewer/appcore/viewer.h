@@ -44,6 +44,7 @@ class CMenuService;
 class CModalDialogWatcher;
 class CSeriesNotifier;
 class CSwitchMenu;
+class CUpdateFileOpener;
 
 /// The whole viewer: makes its parts, connects them, starts the plug-ins, and ends all of it in the
 /// reverse order.
@@ -115,6 +116,7 @@ private:
     std::unique_ptr<CMainWindow> m_window;
     std::unique_ptr<CAcquisitionController> m_acquisition;
     std::unique_ptr<CImageActions> m_imageActions;
+    std::unique_ptr<CUpdateFileOpener> m_updateFiles;
     std::vector<std::unique_ptr<CSwitchMenu>> m_switchMenus;
     std::unique_ptr<PluginSystem::CPluginInitializer> m_initializer;
     std::unique_ptr<PluginSystem::CPluginManager> m_pluginManager;

@@ -22,6 +22,8 @@ CCameraSelectorPanel::CCameraSelectorPanel(CCameraSelectorView *view, QWidget *p
     m_filterEdit->setAccessibleName(tr("Filter cameras"));
     m_filterEdit->setClearButtonEnabled(true);
     m_filterEdit->installEventFilter(this);
+    // A file is dropped onto the window as a whole.
+    m_filterEdit->setAcceptDrops(false);
     m_countLabel->setObjectName(QStringLiteral("cameraFilterCount"));
     m_countLabel->hide();
     auto *const row = new QHBoxLayout;

@@ -46,6 +46,37 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CUpdateFileDialog</name>
+    <message numerus="yes">
+        <source>%n upgrade(s)</source>
+        <translation>
+            <numerusform>%n upgrade</numerusform>
+            <numerusform>%n upgrades</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n downgrade(s)</source>
+        <translation>
+            <numerusform>%n downgrade</numerusform>
+            <numerusform>%n downgrades</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reinstallation(s)</source>
+        <translation>
+            <numerusform>%n reinstallation</numerusform>
+            <numerusform>%n reinstallations</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not now</source>
+        <translation>
+            <numerusform>%n not now</numerusform>
+            <numerusform>%n not now</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CUpdateHistoryDialog</name>
     <message numerus="yes">
         <source>%n damaged line(s) of the history were skipped.</source>

@@ -148,6 +148,26 @@
         <source>Use only update files that a trusted maker has signed, this time.</source>
         <translation>今回は、信頼する作成者が署名した更新ファイルだけを使用します。</translation>
     </message>
+    <message>
+        <source>Show what the update file &lt;file&gt; holds.</source>
+        <translation>更新ファイル &lt;ファイル&gt; の内容を表示します。</translation>
+    </message>
+    <message>
+        <source>There is more than one update file: &quot;%1&quot; and &quot;%2&quot;.</source>
+        <translation>更新ファイルが複数あります: 「%1」と「%2」。</translation>
+    </message>
+    <message>
+        <source>The name of the update file is empty.</source>
+        <translation>更新ファイルの名前が空です。</translation>
+    </message>
+    <message>
+        <source>The demonstration shows no update file.</source>
+        <translation>デモでは更新ファイルを表示しません。</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>ファイル</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageActions</name>
@@ -433,6 +453,17 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CRecentFiles</name>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 はもうありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Clear list</source>
+        <translation>リストを消去(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CSeriesNotifier</name>
     <message numerus="yes">
         <source>%n update(s) succeeded.</source>
@@ -449,6 +480,13 @@
     <message>
         <source>The firmware updates have ended</source>
         <translation>ファームウェアの更新が終了しました</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CSwitchMenu</name>
+    <message>
+        <source>Keep open in a &amp;window</source>
+        <translation>ウィンドウで開いておく(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -543,6 +581,152 @@ SHA-256 フィンガープリント:
     <message>
         <source>The file &quot;%1&quot; cannot be removed: %2.</source>
         <translation>ファイル「%1」を削除できません: %2。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateFileDialog</name>
+    <message numerus="yes">
+        <source>%n upgrade(s)</source>
+        <translation>
+            <numerusform>アップグレード %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n downgrade(s)</source>
+        <translation>
+            <numerusform>ダウングレード %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reinstallation(s)</source>
+        <translation>
+            <numerusform>再インストール %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not now</source>
+        <translation>
+            <numerusform>現在不可 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>アップグレード</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>ダウングレード</translation>
+    </message>
+    <message>
+        <source>Reinstallation</source>
+        <translation>再インストール</translation>
+    </message>
+    <message>
+        <source>Not now: %1</source>
+        <translation>現在は不可: %1</translation>
+    </message>
+    <message>
+        <source>Update file</source>
+        <translation>更新ファイル</translation>
+    </message>
+    <message>
+        <source>&amp;Firmware Updater...</source>
+        <translation>ファームウェア更新ツール(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Version, cameras</source>
+        <translation>バージョン、カメラ</translation>
+    </message>
+    <message>
+        <source>Models, firmware</source>
+        <translation>モデル、ファームウェア</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>What is known of this version</source>
+        <translation>このバージョンの情報</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read...</source>
+        <translation>ファイル %1 を読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Cameras that it fits: %1 of %2</source>
+        <translation>適合するカメラ: %2 台中 %1 台</translation>
+    </message>
+    <message>
+        <source>Cameras that it fits: %1 of %2 (%3)</source>
+        <translation>適合するカメラ: %2 台中 %1 台 (%3)</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>バージョン: %1</translation>
+    </message>
+    <message>
+        <source>Models: %1</source>
+        <translation>モデル: %1</translation>
+    </message>
+    <message>
+        <source>Device versions: %1</source>
+        <translation>デバイスバージョン: %1</translation>
+    </message>
+    <message>
+        <source>Needs firmware: %1 or newer</source>
+        <translation>必要なファームウェア: %1 以降</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>リリースノート:</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateFileOpener</name>
+    <message>
+        <source>Recent &amp;update files</source>
+        <translation>最近使用した更新ファイル(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Open update file...</source>
+        <translation>更新ファイルを開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>A dialog is still open. Close it before you open an update file.</source>
+        <translation>ダイアログがまだ開いています。更新ファイルを開く前に閉じてください。</translation>
+    </message>
+    <message>
+        <source>Open update file</source>
+        <translation>更新ファイルを開く</translation>
+    </message>
+    <message>
+        <source>Update files</source>
+        <translation>更新ファイル</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>Drop one update file, not several.</source>
+        <translation>更新ファイルは 1 つだけドロップしてください。</translation>
+    </message>
+    <message>
+        <source>Only update files (*.guf) of this computer can be dropped here.</source>
+        <translation>ここにドロップできるのは、このコンピューターの更新ファイル (*.guf) だけです。</translation>
     </message>
 </context>
 <context>

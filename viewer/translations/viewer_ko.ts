@@ -148,6 +148,26 @@
         <source>Use only update files that a trusted maker has signed, this time.</source>
         <translation>이번에는 신뢰하는 제작자가 서명한 업데이트 파일만 사용합니다.</translation>
     </message>
+    <message>
+        <source>Show what the update file &lt;file&gt; holds.</source>
+        <translation>업데이트 파일 &lt;파일&gt;의 내용을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>There is more than one update file: &quot;%1&quot; and &quot;%2&quot;.</source>
+        <translation>업데이트 파일이 두 개 이상입니다: &quot;%1&quot;, &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The name of the update file is empty.</source>
+        <translation>업데이트 파일의 이름이 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The demonstration shows no update file.</source>
+        <translation>데모에서는 업데이트 파일을 표시하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>파일</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageActions</name>
@@ -433,6 +453,17 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CRecentFiles</name>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1이(가) 더 이상 없습니다.</translation>
+    </message>
+    <message>
+        <source>&amp;Clear list</source>
+        <translation>목록 지우기(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CSeriesNotifier</name>
     <message numerus="yes">
         <source>%n update(s) succeeded.</source>
@@ -449,6 +480,13 @@
     <message>
         <source>The firmware updates have ended</source>
         <translation>펌웨어 업데이트가 끝났습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CSwitchMenu</name>
+    <message>
+        <source>Keep open in a &amp;window</source>
+        <translation>창으로 열어 두기(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -543,6 +581,152 @@ SHA-256 지문:
     <message>
         <source>The file &quot;%1&quot; cannot be removed: %2.</source>
         <translation>파일 &quot;%1&quot;을(를) 제거할 수 없습니다: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateFileDialog</name>
+    <message numerus="yes">
+        <source>%n upgrade(s)</source>
+        <translation>
+            <numerusform>업그레이드 %n건</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n downgrade(s)</source>
+        <translation>
+            <numerusform>다운그레이드 %n건</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reinstallation(s)</source>
+        <translation>
+            <numerusform>재설치 %n건</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not now</source>
+        <translation>
+            <numerusform>지금은 불가 %n건</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>업그레이드</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>다운그레이드</translation>
+    </message>
+    <message>
+        <source>Reinstallation</source>
+        <translation>재설치</translation>
+    </message>
+    <message>
+        <source>Not now: %1</source>
+        <translation>지금은 불가: %1</translation>
+    </message>
+    <message>
+        <source>Update file</source>
+        <translation>업데이트 파일</translation>
+    </message>
+    <message>
+        <source>&amp;Firmware Updater...</source>
+        <translation>펌웨어 업데이터(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Version, cameras</source>
+        <translation>버전, 카메라</translation>
+    </message>
+    <message>
+        <source>Models, firmware</source>
+        <translation>모델, 펌웨어</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>What is known of this version</source>
+        <translation>이 버전에 대한 정보</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read...</source>
+        <translation>%1 파일을 읽는 중...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>Cameras that it fits: %1 of %2</source>
+        <translation>맞는 카메라: %2대 중 %1대</translation>
+    </message>
+    <message>
+        <source>Cameras that it fits: %1 of %2 (%3)</source>
+        <translation>맞는 카메라: %2대 중 %1대(%3)</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>버전: %1</translation>
+    </message>
+    <message>
+        <source>Models: %1</source>
+        <translation>모델: %1</translation>
+    </message>
+    <message>
+        <source>Device versions: %1</source>
+        <translation>장치 버전: %1</translation>
+    </message>
+    <message>
+        <source>Needs firmware: %1 or newer</source>
+        <translation>필요한 펌웨어: %1 이상</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>릴리스 정보:</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateFileOpener</name>
+    <message>
+        <source>Recent &amp;update files</source>
+        <translation>최근 업데이트 파일(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Open update file...</source>
+        <translation>업데이트 파일 열기(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>A dialog is still open. Close it before you open an update file.</source>
+        <translation>대화 상자가 아직 열려 있습니다. 업데이트 파일을 열기 전에 닫으십시오.</translation>
+    </message>
+    <message>
+        <source>Open update file</source>
+        <translation>업데이트 파일 열기</translation>
+    </message>
+    <message>
+        <source>Update files</source>
+        <translation>업데이트 파일</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>모든 파일</translation>
+    </message>
+    <message>
+        <source>Drop one update file, not several.</source>
+        <translation>업데이트 파일을 하나만 끌어다 놓으십시오.</translation>
+    </message>
+    <message>
+        <source>Only update files (*.guf) of this computer can be dropped here.</source>
+        <translation>이 컴퓨터의 업데이트 파일(*.guf)만 여기에 끌어다 놓을 수 있습니다.</translation>
     </message>
 </context>
 <context>

@@ -148,6 +148,26 @@
         <source>Use only update files that a trusted maker has signed, this time.</source>
         <translation>本次仅使用由受信任的制作方签名的更新文件。</translation>
     </message>
+    <message>
+        <source>Show what the update file &lt;file&gt; holds.</source>
+        <translation>显示更新文件 &lt;文件&gt; 的内容。</translation>
+    </message>
+    <message>
+        <source>There is more than one update file: &quot;%1&quot; and &quot;%2&quot;.</source>
+        <translation>有多个更新文件：“%1”和“%2”。</translation>
+    </message>
+    <message>
+        <source>The name of the update file is empty.</source>
+        <translation>更新文件的名称为空。</translation>
+    </message>
+    <message>
+        <source>The demonstration shows no update file.</source>
+        <translation>演示不显示更新文件。</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>文件</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::AppCore::CImageActions</name>
@@ -433,6 +453,17 @@
     </message>
 </context>
 <context>
+    <name>Viewer::AppCore::CRecentFiles</name>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 已不存在。</translation>
+    </message>
+    <message>
+        <source>&amp;Clear list</source>
+        <translation>清除列表(&amp;C)</translation>
+    </message>
+</context>
+<context>
     <name>Viewer::AppCore::CSeriesNotifier</name>
     <message numerus="yes">
         <source>%n update(s) succeeded.</source>
@@ -449,6 +480,13 @@
     <message>
         <source>The firmware updates have ended</source>
         <translation>固件更新已结束</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CSwitchMenu</name>
+    <message>
+        <source>Keep open in a &amp;window</source>
+        <translation>在窗口中保持打开(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -543,6 +581,152 @@ SHA-256 指纹：
     <message>
         <source>The file &quot;%1&quot; cannot be removed: %2.</source>
         <translation>无法移除文件“%1”：%2。</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateFileDialog</name>
+    <message numerus="yes">
+        <source>%n upgrade(s)</source>
+        <translation>
+            <numerusform>%n 个升级</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n downgrade(s)</source>
+        <translation>
+            <numerusform>%n 个降级</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n reinstallation(s)</source>
+        <translation>
+            <numerusform>%n 个重新安装</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n not now</source>
+        <translation>
+            <numerusform>%n 个暂不可用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Upgrade</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>Downgrade</source>
+        <translation>降级</translation>
+    </message>
+    <message>
+        <source>Reinstallation</source>
+        <translation>重新安装</translation>
+    </message>
+    <message>
+        <source>Not now: %1</source>
+        <translation>暂不可用：%1</translation>
+    </message>
+    <message>
+        <source>Update file</source>
+        <translation>更新文件</translation>
+    </message>
+    <message>
+        <source>&amp;Firmware Updater...</source>
+        <translation>固件更新工具(&amp;F)...</translation>
+    </message>
+    <message>
+        <source>Version, cameras</source>
+        <translation>版本、相机</translation>
+    </message>
+    <message>
+        <source>Models, firmware</source>
+        <translation>型号、固件</translation>
+    </message>
+    <message>
+        <source>Effect</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>What is known of this version</source>
+        <translation>此版本的信息</translation>
+    </message>
+    <message>
+        <source>The file %1 is being read...</source>
+        <translation>正在读取文件 %1...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>Cameras that it fits: %1 of %2</source>
+        <translation>适用的相机：%1/%2</translation>
+    </message>
+    <message>
+        <source>Cameras that it fits: %1 of %2 (%3)</source>
+        <translation>适用的相机：%1/%2（%3）</translation>
+    </message>
+    <message>
+        <source>Version: %1</source>
+        <translation>版本：%1</translation>
+    </message>
+    <message>
+        <source>Models: %1</source>
+        <translation>型号：%1</translation>
+    </message>
+    <message>
+        <source>Device versions: %1</source>
+        <translation>设备版本：%1</translation>
+    </message>
+    <message>
+        <source>Needs firmware: %1 or newer</source>
+        <translation>所需固件：%1 或更高版本</translation>
+    </message>
+    <message>
+        <source>Release notes:</source>
+        <translation>发行说明：</translation>
+    </message>
+</context>
+<context>
+    <name>Viewer::AppCore::CUpdateFileOpener</name>
+    <message>
+        <source>Recent &amp;update files</source>
+        <translation>最近的更新文件(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Open update file...</source>
+        <translation>打开更新文件(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>A dialog is still open. Close it before you open an update file.</source>
+        <translation>还有对话框未关闭，请先将其关闭，再打开更新文件。</translation>
+    </message>
+    <message>
+        <source>Open update file</source>
+        <translation>打开更新文件</translation>
+    </message>
+    <message>
+        <source>Update files</source>
+        <translation>更新文件</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>Drop one update file, not several.</source>
+        <translation>请只拖放一个更新文件。</translation>
+    </message>
+    <message>
+        <source>Only update files (*.guf) of this computer can be dropped here.</source>
+        <translation>此处只能拖放此计算机上的更新文件（*.guf）。</translation>
     </message>
 </context>
 <context>

@@ -118,12 +118,16 @@ QByteArray CUpdateArchive::readWhole(const CEntry &entry, qint64 maximumSize) co
     return bytes;
 }
 
-void CUpdateArchive::checkPayload(const CPayload &payload) const
+void CUpdateArchive::checkPayload(const CPayload &payload,
+                                  const std::function<void()> &checkpoint) const
 {
     const auto device = openFile(getPayloadEntry(payload), payload.sha256);
     QByteArray block(BLOCK_SIZE, Qt::Uninitialized);
-    while (!device->atEnd())
+    while (!device->atEnd()) {
+        if (checkpoint)
+            checkpoint();
         device->read(block.data(), block.size());
+    }
     if (!device->getFault().isEmpty())
         fail(device->getFault());
 }

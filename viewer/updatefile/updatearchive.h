@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -50,8 +51,9 @@ public:
     [[nodiscard]] std::optional<QByteArray> readSignature() const;
 
     /// Reads the payload from end to end, without keeping it, and throws CUpdateFileError unless it
-    /// has exactly the size and the SHA-256 that @p payload tells.
-    void checkPayload(const CPayload &payload) const;
+    /// has exactly the size and the SHA-256 that @p payload tells. See CUpdateFileReader::read()
+    /// for @p checkpoint.
+    void checkPayload(const CPayload &payload, const std::function<void()> &checkpoint = {}) const;
 
     /// A sequential device, open for reading, that gives the payload's bytes. Throws
     /// CUpdateFileError when the archive has no such file or one of another size.

@@ -45,12 +45,14 @@ void checkNothingIsLeftOver(const CUpdateArchive &archive, const QVector<CPayloa
 
 } // namespace
 
-CUpdateManifest CUpdateFileReader::read(const QString &path)
+CUpdateManifest CUpdateFileReader::read(const QString &path,
+                                        const std::function<void()> &checkpoint)
 {
-    return read(CUpdateArchive(path));
+    return read(CUpdateArchive(path), checkpoint);
 }
 
-CUpdateManifest CUpdateFileReader::read(const CUpdateArchive &archive)
+CUpdateManifest CUpdateFileReader::read(const CUpdateArchive &archive,
+                                        const std::function<void()> &checkpoint)
 {
     const QByteArray json = archive.readManifest();
     CManifestResult result = parseManifest(json);
@@ -59,7 +61,7 @@ CUpdateManifest CUpdateFileReader::read(const CUpdateArchive &archive)
 
     const QVector<CPayload> payloads = collectPayloads(result.manifest);
     for (const CPayload &payload : payloads)
-        archive.checkPayload(payload);
+        archive.checkPayload(payload, checkpoint);
     checkNothingIsLeftOver(archive, payloads);
     CSha256 digest;
     digest.addData(json.constData(), json.size());

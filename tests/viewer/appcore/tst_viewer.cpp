@@ -2,11 +2,13 @@
 #include "support/vieweroptions.h"
 #include "viewer/appcore/logfolder.h"
 #include "viewer/appcore/mainwindow.h"
+#include "viewer/appcore/recentfiles.h"
 #include "viewer/appcore/textdialog.h"
 #include "viewer/appcore/viewer.h"
 #include "viewer/camerapool/camerapool.h"
 #include "viewer/cameraselector/cameraselectormodel.h"
 #include "viewer/cameraselector/cameraselectorview.h"
+#include "viewer/files/backgroundwork.h"
 #include "viewer/imageview/imagegrid.h"
 #include "viewer/imageview/imagetile.h"
 #include "viewer/imageview/imageview.h"
@@ -20,18 +22,24 @@
 #include <QAction>
 #include <QDesktopServices>
 #include <QDialog>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 #include <QToolBar>
+#include <QTreeWidget>
 #include <QtTest>
+#include <QWindow>
 
+#include <future>
 #include <memory>
 #include <thread>
 
@@ -57,6 +65,10 @@ private slots:
     void runningUpdateKeepsTheWindowOpen();
     void saysWhyAFileDoesNotFit();
     void tellsWhatItIsMadeOf();
+    void showsUpdateFiles();
+    void remembersUpdateFiles();
+    void forgetsCanceledWork();
+    void switchesCamerasBesideAModalDialog();
     void closingEndsTheApplication();
     void opensItsOwnFoldersAndLogs();
     void tellsOfInterruptedUpdates();
@@ -131,6 +143,9 @@ void CViewerTest::readsItsCommandLine()
     };
     for (const QString speed : {"0.001", "10001", "nan", "fast"})
         QVERIFY(read("--speed 1 --speed " + speed).contains('"' + speed + '"'));
+    QVERIFY(read("a.guf b.guf").contains("\"a.guf\" and \"b.guf\""));
+    QVERIFY(read("--demo x a.guf").contains("update file"));
+    QCOMPARE(TestSupport::readOptions({"a.guf"}).updateFile, QDir::current().filePath("a.guf"));
     if (!read("--network").isEmpty())
         QSKIP("This viewer has no real cameras.");
     for (const QString address : {"255.255.255.255", "239.1.2.3", "0.0.0.0", "1.2.3", "::1", "x"})
@@ -425,6 +440,156 @@ void CViewerTest::tellsWhatItIsMadeOf()
     for (const QString part : {"MIT", qVersion(), "libzip", "OpenSSL", "OpenCV", "zlib"})
         QVERIFY2(text.contains(part), qPrintable(text));
     QVERIFY2(!text.contains("built with"), qPrintable(text));
+}
+
+void CViewerTest::showsUpdateFiles()
+{
+    const QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("dir.guf"));
+    // What the status bar says, or the dialog.
+    const auto drop = [this](const QStringList &paths) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString &path : paths)
+            urls.append(QUrl::fromLocalFile(path));
+        data.setUrls(urls);
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        m_window->showMessage({});
+        QCoreApplication::sendEvent(m_window, &enter);
+        if (!enter.isAccepted())
+            return m_window->statusBar()->currentMessage();
+        QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(m_window, &event);
+        return QString(event.isAccepted() ? "" : "not dropped");
+    };
+    QDialog page(m_window);
+    page.setModal(true);
+    page.show();
+    QVERIFY(drop({SAMPLE_FILE}).contains("dialog is still open"));
+    page.hide();
+    QCoreApplication::processEvents();
+    QVERIFY(drop({SAMPLE_FILE, "/b.guf"}).contains("not several"));
+    QVERIFY(drop({"/b.txt"}).contains("*.guf"));
+    QVERIFY(!m_window->findChild<QDialog *>("updateFileDialog"));
+
+    QCOMPARE(drop({folder.filePath("dir.guf")}), QString());
+    QDialog *dialog = nullptr;
+    QTRY_VERIFY((dialog = m_window->findChild<QDialog *>("updateFileDialog")));
+    const auto *const hint = dialog->findChild<QLabel *>("hintLabel");
+    QTRY_COMPARE(hint->text(), "Update file dir.guf: this is a folder, not a file.");
+    auto *const tree = dialog->findChild<QTreeWidget *>("updateFileTree");
+    QVERIFY(!tree->isVisible());
+    // Another one takes its place.
+    QCOMPARE(drop({SAMPLE_FILE}), QString());
+    QTRY_VERIFY2(hint->text().contains("fits: 6 of 12 (6 upgrade(s))"), qPrintable(hint->text()));
+    QVERIFY2(hint->text().contains("it is not signed."), qPrintable(hint->text()));
+    QCOMPARE(tree->topLevelItemCount(), 1);
+    QCOMPARE(tree->topLevelItem(0)->childCount(), 6);
+    QVERIFY(dialog->findChild<QTextBrowser *>("updateFileEntry")
+                ->toPlainText()
+                .contains("Models: VX-1400M"));
+    // There is no firmware updater beside this test.
+    QVERIFY(!dialog->findChild<QPushButton *>("updaterButton")->isVisible());
+    QVERIFY(TestSupport::setSwitch(*m_pool, "busy:" + camera()->getId(), true));
+    QTRY_VERIFY2(hint->text().contains("5 upgrade(s), 1 not now"), qPrintable(hint->text()));
+    dialog->reject();
+    // Dialogs of plug-ins that name no folder begin in that of the file.
+    page.show();
+    const QFileDialog files;
+    QCOMPARE(files.directory(), QFileInfo(SAMPLE_FILE).dir());
+    QVERIFY(m_window->findChild<QMenu *>("recentFiles")->actions().at(0)->text().contains("1400m"));
+}
+
+void CViewerTest::remembersUpdateFiles()
+{
+    QSettings().clear();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("a&b.guf");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QMenu menu;
+    CRecentFiles files(menu);
+    QVERIFY(!menu.isEnabled());
+    for (const QString name : {"/c/x.guf", "/d/x.guf", "/1", "/2", "/3", "/4", "/5", "/6"})
+        files.add(name);
+    files.add(path);
+    files.add("/c/x.guf");
+    files.add(path);
+    QCOMPARE(files.getPaths().size(), CRecentFiles::CAPACITY);
+    QCOMPARE(files.getFolder(), folder.path());
+    const QList<QAction *> actions = menu.actions();
+    QVERIFY(actions.at(0)->text().startsWith("&1  a&&b.guf"));
+    QVERIFY(actions.at(1)->text().contains("/c"));
+
+    QMenu nextMenu;
+    CRecentFiles next(nextMenu);
+    QCOMPARE(next.getPaths(), files.getPaths());
+    QTRY_COMPARE(next.getFolder(), folder.path());
+    QVERIFY(nextMenu.actions().at(0)->isEnabled() && !nextMenu.actions().at(1)->isEnabled());
+    const QSignalSpy chosen(&next, &CRecentFiles::chosen);
+    nextMenu.actions().at(0)->trigger();
+    QCOMPARE(chosen.value(0).value(0), path);
+    nextMenu.actions().constLast()->trigger();
+    QVERIFY(!nextMenu.isEnabled() && QSettings().value("updateFiles/recent").toList().isEmpty());
+}
+
+void CViewerTest::forgetsCanceledWork()
+{
+    using Viewer::Files::CBackgroundWork;
+    QStringList ended;
+    std::promise<void> gate;
+    const std::shared_future<void> opened = gate.get_future();
+    const auto waitFor = [&](const QString &name) {
+        return [=, &ended](const CBackgroundWork::Checkpoint &checkpoint) {
+            opened.wait();
+            checkpoint();
+            return [=, &ended] { ended.append(name); };
+        };
+    };
+    auto work = std::make_unique<CBackgroundWork>();
+    work->start(waitFor("first"));
+    work->start(waitFor("second"));
+    gate.set_value();
+    QTRY_COMPARE(ended, QStringList("second"));
+    work->start(waitFor("third"));
+    work.reset();
+    QCoreApplication::processEvents();
+    QCOMPARE(ended, QStringList("second"));
+}
+
+void CViewerTest::switchesCamerasBesideAModalDialog()
+{
+    m_window->findChild<QAction *>("switchWindowAction")->trigger();
+    auto *const window = m_window->findChild<QWidget *>("switchWindow");
+    QVERIFY(QTest::qWaitForWindowExposed(window));
+    auto *const tree = window->findChild<QTreeWidget *>();
+    QTreeWidgetItem *const plugged = tree->topLevelItem(0)->child(0);
+    // By way of the window, where modal dialogs block.
+    const auto click = [&] {
+        const QPoint place = tree->visualItemRect(plugged).topLeft() + QPoint(10, 8);
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
+                          tree->viewport()->mapTo(window, place));
+        return plugged->checkState(0) == Qt::Checked;
+    };
+    QVERIFY(!click());
+    QVERIFY(click());
+    QDialog page(m_window);
+    QDialog nextPage(m_window);
+    page.setModal(true);
+    nextPage.setModal(true);
+    page.show();
+    QVERIFY(!click());
+    page.hide();
+    nextPage.show();
+    QVERIFY(click());
+    {
+        QDialog question(&nextPage);
+        question.setModal(true);
+        question.show();
+        QVERIFY(!click());
+    }
+    QVERIFY(click());
+    QTRY_COMPARE(m_tree->getModel()->getCameraCount(), 12);
 }
 
 void CViewerTest::closingEndsTheApplication()

@@ -144,7 +144,7 @@ void CNuvexViewerTest::refusesToStart()
     run({"--nothing"}, 2, "nothing");
     run({"--cameras"}, 2, "cameras");
     run({"--plugins", ""}, 2, "plug-ins");
-    run({"file.guf"}, 2, "file.guf");
+    run({"a.guf", "b.guf"}, 2, "\"a.guf\" and \"b.guf\"");
     run({"--language=de"}, 2, "\"de\"");
     for (const char *speed : {"fast", "0", "nan"})
         run({"--speed", speed}, 2, QString("\"%1\"").arg(speed));
