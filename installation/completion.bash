@@ -9,7 +9,7 @@ _nuvexviewer() {
     --cameras) files='*.json' ;;
     *)
       case ${1##*/}:$COMP_CWORD in
-        guftool:1) words="pack sign inspect verify" files= ;;
+        guftool:1) words="pack sign stamp inspect verify" files= ;;
         guftool:*) files='*.guf' ;;
         nuvexviewer:*) files='*.guf' ;;
       esac
