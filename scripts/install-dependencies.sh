@@ -14,6 +14,7 @@ run_packages=(
   libopencv-core-dev
   libopencv-imgproc-dev
   libssl-dev
+  libudev-dev
   libusb-1.0-0-dev
   libzip-dev
   ninja-build
@@ -40,6 +41,7 @@ test_packages=(
   dbus
   git
   iproute2
+  libumockdev-dev
   openssl
   procps
   python3-dbusmock

@@ -214,6 +214,8 @@ int CUsbPort::execute(UMockdevIoctlClient *client, unsigned long request,
         g_object_unref(data);
         return 0;
     }
+    case USBDEVFS_CONTROL:
+        return control(argument);
     case USBDEVFS_CLAIMINTERFACE:
         return claim(client, argument, true);
     case USBDEVFS_RELEASEINTERFACE:
@@ -262,6 +264,12 @@ int CUsbPort::submit(UMockdevIoctlClient *client, UMockdevIoctlData *argument)
     UMockdevIoctlData *const data
         = umockdev_ioctl_data_resolve(argument, 0, sizeof(usbdevfs_urb), nullptr);
     usbdevfs_urb &urb = getUrb(data);
+    const auto owner = m_claims.find(urb.endpoint == UsbEndpoint::IMAGES ? 1 : 0);
+    const bool isOthers = owner != m_claims.end() && owner->second != client;
+    if (urb.type != USBDEVFS_URB_TYPE_CONTROL && isOthers) {
+        g_object_unref(data);
+        return -EBUSY;
+    }
     if (UMockdevIoctlData *const buffer = umockdev_ioctl_data_resolve(
             data, offsetof(usbdevfs_urb, buffer), static_cast<gsize>(urb.buffer_length), nullptr))
         g_object_unref(buffer);
@@ -269,7 +277,11 @@ int CUsbPort::submit(UMockdevIoctlClient *client, UMockdevIoctlData *argument)
     const auto last = std::prev(m_waiting.end());
     const auto *const bytes = static_cast<const char *>(urb.buffer);
     if (urb.type == USBDEVFS_URB_TYPE_CONTROL) {
-        const int size = answerControl(data);
+        constexpr int SETUP_SIZE = 8;
+        auto *const setup = static_cast<quint8 *>(urb.buffer);
+        const int size = urb.buffer_length < SETUP_SIZE
+            ? -EPIPE
+            : answerControl(setup, setup + SETUP_SIZE, urb.buffer_length - SETUP_SIZE);
         finish(last, size < 0 ? size : 0, qMax(size, 0));
     } else if (urb.endpoint == UsbEndpoint::COMMANDS && m_camera.isStalled()) {
         finish(last, -EPIPE, 0);
@@ -281,18 +293,13 @@ int CUsbPort::submit(UMockdevIoctlClient *client, UMockdevIoctlData *argument)
     return 0;
 }
 
-int CUsbPort::answerControl(UMockdevIoctlData *data)
+int CUsbPort::answerControl(const quint8 *setup, quint8 *target, int size)
 {
-    constexpr int SETUP_SIZE = 8;
     constexpr quint8 WRITE_ENDPOINT = 0x02;
     constexpr quint8 SET_FEATURE = 3;
     constexpr quint8 READ_STANDARD = 0x80;
     constexpr quint8 GET_DESCRIPTOR = 6;
     constexpr quint8 STRING = 3;
-    const usbdevfs_urb &urb = getUrb(data);
-    auto *const setup = static_cast<quint8 *>(urb.buffer);
-    if (urb.buffer_length < SETUP_SIZE)
-        return -EPIPE;
     // A host halts an endpoint to start from a known state, and clears that through the system.
     if (setup[0] == WRITE_ENDPOINT && setup[1] == SET_FEATURE)
         return 0;
@@ -301,8 +308,24 @@ int CUsbPort::answerControl(UMockdevIoctlData *data)
     const QByteArray text = m_descriptors.getText(setup[2]);
     if (text.isEmpty())
         return -EPIPE;
-    const int size = qMin(text.size(), urb.buffer_length - SETUP_SIZE);
-    std::memcpy(setup + SETUP_SIZE, text.constData(), static_cast<std::size_t>(size));
+    const int count = qMin(text.size(), size);
+    std::memcpy(target, text.constData(), static_cast<std::size_t>(count));
+    return count;
+}
+
+int CUsbPort::control(UMockdevIoctlData *argument)
+{
+    UMockdevIoctlData *const data
+        = umockdev_ioctl_data_resolve(argument, 0, sizeof(usbdevfs_ctrltransfer), nullptr);
+    const auto &transfer = *reinterpret_cast<usbdevfs_ctrltransfer *>(data->data);
+    // It begins with the setup as it goes over the wire.
+    const auto *const setup = reinterpret_cast<const quint8 *>(&transfer);
+    UMockdevIoctlData *const buffer = umockdev_ioctl_data_resolve(
+        data, offsetof(usbdevfs_ctrltransfer, data), transfer.wLength, nullptr);
+    const int size = answerControl(setup, buffer ? buffer->data : nullptr, transfer.wLength);
+    if (buffer)
+        g_object_unref(buffer);
+    g_object_unref(data);
     return size;
 }
 

@@ -73,7 +73,9 @@ private:
     [[nodiscard]] int submit(_UMockdevIoctlClient *client, _UMockdevIoctlData *argument);
     [[nodiscard]] int discard(_UMockdevIoctlClient *client, _UMockdevIoctlData *argument);
     [[nodiscard]] int reap(_UMockdevIoctlClient *client, _UMockdevIoctlData *argument);
-    [[nodiscard]] int answerControl(_UMockdevIoctlData *data);
+    [[nodiscard]] int control(_UMockdevIoctlData *argument);
+    /// Bytes that are written to @p target, or a negative error.
+    [[nodiscard]] int answerControl(const quint8 *setup, quint8 *target, int size);
 
     void pump();
     void finish(std::list<CUrb>::iterator urb, int status, int size);

@@ -2778,6 +2778,18 @@ frames not shown: %6</source>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1 の失効リストが古くなっています。最新のものを証明書と同じ場所に置いてください</translation>
     </message>
+    <message>
+        <source>its memory could not be read</source>
+        <translation>カメラのメモリを読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>no right to open it: the rule %1 for udev is missing</source>
+        <translation>開く権限がありません: udev のルール %1 がありません</translation>
+    </message>
+    <message>
+        <source>you have no right to open it; install the rule %1 for udev and plug the camera in again</source>
+        <translation>カメラを開く権限がありません。udev のルール %1 をインストールして、カメラを接続し直してください</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

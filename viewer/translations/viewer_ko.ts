@@ -2778,6 +2778,18 @@ frames not shown: %6</source>
         <source>the revocation list of %1 is out of date; put the current one beside the certificates</source>
         <translation>%1의 해지 목록이 오래되었습니다. 최신 목록을 인증서 옆에 두십시오</translation>
     </message>
+    <message>
+        <source>its memory could not be read</source>
+        <translation>카메라 메모리를 읽지 못했습니다</translation>
+    </message>
+    <message>
+        <source>no right to open it: the rule %1 for udev is missing</source>
+        <translation>열 수 있는 권한이 없음: udev 규칙 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>you have no right to open it; install the rule %1 for udev and plug the camera in again</source>
+        <translation>카메라를 열 수 있는 권한이 없습니다. udev 규칙 %1을(를) 설치하고 카메라를 다시 연결하십시오</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>
