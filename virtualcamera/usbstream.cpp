@@ -43,6 +43,7 @@ void CUsbStream::abort()
 {
     m_clock.stop();
     m_frames.clear();
+    m_isStuck = false;
 }
 
 void CUsbStream::trigger()
@@ -83,20 +84,9 @@ int CUsbStream::copy(const QByteArray &bytes, uchar *target, int size)
     return count;
 }
 
-bool CUsbStream::isAtMiddle(int frameNumber) const
-{
-    return !m_frames.empty() && m_frames.front().number == frameNumber
-        && m_frames.front().offset > 0;
-}
-
-bool CUsbStream::isAtUnplugging() const
-{
-    return isAtMiddle(m_faults.unplugsInFrame);
-}
-
 std::optional<int> CUsbStream::take(uchar *target, int size)
 {
-    if (m_frames.empty() || isAtMiddle(m_faults.stopsInFrame))
+    if (m_frames.empty() || m_isStuck)
         return {};
     ++m_statistics.packets;
     CFrame &frame = m_frames.front();
@@ -111,9 +101,10 @@ std::optional<int> CUsbStream::take(uchar *target, int size)
     }
     int rest = frame.picture->getSize() - frame.offset;
     if (rest > 0) {
-        const bool breaksOff
-            = frame.number == m_faults.stopsInFrame || frame.number == m_faults.unplugsInFrame;
-        if (breaksOff)
+        m_isStuck = frame.number == m_faults.stopsInFrame;
+        const bool unplugs = frame.number == m_faults.unplugsInFrame && !m_isAtUnplugging;
+        m_isAtUnplugging = m_isAtUnplugging || unplugs;
+        if (m_isStuck || unplugs)
             rest = frame.picture->getSize() / 2;
         const int count = std::min(rest, size);
         frame.picture->copy(static_cast<quint32>(frame.number), frame.offset, count, target);

@@ -45,8 +45,9 @@ public:
     /// When tick() has something to do; in the past: at once.
     [[nodiscard]] std::optional<Time> getNextDeadline() const;
 
-    /// The middle of the frame has been given out at which the camera is unplugged by its fault.
-    [[nodiscard]] bool isAtUnplugging() const;
+    /// Half of the frame has been given out in which the camera is unplugged by its fault, which
+    /// happens once.
+    [[nodiscard]] bool isAtUnplugging() const { return m_isAtUnplugging; }
 
 private:
     struct CFrame
@@ -59,13 +60,14 @@ private:
     };
 
     [[nodiscard]] static int copy(const QByteArray &bytes, uchar *target, int size);
-    [[nodiscard]] bool isAtMiddle(int frameNumber) const;
 
     const CCameraSettings &m_faults;
     CFrameClock m_clock;
     std::shared_ptr<const CPicture> m_picture;
     std::deque<CFrame> m_frames; ///< the first one is being given out, or waits for that
     bool m_isEnabled = false;
+    bool m_isStuck = false; ///< by the fault, until the next start
+    bool m_isAtUnplugging = false;
     CStreamStatistics m_statistics;
 };
 

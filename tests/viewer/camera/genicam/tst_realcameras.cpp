@@ -51,6 +51,7 @@ private slots:
     void listsWhatCannotBeUpdated_data();
     void listsWhatCannotBeUpdated();
     void seesPlugsAtOnce();
+    void streamsOnWhenPluggedInAgain();
     void refusesTwoCamerasOfOneIdentity();
     void refusesAnotherCameraAtTheAddress();
     void closesTheFileOfEachUpload();
@@ -416,6 +417,23 @@ void CRealCamerasTest::seesPlugsAtOnce()
     });
     QCOMPARE(update(getCameras()[0]), QString());
     QTRY_COMPARE(versions, QStringList("2.0.0"));
+}
+
+void CRealCamerasTest::streamsOnWhenPluggedInAgain()
+{
+    if (!IS_ON_USB)
+        QSKIP("It is about USB.");
+    CVirtualCameraProcess &camera = startCamera(
+        {"--size", "320x240", "--unplug-in-frame", "20", "--plug-in-after-ms", "1000"});
+    const QVector<CameraInfoPtr> found = openPool();
+    m_pool->setWorker(WORKER, "en");
+    int frames = 0;
+    connect(m_pool.get(), &CCameraPool::frameReady, this, [&frames] { ++frames; });
+    QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
+    QVERIFY(m_pool->startAcquisition(found.value(0)->getId()));
+    QTRY_VERIFY_WITH_TIMEOUT(frames >= 50, 30'000);
+    QVERIFY(camera.getEvents().contains("unplug in frame"));
+    QCOMPARE(failed.size(), 1);
 }
 
 void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
