@@ -92,3 +92,17 @@ function(add_project_test name)
     TIMEOUT ${arg_TIMEOUT}
     ENVIRONMENT "${PROJECT_TEST_ENVIRONMENT}")
 endfunction()
+
+# add_usb_test(<test> [<function>...]): the same program, or some of its functions, once more with
+# cameras on an emulated USB. Sanitizers want to be in front of all other libraries themselves.
+function(add_usb_test test)
+  if(NOT EMULATED_USB OR SANITIZER)
+    return()
+  endif()
+  add_test(NAME ${test}_usb
+    COMMAND ${PROJECT_SOURCE_DIR}/tests/emulatedusb.sh $<TARGET_FILE:${test}> ${ARGN})
+  set_tests_properties(${test}_usb PROPERTIES
+    LABELS integration
+    TIMEOUT 300
+    ENVIRONMENT "${PROJECT_TEST_ENVIRONMENT}")
+endfunction()

@@ -15,6 +15,7 @@ run_packages=(
   libopencv-core-dev
   libopencv-imgproc-dev
   libssl-dev
+  libudev-dev
   libusb-1.0-0-dev
   libzip-dev
   ninja-build
@@ -44,6 +45,7 @@ test_packages=(
   desktop-file-utils
   git
   iproute2
+  libumockdev-dev
   mandoc
   openssl
   procps

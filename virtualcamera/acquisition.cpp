@@ -2,7 +2,9 @@
 
 #include "icameraobserver.h"
 #include "memorymap.h"
+#include "picture.h"
 #include "registers.h"
+#include "usbmap.h"
 
 #include <algorithm>
 
@@ -30,15 +32,32 @@ constexpr float MICROSECONDS = 1'000'000; // of a second
 } // namespace
 
 CAcquisition::CAcquisition(const CCameraSettings &settings, CRegisters &registers,
-                           ICameraObserver &observer)
+                           ICameraObserver &observer, IImageStream &stream)
     : m_settings(settings)
     , m_registers(registers)
     , m_observer(observer)
-    , m_stream(settings)
+    , m_stream(stream)
 {
 }
 
 void CAcquisition::setUp()
+{
+    const auto set
+        = [this](quint32 address, quint32 value) { m_registers.setWord(address, value); };
+    if (m_settings.transport == ETransport::Ethernet)
+        setUpStreamChannel();
+    set(MemoryMap::WIDTH, static_cast<quint32>(m_settings.width));
+    set(MemoryMap::HEIGHT, static_cast<quint32>(m_settings.height));
+    set(MemoryMap::PIXEL_FORMAT, m_settings.pixelFormat);
+    set(MemoryMap::ACQUISITION_FRAME_COUNT, 1);
+    set(MemoryMap::FRAME_RATE_ENABLE, 1);
+    const auto rate = static_cast<float>(m_settings.frameRate);
+    m_registers.setFloat(MemoryMap::FRAME_RATE, rate);
+    m_registers.setFloat(MemoryMap::EXPOSURE_TIME, std::min(10000.F, MICROSECONDS / rate));
+    onWritten(MemoryMap::WIDTH);
+}
+
+void CAcquisition::setUpStreamChannel()
 {
     const auto set
         = [this](quint32 address, quint32 value) { m_registers.setWord(address, value); };
@@ -49,15 +68,6 @@ void CAcquisition::setUp()
     set(MemoryMap::STREAM_PACKET_DELAY, 0);
     set(MemoryMap::STREAM_ADDRESS, 0);
     set(MemoryMap::STREAM_SOURCE_PORT, m_settings.streamPort);
-    set(MemoryMap::WIDTH, static_cast<quint32>(m_settings.width));
-    set(MemoryMap::HEIGHT, static_cast<quint32>(m_settings.height));
-    set(MemoryMap::PIXEL_FORMAT, m_settings.pixelFormat);
-    set(MemoryMap::ACQUISITION_FRAME_COUNT, 1);
-    set(MemoryMap::FRAME_RATE_ENABLE, 1);
-    const auto rate = static_cast<float>(m_settings.frameRate);
-    m_registers.setFloat(MemoryMap::FRAME_RATE, rate);
-    m_registers.setFloat(MemoryMap::EXPOSURE_TIME, std::min(10000.F, MICROSECONDS / rate));
-    onWritten(MemoryMap::WIDTH);
 }
 
 bool CAcquisition::isLocked() const
@@ -137,9 +147,11 @@ void CAcquisition::onWritten(quint32 address)
     m_registers.setFloat(MemoryMap::FRAME_RATE, rate);
     const quint32 pixelSize = static_cast<quint32>(
         findPixelFormat(m_registers.getWord(MemoryMap::PIXEL_FORMAT))->getPixelSize());
-    m_registers.setWord(MemoryMap::PAYLOAD_SIZE,
-                        m_registers.getWord(MemoryMap::WIDTH)
-                            * m_registers.getWord(MemoryMap::HEIGHT) * pixelSize / 8);
+    const quint32 payloadSize = m_registers.getWord(MemoryMap::WIDTH)
+        * m_registers.getWord(MemoryMap::HEIGHT) * pixelSize / 8;
+    m_registers.setWord(MemoryMap::PAYLOAD_SIZE, payloadSize);
+    if (m_settings.transport == ETransport::Usb)
+        m_registers.setLittleLong(UsbMap::REQUIRED_PAYLOAD_SIZE, payloadSize);
 
     CStreamSettings stream;
     const quint32 port = m_registers.getWord(MemoryMap::STREAM_PORT) & 0xffff;

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "camerasettings.h"
-#include "cameratime.h"
 #include "gvcp.h"
-#include "streamchannel.h"
+#include "imagestream.h"
 
 #include <memory>
 
@@ -17,7 +16,8 @@ class CAcquisition
 {
 public:
     /// All of it is borrowed.
-    CAcquisition(const CCameraSettings &settings, CRegisters &registers, ICameraObserver &observer);
+    CAcquisition(const CCameraSettings &settings, CRegisters &registers, ICameraObserver &observer,
+                 IImageStream &stream);
 
     /// Gives the registers the values that they have after a start of the camera.
     void setUp();
@@ -36,10 +36,10 @@ public:
     /// gone.
     void abort();
 
-    [[nodiscard]] CStreamChannel &getStream() { return m_stream; }
-    [[nodiscard]] const CStreamChannel &getStream() const { return m_stream; }
+    [[nodiscard]] bool isAcquiring() const { return m_stream.isAcquiring(); }
 
 private:
+    void setUpStreamChannel();
     [[nodiscard]] bool isLocked() const;
     [[nodiscard]] std::shared_ptr<const CPicture> makePicture() const;
     void start(Time now);
@@ -47,7 +47,7 @@ private:
     const CCameraSettings &m_settings;
     CRegisters &m_registers;
     ICameraObserver &m_observer;
-    CStreamChannel m_stream;
+    IImageStream &m_stream;
 };
 
 } // namespace VirtualCamera

@@ -3,6 +3,8 @@
 #include "featurelimits.h"
 #include "icameraobserver.h"
 #include "memorymap.h"
+#include "usbmap.h"
+#include "usbregisters.h"
 
 #include <utility>
 
@@ -14,11 +16,12 @@ using Gvcp::EStatus;
 static constexpr quint32 FILE_SUCCESS = 0;
 static constexpr quint32 FILE_FAILURE = 1;
 
-CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer)
+CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer,
+                             IImageStream &stream)
     : m_settings(settings)
     , m_observer(observer)
     , m_description(makeFeatureDescription(settings))
-    , m_acquisition(m_settings, m_registers, observer)
+    , m_acquisition(m_settings, m_registers, observer, stream)
     , m_buffer(settings.bufferLength, '\0')
     , m_model(settings.model)
     , m_serialNumber(settings.serialNumber)
@@ -29,6 +32,14 @@ CCameraMemory::CCameraMemory(const CCameraSettings &settings, ICameraObserver &o
 }
 
 void CCameraMemory::setUpBootstrap()
+{
+    if (m_settings.transport == ETransport::Usb)
+        setUpUsbBootstrap();
+    else
+        setUpEthernetBootstrap();
+}
+
+void CCameraMemory::setUpEthernetBootstrap()
 {
     m_registers.setWord(MemoryMap::PROTOCOL_VERSION, 0x00010002);
     m_registers.setWord(MemoryMap::DEVICE_MODE, 0x80000001); // big-endian registers, texts in UTF-8
@@ -52,6 +63,21 @@ void CCameraMemory::setUpBootstrap()
     m_registers.setWord(MemoryMap::HEARTBEAT_TIMEOUT,
                         static_cast<quint32>(m_settings.heartbeatTimeout.count()));
     m_registers.setWord(MemoryMap::TICK_FREQUENCY_LOW, 1'000'000'000);
+}
+
+void CCameraMemory::setUpUsbBootstrap()
+{
+    const auto setText = [this](quint32 address, const QByteArray &text) {
+        m_registers.setText(address, text, UsbMap::TEXT_SIZE);
+    };
+    setText(UsbMap::VENDOR_NAME, m_settings.vendor);
+    setText(UsbMap::MODEL_NAME, m_model);
+    setText(UsbMap::FAMILY_NAME, m_model);
+    setText(UsbMap::DEVICE_VERSION, m_firmwareVersion);
+    setText(UsbMap::VENDOR_INFORMATION, "virtual camera");
+    setText(UsbMap::SERIAL_NUMBER, m_serialNumber);
+    setText(UsbMap::USER_NAME, m_settings.userName);
+    setUpUsbRegisters(m_registers, m_description);
 }
 
 void CCameraMemory::setUpFeatures()
@@ -108,7 +134,7 @@ quint32 CCameraMemory::readFeatureWord(quint32 address, Time now)
     case MemoryMap::FILE_OPERATION_STATUS:
         return findRunning(m_operation, now) ? FILE_FAILURE : m_registers.getWord(address);
     case MemoryMap::ACQUISITION_ACTIVE:
-        return getStream().isAcquiring() ? 1 : 0;
+        return m_acquisition.isAcquiring() ? 1 : 0;
     case MemoryMap::FILE_OPERATION_RESULT:
         return findRunning(m_operation, now) ? 0 : m_registers.getWord(address);
     default:
@@ -124,16 +150,21 @@ bool CCameraMemory::findRunning(CRunning &running, Time now)
     return isRunning;
 }
 
-bool CCameraMemory::isWritable(quint32 address)
+bool CCameraMemory::isBootstrapWritable(quint32 address) const
 {
-    if (address < MemoryMap::FEATURES) {
-        const bool isUserName
-            = address >= MemoryMap::USER_NAME && address < MemoryMap::DISCOVERY_SIZE;
-        const bool isStreamChannel = address == MemoryMap::STREAM_PORT
-            || address == MemoryMap::STREAM_PACKET_SIZE || address == MemoryMap::STREAM_PACKET_DELAY
-            || address == MemoryMap::STREAM_ADDRESS;
-        return isUserName || isStreamChannel || address == MemoryMap::HEARTBEAT_TIMEOUT;
-    }
+    if (m_settings.transport == ETransport::Usb)
+        return isUsbRegisterWritable(address);
+    const bool isUserName = address >= MemoryMap::USER_NAME && address < MemoryMap::DISCOVERY_SIZE;
+    const bool isStreamChannel = address == MemoryMap::STREAM_PORT
+        || address == MemoryMap::STREAM_PACKET_SIZE || address == MemoryMap::STREAM_PACKET_DELAY
+        || address == MemoryMap::STREAM_ADDRESS;
+    return isUserName || isStreamChannel || address == MemoryMap::HEARTBEAT_TIMEOUT;
+}
+
+bool CCameraMemory::isWritable(quint32 address) const
+{
+    if (address < MemoryMap::FEATURES)
+        return isBootstrapWritable(address);
     switch (address) {
     case MemoryMap::ACQUISITION_ACTIVE:
     case MemoryMap::PAYLOAD_SIZE:
@@ -304,6 +335,11 @@ bool CCameraMemory::isRefused(const char *command) const
     return true;
 }
 
+quint32 CCameraMemory::getUsbRegister(quint32 address) const
+{
+    return m_registers.getLittleWord(address);
+}
+
 QByteArray CCameraMemory::getDiscoveryData() const
 {
     return m_registers.getBootstrap().left(MemoryMap::DISCOVERY_SIZE);
@@ -362,11 +398,6 @@ void CCameraMemory::restart()
 qint64 CCameraMemory::getUploadedBytes() const
 {
     return m_uploadedBytes;
-}
-
-QByteArray CCameraMemory::getFirmwareVersion() const
-{
-    return m_firmwareVersion;
 }
 
 } // namespace VirtualCamera

@@ -27,8 +27,8 @@ public:
         std::chrono::milliseconds duration{0}; ///< until the camera has done what was asked
     };
 
-    /// @p observer is borrowed.
-    CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer);
+    /// @p observer and @p stream are borrowed.
+    CCameraMemory(const CCameraSettings &settings, ICameraObserver &observer, IImageStream &stream);
 
     /// Reads @p size bytes; both numbers are multiples of 4. On any other status than Success
     /// @p bytes is left alone. To read may change something: commands count who asks for their end.
@@ -41,15 +41,15 @@ public:
     /// The part of the memory that answers a discovery.
     [[nodiscard]] QByteArray getDiscoveryData() const;
 
+    /// A bootstrap register of USB3 Vision.
+    [[nodiscard]] quint32 getUsbRegister(quint32 address) const;
+
     /// The register shows who has control; the decision about it is not the memory's.
     void setControlPrivilege(quint32 value);
     [[nodiscard]] std::chrono::milliseconds getHeartbeatTimeout() const;
 
     /// Who had control has gone: what was uploaded to an open file is forgotten, acquisition ends.
     void abandon();
-
-    [[nodiscard]] CStreamChannel &getStream() { return m_acquisition.getStream(); }
-    [[nodiscard]] const CStreamChannel &getStream() const { return m_acquisition.getStream(); }
 
     /// True once a reset has been asked for.
     [[nodiscard]] bool isResetRequested() const;
@@ -63,7 +63,9 @@ public:
     /// Bytes that have been written to the file so far, over all uploads.
     [[nodiscard]] qint64 getUploadedBytes() const;
 
-    [[nodiscard]] QByteArray getFirmwareVersion() const;
+    [[nodiscard]] const QByteArray &getModel() const { return m_model; }
+    [[nodiscard]] const QByteArray &getSerialNumber() const { return m_serialNumber; }
+    [[nodiscard]] const QByteArray &getFirmwareVersion() const { return m_firmwareVersion; }
 
 private:
     /// Something that has been started and reads as running until it has ended.
@@ -76,11 +78,14 @@ private:
     };
 
     void setUpBootstrap();
+    void setUpEthernetBootstrap();
+    void setUpUsbBootstrap();
     void setUpFeatures();
     [[nodiscard]] const QByteArray *findArea(quint32 address, int size, int &offset) const;
     [[nodiscard]] quint32 readFeatureWord(quint32 address, Time now);
     [[nodiscard]] static bool findRunning(CRunning &running, Time now);
-    [[nodiscard]] static bool isWritable(quint32 address);
+    [[nodiscard]] bool isWritable(quint32 address) const;
+    [[nodiscard]] bool isBootstrapWritable(quint32 address) const;
     [[nodiscard]] Gvcp::EStatus checkWord(quint32 address, quint32 value, Time now) const;
 
     CWriteResult writeWord(quint32 address, quint32 value, Time now);

@@ -10,9 +10,16 @@
 
 namespace VirtualCamera {
 
+enum class ETransport {
+    Ethernet, ///< GigE Vision
+    Usb, ///< USB3 Vision
+};
+
 /// What a virtual camera is, how long things take it, and what goes wrong with it.
 struct CCameraSettings
 {
+    ETransport transport = ETransport::Ethernet;
+
     // Identity; texts are cut to the length of their registers.
     QByteArray vendor = "Korvane";
     QByteArray model = "GV-1400M";
@@ -58,6 +65,14 @@ struct CCameraSettings
     int losesEvery = 0; ///< each n-th datagram is lost before it is read; 0: none
     int losesAcknowledge = 0; ///< the answer to the n-th write of memory is lost; 0: none
 
+    // Faults of USB; the answers are those to writes of memory, and 0 is none.
+    std::optional<qint64> unplugsAfterBytes; ///< for ever, when so much has been uploaded
+    std::optional<qint64> stallsAfterBytes; ///< the control channel, once
+    int cutsAnswer = 0; ///< the n-th answer ends in its middle
+    int mistakesAnswer = 0; ///< the n-th answer is one to another request
+    int unplugsInFrame = 0; ///< the n-th one since the start of an acquisition, at its middle
+    std::chrono::milliseconds plugsInAfter{0}; ///< being unplugged in a frame; 0: never
+
     // Faults of the stream; 0: none.
     int losesPacket = 0; ///< each n-th packet of payload is not sent
     int swapsPacket = 0; ///< each n-th packet of payload is sent behind the next one
@@ -67,5 +82,11 @@ struct CCameraSettings
     int wrongTrailerSize = 0; ///< each n-th trailer tells of half as many rows
     quint32 streamsFrom = 0; ///< IPv4 address that packets come from instead of the camera's own
 };
+
+/// True for each n-th of a row that counts from 1; n = 0: for none.
+[[nodiscard]] inline bool isEachNth(qint64 number, int n)
+{
+    return n > 0 && number % n == 0;
+}
 
 } // namespace VirtualCamera

@@ -18,12 +18,19 @@ public:
     QString flashFile;
     int maximumSeconds = 600; ///< then the program ends by itself
 
+    // On an emulated USB; settings.transport tells whether it is there.
+    QStringList usbCommand; ///< a program that sees the bus, with its arguments
+    bool hasTwin = false; ///< a second camera that says that it is the same one
+    bool isForbidden = false; ///< nobody may open the camera
+
     QString message;
 
-    EResult parse(const QStringList &arguments);
+    EResult parse(QStringList arguments);
 
 private:
     [[nodiscard]] QVector<Viewer::CommandLine::COption> getOptions();
+    [[nodiscard]] QVector<Viewer::CommandLine::COption> getEthernetOptions();
+    [[nodiscard]] QVector<Viewer::CommandLine::COption> getUsbOptions();
 };
 
 } // namespace VirtualCamera

@@ -3,6 +3,7 @@
 #include "camerasettings.h"
 #include "memorymap.h"
 #include "pixelformat.h"
+#include "usbmap.h"
 #include "zipwriter.h"
 
 #include <QFile>
@@ -55,6 +56,44 @@ static QByteArray getPixelFormatEntries()
     return entries;
 }
 
+// The bootstrap registers that tell who the camera is.
+static QByteArray getIdentity(ETransport transport)
+{
+    struct CText
+    {
+        const char *name;
+        quint32 ethernetAddress;
+        int ethernetSize;
+        quint32 usbAddress;
+        const char *access;
+    };
+    static constexpr CText TEXTS[] = {
+        {"DeviceVendorName", MemoryMap::VENDOR_NAME, 32, UsbMap::VENDOR_NAME, "RO"},
+        {"DeviceModelName", MemoryMap::MODEL_NAME, 32, UsbMap::MODEL_NAME, "RO"},
+        {"DeviceVersion", MemoryMap::DEVICE_VERSION, 32, UsbMap::DEVICE_VERSION, "RO"},
+        {"DeviceSerialNumber", MemoryMap::SERIAL_NUMBER, 16, UsbMap::SERIAL_NUMBER, "RO"},
+        {"DeviceUserID", MemoryMap::USER_NAME, 16, UsbMap::USER_NAME, "RW"},
+    };
+    const bool isUsb = transport == ETransport::Usb;
+    QByteArray xml;
+    for (const CText &text : TEXTS) {
+        xml += QByteArray("  <StringReg Name=\"") + text.name + "\">\n    <Address>0x"
+            + QByteArray::number(isUsb ? text.usbAddress : text.ethernetAddress, 16)
+            + "</Address>\n    <Length>"
+            + QByteArray::number(isUsb ? UsbMap::TEXT_SIZE : text.ethernetSize)
+            + "</Length>\n    <AccessMode>" + text.access
+            + "</AccessMode>\n    <pPort>Device</pPort>\n  </StringReg>\n\n";
+    }
+    return xml;
+}
+
+// Each piece of text that begins so, up to the end that follows.
+static void removeAll(QByteArray &xml, const QByteArray &begin, const QByteArray &end)
+{
+    for (int from = xml.indexOf(begin); from >= 0; from = xml.indexOf(begin, from))
+        xml.remove(from, xml.indexOf(end, from + 1) - from);
+}
+
 static QByteArray readSound(const CCameraSettings &settings)
 {
     QFile file(QStringLiteral(":/virtualcamera/camera.xml"));
@@ -65,6 +104,12 @@ static QByteArray readSound(const CCameraSettings &settings)
     xml.replace("@SENSOR_WIDTH@", QByteArray::number(MemoryMap::SENSOR_WIDTH));
     xml.replace("@SENSOR_HEIGHT@", QByteArray::number(MemoryMap::SENSOR_HEIGHT));
     xml.replace("@PIXEL_FORMATS@", getPixelFormatEntries());
+    xml.replace("@IDENTITY@", getIdentity(settings.transport));
+    if (settings.transport == ETransport::Usb) {
+        xml.replace("StandardNameSpace=\"GEV\"", "StandardNameSpace=\"U3V\"");
+        removeAll(xml, "\n    <pFeature>Gev", "\n");
+        removeAll(xml, "  <!-- Of Ethernet only -->", "  <!-- File access -->");
+    }
     // Who can read it can wait for its end.
     xml.replace("@EXECUTE_ACCESS@", settings.operationReads > 0 ? "RW" : "WO");
     return xml;
@@ -104,8 +149,9 @@ static CFeatureDescription makeLocal(const QByteArray &name, QByteArray bytes)
 {
     const QByteArray url = "Local:" + name + ';' + QByteArray::number(MemoryMap::DESCRIPTION, 16)
         + ';' + QByteArray::number(bytes.size(), 16);
-    bytes.append((4 - bytes.size() % 4) % 4, '\0');
-    return {url, bytes};
+    const int size = bytes.size();
+    bytes.append((4 - size % 4) % 4, '\0');
+    return {url, bytes, size, name.endsWith(".zip")};
 }
 
 static CFeatureDescription makeZipped(const QByteArray &xml, qint64 size = 0)
@@ -130,9 +176,9 @@ CFeatureDescription makeFeatureDescription(const CCameraSettings &settings)
     case EDescription::SelfFeature:
         return makeLocal(XML_NAME, tieKnot(sound, settings.description));
     case EDescription::File:
-        return {"File:///dev/zero", {}};
+        return {"File:///dev/zero", {}, 0, false};
     case EDescription::Http:
-        return {"http://127.0.0.1:9/camera.xml", {}};
+        return {"http://127.0.0.1:9/camera.xml", {}, 0, false};
     case EDescription::Bomb100:
         return makeZipped(sound, 100 * BOMB_UNIT);
     case EDescription::Bomb1000:

@@ -15,6 +15,8 @@ struct CFeatureDescription
 {
     QByteArray url;
     QByteArray bytes; ///< filled up to a whole word
+    int size = 0; ///< without what fills it up
+    bool isPacked = false;
 };
 
 /// The description that @p settings ask for: XML by the schema of GenICam unless it is a faulty

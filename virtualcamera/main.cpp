@@ -1,5 +1,8 @@
 #include "commandline.h"
 #include "udpshell.h"
+#ifdef WITH_USB
+#include "usbshell.h"
+#endif
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -8,6 +11,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <sys/prctl.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -26,9 +30,42 @@ static int watchEndSignals()
     return signalfd(-1, &endSignals, SFD_CLOEXEC | SFD_NONBLOCK);
 }
 
+// Runs @p shell until something ends the program.
+template <typename Shell>
+static int run(Shell &shell, int maximumSeconds)
+{
+    QString error;
+    if (!shell.start(error)) {
+        std::fprintf(stderr, "virtualcamera: %s\n", qPrintable(error));
+        return EXIT_FAILURE;
+    }
+    QTimer::singleShot(std::chrono::seconds(maximumSeconds), qApp, &QCoreApplication::quit);
+    const int exitCode = QCoreApplication::exec();
+    shell.printStatistics();
+    return exitCode;
+}
+
+static int runOnUsb(const CCommandLine &commandLine)
+{
+#ifdef WITH_USB
+    CUsbShell shell({commandLine.settings, commandLine.flashFile, commandLine.usbCommand,
+                     commandLine.hasTwin, commandLine.isForbidden});
+    QObject::connect(&shell, &CUsbShell::ended, qApp, &QCoreApplication::exit);
+    return run(shell, commandLine.maximumSeconds);
+#else
+    Q_UNUSED(commandLine)
+    std::fputs("virtualcamera: It was built without umockdev, which emulates USB.\n", stderr);
+    return EXIT_FAILURE;
+#endif
+}
+
 int main(int argc, char **argv)
 {
     const pid_t parent = getppid();
+#ifdef WITH_USB
+    if (argc > 1 && std::strcmp(argv[1], "usb") == 0)
+        CUsbShell::enterEmulation(argv);
+#endif
     const int signalDescriptor = watchEndSignals();
     // A test that dies takes its cameras along.
     prctl(PR_SET_PDEATHSIG, SIGTERM);
@@ -49,17 +86,10 @@ int main(int argc, char **argv)
         return 2;
     }
 
-    CUdpShell shell(commandLine.settings, commandLine.flashFile);
-    QString error;
-    if (!shell.start(error)) {
-        std::fprintf(stderr, "virtualcamera: %s\n", qPrintable(error));
-        return EXIT_FAILURE;
-    }
     QSocketNotifier endNotifier(signalDescriptor, QSocketNotifier::Read);
     QObject::connect(&endNotifier, &QSocketNotifier::activated, qApp, &QCoreApplication::quit);
-    QTimer::singleShot(std::chrono::seconds(commandLine.maximumSeconds), qApp,
-                       &QCoreApplication::quit);
-    const int exitCode = QCoreApplication::exec();
-    shell.printStatistics();
-    return exitCode;
+    if (commandLine.settings.transport == ETransport::Usb)
+        return runOnUsb(commandLine);
+    CUdpShell shell(commandLine.settings, commandLine.flashFile);
+    return run(shell, commandLine.maximumSeconds);
 }

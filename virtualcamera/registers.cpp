@@ -3,6 +3,8 @@
 #include "gvcp.h"
 #include "memorymap.h"
 
+#include <QtEndian>
+
 namespace VirtualCamera {
 
 CRegisters::CRegisters()
@@ -46,6 +48,22 @@ void CRegisters::setFloat(quint32 address, float value)
 float CRegisters::getFloat(quint32 address) const
 {
     return Gvcp::toFloat(getWord(address));
+}
+
+void CRegisters::setLittleWord(quint32 address, quint32 value)
+{
+    setWord(address, qbswap(value));
+}
+
+void CRegisters::setLittleLong(quint32 address, quint64 value)
+{
+    setLittleWord(address, static_cast<quint32>(value));
+    setLittleWord(address + 4, static_cast<quint32>(value >> 32));
+}
+
+quint32 CRegisters::getLittleWord(quint32 address) const
+{
+    return qbswap(getWord(address));
 }
 
 void CRegisters::setText(quint32 address, const QByteArray &text, int size)

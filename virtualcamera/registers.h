@@ -22,6 +22,13 @@ public:
     void setFloat(quint32 address, float value);
     [[nodiscard]] float getFloat(quint32 address) const;
 
+    /// The same for numbers that lie there with their last byte first.
+    void setLittleWord(quint32 address, quint32 value);
+    void setLittleLong(quint32 address, quint64 value);
+    [[nodiscard]] quint32 getLittleWord(quint32 address) const;
+
+    void setBytes(quint32 address, const QByteArray &bytes);
+
     /// Fills @p size bytes; one of them stays for the end of the text.
     void setText(quint32 address, const QByteArray &text, int size);
 
@@ -29,8 +36,6 @@ public:
     [[nodiscard]] const QByteArray &getFeatures() const { return m_features; }
 
 private:
-    void setBytes(quint32 address, const QByteArray &bytes);
-
     QByteArray m_bootstrap;
     QByteArray m_features;
 };

@@ -12,12 +12,6 @@ using Gvsp::EStatus;
 static constexpr std::size_t MOST_FRAMES = 8;
 static constexpr std::size_t MOST_RESENDS = 256;
 
-// True for each n-th of a row that counts from 1; n = 0: for none.
-static bool isEachNth(qint64 number, int n)
-{
-    return n > 0 && number % n == 0;
-}
-
 int CStreamChannel::CFrame::getDataSize() const
 {
     return packetSize - Gvsp::TRANSPORT_SIZE - Gvsp::HEADER_SIZE;
@@ -35,8 +29,7 @@ CStreamChannel::CStreamChannel(const CCameraSettings &settings)
 
 void CStreamChannel::configure(const CStreamSettings &settings)
 {
-    // Another rate holds from the frame that has been taken last.
-    m_nextFrame += settings.framePeriod - m_settings.framePeriod;
+    m_clock.configure(settings.framePeriod, settings.isTriggered);
     m_settings = settings;
 }
 
@@ -48,28 +41,23 @@ void CStreamChannel::setPicture(std::shared_ptr<const CPicture> picture)
 void CStreamChannel::start(quint32 frameCount, Time now)
 {
     abort();
-    m_isAcquiring = true;
-    m_framesWanted = frameCount;
-    m_nextFrame = now;
+    m_clock.start(frameCount, now);
 }
 
 void CStreamChannel::stop()
 {
-    if (m_isSending && !m_isStuck)
-        m_isStopping = true;
-    else
-        m_isAcquiring = false;
+    m_clock.stop();
+    // Its rest is not to come.
+    if (m_isStuck)
+        m_isSending = false;
 }
 
 void CStreamChannel::abort()
 {
-    m_isAcquiring = false;
-    m_isStopping = false;
+    m_clock.stop();
     m_isSending = false;
     m_isStuck = false;
-    m_isTriggered = false;
     m_hasTestPacket = false;
-    m_frameNumber = 0;
     m_nextPacket = Time(0);
     m_payloadCount = 0;
     m_heldBack.reset();
@@ -79,7 +67,8 @@ void CStreamChannel::abort()
 
 void CStreamChannel::trigger()
 {
-    m_isTriggered = m_isAcquiring && m_settings.isTriggered && !m_isSending;
+    if (!m_isSending)
+        m_clock.trigger();
 }
 
 void CStreamChannel::fireTestPacket()
@@ -148,16 +137,8 @@ void CStreamChannel::takeResends(CPacketBatch &batch)
 
 bool CStreamChannel::beginFrame(Time now)
 {
-    if (!m_isAcquiring || !m_picture)
+    if (!m_picture || !m_clock.take(now))
         return false;
-    if (m_settings.isTriggered ? !m_isTriggered : now < m_nextFrame)
-        return false;
-    m_isTriggered = false;
-    // Who is much too late does not hurry afterwards.
-    if (m_nextFrame + m_settings.framePeriod / 2 < now)
-        m_nextFrame = now;
-    m_nextFrame += m_settings.framePeriod;
-    ++m_frameNumber;
     if (m_settings.receiver.port == 0) {
         endFrame();
         return false;
@@ -165,9 +146,9 @@ bool CStreamChannel::beginFrame(Time now)
     if (m_frames.size() == MOST_FRAMES)
         m_frames.pop_front();
     CFrame frame;
-    frame.number = m_frameNumber;
+    frame.number = m_clock.getNumber();
     // 0 is no block.
-    frame.block = static_cast<quint16>((m_frameNumber - 1) % 0xffff + 1);
+    frame.block = static_cast<quint16>((frame.number - 1) % 0xffff + 1);
     frame.start = now;
     frame.receiver = m_settings.receiver;
     frame.packetSize = m_settings.packetSize;
@@ -182,10 +163,6 @@ void CStreamChannel::endFrame()
 {
     ++m_statistics.frames;
     m_isSending = false;
-    if (m_isStopping || (m_framesWanted > 0 && m_frameNumber >= m_framesWanted)) {
-        m_isAcquiring = false;
-        m_isStopping = false;
-    }
 }
 
 Time CStreamChannel::getPacketDue() const
@@ -272,13 +249,9 @@ std::optional<Time> CStreamChannel::getNextDeadline() const
 {
     if (m_hasTestPacket || !m_resends.empty())
         return Time(0);
-    if (m_isStuck || !m_isAcquiring)
-        return {};
     if (m_isSending)
-        return getPacketDue();
-    if (m_settings.isTriggered)
-        return m_isTriggered ? std::optional<Time>(Time(0)) : std::nullopt;
-    return m_nextFrame;
+        return m_isStuck ? std::nullopt : std::optional<Time>(getPacketDue());
+    return m_clock.getNextDeadline();
 }
 
 } // namespace VirtualCamera

@@ -1,61 +1,38 @@
 #pragma once
 
 #include "camerasettings.h"
-#include "cameratime.h"
+#include "frameclock.h"
 #include "gvsp.h"
+#include "imagestream.h"
 #include "packetbatch.h"
-#include "peer.h"
 #include "picture.h"
-#include "statistics.h"
 
 #include <deque>
-#include <memory>
 #include <optional>
 
 namespace VirtualCamera {
 
-/// How and where to a camera streams. All of it may change at any time; a frame that has begun
-/// keeps its receiver and the size of its packets.
-struct CStreamSettings
-{
-    CPeer receiver; ///< port 0: nobody; frames are taken and not sent
-    int packetSize = 0; ///< in bytes with all headers
-    bool mayBeFragmented = true;
-    Time packetDelay{0}; ///< from one packet to the next; 0: as the frame's period allows
-    Time framePeriod{0};
-    bool isTriggered = false; ///< frames are taken when trigger() asks for them
-};
-
 /// Takes frames and makes packets of them: which ones, and when. It has neither socket nor clock.
 ///
 /// Packets of the latest frames are made again for who asks.
-class CStreamChannel
+class CStreamChannel : public IImageStream
 {
 public:
     /// The faults are those of @p settings, which has to outlive this object.
     explicit CStreamChannel(const CCameraSettings &settings);
 
-    void configure(const CStreamSettings &settings);
-
-    /// What frames show that have not begun yet. Null must not be streamed.
-    void setPicture(std::shared_ptr<const CPicture> picture);
-
-    /// Begins with block 1, and ends by itself after @p frameCount frames; 0: never.
-    void start(quint32 frameCount, Time now);
-    /// Ends when the frame that has begun is complete.
-    void stop();
-    /// Ends at once and forgets all frames.
-    void abort();
-    /// One frame, unless one is being sent.
-    void trigger();
+    // IImageStream; a frame is a block, of which 0 is none.
+    void configure(const CStreamSettings &settings) override;
+    void setPicture(std::shared_ptr<const CPicture> picture) override;
+    void start(quint32 frameCount, Time now) override;
+    void stop() override;
+    void abort() override;
+    void trigger() override;
+    [[nodiscard]] bool isAcquiring() const override { return m_clock.isRunning() || m_isSending; }
+    void fireTestPacket() override;
+    [[nodiscard]] const CStreamStatistics &getStatistics() const override { return m_statistics; }
 
     [[nodiscard]] const CPeer &getReceiver() const { return m_settings.receiver; }
-
-    /// True from start() to the last packet.
-    [[nodiscard]] bool isAcquiring() const { return m_isAcquiring; }
-
-    /// Sends a packet of the size of packets, which means nothing.
-    void fireTestPacket();
 
     /// Sends packets @p first to @p last of @p block once more, or says that they are not to be
     /// had.
@@ -66,8 +43,6 @@ public:
 
     /// When take() has something next; in the past: at once.
     [[nodiscard]] std::optional<Time> getNextDeadline() const;
-
-    [[nodiscard]] const CStreamStatistics &getStatistics() const { return m_statistics; }
 
 private:
     struct CFrame
@@ -106,14 +81,9 @@ private:
     std::shared_ptr<const CPicture> m_picture;
     CStreamStatistics m_statistics;
 
-    bool m_isAcquiring = false;
-    bool m_isStopping = false;
+    CFrameClock m_clock;
     bool m_isSending = false; ///< the latest frame
     bool m_isStuck = false; ///< by the fault, until the next start
-    bool m_isTriggered = false;
-    quint32 m_framesWanted = 0;
-    qint64 m_frameNumber = 0;
-    Time m_nextFrame{0};
     Time m_nextPacket{0}; ///< where there is a delay
     std::deque<CFrame> m_frames; ///< the latest ones, the one that is being sent last
 

@@ -2,23 +2,13 @@
 
 #include <QHostAddress>
 #include <QNetworkDatagram>
-#include <QSaveFile>
 
 #include <algorithm>
-#include <cstdio>
 #include <sys/timerfd.h>
 #include <thread>
 #include <unistd.h>
 
 namespace VirtualCamera {
-
-static void printLine(const QByteArray &line)
-{
-    std::fputs(line.constData(), stdout);
-    std::fputc('\n', stdout);
-    // Whoever started the camera waits for single lines.
-    std::fflush(stdout);
-}
 
 static CCameraSettings withStreamPort(CCameraSettings settings, quint16 port)
 {
@@ -30,9 +20,9 @@ CUdpShell::CUdpShell(const CCameraSettings &settings, const QString &flashFile, 
     : QObject(parent)
     , m_address(settings.address)
     , m_answerDelay(settings.answerDelay)
-    , m_flashFile(flashFile)
+    , m_voice(stdout, flashFile)
     , m_packetSender(settings.streamsFrom == 0 ? settings.address : settings.streamsFrom)
-    , m_camera(withStreamPort(settings, m_packetSender.getPort()), *this)
+    , m_camera(withStreamPort(settings, m_packetSender.getPort()), m_voice)
     , m_timer(timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK))
     , m_timerNotifier(m_timer, QSocketNotifier::Read)
 {
@@ -48,20 +38,10 @@ CUdpShell::~CUdpShell()
     close(m_timer);
 }
 
-static QString cannotWrite(const QSaveFile &file)
-{
-    return QStringLiteral("The file %1 cannot be written: %2.")
-        .arg(file.fileName(), file.errorString());
-}
-
 bool CUdpShell::start(QString &error)
 {
-    QSaveFile flash(m_flashFile);
-    if (!m_flashFile.isEmpty() && !flash.open(QIODevice::WriteOnly)) {
-        error = cannotWrite(flash);
+    if (!m_voice.check(error))
         return false;
-    }
-    flash.cancelWriting();
     const QHostAddress address(m_address);
     if (!m_socket.bind(address, Gvcp::PORT, QAbstractSocket::DontShareAddress)) {
         error = QStringLiteral("The address %1 with port %2 cannot be used: %3.")
@@ -74,7 +54,8 @@ bool CUdpShell::start(QString &error)
     // All cameras of a machine listen to the one address.
     m_broadcastSocket.bind(QHostAddress(QHostAddress::Broadcast), Gvcp::PORT,
                            QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
-    printLine("READY " + address.toString().toLatin1() + ':' + QByteArray::number(Gvcp::PORT));
+    m_voice.printLine("READY " + address.toString().toLatin1() + ':'
+                      + QByteArray::number(Gvcp::PORT));
     return true;
 }
 
@@ -125,36 +106,10 @@ Time CUdpShell::getTime() const
     return Time(m_clock.nsecsElapsed());
 }
 
-void CUdpShell::onEvent(const QByteArray &event)
+void CUdpShell::printStatistics()
 {
-    printLine("EVENT " + event);
-}
-
-void CUdpShell::onFileClosed(const QByteArray &content)
-{
-    if (m_flashFile.isEmpty())
-        return;
-    QSaveFile file(m_flashFile);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit())
-        std::fprintf(stderr, "virtualcamera: %s\n", qPrintable(cannotWrite(file)));
-}
-
-void CUdpShell::printStatistics() const
-{
-    const CStatistics &statistics = m_camera.getStatistics();
-    const CStreamStatistics &stream = m_camera.getStreamStatistics();
-    const auto number = [](const char *name, qint64 value) {
-        return QByteArray(" ") + name + '=' + QByteArray::number(value);
-    };
-    printLine(
-        "STATS" + number("discovery", statistics.discoveries)
-        + number("readreg", statistics.registerReads)
-        + number("writereg", statistics.registerWrites) + number("readmem", statistics.memoryReads)
-        + number("writemem", statistics.memoryWrites) + number("repeated", statistics.repeated)
-        + number("lost", statistics.lost) + number("dropped", statistics.dropped)
-        + number("uploaded", m_camera.getUploadedBytes()) + number("frames", stream.frames)
-        + number("packets", stream.packets) + number("lostpackets", stream.lost)
-        + number("resent", stream.resent) + number("unavailable", stream.unavailable));
+    m_voice.printStatistics(m_camera.getStatistics(), m_camera.getStreamStatistics(),
+                            m_camera.getUploadedBytes());
 }
 
 } // namespace VirtualCamera

@@ -1,28 +1,25 @@
 #pragma once
 
 #include "camerasettings.h"
-#include "icameraobserver.h"
+#include "cameravoice.h"
 #include "packetbatch.h"
 #include "packetsender.h"
 #include "virtualcamera.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QObject>
 #include <QSocketNotifier>
 #include <QUdpSocket>
 
 namespace VirtualCamera {
 
-/// Gives a virtual camera its sockets, its clock and a voice: a line on standard output for
-/// everything that happens to it.
-class CUdpShell : public QObject, private ICameraObserver
+/// Gives a virtual camera its sockets, its clock and a voice, which is heard on standard output.
+class CUdpShell : public QObject
 {
     Q_OBJECT
 
 public:
-    /// @p flashFile gets what was uploaded whenever the camera's file is closed; empty: nothing
-    /// does.
+    /// @p flashFile: see CCameraVoice.
     CUdpShell(const CCameraSettings &settings, const QString &flashFile, QObject *parent = nullptr);
     ~CUdpShell() override;
 
@@ -32,12 +29,9 @@ public:
     bool start(QString &error);
 
     /// Prints what the camera has been asked so far.
-    void printStatistics() const;
+    void printStatistics();
 
 private:
-    void onEvent(const QByteArray &event) override;
-    void onFileClosed(const QByteArray &content) override;
-
     void readDatagrams(QUdpSocket &socket);
     void send(const QVector<CDatagram> &datagrams);
     void tick();
@@ -47,7 +41,7 @@ private:
 
     const quint32 m_address;
     const std::chrono::milliseconds m_answerDelay;
-    const QString m_flashFile;
+    CCameraVoice m_voice;
     CPacketSender m_packetSender;
     CPacketBatch m_packets;
     CVirtualCamera m_camera;

@@ -30,7 +30,8 @@ static QByteArray getText(const CPeer &peer)
 CVirtualCamera::CVirtualCamera(const CCameraSettings &settings, ICameraObserver &observer)
     : m_settings(settings)
     , m_observer(observer)
-    , m_memory(settings, observer)
+    , m_stream(m_settings)
+    , m_memory(settings, observer, m_stream)
 {
 }
 
@@ -130,19 +131,19 @@ void CVirtualCamera::resendPackets(const QByteArray &payload, const CPeer &sende
 {
     const std::optional<Gvcp::CResendRequest> request = Gvcp::parseResendRequest(payload);
     // Who receives asks for itself, from another port than the controller's.
-    if (!request || !m_controller || sender.address != m_memory.getStream().getReceiver().address) {
+    if (!request || !m_controller || sender.address != m_stream.getReceiver().address) {
         ++m_statistics.dropped;
         return;
     }
     if (!m_settings.neverResends)
-        m_memory.getStream().resend(request->block, request->firstPacket, request->lastPacket);
+        m_stream.resend(request->block, request->firstPacket, request->lastPacket);
 }
 
 void CVirtualCamera::takePackets(Time now, CPacketBatch &batch)
 {
     batch.clear();
     if (!isAway())
-        m_memory.getStream().take(now, batch);
+        m_stream.take(now, batch);
 }
 
 void CVirtualCamera::remember(const CLastRequest &request)
@@ -398,7 +399,7 @@ std::optional<Time> CVirtualCamera::getNextDeadline() const
     std::optional<Time> next = m_leaves;
     const auto consider
         = [&next](Time deadline) { next = next ? std::min(*next, deadline) : deadline; };
-    if (const std::optional<Time> deadline = m_memory.getStream().getNextDeadline())
+    if (const std::optional<Time> deadline = m_stream.getNextDeadline())
         consider(*deadline);
     if (m_pending)
         consider(m_pending->next);
@@ -414,7 +415,7 @@ const CStatistics &CVirtualCamera::getStatistics() const
 
 const CStreamStatistics &CVirtualCamera::getStreamStatistics() const
 {
-    return m_memory.getStream().getStatistics();
+    return m_stream.getStatistics();
 }
 
 qint64 CVirtualCamera::getUploadedBytes() const

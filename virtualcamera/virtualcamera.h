@@ -5,6 +5,7 @@
 #include "gvcp.h"
 #include "peer.h"
 #include "statistics.h"
+#include "streamchannel.h"
 
 #include <QVector>
 
@@ -102,6 +103,7 @@ private:
 
     const CCameraSettings m_settings;
     ICameraObserver &m_observer;
+    CStreamChannel m_stream;
     CCameraMemory m_memory;
     CStatistics m_statistics;
     qint64 m_receivedCount = 0;

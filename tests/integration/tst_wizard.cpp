@@ -1,6 +1,7 @@
 #include "core/iplugin.h"
 #include "support/camerakinds.h"
 #include "support/fakehost.h"
+#include "support/loopbackonly.h"
 #include "support/processes.h"
 #include "support/virtualcameraprocess.h"
 #include "support/wizardpages.h"
@@ -283,7 +284,8 @@ void CWizardTest::updatesCamerasOnTheWire_data()
 {
     QTest::addColumn<bool>("secondDies");
     QTest::newRow("all well") << false;
-    QTest::newRow("the second one dies") << true;
+    if (!TestSupport::CVirtualCameraProcess::isOnUsb())
+        QTest::newRow("the second one dies") << true;
 }
 
 void CWizardTest::updatesCamerasOnTheWire()
@@ -293,16 +295,20 @@ void CWizardTest::updatesCamerasOnTheWire()
         QSKIP("The viewer was built without the library for real cameras.");
 
     using TestSupport::CVirtualCameraProcess;
+    // An emulated USB has one.
+    const int count = CVirtualCameraProcess::isOnUsb() ? 1 : 3;
+    if (CVirtualCameraProcess::isOnUsb())
+        SKIP_IF_OTHERS_HEAR_IT();
     QStringList poolArguments("--no-simulation");
     std::vector<std::unique_ptr<CVirtualCameraProcess>> cameras;
-    for (int number = 1; number <= 3; ++number) {
+    for (int number = 1; number <= count; ++number) {
         QStringList arguments{"--serial", QString("5000000%1").arg(number), "--flash",
                               m_folder.filePath(QString::number(number))};
         if (secondDies && number == 2)
             arguments << "--die-after"
                       << "40960";
         const QHostAddress address = CVirtualCameraProcess::getOwnAddress(number);
-        poolArguments << "--camera-address" << address.toString();
+        poolArguments += CVirtualCameraProcess::getSearchOptions(address);
         cameras.push_back(std::make_unique<CVirtualCameraProcess>(address, arguments));
     }
     openPool(poolArguments);
@@ -328,12 +334,12 @@ void CWizardTest::updatesCamerasOnTheWire()
         QVERIFY(cameras[2]->getEvents().isEmpty());
         return;
     }
-    QTRY_COMPARE(column(result, 7), QStringList({"0", "0", "0"}));
-    QTRY_COMPARE(getVersions().values(), QList<QString>({"2.0.0", "2.0.0", "2.0.0"}));
+    QTRY_COMPARE(column(result, 7).count("0"), count);
+    QTRY_COMPARE(getVersions().values().count("2.0.0"), count);
     QFile payload(SAMPLE_PAYLOAD);
     QVERIFY(payload.open(QIODevice::ReadOnly));
     const QByteArray image = payload.readAll();
-    for (int number = 1; number <= 3; ++number) {
+    for (int number = 1; number <= count; ++number) {
         QFile flash(m_folder.filePath(QString::number(number)));
         QVERIFY(flash.open(QIODevice::ReadOnly));
         QVERIFY(flash.readAll() == image);

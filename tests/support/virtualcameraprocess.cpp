@@ -11,22 +11,45 @@ QHostAddress CVirtualCameraProcess::getOwnAddress(int number)
     return QHostAddress(0x7f000000 | process << 8 | static_cast<quint32>(number));
 }
 
+bool CVirtualCameraProcess::isOnUsb()
+{
+    return qEnvironmentVariableIsSet("CAMERAS_ON_USB");
+}
+
+QStringList CVirtualCameraProcess::getSearchOptions(const QHostAddress &address)
+{
+    return isOnUsb() ? QStringList{QStringLiteral("--network")}
+                     : QStringList{QStringLiteral("--camera-address"), address.toString()};
+}
+
 CVirtualCameraProcess::CVirtualCameraProcess(const QHostAddress &address,
                                              const QStringList &arguments)
 {
-    m_process.start(QStringLiteral(VIRTUAL_CAMERA),
-                    QStringList({QStringLiteral("--address"), address.toString()}) + arguments);
+    const QStringList place = isOnUsb()
+        ? QStringList{QStringLiteral("usb")}
+        : QStringList{QStringLiteral("--address"), address.toString()};
+    m_process.start(QStringLiteral(VIRTUAL_CAMERA), place + arguments);
     while (!m_output.contains(QLatin1String("READY"))) {
         if (!m_process.waitForReadyRead())
             qFatal("The virtual camera does not start: %s",
                    m_process.readAllStandardError().constData());
         readOutput();
     }
+    // From now on this process and those that it starts see that bus.
+    static const QRegularExpression bus(QStringLiteral("UMOCKDEV_DIR=(\\S+)"));
+    if (const QRegularExpressionMatch match = bus.match(m_output); match.hasMatch())
+        qputenv("UMOCKDEV_DIR", match.captured(1).toUtf8());
 }
 
 CVirtualCameraProcess::~CVirtualCameraProcess()
 {
     end();
+}
+
+void CVirtualCameraProcess::command(const QByteArray &command)
+{
+    m_process.write(command + '\n');
+    m_process.waitForBytesWritten();
 }
 
 void CVirtualCameraProcess::readOutput()

@@ -14,10 +14,19 @@ public:
     /// A loopback address that no other test program uses at the same time; @p number is 1 to 254.
     static QHostAddress getOwnAddress(int number);
 
-    /// Starts the camera at @p address and waits until it is ready. Without a camera the test
-    /// program ends.
+    /// Cameras are on an emulated USB, see tests/emulatedusb.sh.
+    static bool isOnUsb();
+
+    /// What makes a program find the camera at @p address, or the one on USB.
+    static QStringList getSearchOptions(const QHostAddress &address);
+
+    /// Starts the camera at @p address, or on USB, and waits until it is ready. Without a camera
+    /// the test program ends.
     CVirtualCameraProcess(const QHostAddress &address, const QStringList &arguments);
     ~CVirtualCameraProcess();
+
+    /// "unplug" or "plug", to a camera on USB.
+    void command(const QByteArray &command);
 
     /// What has happened to the camera up to now: "open FirmwareImage", "back 2.0.0".
     [[nodiscard]] QStringList getEvents();

@@ -3061,6 +3061,18 @@ frames not shown: %6</source>
         <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
         <translation>このカメラの更新前に、一連の更新が中止されました。このカメラは変更されておらず、バージョンは元のままです</translation>
     </message>
+    <message>
+        <source>its memory could not be read</source>
+        <translation>カメラのメモリを読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>no right to open it: the rule %1 for udev is missing</source>
+        <translation>開く権限がありません: udev のルール %1 がありません</translation>
+    </message>
+    <message>
+        <source>you have no right to open it; install the rule %1 for udev and plug the camera in again</source>
+        <translation>カメラを開く権限がありません。udev のルール %1 をインストールして、カメラを接続し直してください</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

@@ -3061,6 +3061,18 @@ frames not shown: %6</source>
         <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
         <translation>이 카메라를 업데이트하기 전에 일련의 업데이트가 중지되었습니다. 이 카메라는 변경되지 않았으며 버전이 그대로입니다</translation>
     </message>
+    <message>
+        <source>its memory could not be read</source>
+        <translation>카메라 메모리를 읽지 못했습니다</translation>
+    </message>
+    <message>
+        <source>no right to open it: the rule %1 for udev is missing</source>
+        <translation>열 수 있는 권한이 없음: udev 규칙 %1이(가) 없습니다</translation>
+    </message>
+    <message>
+        <source>you have no right to open it; install the rule %1 for udev and plug the camera in again</source>
+        <translation>카메라를 열 수 있는 권한이 없습니다. udev 규칙 %1을(를) 설치하고 카메라를 다시 연결하십시오</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

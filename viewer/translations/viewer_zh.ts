@@ -3061,6 +3061,18 @@ frames not shown: %6</source>
         <source>The series of updates was stopped before this camera; it was not touched and keeps its version</source>
         <translation>在更新此相机之前，批量更新已停止。此相机未被更改，仍保持原来的版本</translation>
     </message>
+    <message>
+        <source>its memory could not be read</source>
+        <translation>无法读取相机的存储器</translation>
+    </message>
+    <message>
+        <source>no right to open it: the rule %1 for udev is missing</source>
+        <translation>没有打开权限：缺少 udev 规则 %1</translation>
+    </message>
+    <message>
+        <source>you have no right to open it; install the rule %1 for udev and plug the camera in again</source>
+        <translation>您没有打开相机的权限，请安装 udev 规则 %1，然后重新连接相机</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Update::CUpdateHistory</name>

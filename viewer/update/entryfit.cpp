@@ -22,7 +22,9 @@ CErrorText findMisfit(const Plugin::CameraPool::ICameraInfo &camera,
         && !entry.deviceVersions.contains(camera.getDeviceVersion()))
         return CErrorText::tr("it is for the device version %1, the camera has %2")
             .arg(join(entry.deviceVersions), shorten(camera.getDeviceVersion()));
-    if (UpdateFile::isBelow(camera.getFirmwareVersion(), entry.minimumVersion))
+    // Where the version is not known yet, the update itself will find out.
+    if (!camera.getFirmwareVersion().isEmpty()
+        && UpdateFile::isBelow(camera.getFirmwareVersion(), entry.minimumVersion))
         return CErrorText::tr("it needs firmware version %1 or newer, the camera has %2")
             .arg(shorten(entry.minimumVersion), shorten(camera.getFirmwareVersion()));
     return {};

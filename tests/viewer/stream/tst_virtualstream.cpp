@@ -1,3 +1,4 @@
+#include "support/loopbackonly.h"
 #include "support/streamtask.h"
 #include "support/virtualcameraprocess.h"
 #include "viewer/image/frameconverter.h"
@@ -31,6 +32,7 @@ private slots:
     void showsNoFrameWithoutItsPixels();
     void startsAgainForAnotherFormat_data();
     void startsAgainForAnotherFormat();
+    void tellsThatTheCameraHasGone_data();
     void tellsThatTheCameraHasGone();
 
 private:
@@ -48,6 +50,8 @@ private:
 
 void CVirtualStreamTest::init()
 {
+    if (CVirtualCameraProcess::isOnUsb())
+        SKIP_IF_OTHERS_HEAR_IT();
     m_stream.reset();
     m_camera.reset();
     m_frameCount = 0;
@@ -64,7 +68,8 @@ void CVirtualStreamTest::open(const QStringList &arguments)
         address, QStringList{"--size", "320x240"} + arguments);
     m_stream = std::make_unique<CCameraStream>(
         WORKER,
-        TestSupport::makeStreamTask({"--no-simulation", "--camera-address", address.toString()}),
+        TestSupport::makeStreamTask(QStringList{"--no-simulation"}
+                                    + CVirtualCameraProcess::getSearchOptions(address)),
         "It");
     connect(m_stream.get(), &CCameraStream::opened, m_stream.get(), &CCameraStream::start);
     connect(m_stream.get(), &CCameraStream::frameReady, this, [this](const CFrame &frame) {
@@ -217,11 +222,22 @@ void CVirtualStreamTest::startsAgainForAnotherFormat()
     QVERIFY(m_end.isEmpty());
 }
 
+void CVirtualStreamTest::tellsThatTheCameraHasGone_data()
+{
+    QTest::addColumn<QStringList>("fault");
+    if (CVirtualCameraProcess::isOnUsb())
+        QTest::newRow("unplugged in a frame") << QStringList{"--unplug-in-frame", "20"};
+    else
+        QTest::newRow("ended") << QStringList();
+}
+
 void CVirtualStreamTest::tellsThatTheCameraHasGone()
 {
-    open({});
+    QFETCH(QStringList, fault);
+    open(fault);
     QTRY_VERIFY(m_frameCount > 0);
-    m_camera->end();
+    if (fault.isEmpty())
+        m_camera->end();
     QTRY_VERIFY_WITH_TIMEOUT(!m_end.isEmpty(), 20000);
     QVERIFY2(m_end.getEnglish().contains("the connection was lost; check its cable"),
              qPrintable(m_end.getEnglish()));

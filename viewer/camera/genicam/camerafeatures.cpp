@@ -2,6 +2,11 @@
 
 #include "viewer/text/visibletext.h"
 
+#include <QtEndian>
+
+#include <algorithm>
+#include <limits>
+
 namespace Viewer::Camera::GenICam {
 
 using Text::CErrorText;
@@ -212,11 +217,40 @@ CFeatures::CRegister CFeatures::findRegister(const QByteArray &name) const
 
 void CFeatures::writeMemory(quint64 address, QByteArray bytes) const
 {
+    // Whole words only; what fills them up lies behind what the camera is told to use.
+    bytes.append((4 - bytes.size() % 4) % 4, '\0');
     CErrorGuard error;
-    arv_device_write_memory(m_device, address, static_cast<guint32>(bytes.size()), bytes.data(),
-                            error.receive());
+    const bool isDone = arv_device_write_memory(
+        m_device, address, static_cast<guint32>(bytes.size()), bytes.data(), error.receive());
+    const CErrorText attempt = CErrorText::tr("its memory could not be written");
     if (error)
-        throwError(error, CErrorText::tr("its memory could not be written"));
+        throwError(error, attempt);
+    // On USB it fails without a word where the command gets too long.
+    if (!isDone)
+        throw CFeatureError(attempt, EReason::Refused);
+}
+
+int CFeatures::getLongestWrite() const
+{
+    // On Ethernet the library makes several commands of what is too long for one.
+    if (!ARV_IS_UV_DEVICE(m_device))
+        return std::numeric_limits<int>::max();
+    // Registers that each USB3 Vision camera has, little-endian.
+    constexpr quint64 TECHNOLOGY_REGISTERS = 0x01D8;
+    constexpr quint64 LONGEST_COMMAND = 0x14;
+    constexpr quint32 HEADER_SIZE = 20; // with the address
+    constexpr quint32 LONGEST_PAYLOAD = 0xffff; // as a header can tell it
+    const auto read = [this](quint64 address, auto number) {
+        CErrorGuard error;
+        arv_device_read_memory(m_device, address, sizeof number, &number, error.receive());
+        if (error)
+            throwError(error, CErrorText::tr("its memory could not be read"), EReason::Unknown);
+        return qFromLittleEndian(number);
+    };
+    const quint64 registers = read(TECHNOLOGY_REGISTERS, quint64(0));
+    const quint32 longest
+        = std::min(read(registers + LONGEST_COMMAND, quint32(0)), LONGEST_PAYLOAD);
+    return static_cast<int>(longest > HEADER_SIZE + 4 ? (longest - HEADER_SIZE) / 4 * 4 : 4);
 }
 
 } // namespace Viewer::Camera::GenICam

@@ -81,8 +81,12 @@ public:
 
     [[nodiscard]] CRegister findRegister(const QByteArray &name) const;
 
-    /// Writes @p bytes, a multiple of 4 of them, at @p address.
+    /// Writes @p bytes at @p address, filled up to whole words. There may be getLongestWrite() of
+    /// them.
     void writeMemory(quint64 address, QByteArray bytes) const;
+
+    /// So many bytes go into one command, a multiple of 4 where that is a limit. Asks the camera.
+    [[nodiscard]] int getLongestWrite() const;
 
 private:
     [[nodiscard]] ArvGcNode *getNode(const QByteArray &name,

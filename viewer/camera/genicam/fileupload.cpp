@@ -104,10 +104,11 @@ void CFileUpload::attempt(Describe describe, Action action)
 void CFileUpload::prepare()
 {
     m_buffer = m_features.findRegister(ACCESS_BUFFER);
-    // Whole words only: the library fills the last block up to one.
+    // Whole words only: the last block is filled up to one.
     m_buffer.length = std::min(m_buffer.length, MAXIMUM_BLOCK_SIZE) / 4 * 4;
     if (m_buffer.length == 0)
         fail(CErrorText::tr("its buffer for files has no room (length 0)"));
+    m_longestWrite = m_features.getLongestWrite();
     m_hasOffset = m_features.has(ACCESS_OFFSET);
     m_features.write(SELECTOR, m_fileName);
     m_features.write(OPEN_MODE, QStringLiteral("Write"));
@@ -125,7 +126,9 @@ void CFileUpload::write(const QByteArray &block)
         m_features.writeInteger(ACCESS_LENGTH, block.size());
         m_length = block.size();
     }
-    m_features.writeMemory(m_buffer.address, block);
+    for (int done = 0; done < block.size(); done += m_longestWrite)
+        m_features.writeMemory(m_buffer.address + static_cast<quint64>(done),
+                               block.mid(done, m_longestWrite));
     execute();
     // The number of bytes says it all; the status is asked for only when they do not fit.
     const qint64 written = m_features.readInteger(OPERATION_RESULT);

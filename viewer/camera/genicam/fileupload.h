@@ -46,6 +46,7 @@ private:
     const QString m_fileName;
     const QDeadlineTimer m_deadline;
     CFeatures::CRegister m_buffer;
+    int m_longestWrite = 0;
     bool m_hasOffset = false;
     qint64 m_offset = 0;
     qint64 m_length = -1; ///< as the camera knows it; negative: it does not yet

@@ -10,6 +10,7 @@ namespace {
 
 const QString TRANSPORT = QStringLiteral("transport");
 const QString IS_AMBIGUOUS = QStringLiteral("isAmbiguous");
+const QString IS_FORBIDDEN = QStringLiteral("isForbidden");
 const QString IS_DESCRIPTION_TRUSTED = QStringLiteral("isDescriptionTrusted");
 
 struct CTextField
@@ -29,7 +30,9 @@ const CTextField TEXT_FIELDS[] = {
 
 QCborMap CFoundCamera::toCbor() const
 {
-    QCborMap map{{TRANSPORT, static_cast<int>(transport)}, {IS_AMBIGUOUS, isAmbiguous}};
+    QCborMap map{{TRANSPORT, static_cast<int>(transport)},
+                 {IS_AMBIGUOUS, isAmbiguous},
+                 {IS_FORBIDDEN, isForbidden}};
     for (const CTextField &field : TEXT_FIELDS)
         map.insert(QString::fromLatin1(field.name), this->*field.member);
     return map;
@@ -52,6 +55,7 @@ std::optional<CFoundCamera> CFoundCamera::fromCbor(const QCborMap &map)
         return std::nullopt;
     camera.transport = isEthernet ? ETransport::Ethernet : ETransport::Usb;
     camera.isAmbiguous = map.value(IS_AMBIGUOUS).toBool(true);
+    camera.isForbidden = map.value(IS_FORBIDDEN).toBool(false);
     camera.isDescriptionTrusted = map.value(IS_DESCRIPTION_TRUSTED).toBool(false);
     return camera;
 }

@@ -17,7 +17,8 @@ enum class ETransport {
 struct CFoundCamera
 {
     ETransport transport = ETransport::Ethernet;
-    QString address; ///< IPv4 address; on USB empty
+    QString
+        address; ///< IPv4 address; on USB bus and device, "001/017", new whenever it is plugged in
     QString hardwareAddress; ///< MAC address; on USB the maker's unique number; empty: unknown
     QString vendor;
     QString model;
@@ -26,6 +27,7 @@ struct CFoundCamera
     QString userName; ///< given by the user; may be empty
     QString id; ///< by CCameraIdentities
     bool isAmbiguous = false; ///< another camera says that it is the same one
+    bool isForbidden = false; ///< this user has no right to open it
     bool isDescriptionTrusted = false; ///< the library gets it unjudged: only tests ask for that
 
     /// For another process, which decides on its own whom it trusts.

@@ -6,6 +6,7 @@
 #include "logging.h"
 #include "networksearch.h"
 #include "unicastdiscovery.h"
+#include "usbsearch.h"
 
 #include "viewer/text/errortext.h"
 
@@ -18,8 +19,11 @@
 namespace Viewer::Camera::GenICam {
 
 using Text::CErrorText;
+
 /// Two cameras say that they are the same one: nobody can tell which one an update would reach.
 static constexpr qint32 AMBIGUOUS_IDENTITY_STATUS = 1001;
+/// The system keeps this user from opening the camera.
+static constexpr qint32 FORBIDDEN_STATUS = 1003;
 
 namespace {
 
@@ -97,6 +101,12 @@ void CGenICam::start()
             Q_EMIT camerasChanged();
     });
     m_searchTimer.start(SEARCH_INTERVAL);
+    connect(&m_usbWatcher, &CUsbWatcher::devicesChanged, this, [this] {
+        m_hasUsbChanged = true;
+        if (m_searchesNetwork)
+            Q_EMIT camerasChanged();
+    });
+    m_usbWatcher.start();
 }
 
 QVector<Text::CLibraryVersion> CGenICam::getLibraries() const
@@ -137,7 +147,7 @@ std::unique_ptr<ICameraDevice> CGenICam::createDevice(const QString &cameraId)
     return std::make_unique<CGenICamDevice>(*camera);
 }
 
-QVector<CFoundCamera> CGenICam::find(bool searches) const
+QVector<CFoundCamera> CGenICam::findOnEthernet(bool searches) const
 {
     QVector<CFoundCamera> found = discoverUnicast(m_options.addresses);
     if (!searches || m_isCanceled)
@@ -148,7 +158,7 @@ QVector<CFoundCamera> CGenICam::find(bool searches) const
         addresses.insert(camera.address);
     const QVector<CFoundCamera> searched = searchNetwork();
     for (const CFoundCamera &camera : searched) {
-        if (camera.transport == ETransport::Usb || !addresses.contains(camera.address))
+        if (!addresses.contains(camera.address))
             found.append(camera);
     }
     return found;
@@ -159,7 +169,15 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
     if (m_isCanceled)
         return {};
     const bool searches = m_searchesNetwork;
-    QVector<CFoundCamera> found = find(searches);
+    // Who has just plugged in a camera need not wait for those on the network, which have been
+    // searched for a moment ago.
+    if (!m_hasUsbChanged.exchange(false) || !searches || m_ethernetDeadline.hasExpired()) {
+        m_onEthernet = findOnEthernet(searches);
+        m_ethernetDeadline.setRemainingTime(searches ? SEARCH_INTERVAL : 0);
+    }
+    QVector<CFoundCamera> found = m_onEthernet;
+    if (searches)
+        found += findUsbCameras();
     {
         const std::lock_guard lock(m_mutex);
         m_identities.assign(found);
@@ -196,6 +214,12 @@ QVector<CTransportLayerSnapshot> CGenICam::enumerate()
             snapshot.statusCode = AMBIGUOUS_IDENTITY_STATUS;
             snapshot.statusReason
                 = CErrorText::tr("same serial number as another camera").getLocalized();
+        } else if (camera.isForbidden) {
+            snapshot.statusCode = FORBIDDEN_STATUS;
+            snapshot.statusReason
+                = CErrorText::tr("no right to open it: the rule %1 for udev is missing")
+                      .arg(getUsbRuleName())
+                      .getLocalized();
         }
         (camera.transport == ETransport::Ethernet ? ethernet : usb).cameras.append(snapshot);
     }

@@ -3,9 +3,11 @@
 #include "cameraidentities.h"
 #include "foundcamera.h"
 #include "searchoptions.h"
+#include "usbwatcher.h"
 
 #include "viewer/camera/icamerakind.h"
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QString>
 #include <QTimer>
@@ -46,12 +48,18 @@ public:
     void cancel() override;
 
 private:
-    [[nodiscard]] QVector<CFoundCamera> find(bool searches) const;
+    [[nodiscard]] QVector<CFoundCamera> findOnEthernet(bool searches) const;
 
     CSearchOptions m_options; ///< as asked for at the start
     std::atomic<bool> m_searchesNetwork;
     QTimer m_searchTimer; ///< cameras come and go without a word
+    CUsbWatcher m_usbWatcher;
+    std::atomic<bool> m_hasUsbChanged{false}; ///< since the last look at it, as far as was told
     std::atomic<bool> m_isCanceled{false};
+
+    // Of the thread that enumerates.
+    QVector<CFoundCamera> m_onEthernet; ///< by the last search
+    QDeadlineTimer m_ethernetDeadline{0}; ///< so long it is as good as a new one
 
     mutable std::mutex m_mutex; ///< guards what follows
     CCameraIdentities m_identities;

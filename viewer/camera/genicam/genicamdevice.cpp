@@ -4,6 +4,7 @@
 #include "logging.h"
 #include "memoryreader.h"
 #include "unicastdiscovery.h"
+#include "usbsearch.h"
 
 #include <QDeadlineTimer>
 #include <QIODevice>
@@ -61,15 +62,30 @@ void CGenICamDevice::open(milliseconds timeLimit)
 
 void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
 {
-    if (m_camera.transport != ETransport::Ethernet)
-        return;
-    const QVector<CFoundCamera> found
-        = discoverUnicast({QHostAddress(m_camera.address)}, timeLimit);
-    if (found.isEmpty())
+    const std::optional<CFoundCamera> found = find(timeLimit);
+    if (!found)
         fail(getNoAnswerText());
-    if (!found.first().isSameAs(m_camera))
+    if (!found->isSameAs(m_camera))
         fail(CErrorText::tr("another camera, %1, answers at its address; search for cameras again")
-                 .arg(found.first().getFullName()));
+                 .arg(found->getFullName()));
+    if (found->isForbidden)
+        fail(CErrorText::tr("you have no right to open it; install the rule %1 for udev and plug "
+                            "the camera in again")
+                 .arg(getUsbRuleName()));
+    if (m_camera.transport == ETransport::Usb && isUsbCameraInUse(found->address))
+        fail(getInUseText(), CCameraError::EChange::InUse);
+}
+
+std::optional<CFoundCamera> CGenICamDevice::find(milliseconds timeLimit) const
+{
+    const QVector<CFoundCamera> found = m_camera.transport == ETransport::Ethernet
+        ? discoverUnicast({QHostAddress(m_camera.address)}, timeLimit)
+        : findUsbCameras();
+    const auto isIt = [this](const CFoundCamera &other) {
+        return m_camera.transport == ETransport::Ethernet || other.isSameAs(m_camera);
+    };
+    const auto camera = std::find_if(found.begin(), found.end(), isIt);
+    return camera == found.end() ? std::nullopt : std::optional(*camera);
 }
 
 // The address on this machine from which @p camera is reached.
@@ -104,11 +120,15 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadl
     } else {
         device = makeUsbDevice(error);
     }
-    if (error)
-        throwError(error, CErrorText::tr("it could not be opened"));
-    if (!device)
-        throw CFeatureError(CErrorText::tr("it could not be opened"),
+    const CErrorText attempt = CErrorText::tr("it could not be opened");
+    // The first that the library says to a camera on USB has come to nothing.
+    if (m_camera.transport == ETransport::Usb && error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR))
+        throw CFeatureError(CErrorText::tr("%1: %2").arg(attempt, getNoAnswerText()),
                             CFeatureError::EReason::NoAnswer);
+    if (error)
+        throwError(error, attempt);
+    if (!device)
+        throw CFeatureError(attempt, CFeatureError::EReason::NoAnswer);
     if (ARV_IS_GV_DEVICE(device.get()) && !arv_gv_device_is_controller(ARV_GV_DEVICE(device.get())))
         throw CFeatureError(getInUseText(), CFeatureError::EReason::InUse);
     return device;
@@ -207,10 +227,8 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
 {
     const QDeadlineTimer deadline(timeLimit);
     translate([this, &deadline] {
-        QString oldVersion;
-        if (!isPresent(oldVersion))
-            oldVersion = m_camera.version;
-        qCDebug(genICamLog).noquote() << getName() << "is reset, version" << oldVersion;
+        const CFoundCamera before = find(DISCOVERY_LIMIT).value_or(m_camera);
+        qCDebug(genICamLog).noquote() << getName() << "is reset, version" << before.version;
         try {
             getFeatures().execute(QByteArrayLiteral("DeviceReset"));
         } catch (const CFeatureError &error) {
@@ -218,7 +236,7 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
             if (error.getReason() != CFeatureError::EReason::NoAnswer)
                 throw;
         }
-        waitForReturn(oldVersion, deadline);
+        waitForReturn(before, deadline);
         // Kept until here: closing it earlier would wait for answers of a camera that is away.
         m_device.reset();
         while (!m_device) {
@@ -234,18 +252,21 @@ void CGenICamDevice::resetAndWait(milliseconds timeLimit)
     });
 }
 
-void CGenICamDevice::waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const
+void CGenICamDevice::waitForReturn(const CFoundCamera &before, const QDeadlineTimer &deadline) const
 {
     // Right after the command the camera is still there: only one that has been away, or is
     // another than before, has returned. One missing answer may just be lost on the way.
     constexpr int SURE_SILENCE = 2;
     int silence = 0;
     while (!deadline.hasExpired()) {
-        QString version;
-        const bool isThere = isPresent(version);
-        if (isThere && (silence >= SURE_SILENCE || version != oldVersion)) {
+        const std::optional<CFoundCamera> found = find(DISCOVERY_LIMIT);
+        const bool isThere = found && found->isSameAs(m_camera);
+        // On USB a device that has been away has another address.
+        if (isThere
+            && (silence >= SURE_SILENCE || found->version != before.version
+                || found->address != before.address)) {
             qCDebug(genICamLog).noquote()
-                << getName() << "is back, version" << version << "unanswered" << silence;
+                << getName() << "is back, version" << found->version << "unanswered" << silence;
             return;
         }
         if (!isThere)
@@ -258,20 +279,6 @@ void CGenICamDevice::waitForReturn(const QString &oldVersion, const QDeadlineTim
                                       "and check its firmware version")
                      : CErrorText::tr("it did not restart; switch it off and on and check its "
                                       "firmware version"));
-}
-
-bool CGenICamDevice::isPresent(QString &version) const
-{
-    if (m_camera.transport == ETransport::Ethernet) {
-        const QVector<CFoundCamera> found = discoverUnicast({QHostAddress(m_camera.address)});
-        if (found.isEmpty() || !found.first().isSameAs(m_camera))
-            return false;
-        version = found.first().version;
-        return true;
-    }
-    CErrorGuard error;
-    const CObjectPointer<ArvDevice> device = makeUsbDevice(error);
-    return device && !error;
 }
 
 qint64 CGenICamDevice::getUploadRate() const

@@ -54,10 +54,11 @@ private:
     void checkIdentity(std::chrono::milliseconds timeLimit) const;
     [[nodiscard]] CObjectPointer<ArvDevice> makeDevice(const QDeadlineTimer &deadline) const;
     [[nodiscard]] CObjectPointer<ArvDevice> makeUsbDevice(CErrorGuard &error) const;
-    void waitForReturn(const QString &oldVersion, const QDeadlineTimer &deadline) const;
+    void waitForReturn(const CFoundCamera &before, const QDeadlineTimer &deadline) const;
 
-    /// Whether the camera answers, and then with which version.
-    [[nodiscard]] bool isPresent(QString &version) const;
+    /// Who answers now where the camera was found: on Ethernet at its address, on USB by its unique
+    /// number. Nothing: nobody does within @p timeLimit.
+    [[nodiscard]] std::optional<CFoundCamera> find(std::chrono::milliseconds timeLimit) const;
     [[nodiscard]] CFeatures getFeatures() const;
     [[nodiscard]] QString readKnownFeature(const CFeatures &features, const QByteArray &name) const;
 

@@ -3,41 +3,10 @@
 #include "glibpointers.h"
 #include "unicastdiscovery.h"
 
-#include "viewer/text/visibletext.h"
-
 #include <csignal>
 #include <thread>
 
 namespace Viewer::Camera::GenICam {
-
-static QString toText(const char *text)
-{
-    return Text::toSingleLine(QString::fromUtf8(text).simplified());
-}
-
-static CFoundCamera readCamera(ArvInterface *interface, unsigned int index, ETransport transport)
-{
-    CFoundCamera camera;
-    camera.transport = transport;
-    if (transport == ETransport::Ethernet)
-        camera.address = toText(arv_interface_get_device_address(interface, index));
-    else // on Ethernet the camera is asked again, and tells more
-        camera.hardwareAddress = toText(arv_interface_get_device_physical_id(interface, index));
-    camera.vendor = toText(arv_interface_get_device_vendor(interface, index));
-    camera.model = toText(arv_interface_get_device_model(interface, index));
-    camera.serialNumber = toText(arv_interface_get_device_serial_nbr(interface, index));
-    return camera;
-}
-
-static QVector<CFoundCamera> search(ArvInterface *interface, ETransport transport)
-{
-    arv_interface_update_device_list(interface);
-    QVector<CFoundCamera> cameras;
-    const unsigned int count = arv_interface_get_n_devices(interface);
-    for (unsigned int i = 0; i < count; ++i)
-        cameras.append(readCamera(interface, i, transport));
-    return cameras;
-}
 
 static QVector<CFoundCamera> searchWithoutSignals()
 {
@@ -48,11 +17,13 @@ static QVector<CFoundCamera> searchWithoutSignals()
     // The library keeps the camera's answer to itself, the version in it too: each camera is asked
     // for it once more, by its address.
     QVector<QHostAddress> addresses;
-    const QVector<CFoundCamera> onEthernet
-        = search(arv_gv_interface_get_instance(), ETransport::Ethernet);
-    for (const CFoundCamera &camera : onEthernet)
-        addresses.append(QHostAddress(camera.address));
-    return discoverUnicast(addresses) + search(arv_uv_interface_get_instance(), ETransport::Usb);
+    ArvInterface *const ethernet = arv_gv_interface_get_instance();
+    arv_interface_update_device_list(ethernet);
+    const unsigned int count = arv_interface_get_n_devices(ethernet);
+    for (unsigned int i = 0; i < count; ++i)
+        addresses.append(
+            QHostAddress(QString::fromUtf8(arv_interface_get_device_address(ethernet, i))));
+    return discoverUnicast(addresses);
 }
 
 QVector<CFoundCamera> searchNetwork()

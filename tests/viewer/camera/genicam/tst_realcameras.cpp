@@ -1,4 +1,5 @@
 #include "support/camerakinds.h"
+#include "support/loopbackonly.h"
 #include "support/virtualcameraprocess.h"
 #include "tests/viewer/update/jobrecorder.h"
 #include "viewer/camera/cameraerror.h"
@@ -27,7 +28,13 @@ using Viewer::CameraPool::CCameraPool;
 using Operation = std::function<void(ICameraDevice &)>;
 Q_DECLARE_METATYPE(Operation)
 
-/// Update jobs against virtual cameras in processes of their own, over the loopback interface.
+static const bool IS_ON_USB = CVirtualCameraProcess::isOnUsb();
+
+static const QString CAMERA
+    = QString("Camera 50000001 (GV-1400M, %1").arg(IS_ON_USB ? "on USB)" : "127.");
+
+/// Update jobs against virtual cameras in processes of their own, over the loopback interface or an
+/// emulated USB.
 class CRealCamerasTest : public QObject
 {
     Q_OBJECT
@@ -41,6 +48,10 @@ private slots:
     void endsEachOperation_data();
     void endsEachOperation();
     void leavesACameraInUseAlone();
+    void listsWhatCannotBeUpdated_data();
+    void listsWhatCannotBeUpdated();
+    void seesPlugsAtOnce();
+    void streamsOnWhenPluggedInAgain();
     void refusesTwoCamerasOfOneIdentity();
     void refusesAnotherCameraAtTheAddress();
     void closesTheFileOfEachUpload();
@@ -75,6 +86,9 @@ private:
 
 void CRealCamerasTest::init()
 {
+    if (IS_ON_USB)
+        SKIP_IF_OTHERS_HEAR_IT();
+    m_others.reset();
     m_pool.reset();
     m_cameras.clear();
     m_addresses.clear();
@@ -98,21 +112,22 @@ QVector<CameraInfoPtr> CRealCamerasTest::openPool()
 {
     QStringList arguments("--no-simulation");
     for (const QHostAddress &address : qAsConst(m_addresses))
-        arguments << "--camera-address" << address.toString();
+        arguments += CVirtualCameraProcess::getSearchOptions(address);
     m_pool = std::make_unique<CCameraPool>(TestSupport::makeCameraKinds(arguments));
     const auto enumeration = getService<ICameraEnumerationService>();
     QSignalSpy spy(enumeration.data(), &ICameraEnumerationService::enumerationChanged);
     m_pool->start();
     spy.wait();
     const auto layers = enumeration->getTransportLayerInfoVector();
-    return layers.isEmpty() ? QVector<CameraInfoPtr>() : layers.first()->getCameraInfoList();
+    return layers.isEmpty() ? QVector<CameraInfoPtr>() : layers.last()->getCameraInfoList();
 }
 
 std::unique_ptr<ICameraDevice> CRealCamerasTest::makeDevice()
 {
-    m_others = std::make_unique<CGenICam>(CSearchOptions{m_addresses});
+    m_others = std::make_unique<CGenICam>(IS_ON_USB ? CSearchOptions{{}, true}
+                                                    : CSearchOptions{m_addresses});
     const auto layers = m_others->enumerate();
-    return m_others->createDevice(layers.value(0).cameras.value(0).id);
+    return m_others->createDevice(layers.last().cameras.value(0).id);
 }
 
 std::unique_ptr<ICameraDevice> CRealCamerasTest::openDevice()
@@ -171,8 +186,10 @@ void CRealCamerasTest::updatesACamera_data()
             + shortReset;
     QTest::newRow("buffer of no whole block, short reset")
         << QStringList{"--buffer", "700"} + shortReset;
-    QTest::newRow("largest buffer, requests lost")
-        << QStringList{"--buffer", "65536", "--lose-every", "300"} + shortReset;
+    const QStringList wire = IS_ON_USB ? QStringList{"--cut-ack", "40", "--mistake-ack", "50"}
+                                       : QStringList{"--lose-every", "300"};
+    QTest::newRow("largest buffer, bad wire")
+        << QStringList{"--buffer", "65536"} + wire + shortReset;
     QTest::newRow("an acknowledge lost") << QStringList{"--lose-ack", "30"} + shortReset;
     // Longer than the library waits for an answer that is not announced.
     QTest::newRow("file opened slowly") << QStringList{"--open-ms", "3000"} + shortReset;
@@ -197,7 +214,7 @@ void CRealCamerasTest::updatesACamera()
     QVERIFY(camera.getEvents().contains("back 2.0.0"));
     const auto enumeration = getService<ICameraEnumerationService>();
     QTRY_COMPARE(enumeration->getTransportLayerInfoVector()
-                     .value(0)
+                     .last()
                      ->getCameraInfoList()
                      .value(0)
                      ->getFirmwareVersion(),
@@ -213,6 +230,14 @@ void CRealCamerasTest::tellsEachFault_data()
     QTest::newRow("dies during the upload")
         << QStringList{"--die-after", "20480"}
         << "writing its file \"FirmwareImage\" failed at byte 16384: .*it did not answer; check";
+    if (IS_ON_USB) {
+        QTest::newRow("unplugged during the upload") << QStringList{"--unplug-after", "20480"}
+                                                     << "writing its file \"FirmwareImage\" failed "
+                                                        "at byte 16384: .*it did not answer; check";
+        QTest::newRow("stalls during the upload") << QStringList{"--stall-after", "20480"}
+                                                  << "writing its file \"FirmwareImage\" failed at "
+                                                     "byte 16384: .*it did not answer; check";
+    }
     QTest::newRow("comes back with the old version")
         << QStringList{"--old-version"}
         << "its feature \"DeviceFirmwareVersion\" is \"1.2.0\" instead of \"2.0.0\"";
@@ -226,7 +251,7 @@ void CRealCamerasTest::tellsEachFault()
     const QVector<CameraInfoPtr> found = openPool();
     QCOMPARE(found.size(), 1);
     const QString text = update(found[0]);
-    QVERIFY2(text.startsWith("Camera 50000001 (GV-1400M, 127."), qPrintable(text));
+    QVERIFY2(text.startsWith(CAMERA), qPrintable(text));
     QVERIFY2(text.contains(QRegularExpression(error)), qPrintable(text));
 }
 
@@ -278,8 +303,9 @@ void CRealCamerasTest::endsEachOperation_data()
         "opening its file \"FirmwareImage\" failed: it took too long", true);
     row("upload out of time", {}, upload(std::chrono::seconds(0)),
         "took too long; it was broken off after 0 of 8208 bytes", true);
-    row("somebody else takes control", {"--lose-control", "4096"}, upload(limit),
-        "\"FirmwareImage\" failed at byte 4096: .*control over it was lost", true);
+    if (!IS_ON_USB)
+        row("somebody else takes control", {"--lose-control", "4096"}, upload(limit),
+            "\"FirmwareImage\" failed at byte 4096: .*control over it was lost", true);
 
     const QString gone = "it did not come back from its reset; switch it off";
     const auto resetRow = [&](const char *name, const QStringList &arguments) {
@@ -291,6 +317,9 @@ void CRealCamerasTest::endsEachOperation_data()
     resetRow("another serial number back", {"--return-serial", "2"});
     resetRow("another model back", {"--return-model", "GV-1"});
 
+    // Nobody judges what a camera on USB gives out.
+    if (IS_ON_USB)
+        return;
     const auto describe = [&](const char *kind, const char *error) {
         row(kind, {"--description", kind}, nothing, error, false);
     };
@@ -319,7 +348,7 @@ void CRealCamerasTest::endsEachOperation()
         QFAIL("no error");
     } catch (const CCameraError &thrown) {
         const QString text = thrown.getMessage();
-        QVERIFY2(text.startsWith("Camera 50000001 (GV-1400M, 127."), qPrintable(text));
+        QVERIFY2(text.startsWith(CAMERA), qPrintable(text));
         QVERIFY2(text.contains(QRegularExpression(error)), qPrintable(text));
         QCOMPARE(thrown.getChange() == CCameraError::EChange::Possible, mayHaveChanged);
     }
@@ -334,6 +363,77 @@ void CRealCamerasTest::leavesACameraInUseAlone()
                 .contains("it is in use by another application; close that application"));
     QVERIFY(!camera.getEvents().contains("open FirmwareImage"));
     QCOMPARE(device->readFeature("DeviceFirmwareVersion", std::chrono::seconds(5)), "1.2.0");
+}
+
+void CRealCamerasTest::listsWhatCannotBeUpdated_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("twins") << "--twin"
+                           << "1001: same serial number as another camera";
+    QTest::newRow("no right") << "--no-access"
+                              << "1003: no right to open it: the rule "
+                                 "70-nuvexviewer-usb3vision.rules for udev is missing";
+}
+
+void CRealCamerasTest::listsWhatCannotBeUpdated()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, reason);
+    if (!IS_ON_USB)
+        QSKIP("It is about USB.");
+    QProcess bus;
+    bus.start(VIRTUAL_CAMERA,
+              {"usb", option, "--", NUVEXUPDATE, "update", SAMPLE_UPDATE, "--all", "--yes",
+               "--network", "--no-simulation", "--language", "en"});
+    QVERIFY(bus.waitForFinished());
+    const QString output = bus.readAllStandardOutput();
+    QVERIFY2(output.contains("not updated: its status is " + reason), qPrintable(output));
+}
+
+void CRealCamerasTest::seesPlugsAtOnce()
+{
+    if (!IS_ON_USB)
+        QSKIP("Ethernet has no plugs that anybody would see.");
+    CVirtualCameraProcess &camera = startCamera({});
+    QCOMPARE(openPool().size(), 1);
+    const auto enumeration = getService<ICameraEnumerationService>();
+    const auto getCameras
+        = [&] { return enumeration->getTransportLayerInfoVector().last()->getCameraInfoList(); };
+    for (int i = 0; i < 3; ++i) {
+        QElapsedTimer time;
+        time.start();
+        camera.command("unplug");
+        QTRY_VERIFY(getCameras().isEmpty());
+        qInfo("gone after %lld ms", time.restart());
+        camera.command("plug");
+        QTRY_COMPARE(getCameras().size(), 1);
+        qInfo("back after %lld ms", time.elapsed());
+    }
+    // Nor does the list change while the camera restarts.
+    QStringList versions;
+    connect(enumeration.data(), &ICameraEnumerationService::enumerationChanged, this, [&] {
+        versions.append(getCameras().isEmpty() ? "gone" : getCameras()[0]->getFirmwareVersion());
+    });
+    QCOMPARE(update(getCameras()[0]), QString());
+    QTRY_COMPARE(versions, QStringList("2.0.0"));
+}
+
+void CRealCamerasTest::streamsOnWhenPluggedInAgain()
+{
+    if (!IS_ON_USB)
+        QSKIP("It is about USB.");
+    CVirtualCameraProcess &camera = startCamera(
+        {"--size", "320x240", "--unplug-in-frame", "20", "--plug-in-after-ms", "1000"});
+    const QVector<CameraInfoPtr> found = openPool();
+    m_pool->setWorker(WORKER, "en");
+    int frames = 0;
+    connect(m_pool.get(), &CCameraPool::frameReady, this, [&frames] { ++frames; });
+    QSignalSpy failed(m_pool.get(), &CCameraPool::streamFailed);
+    QVERIFY(m_pool->startAcquisition(found.value(0)->getId()));
+    QTRY_VERIFY_WITH_TIMEOUT(frames >= 50, 30'000);
+    QVERIFY(camera.getEvents().contains("unplug in frame"));
+    QCOMPARE(failed.size(), 1);
 }
 
 void CRealCamerasTest::refusesTwoCamerasOfOneIdentity()
