@@ -119,7 +119,8 @@ static void compareWriting(const char *format, int bits)
             });
         },
         7);
-    std::printf("  %d bytes and %d bytes\n", ours.size(), theirs.size());
+    std::printf("  %lld bytes and %lld bytes\n", static_cast<long long>(ours.size()),
+                static_cast<long long>(theirs.size()));
 }
 
 int main()

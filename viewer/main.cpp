@@ -132,8 +132,11 @@ int main(int argc, char **argv)
             return *exitCode;
     }
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // What Qt 6 does anyway.
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+#endif
     // Rounded, a desktop set to 150 % would get 200 %, which does not fit on small screens.
     QApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);

@@ -8,6 +8,11 @@ namespace Plugin::FirmwareUpdater::Internal::Model {
 
 using Entity::CFirmwareUpdateEntity;
 
+static uint hashId(const QString &cameraId)
+{
+    return static_cast<uint>(qHash(cameraId));
+}
+
 CCameraIndex::CPlace CCameraIndex::find(CFirmwareUpdateEntity *root,
                                         const QString &transportLayerId, const QString &cameraId)
 {
@@ -20,7 +25,7 @@ CCameraIndex::CPlace CCameraIndex::find(CFirmwareUpdateEntity *root,
         m_treeRevision = CFirmwareUpdateEntity::getTreeRevision();
     }
 
-    const uint idHash = qHash(cameraId);
+    const uint idHash = hashId(cameraId);
     auto entry = std::lower_bound(m_entries.cbegin(), m_entries.cend(), idHash,
                                   [](const CEntry &e, uint hash) { return e.idHash < hash; });
     for (; entry != m_entries.cend() && entry->idHash == idHash; ++entry) {
@@ -50,7 +55,7 @@ void CCameraIndex::collect(CFirmwareUpdateEntity *node, int layer)
     if (node->getChildCount() == 0) {
         if (node->getEntityType() == CFirmwareUpdateEntity::EFirmwareUpdateEntityType::CameraDevice
             && node->getCameraInfo())
-            m_entries.push_back({qHash(node->getCameraInfo()->getId()), layer, node});
+            m_entries.push_back({hashId(node->getCameraInfo()->getId()), layer, node});
         return;
     }
 

@@ -191,7 +191,7 @@ public:
     {
         while (m_position < m_text.size()) {
             const int begin = m_text.indexOf(QLatin1Char('<'), m_position);
-            m_result += m_text.midRef(m_position, begin < 0 ? -1 : begin - m_position);
+            m_result += m_text.mid(m_position, begin < 0 ? -1 : begin - m_position);
             if (begin < 0)
                 break;
             m_position = begin;
@@ -203,10 +203,11 @@ public:
 private:
     void takeMarkup()
     {
-        static const QRegularExpression COMMENT(QStringLiteral("<!--.*?(-->|$)|<[!?][^>]*(>|$)"),
-                                                QRegularExpression::DotMatchesEverythingOption);
+        static const QRegularExpression COMMENT(
+            QStringLiteral("\\G(?:<!--.*?(-->|$)|<[!?][^>]*(>|$))"),
+            QRegularExpression::DotMatchesEverythingOption);
         static const QRegularExpression TAG(
-            QStringLiteral("<(/?)([a-zA-Z][a-zA-Z0-9]*)"
+            QStringLiteral("\\G<(/?)([a-zA-Z][a-zA-Z0-9]*)"
                            "((?:\\s+[a-zA-Z][a-zA-Z0-9_-]*"
                            "(?:\\s*=\\s*(?:\"[^\"<]*\"|'[^'<]*'|[^\\s\"'<>=&]+))?)*+)"
                            "\\s*/?>"));
@@ -228,8 +229,8 @@ private:
 
     [[nodiscard]] QRegularExpressionMatch matchHere(const QRegularExpression &expression) const
     {
-        return expression.match(m_text, m_position, QRegularExpression::NormalMatch,
-                                QRegularExpression::AnchoredMatchOption);
+        // The expressions begin with \G, as Qt 5 and Qt 6 name the option for it differently.
+        return expression.match(m_text, m_position);
     }
 
     void takeTag(const QRegularExpressionMatch &tag)

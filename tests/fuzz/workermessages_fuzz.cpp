@@ -38,8 +38,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const QByteArray bytes = Fuzz::toBytes(data, size);
     QString fault;
-    const QCborMap map
-        = Viewer::Process::isBounded(bytes) ? QCborValue::fromCbor(bytes).toMap() : QCborMap();
+    QByteArray message = bytes;
+    bool isBroken = false;
+    const QCborMap map = Viewer::Process::takeMessage(message, isBroken).value_or(QCborMap());
     if (const auto task = CWorkerTask::fromCbor(map, fault)) {
         const auto again = CWorkerTask::fromCbor(task->toCbor(), fault);
         Fuzz::require(again && write(again->toCbor()) == write(task->toCbor()));
@@ -52,7 +53,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
     }
     const QVector<QByteArray> events = takeEvents(bytes, bytes.size());
     for (const QByteArray &event : events)
-        Fuzz::require(event.isEmpty() || takeEvents(event, event.size()) == QVector{event});
+        Fuzz::require(event.isEmpty()
+                      || takeEvents(event, event.size()) == QVector<QByteArray>{event});
     Fuzz::require(takeEvents(bytes, bytes.size() / 2) == events);
     return 0;
 }

@@ -35,8 +35,8 @@ CImageActions::CImageActions(ImageView::CImageGrid &images, QWidget *window)
                 (view->*zoom)();
         });
     };
-    addZoom(QStringLiteral("fit"), tr("&Fit to window"), Qt::CTRL + Qt::Key_0, &CImageView::fit);
-    addZoom(QStringLiteral("originalSize"), tr("Original si&ze"), Qt::CTRL + Qt::Key_1,
+    addZoom(QStringLiteral("fit"), tr("&Fit to window"), Qt::CTRL | Qt::Key_0, &CImageView::fit);
+    addZoom(QStringLiteral("originalSize"), tr("Original si&ze"), Qt::CTRL | Qt::Key_1,
             &CImageView::showOriginalSize);
     addZoom(QStringLiteral("zoomIn"), tr("Zoom &in"), QKeySequence::ZoomIn, &CImageView::zoomIn);
     addZoom(QStringLiteral("zoomOut"), tr("Zoom &out"), QKeySequence::ZoomOut,
@@ -45,7 +45,7 @@ CImageActions::CImageActions(ImageView::CImageGrid &images, QWidget *window)
     m_saturationAction
         = createAction(QStringLiteral("saturation"), tr("Mark satu&rated pixels"), Qt::Key_F3);
     m_histogramAction
-        = createAction(QStringLiteral("histogram"), tr("&Histogram"), Qt::CTRL + Qt::Key_H);
+        = createAction(QStringLiteral("histogram"), tr("&Histogram"), Qt::CTRL | Qt::Key_H);
     for (QAction *const action : {m_saturationAction, m_histogramAction}) {
         action->setCheckable(true);
         connect(action, &QAction::toggled, this, &CImageActions::updateOptions);
@@ -54,7 +54,7 @@ CImageActions::CImageActions(ImageView::CImageGrid &images, QWidget *window)
     connect(createAction(QStringLiteral("saveImage"), tr("Sa&ve image..."), QKeySequence::Save),
             &QAction::triggered, this, &CImageActions::save);
     connect(createAction(QStringLiteral("copyImage"), tr("Co&py image"),
-                         Qt::CTRL + Qt::SHIFT + Qt::Key_C),
+                         Qt::CTRL | Qt::SHIFT | Qt::Key_C),
             &QAction::triggered, this, &CImageActions::copy);
     m_images.setContextMenu(m_menu);
     connect(&m_images, &ImageView::CImageGrid::pictureReady, this, &CImageActions::askForFile);

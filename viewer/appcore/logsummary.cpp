@@ -64,9 +64,9 @@ void CLogFollower::addMessage(const QString &message)
 
 void CLogFollower::addCamera(const QRegularExpressionMatch &match)
 {
-    const int number = match.capturedRef(2).toInt();
-    const int total = match.capturedRef(3).toInt();
-    const bool begins = match.capturedRef(1).startsWith(QLatin1Char('S'));
+    const int number = match.captured(2).toInt();
+    const int total = match.captured(3).toInt();
+    const bool begins = match.captured(1).startsWith(QLatin1Char('S'));
     if (number < 1 || number > total)
         return;
     if (m_series.isEmpty() || m_series.constLast().total != total

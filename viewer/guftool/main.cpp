@@ -13,8 +13,11 @@ int main(int argc, char *argv[])
     const CLanguage language(CLanguage::getSystem());
 
     QTextStream output(stdout);
-    output.setCodec("UTF-8");
     QTextStream errorOutput(stderr);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    // What Qt 6 writes anyway.
+    output.setCodec("UTF-8");
     errorOutput.setCodec("UTF-8");
+#endif
     return Viewer::GufTool::CGufTool(output, errorOutput).run(QCoreApplication::arguments());
 }

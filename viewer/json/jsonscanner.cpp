@@ -4,9 +4,9 @@
 #include "viewer/text/visibletext.h"
 
 #include <QRegularExpression>
-#include <QTextCodec>
 
 #include <cmath>
+#include <optional>
 
 namespace Viewer::Json {
 
@@ -34,6 +34,16 @@ static bool hasLoneSurrogate(const QString &text)
         ++i;
     }
     return false;
+}
+
+/// Nothing when @p bytes are no UTF-8.
+static std::optional<QString> decodeUtf8(const QByteArray &bytes)
+{
+    // Qt drops a byte order mark at the beginning; one of the text's own is a character like any
+    // other.
+    const QString text = QString::fromUtf8("\xEF\xBB\xBF" + bytes);
+    // Bytes that are no UTF-8 have become replacement characters.
+    return text.toUtf8() == bytes ? std::make_optional(text) : std::nullopt;
 }
 
 CJsonScanner::CJsonScanner(const QByteArray &text)
@@ -198,7 +208,8 @@ void CJsonScanner::failAt(int position, const CErrorText &problem, const QString
 {
     const QByteArray before = m_text.left(position);
     const QString line = QString::fromUtf8(before.mid(before.lastIndexOf('\n') + 1));
-    throw CJsonFault{getLine(position), line.toUcs4().size() + 1, getField(member), problem};
+    const int column = line.toUcs4().size() + 1;
+    throw CJsonFault{getLine(position), column, getField(member), problem};
 }
 
 void CJsonScanner::failExpected(const CErrorText &expected) const
@@ -289,11 +300,10 @@ QString CJsonScanner::readString()
     QByteArray plain; // what stands between two escapes, in UTF-8
     QString text;
     const auto flush = [&plain, &text, start, this] {
-        // A byte order mark within a text is a character like any other.
-        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-        text += QTextCodec::codecForMib(106)->toUnicode(plain.constData(), plain.size(), &state);
-        if (state.invalidChars > 0 || state.remainingChars > 0)
+        const std::optional<QString> decoded = decodeUtf8(plain);
+        if (!decoded)
             failAt(start, CErrorText::tr("the text is not valid UTF-8"));
+        text += *decoded;
         plain.clear();
     };
     while (true) {

@@ -63,7 +63,7 @@ bool CUpdateSeries::mayBegin(int index) const
 {
     if (index >= m_runs.size() || m_isStopped || m_failedCount >= m_limits.maximumFailures)
         return false;
-    const int canaries = std::min(m_limits.canaryCount, m_runs.size());
+    const int canaries = std::min<int>(m_limits.canaryCount, m_runs.size());
     if (index < canaries)
         return m_failedCount == 0;
     return canaries == 0 || m_updatedCount >= canaries;

@@ -36,7 +36,7 @@ QString toSingleLine(const QString &text)
     for (int position = 0; position < text.size();) {
         const int begin = position;
         if (isPrintable(takeCodePoint(text, position)))
-            line += text.midRef(begin, position - begin);
+            line.append(text.constData() + begin, position - begin);
         else
             line += QLatin1Char('?');
     }

@@ -33,14 +33,14 @@ bool canBeginSuffix(QChar character)
 }
 
 /// The run of digits at @p position without its leading zeros; moves @p position behind the run.
-QStringRef takeNumber(const QString &text, int &position)
+QStringView takeNumber(const QString &text, int &position)
 {
     while (position < text.size() && text.at(position) == QLatin1Char('0'))
         ++position;
     const int begin = position;
     while (position < text.size() && isDigit(text.at(position)))
         ++position;
-    return text.midRef(begin, position - begin);
+    return QStringView(text).mid(begin, position - begin);
 }
 
 /// Compares character by character, but runs of digits as numbers of any length.
@@ -52,10 +52,10 @@ int compareNaturally(const QString &left, const QString &right)
         const QChar leftCharacter = left.at(leftPosition);
         const QChar rightCharacter = right.at(rightPosition);
         if (isDigit(leftCharacter) && isDigit(rightCharacter)) {
-            const QStringRef leftNumber = takeNumber(left, leftPosition);
-            const QStringRef rightNumber = takeNumber(right, rightPosition);
+            const QStringView leftNumber = takeNumber(left, leftPosition);
+            const QStringView rightNumber = takeNumber(right, rightPosition);
             if (leftNumber.size() != rightNumber.size())
-                return leftNumber.size() - rightNumber.size();
+                return leftNumber.size() < rightNumber.size() ? -1 : 1;
             if (const int order = leftNumber.compare(rightNumber))
                 return order;
         } else if (leftCharacter != rightCharacter) {

@@ -36,7 +36,8 @@ QSharedPointer<const CUpdateManifest> CUpdateFileCache::read(const QString &path
                                        }),
                         m_results.end());
         m_results.prepend(std::move(result));
-        m_results.resize(std::min(m_results.size(), CAPACITY));
+        if (m_results.size() > CAPACITY)
+            m_results.resize(CAPACITY);
     }
 
     const CResult &result = m_results.constFirst();

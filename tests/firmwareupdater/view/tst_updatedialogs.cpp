@@ -159,8 +159,12 @@ void CUpdateDialogsTest::enterClicksNothingButNext()
     // Held down since Step 3, it does not cancel the updates that it has started.
     m_dialogs->update.enableButtons(true);
     QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+    m_dialogs->update.show();
     QCOMPARE(record(m_dialogs->update,
-                    [&] { QCoreApplication::sendEvent(QApplication::focusWidget(), &repeated); }),
+                    [&] {
+                        QCoreApplication::sendEvent(find(m_dialogs->update, "cameraTreeView"),
+                                                    &repeated);
+                    }),
              "");
     QCOMPARE(press(m_dialogs->update, "cameraTreeView"), "closeClicked()");
 }

@@ -189,8 +189,8 @@ void CSignatureTest::judges_data()
            notCms);
     refuse("without signed attributes",
            maker.sign(MANIFEST, "SHA256", {}, EForm::WithoutAttributes), trust, notCms);
-    refuse("lengths that are not the shortest", QByteArray(good).replace(0, 2, "\x30\x83\x00", 3),
-           trust, notCms);
+    refuse("lengths that are not the shortest",
+           QByteArray(good).replace(0, 2, QByteArray("\x30\x83\x00", 3)), trust, notCms);
     refuse("megabytes", good + QByteArray(Limits::SIGNATURE_SIZE, 'x'), trust,
            QString("it has %1 bytes; at most 1048576 are allowed")
                .arg(good.size() + Limits::SIGNATURE_SIZE));

@@ -31,7 +31,7 @@ constexpr double MAXIMUM_COST = 1e7;
 /// The elements that name a node whose value is needed for that of the node around them, or one
 /// that stands in its category. The others may well lead in circles: limits that depend on each
 /// other, selectors, what a change makes invalid.
-bool isReference(const QStringRef &element)
+bool isReference(const QString &element)
 {
     static const QSet<QString> REFERENCES{
         QStringLiteral("pAddress"),      QStringLiteral("pFeature"),
@@ -40,12 +40,12 @@ bool isReference(const QStringRef &element)
         QStringLiteral("pValueIndexed"), QStringLiteral("pVariable"),
         QStringLiteral("pCommandValue"),
     };
-    return REFERENCES.contains(element.toString());
+    return REFERENCES.contains(element);
 }
 
 /// The elements whose name is that of a node. Entries of enumerations, constants and variables of
 /// formulas have names of their own that may be those of nodes.
-bool isNode(const QStringRef &element)
+bool isNode(const QString &element)
 {
     static const QSet<QString> NODES{
         QStringLiteral("AdvFeatureLock"), QStringLiteral("Boolean"),
@@ -61,7 +61,7 @@ bool isNode(const QStringRef &element)
         QStringLiteral("StructEntry"),    QStringLiteral("StructReg"),
         QStringLiteral("SwissKnife"),     QStringLiteral("TextDesc"),
     };
-    return NODES.contains(element.toString());
+    return NODES.contains(element);
 }
 
 /// The nodes of a description, by number, and which need which.
@@ -184,14 +184,15 @@ private:
             return false;
         if (m_nodes.isEmpty())
             m_isDescription = m_reader.name() == QLatin1String("RegisterDescription");
+        const QString element = m_reader.name().toString();
         const int around = m_nodes.isEmpty() ? NONE : m_nodes.constLast();
-        if (around != NONE && isReference(m_reader.name())) {
+        if (around != NONE && isReference(element)) {
             refer(around, m_reader.attributes().value(QLatin1String("pOffset")).toString());
             refer(around, m_reader.readElementText(QXmlStreamReader::SkipChildElements));
             return true;
         }
         int node = around;
-        if (isNode(m_reader.name())) {
+        if (isNode(element)) {
             node = m_references.getNode(
                 m_reader.attributes().value(QLatin1String("Name")).toString());
             // One that is written down within another one is part of its value.

@@ -5,8 +5,6 @@
 
 #include "viewer/camera/cameraerror.h"
 
-#include <QHash>
-
 namespace Viewer::Camera::Simulation {
 
 using Clock = std::chrono::steady_clock;
@@ -171,9 +169,18 @@ void CSimulatedCameraStream::stop()
     m_thread.join();
 }
 
+/// The same number for @p id everywhere, which Qt's hash is not.
+static quint32 spread(const QString &id)
+{
+    quint32 number = 0;
+    for (const QChar character : id)
+        number = 31 * number + character.unicode();
+    return number;
+}
+
 void CSimulatedCameraStream::makeFrames()
 {
-    const int hue = static_cast<int>(qHash(m_camera->getDescription().camera.id, 0) % 360);
+    const int hue = static_cast<int>(spread(m_camera->getDescription().camera.id) % 360);
     const Clock::time_point begin = Clock::now();
     Clock::time_point next = begin;
     CFrameInfo frame;
