@@ -44,9 +44,10 @@ as_user() {
   chroot --userspec=tester:tester "$root" env -i --chdir=/home/tester PATH=/usr/bin:/bin HOME=/home/tester \
     LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen ${debug:-} "$@"
 }
+# install PACKAGE...: a shell in there sees to the patterns.
 install() {
-  as_root apt-get install --quiet=2 --yes --no-install-recommends -o Dpkg::Use-Pty=0 "$@" > "$root/tmp/apt.log" 2>&1 \
-    || { cat "$root/tmp/apt.log" >&2; fail "these cannot be installed: $*"; }
+  as_root sh -c "apt-get install --quiet=2 --yes --no-install-recommends -o Dpkg::Use-Pty=0 $*" \
+    > "$root/tmp/apt.log" 2>&1 || { cat "$root/tmp/apt.log" >&2; fail "these cannot be installed: $*"; }
 }
 # demonstrate ARGUMENT...: the viewer updates six simulated cameras by its own wizard.
 demonstrate() {
@@ -54,7 +55,7 @@ demonstrate() {
     || { cat "$root/tmp/demo.log" >&2; fail "the demonstration ended with $?"; }
   grep 'cameras have version' "$root/tmp/demo.log"
 }
-# All files but what apt, dpkg and the linker write for themselves, and what belongs to the user.
+# The names of all files but those that apt and dpkg keep for themselves, and those of the user.
 list_files() {
   (cd "$root" && find . -xdev \( -path ./home -o -path ./proc -o -path ./dev -o -path ./tmp -o -path ./run \
     -o -path ./var/cache -o -path ./var/log -o -path ./var/lib/apt -o -path ./var/lib/dpkg \) -prune \
@@ -77,17 +78,18 @@ chmod -R go+rX "$root/tmp"
 list_files > "$root/tmp/before"
 
 section "The tools alone"
-install /tmp/packages/nuvexviewer-tools_*.deb /tmp/packages/nuvexviewer-common_*.deb \
-  /tmp/packages/libnuvexviewerhostapi6.2_*.deb
+install '/tmp/packages/nuvexviewer-tools_*.deb /tmp/packages/nuvexviewer-common_*.deb' \
+  '/tmp/packages/libnuvexviewerhostapi6.2_*.deb'
 as_root dpkg-query --show 'libqt5widgets5*' 2> /dev/null && fail "tools for command lines brought widgets"
 as_user nuvexupdate list
-as_user nuvexupdate update /usr/share/nuvexviewer/samples/vx-1400m_2.0.0.guf --model VX-1400M --speed 100 --yes
+as_user nuvexupdate update /usr/share/nuvexviewer/samples/vx-1400m_2.0.0.guf --model VX-1400M --speed 100 --yes \
+  | tail --lines=1
 as_user guftool verify /usr/share/nuvexviewer/samples/vx-1400m_2.0.0.guf
 as_user guftool --help > /dev/null
 as_user virtualcamera --help > /dev/null
 
 section "The viewer"
-install /tmp/packages/nuvexviewer_*.deb /tmp/packages/nuvexviewer-doc_*.deb fonts-dejavu-core
+install '/tmp/packages/nuvexviewer_*.deb /tmp/packages/nuvexviewer-doc_*.deb'
 demonstrate
 for program in guftool nuvexupdate nuvexviewer virtualcamera; do
   [ -f "$root/usr/share/man/man1/$program.1.gz" ] || fail "$program has no man page"
@@ -100,7 +102,7 @@ for file in applications/nuvexviewer.desktop mime/packages/nuvexviewer.xml doc/n
 done
 
 section "A plug-in"
-install /tmp/packages/libnuvexviewerhostapi-dev_*.deb cmake g++ make
+install '/tmp/packages/libnuvexviewerhostapi-dev_*.deb' cmake g++ make
 as_user cp -r /usr/share/doc/libnuvexviewerhostapi-dev/examples/plugin .
 as_user sh -c 'cmake -S plugin -B plugin-build && cmake --build plugin-build' > "$root/tmp/build.log" 2>&1 \
   || { cat "$root/tmp/build.log" >&2; fail "the example cannot be built"; }
@@ -119,15 +121,14 @@ for package in "$packages"/*nuvexviewer*.deb; do
   rm --recursive "$unpacked"
 done
 chmod -R go+rX "$root/tmp/later"
-as_root sh -c 'apt-get install --quiet=2 --yes --no-install-recommends -o Dpkg::Use-Pty=0 /tmp/later/*.deb' \
-  > "$root/tmp/apt.log" 2>&1 || { cat "$root/tmp/apt.log" >&2; fail "no later version can be installed"; }
+install '/tmp/later/*.deb'
 as_root dpkg-query --show '*nuvexviewer*'
 demonstrate
 
 section "Nothing is left"
 # shellcheck disable=SC2046 # one word for each package
 as_root apt-get purge --quiet=2 --yes -o Dpkg::Use-Pty=0 \
-  $(as_root dpkg-query --show --showformat '${Package}\n' '*nuvexviewer*') cmake g++ make fonts-dejavu-core > /dev/null
+  $(as_root dpkg-query --show --showformat '${Package}\n' '*nuvexviewer*') cmake g++ make > /dev/null
 as_root apt-get autoremove --purge --quiet=2 --yes -o Dpkg::Use-Pty=0 > /dev/null
 list_files > "$root/tmp/after"
 diff "$root/tmp/before" "$root/tmp/after" || fail "purging left these files (>), or took these (<)"
