@@ -3,8 +3,8 @@
 #include "virtualcamera/u3v.h"
 #include "virtualcamera/usbcamera.h"
 
-#include <QVector>
 #include <QtEndian>
+#include <QVector>
 
 using namespace VirtualCamera;
 

@@ -253,6 +253,8 @@ void CRealCamerasTest::tellsEachFault()
     const QString text = update(found[0]);
     QVERIFY2(text.startsWith(CAMERA), qPrintable(text));
     QVERIFY2(text.contains(QRegularExpression(error)), qPrintable(text));
+    if (arguments.contains("--stall-after"))
+        QCOMPARE(update(found[0]), QString());
 }
 
 void CRealCamerasTest::endsEachOperation_data()
