@@ -6,6 +6,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <linux/usbdevice_fs.h>
+#include <memory>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/timerfd.h>
@@ -19,6 +20,34 @@ static constexpr int PORTS = 9;
 static usbdevfs_urb &getUrb(UMockdevIoctlData *data)
 {
     return *reinterpret_cast<usbdevfs_urb *>(data->data);
+}
+
+namespace {
+
+struct CDataDeleter
+{
+    void operator()(UMockdevIoctlData *data) const { g_object_unref(data); }
+};
+
+/// Memory of the client's.
+using CData = std::unique_ptr<UMockdevIoctlData, CDataDeleter>;
+
+} // namespace
+
+/// What the pointer at @p offset in @p data leads to; null: to nothing, or the client has gone.
+static CData resolve(UMockdevIoctlData *data, std::size_t offset, std::size_t size)
+{
+    return CData(umockdev_ioctl_data_resolve(data, offset, size, nullptr));
+}
+
+static std::optional<int> readNumber(UMockdevIoctlData *argument)
+{
+    int number = 0;
+    const CData data = resolve(argument, 0, sizeof number);
+    if (!data)
+        return {};
+    std::memcpy(&number, data->data, sizeof number);
+    return number;
 }
 
 CUsbPort::CUsbPort(UMockdevTestbed *testbed, const CCameraSettings &settings, int number,
@@ -36,8 +65,6 @@ CUsbPort::CUsbPort(UMockdevTestbed *testbed, const CCameraSettings &settings, in
 
 CUsbPort::~CUsbPort()
 {
-    if (!m_path.isEmpty())
-        disappear();
     close(m_timer);
 }
 
@@ -159,6 +186,12 @@ void CUsbPort::plugIn()
     tick();
 }
 
+void CUsbPort::leave()
+{
+    if (!m_path.isEmpty())
+        disappear();
+}
+
 void CUsbPort::printStatistics()
 {
     const std::lock_guard lock(m_mutex);
@@ -168,22 +201,28 @@ void CUsbPort::printStatistics()
 
 void CUsbPort::onConnected(UMockdevIoctlBase *, UMockdevIoctlClient *client, CUsbPort *port)
 {
-    g_signal_connect(client, "notify::connected", G_CALLBACK(onClosed), port);
+    // Nothing else tells of a program that has been killed.
+    g_object_weak_ref(G_OBJECT(client), onVanished, port);
 }
 
-void CUsbPort::onClosed(UMockdevIoctlClient *client, void *, CUsbPort *port)
+void CUsbPort::onVanished(void *self, _GObject *client)
 {
-    const std::lock_guard lock(port->m_mutex);
-    for (auto claim = port->m_claims.begin(); claim != port->m_claims.end();)
-        claim = claim->second == client ? port->m_claims.erase(claim) : std::next(claim);
+    static_cast<CUsbPort *>(self)->forget(client);
+}
+
+void CUsbPort::forget(const void *client)
+{
+    const std::lock_guard lock(m_mutex);
+    for (auto claim = m_claims.begin(); claim != m_claims.end();)
+        claim = claim->second == client ? m_claims.erase(claim) : std::next(claim);
     const auto drop = [client](CUrb &urb) {
         if (urb.client == client)
             g_object_unref(urb.data);
         return urb.client == client;
     };
-    port->m_waiting.remove_if(drop);
-    port->m_done.remove_if(drop);
-    port->setReady();
+    m_waiting.remove_if(drop);
+    m_done.remove_if(drop);
+    setReady();
 }
 
 int CUsbPort::onIoctl(UMockdevIoctlBase *, UMockdevIoctlClient *client, CUsbPort *port)
@@ -205,13 +244,13 @@ int CUsbPort::execute(UMockdevIoctlClient *client, unsigned long request,
         return -ENODEV;
     switch (request) {
     case USBDEVFS_GET_CAPABILITIES: {
-        UMockdevIoctlData *const data
-            = umockdev_ioctl_data_resolve(argument, 0, sizeof(quint32), nullptr);
+        const CData data = resolve(argument, 0, sizeof(quint32));
+        if (!data)
+            return -EFAULT;
         const quint32 capabilities = USBDEVFS_CAP_BULK_SCATTER_GATHER
             | USBDEVFS_CAP_NO_PACKET_SIZE_LIM | USBDEVFS_CAP_REAP_AFTER_DISCONNECT
             | USBDEVFS_CAP_ZERO_PACKET;
         std::memcpy(data->data, &capabilities, sizeof capabilities);
-        g_object_unref(data);
         return 0;
     }
     case USBDEVFS_CONTROL:
@@ -221,7 +260,8 @@ int CUsbPort::execute(UMockdevIoctlClient *client, unsigned long request,
     case USBDEVFS_RELEASEINTERFACE:
         return claim(client, argument, false);
     case USBDEVFS_CLEAR_HALT:
-        m_camera.clearStall();
+        if (readNumber(argument) != UsbEndpoint::IMAGES)
+            m_camera.clearStall();
         return 0;
     case USBDEVFS_GETDRIVER:
     case USBDEVFS_IOCTL:
@@ -241,11 +281,10 @@ int CUsbPort::execute(UMockdevIoctlClient *client, unsigned long request,
 
 int CUsbPort::claim(UMockdevIoctlClient *client, UMockdevIoctlData *argument, bool isClaim)
 {
-    UMockdevIoctlData *const data = umockdev_ioctl_data_resolve(argument, 0, sizeof(int), nullptr);
-    int number = 0;
-    std::memcpy(&number, data->data, sizeof number);
-    g_object_unref(data);
-    const auto owner = m_claims.find(number);
+    const std::optional<int> number = readNumber(argument);
+    if (!number)
+        return -EFAULT;
+    const auto owner = m_claims.find(*number);
     const bool isOwn = owner != m_claims.end() && owner->second == client;
     if (!isClaim) {
         if (!isOwn)
@@ -255,25 +294,24 @@ int CUsbPort::claim(UMockdevIoctlClient *client, UMockdevIoctlData *argument, bo
     }
     if (owner != m_claims.end() && !isOwn)
         return -EBUSY;
-    m_claims[number] = client;
+    m_claims[*number] = client;
     return 0;
 }
 
 int CUsbPort::submit(UMockdevIoctlClient *client, UMockdevIoctlData *argument)
 {
-    UMockdevIoctlData *const data
-        = umockdev_ioctl_data_resolve(argument, 0, sizeof(usbdevfs_urb), nullptr);
-    usbdevfs_urb &urb = getUrb(data);
+    CData data = resolve(argument, 0, sizeof(usbdevfs_urb));
+    if (!data)
+        return -EFAULT;
+    usbdevfs_urb &urb = getUrb(data.get());
     const auto owner = m_claims.find(urb.endpoint == UsbEndpoint::IMAGES ? 1 : 0);
     const bool isOthers = owner != m_claims.end() && owner->second != client;
-    if (urb.type != USBDEVFS_URB_TYPE_CONTROL && isOthers) {
-        g_object_unref(data);
+    if (urb.type != USBDEVFS_URB_TYPE_CONTROL && isOthers)
         return -EBUSY;
-    }
-    if (UMockdevIoctlData *const buffer = umockdev_ioctl_data_resolve(
-            data, offsetof(usbdevfs_urb, buffer), static_cast<gsize>(urb.buffer_length), nullptr))
-        g_object_unref(buffer);
-    m_waiting.push_back({client, data});
+    if (!resolve(data.get(), offsetof(usbdevfs_urb, buffer),
+                 static_cast<std::size_t>(urb.buffer_length)))
+        return -EFAULT;
+    m_waiting.push_back({client, data.release()});
     const auto last = std::prev(m_waiting.end());
     const auto *const bytes = static_cast<const char *>(urb.buffer);
     if (urb.type == USBDEVFS_URB_TYPE_CONTROL) {
@@ -315,18 +353,17 @@ int CUsbPort::answerControl(const quint8 *setup, quint8 *target, int size)
 
 int CUsbPort::control(UMockdevIoctlData *argument)
 {
-    UMockdevIoctlData *const data
-        = umockdev_ioctl_data_resolve(argument, 0, sizeof(usbdevfs_ctrltransfer), nullptr);
+    const CData data = resolve(argument, 0, sizeof(usbdevfs_ctrltransfer));
+    if (!data)
+        return -EFAULT;
     const auto &transfer = *reinterpret_cast<usbdevfs_ctrltransfer *>(data->data);
     // It begins with the setup as it goes over the wire.
     const auto *const setup = reinterpret_cast<const quint8 *>(&transfer);
-    UMockdevIoctlData *const buffer = umockdev_ioctl_data_resolve(
-        data, offsetof(usbdevfs_ctrltransfer, data), transfer.wLength, nullptr);
-    const int size = answerControl(setup, buffer ? buffer->data : nullptr, transfer.wLength);
-    if (buffer)
-        g_object_unref(buffer);
-    g_object_unref(data);
-    return size;
+    const CData buffer
+        = resolve(data.get(), offsetof(usbdevfs_ctrltransfer, data), transfer.wLength);
+    if (!buffer)
+        return -EFAULT;
+    return answerControl(setup, buffer->data, transfer.wLength);
 }
 
 int CUsbPort::discard(UMockdevIoctlClient *client, UMockdevIoctlData *argument)
@@ -347,10 +384,10 @@ int CUsbPort::reap(UMockdevIoctlClient *client, UMockdevIoctlData *argument)
     for (auto urb = m_done.begin(); urb != m_done.end(); ++urb) {
         if (urb->client != client)
             continue;
-        UMockdevIoctlData *const target
-            = umockdev_ioctl_data_resolve(argument, 0, sizeof(void *), nullptr);
-        umockdev_ioctl_data_set_ptr(target, 0, urb->data);
-        g_object_unref(target);
+        const CData target = resolve(argument, 0, sizeof(void *));
+        if (!target)
+            return -EFAULT;
+        umockdev_ioctl_data_set_ptr(target.get(), 0, urb->data);
         g_object_unref(urb->data);
         m_done.erase(urb);
         setReady();

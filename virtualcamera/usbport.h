@@ -10,6 +10,7 @@
 #include <mutex>
 
 // GLib has names that Qt takes for its own.
+struct _GObject;
 struct _UMockdevTestbed;
 struct _UMockdevIoctlBase;
 struct _UMockdevIoctlClient;
@@ -46,6 +47,10 @@ public:
     void unplug();
     void plugIn();
 
+    /// Takes the device from the bus for good. Nothing of @p testbed must be there any more when
+    /// this object goes: clients tell it when they vanish.
+    void leave();
+
     void printStatistics();
 
 private:
@@ -58,7 +63,8 @@ private:
 
     static int onIoctl(_UMockdevIoctlBase *base, _UMockdevIoctlClient *client, CUsbPort *port);
     static void onConnected(_UMockdevIoctlBase *base, _UMockdevIoctlClient *client, CUsbPort *port);
-    static void onClosed(_UMockdevIoctlClient *client, void *specification, CUsbPort *port);
+    static void onVanished(void *self, _GObject *client);
+    void forget(const void *client);
 
     [[nodiscard]] Time getTime() const;
     void appear();

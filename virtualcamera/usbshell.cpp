@@ -32,7 +32,8 @@ CUsbShell::~CUsbShell()
         m_process.terminate();
         m_process.waitForFinished();
     }
-    m_ports.clear();
+    for (const std::unique_ptr<CUsbPort> &port : m_ports)
+        port->leave();
     if (m_testbed)
         g_object_unref(m_testbed);
 }

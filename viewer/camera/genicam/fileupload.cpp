@@ -57,7 +57,12 @@ void CFileUpload::open()
                 prepare();
                 // A camera that has opened the file may still fail to say so.
                 m_mayBeOpen = true;
-                operate(QByteArrayLiteral("Open"));
+                if (!tryToOperate(QByteArrayLiteral("Open"))) {
+                    // A program that has ended in the middle may have left it open: a camera on USB
+                    // does not notice.
+                    tryToOperate(QByteArrayLiteral("Close"));
+                    operate(QByteArrayLiteral("Open"));
+                }
                 m_isOpened = true;
             });
 }
@@ -140,11 +145,17 @@ void CFileUpload::write(const QByteArray &block)
     m_offset += written;
 }
 
-void CFileUpload::operate(const QByteArray &operation)
+bool CFileUpload::tryToOperate(const QByteArray &operation)
 {
     m_features.write(OPERATION_SELECTOR, QString::fromLatin1(operation));
     execute();
-    checkStatus();
+    return m_features.read(OPERATION_STATUS) == QLatin1String("Success");
+}
+
+void CFileUpload::operate(const QByteArray &operation)
+{
+    if (!tryToOperate(operation))
+        checkStatus();
 }
 
 void CFileUpload::execute()

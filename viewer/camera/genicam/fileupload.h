@@ -34,6 +34,8 @@ public:
 private:
     void prepare();
     void write(const QByteArray &block);
+    /// Whether the camera reports success.
+    bool tryToOperate(const QByteArray &operation);
     void operate(const QByteArray &operation);
     void execute();
     void checkStatus() const;

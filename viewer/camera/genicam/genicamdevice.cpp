@@ -72,7 +72,7 @@ void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
         fail(CErrorText::tr("you have no right to open it; install the rule %1 for udev and plug "
                             "the camera in again")
                  .arg(getUsbRuleName()));
-    if (m_camera.transport == ETransport::Usb && isUsbCameraInUse(found->address))
+    if (m_camera.transport == ETransport::Usb && !prepareUsbCamera(found->address))
         fail(getInUseText(), CCameraError::EChange::InUse);
 }
 

@@ -9,6 +9,7 @@ namespace Viewer::Camera::GenICam {
 // Kinds of descriptors.
 static constexpr quint8 STRING = 0x03;
 static constexpr quint8 INTERFACE = 0x04;
+static constexpr quint8 ENDPOINT = 0x05;
 static constexpr quint8 CAMERA = 0x24;
 
 /// The descriptor at the beginning of @p rest, which ends where the next one begins; empty: there
@@ -31,6 +32,7 @@ std::optional<CUsbTexts> findUsbCamera(const QByteArray &descriptors)
 {
     constexpr int CAMERA_SIZE = 20;
     constexpr quint8 INFORMATION = 1;
+    std::optional<CUsbTexts> texts;
     bool isControl = false;
     quint8 interface = 0;
     int offset = 0;
@@ -38,13 +40,17 @@ std::optional<CUsbTexts> findUsbCamera(const QByteArray &descriptors)
          offset += next.size(), next = takeDescriptor(descriptors.mid(offset))) {
         const auto at = [&next](int index) { return static_cast<quint8>(next.at(index)); };
         if (at(1) == INTERFACE) {
+            if (texts)
+                break;
             isControl = isControlInterface(next);
             interface = isControl ? at(2) : quint8(0);
         }
         if (isControl && at(1) == CAMERA && next.size() >= CAMERA_SIZE && at(2) == INFORMATION)
-            return CUsbTexts{interface, at(11), at(12), at(13), at(15), at(17), at(18)};
+            texts = CUsbTexts{interface, {}, at(11), at(12), at(13), at(15), at(17), at(18)};
+        if (texts && at(1) == ENDPOINT && next.size() > 2)
+            texts->endpoints += next.at(2);
     }
-    return {};
+    return texts;
 }
 
 QString readUsbText(const QByteArray &descriptor)

@@ -12,6 +12,7 @@ namespace Viewer::Camera::GenICam {
 struct CUsbTexts
 {
     quint8 interface = 0;
+    QByteArray endpoints; ///< addresses of those of the interface
     quint8 uniqueNumber = 0; ///< given by the maker
     quint8 vendor = 0;
     quint8 model = 0;

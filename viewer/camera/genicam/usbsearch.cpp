@@ -36,16 +36,21 @@ public:
     /// This user has no right to open it.
     [[nodiscard]] bool isForbidden() const { return m_isForbidden; }
 
-    /// Another program has @p number, which is asked for and given back.
-    [[nodiscard]] bool isInterfaceInUse(quint8 number)
+    /// Ends a stall of the endpoints of the camera's control interface; false: another program has
+    /// that.
+    [[nodiscard]] bool clear(const CUsbTexts &texts)
     {
-        unsigned int interface = number;
+        unsigned int interface = texts.interface;
         if (m_descriptor < 0)
-            return false;
+            return true;
         if (::ioctl(m_descriptor, USBDEVFS_CLAIMINTERFACE, &interface) != 0)
-            return errno == EBUSY;
+            return errno != EBUSY;
+        for (const char address : texts.endpoints) {
+            unsigned int endpoint = static_cast<quint8>(address);
+            ::ioctl(m_descriptor, USBDEVFS_CLEAR_HALT, &endpoint);
+        }
         ::ioctl(m_descriptor, USBDEVFS_RELEASEINTERFACE, &interface);
-        return false;
+        return true;
     }
 
     /// One of its texts; empty: there is none, or it does not answer, and is not asked again.
@@ -160,15 +165,15 @@ QVector<CFoundCamera> findUsbCameras()
     return cameras;
 }
 
-bool isUsbCameraInUse(const QString &address)
+bool prepareUsbCamera(const QString &address)
 {
-    bool isInUse = false;
+    bool isFree = true;
     forEachCamera([&](const QString &device, const CUsbTexts &texts) {
         const QByteArray place = readPlace(device);
         if (QString::fromLatin1(place) == address)
-            isInUse = CUsbDevice(getNode(place)).isInterfaceInUse(texts.interface);
+            isFree = CUsbDevice(getNode(place)).clear(texts);
     });
-    return isInUse;
+    return isFree;
 }
 
 } // namespace Viewer::Camera::GenICam

@@ -11,9 +11,10 @@ namespace Viewer::Camera::GenICam {
 /// answer; any thread.
 [[nodiscard]] QVector<CFoundCamera> findUsbCameras();
 
-/// Whether another program uses the camera at @p address, as it was found. Whoever asks must not
-/// use it itself. Any thread.
-[[nodiscard]] bool isUsbCameraInUse(const QString &address);
+/// Clears the control channel of the camera at @p address, as it was found, from what a program
+/// before may have left there. False: another program uses the camera, which has been left alone.
+/// Whoever asks must not use it itself. Any thread.
+[[nodiscard]] bool prepareUsbCamera(const QString &address);
 
 /// The file with the rule by which udev lets users open such cameras, as it is installed.
 [[nodiscard]] inline QString getUsbRuleName()
