@@ -4,7 +4,7 @@
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
 #include "style/focusstyle.h"
-#include "style/icons.h"
+#include "style/iconstyle.h"
 #include "surplusitem.h"
 #include "treeviewheaderview.h"
 #include "view/delegate/cellrendering.h"
@@ -203,15 +203,15 @@ void CUpdateDialogBase::setIcon(QLabel *label, EIcon icon)
 {
     switch (icon) {
     case EIcon::Info:
-        label->setPixmap(Style::getIconPixmap(QStringLiteral("info_icon_24x24_en")));
+        Style::CIconStyle::setIcon(label, QStringLiteral("info_icon_24x24_en"));
         label->setAccessibleName(tr("Information"));
         break;
     case EIcon::Warning:
-        label->setPixmap(Style::getIconPixmap(QStringLiteral("warning_icon_24x24_en")));
+        Style::CIconStyle::setIcon(label, QStringLiteral("warning_icon_24x24_en"));
         label->setAccessibleName(tr("Warning"));
         break;
     case EIcon::Error:
-        label->setPixmap(Style::getIconPixmap(QStringLiteral("error_icon_24x24_en")));
+        Style::CIconStyle::setIcon(label, QStringLiteral("error_icon_24x24_en"));
         label->setAccessibleName(tr("Error"));
         break;
     }
