@@ -259,6 +259,9 @@ void CUpdateDialogBase::showEvent(QShowEvent *event)
     // that of its frame belongs, and wander by a title bar each time that it is shown.
     if (!event->spontaneous() && !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
         windowHandle()->setFramePosition(pos());
+    // The row of buttons of Qt 6 hands the focus to its first button, but comes after it in the
+    // order of Tab: the last buttons would never be reached.
+    m_buttonBox->setFocusProxy(nullptr);
     if (!event->spontaneous())
         focusFirstControl();
 }
