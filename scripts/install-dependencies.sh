@@ -3,6 +3,7 @@
 #
 #   scripts/install-dependencies.sh run       to build and to start the viewer
 #   scripts/install-dependencies.sh test      to build, to test and to check the format as well
+#   scripts/install-dependencies.sh test-qt6  the same with Qt 6
 #   scripts/install-dependencies.sh fuzz      to build and to run the fuzzers
 #   scripts/install-dependencies.sh pictures  to renew the pictures of the README
 #   scripts/install-dependencies.sh package   to build and to try Debian packages
@@ -57,6 +58,15 @@ test_packages=(
   # The address and thread sanitizers' libraries come with the compiler.
 )
 
+qt6_packages=(
+  qt6-base-dev
+  qt6-l10n-tools
+  # The state machine.
+  qt6-scxml-dev
+  qt6-tools-dev
+  qt6-tools-dev-tools
+  qt6-translations-l10n
+)
 fuzz_packages=(
   ccache
   clang
@@ -80,11 +90,12 @@ package_packages=(
 case "${1:-}" in
   run) packages=("${run_packages[@]}") ;;
   test) packages=("${run_packages[@]}" "${test_packages[@]}") ;;
+  test-qt6) packages=("${run_packages[@]}" "${test_packages[@]}" "${qt6_packages[@]}") ;;
   fuzz) packages=("${run_packages[@]}" "${fuzz_packages[@]}") ;;
   pictures) packages=("${run_packages[@]}" "${picture_packages[@]}") ;;
   package) packages=("${run_packages[@]}" "${package_packages[@]}") ;;
   *)
-    echo "usage: $0 run|test|fuzz|pictures|package" >&2
+    echo "usage: $0 run|test|test-qt6|fuzz|pictures|package" >&2
     exit 2
     ;;
 esac

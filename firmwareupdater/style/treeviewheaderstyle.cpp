@@ -14,11 +14,26 @@ static constexpr int TITLE_INDENT = 11;
 
 CTreeViewHeaderStyle::CTreeViewHeaderStyle() = default;
 
+/// The title of @p option as it fits into its section's @p width. Qt 5 has elided it before it asks
+/// a style; Qt 6 leaves that to the styles, and its own ones are not told to (6.4).
+static QString elideTitle(const QStyleOptionHeader &option, int width, const QWidget *widget)
+{
+    const auto *const header = qobject_cast<const QHeaderView *>(widget);
+    return header ? option.fontMetrics.elidedText(option.text, header->textElideMode(), width)
+                  : option.text;
+}
+
 void CTreeViewHeaderStyle::drawControl(ControlElement element, const QStyleOption *option,
                                        QPainter *painter, const QWidget *widget) const
 {
     if (element == CE_HeaderSection) {
         drawSection(*static_cast<const QStyleOptionHeader *>(option), painter);
+        return;
+    }
+    if (element == CE_HeaderLabel) {
+        QStyleOptionHeader elided = *static_cast<const QStyleOptionHeader *>(option);
+        elided.text = elideTitle(elided, elided.rect.width(), widget);
+        QProxyStyle::drawControl(element, &elided, painter, widget);
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
@@ -53,7 +68,9 @@ QRect CTreeViewHeaderStyle::subElementRect(SubElement element, const QStyleOptio
         if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option)) {
             // Behind the title as if the section began at the origin: the option's rectangle is
             // left out on purpose.
-            const int x = header->fontMetrics.horizontalAdvance(header->text) + 5;
+            const int width = subElementRect(SE_HeaderLabel, option, widget).width();
+            const int x
+                = header->fontMetrics.horizontalAdvance(elideTitle(*header, width, widget)) + 5;
             return {x, header->fontMetrics.ascent() - 7, 10, 7};
         }
     }
@@ -109,7 +126,7 @@ void CTreeViewHeaderStyle::drawSortArrow(const QStyleOptionHeader &option, QPain
         = getIconPixmap(QStringLiteral("sort_icon_10x7_en"), getDevicePixelRatio(*painter));
     if (pointsUp)
         arrow = arrow.transformed(QTransform().rotate(180), Qt::FastTransformation);
-    painter->drawPixmap(subElementRect(SE_HeaderArrow, &option, widget).topLeft(), arrow);
+    painter->drawPixmap(option.rect.topLeft(), arrow);
 }
 
 } // namespace Plugin::FirmwareUpdater::Internal::Style

@@ -4,7 +4,7 @@
 #include "model/firmwareupdatetreemodel.h"
 #include "readablepalette.h"
 #include "style/focusstyle.h"
-#include "style/icons.h"
+#include "style/iconstyle.h"
 #include "surplusitem.h"
 #include "treeviewheaderview.h"
 #include "view/delegate/cellrendering.h"
@@ -203,15 +203,15 @@ void CUpdateDialogBase::setIcon(QLabel *label, EIcon icon)
 {
     switch (icon) {
     case EIcon::Info:
-        label->setPixmap(Style::getIconPixmap(QStringLiteral("info_icon_24x24_en")));
+        Style::CIconStyle::setIcon(label, QStringLiteral("info_icon_24x24_en"));
         label->setAccessibleName(tr("Information"));
         break;
     case EIcon::Warning:
-        label->setPixmap(Style::getIconPixmap(QStringLiteral("warning_icon_24x24_en")));
+        Style::CIconStyle::setIcon(label, QStringLiteral("warning_icon_24x24_en"));
         label->setAccessibleName(tr("Warning"));
         break;
     case EIcon::Error:
-        label->setPixmap(Style::getIconPixmap(QStringLiteral("error_icon_24x24_en")));
+        Style::CIconStyle::setIcon(label, QStringLiteral("error_icon_24x24_en"));
         label->setAccessibleName(tr("Error"));
         break;
     }
@@ -259,6 +259,9 @@ void CUpdateDialogBase::showEvent(QShowEvent *event)
     // that of its frame belongs, and wander by a title bar each time that it is shown.
     if (!event->spontaneous() && !(windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)))
         windowHandle()->setFramePosition(pos());
+    // The row of buttons of Qt 6 hands the focus to its first button, but comes after it in the
+    // order of Tab: the last buttons would never be reached.
+    m_buttonBox->setFocusProxy(nullptr);
     if (!event->spontaneous())
         focusFirstControl();
 }

@@ -2,6 +2,7 @@
 
 #include "cellrendering.h"
 #include "style/icons.h"
+#include "style/iconstyle.h"
 #include "view/treerow.h"
 
 #include <QLabel>
@@ -106,7 +107,7 @@ void CAbstractLabelDelegate::showIcon(const CCellContent &content, const QRect &
         return;
     const QPixmap icon = Style::getIconPixmap(content.iconName, ratio);
     const QSize size = icon.size() / icon.devicePixelRatio();
-    m_iconLabel->setPixmap(icon);
+    Style::CIconStyle::setIcon(m_iconLabel, content.iconName);
     m_iconLabel->setGeometry(QRect(QPoint(indent, (cell.height() - size.height()) / 2), size));
 }
 

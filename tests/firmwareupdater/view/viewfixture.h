@@ -109,7 +109,9 @@ inline QRect findInk(const QImage &image, const QRect &place)
 inline QImage loadIcon(const QString &name, qreal ratio)
 {
     const QString path = ":/firmwareupdater/icons/" + name;
-    QImage icon(ratio == 1 ? path : path + "@2x");
+    // In the format of pixmaps: Qt 6 scales others differently.
+    QImage icon = QImage(ratio == 1 ? path : path + "@2x")
+                      .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     icon.setDevicePixelRatio(1);
     if (ratio != 1)
         icon = icon.scaled((QSizeF(icon.size()) * ratio / 2).toSize(), Qt::IgnoreAspectRatio,
