@@ -34,10 +34,28 @@ CPluginSpec CPluginSpec::createFromMetaData(const QString &filePath, const QJson
     if (interfaceId != ownInterfaceId) {
         spec.setError(tr("It was built for the interface \"%1\", but this viewer has \"%2\".")
                           .arg(interfaceId, ownInterfaceId));
+    } else if (const int major = metaData.value(QLatin1String("version")).toInt(QT_VERSION) >> 16;
+               major != QT_VERSION_MAJOR) {
+        spec.setOtherQt(major);
     } else if (!complete) {
         spec.m_state = EPluginState::Failed;
     }
     return spec;
+}
+
+CPluginSpec CPluginSpec::createOfOtherQt(const QString &filePath, int major)
+{
+    CPluginSpec spec = createBroken(filePath, {});
+    spec.setOtherQt(major);
+    return spec;
+}
+
+void CPluginSpec::setOtherQt(int major)
+{
+    setError(
+        tr("It was built with Qt %1, but this viewer needs plug-ins that were built with Qt %2.")
+            .arg(major)
+            .arg(QT_VERSION_MAJOR));
 }
 
 CPluginSpec CPluginSpec::createBroken(const QString &filePath, const QString &error)

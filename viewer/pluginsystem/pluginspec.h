@@ -37,9 +37,12 @@ public:
                                      const QString &compatVersion, const QString &description);
 
     /// Reads what QPluginLoader::metaData() gives for the library @p filePath. The result has
-    /// failed, with an error text, when the interface id is not the viewer's or a key is missing
-    /// or malformed.
+    /// failed, with an error text, when the interface id or the major version of Qt is not the
+    /// viewer's or a key is missing or malformed.
     static CPluginSpec createFromMetaData(const QString &filePath, const QJsonObject &metaData);
+
+    /// A plug-in that was built with the major version @p major of Qt, and this viewer was not.
+    static CPluginSpec createOfOtherQt(const QString &filePath, int major);
 
     /// A library that cannot be read at all, or must not be.
     static CPluginSpec createBroken(const QString &filePath, const QString &error);
@@ -72,6 +75,7 @@ public:
     void setError(const QString &error);
 
 private:
+    void setOtherQt(int major);
     bool readKeys(const QJsonObject &keys);
     bool readDependencies(const QJsonObject &keys);
     bool readVersion(const QJsonObject &object, const QString &key, QVersionNumber &version);

@@ -2014,6 +2014,10 @@ frames not shown: %6</source>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
         <translation>メタデータの「%2」の「%1」がバージョン番号ではありません:「%3」。</translation>
     </message>
+    <message>
+        <source>It was built with Qt %1, but this viewer needs plug-ins that were built with Qt %2.</source>
+        <translation>Qt %1 でビルドされていますが、このビューアーには Qt %2 でビルドされたプラグインが必要です。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Text::CErrorText</name>

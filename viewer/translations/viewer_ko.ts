@@ -2014,6 +2014,10 @@ frames not shown: %6</source>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
         <translation>메타데이터에서 &quot;%2&quot;의 &quot;%1&quot;이(가) 버전 번호가 아닙니다: &quot;%3&quot;.</translation>
     </message>
+    <message>
+        <source>It was built with Qt %1, but this viewer needs plug-ins that were built with Qt %2.</source>
+        <translation>Qt %1(으)로 빌드되었지만, 이 뷰어에는 Qt %2(으)로 빌드된 플러그인이 필요합니다.</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Text::CErrorText</name>

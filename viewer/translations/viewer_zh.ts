@@ -2014,6 +2014,10 @@ frames not shown: %6</source>
         <source>The &quot;%1&quot; of &quot;%2&quot; in its metadata is not a version number: &quot;%3&quot;.</source>
         <translation>其元数据中“%2”的“%1”不是版本号：“%3”。</translation>
     </message>
+    <message>
+        <source>It was built with Qt %1, but this viewer needs plug-ins that were built with Qt %2.</source>
+        <translation>使用 Qt %1 构建，但此查看器需要使用 Qt %2 构建的插件。</translation>
+    </message>
 </context>
 <context>
     <name>Viewer::Text::CErrorText</name>

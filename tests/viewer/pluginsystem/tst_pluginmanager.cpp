@@ -42,6 +42,7 @@ private slots:
     void leadsPluginsThroughTheirLife();
     void namesEachFailure();
     void reportsDamagedAndDoubleLibraries();
+    void refusesPluginsOfAnotherQt();
     void loadsNothingThatOthersCanWrite_data();
     void loadsNothingThatOthersCanWrite();
     void endsOrLeavesOutWhatDependsOnAFailure();
@@ -126,6 +127,42 @@ void CPluginManagerTest::reportsDamagedAndDoubleLibraries()
     QCOMPARE(m_manager->getFailures().filter("copy.so").size(), 1);
     QCOMPARE(m_manager->getFailures().size(), 2);
     QCOMPARE(calls().count("required_good.postInitialize"), 1);
+}
+
+void CPluginManagerTest::refusesPluginsOfAnotherQt()
+{
+    const int other = 11 - QT_VERSION_MAJOR;
+    const auto getName
+        = [](int major) { return QString("libQt%1Core.so.%1").arg(major).toLatin1(); };
+    QFile library(m_root.filePath("good/good.so"));
+    QVERIFY(library.open(QIODevice::ReadOnly));
+    const QByteArray own = library.readAll();
+    // This Qt finds no metadata in the first two; only the first one needs the other Qt.
+    const QByteArray hidden
+        = QByteArray(own).replace("QTMETADATA", "OTHER_DATA").replace("qt-project!", "an other Qt");
+    const QTemporaryDir folder;
+    const auto write = [&folder](const QString &name, const QByteArray &bytes) {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    };
+    QVERIFY(hidden != own);
+    QVERIFY(
+        write("other.so", QByteArray(hidden).replace(getName(QT_VERSION_MAJOR), getName(other))));
+    QVERIFY(write("hidden.so", hidden));
+    QVERIFY(m_manager->start({folder.path()}, "en"));
+    const QString wanted
+        = QString(
+              "It was built with Qt %1, but this viewer needs plug-ins that were built with Qt %2.")
+              .arg(other)
+              .arg(QT_VERSION_MAJOR);
+    QCOMPARE(m_manager->getFailures().size(), 1);
+    QVERIFY(
+        m_manager->getFailures().constFirst().endsWith("other.so) is not available. " + wanted));
+    // Metadata that can be read have the version, too.
+    const QJsonObject keys{{"Name", "x"}, {"Version", "1.0.0"}, {"CompatVersion", "1.0.0"}};
+    const QJsonObject metaData{
+        {"IID", NUVEX_VIEWER_PLUGIN_IID}, {"version", other << 16}, {"MetaData", keys}};
+    QCOMPARE(CPluginSpec::createFromMetaData("/x.so", metaData).getError(), wanted);
 }
 
 void CPluginManagerTest::loadsNothingThatOthersCanWrite_data()
