@@ -60,6 +60,7 @@ private:
     void finish(const CDisplayedFrame &result, int generation);
 
     Image::CFrameConverter m_converter; // used on the thread alone
+    Image::CImageMemory m_memory; // the same
     Image::CDisplayOptions m_options;
     bool m_isHistogramWanted = false;
     QElapsedTimer m_histogramAge;

@@ -2,8 +2,6 @@
 
 #include "histogrampainter.h"
 
-#include "viewer/image/imagescaling.h"
-
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QIcon>
@@ -319,7 +317,7 @@ void CImageView::paintImage(QPainter &painter)
     }
     // The painter takes ten times as long, 25 times a second.
     if (m_scaledImage.size() != size)
-        m_scaledImage = Image::scaleDown(m_image, size);
+        m_scaledImage = m_scaler.scaleDown(m_image, size);
     m_scaledImage.setDevicePixelRatio(ratio);
     const QPointF corner = target.topLeft() * ratio;
     painter.drawImage(QPointF(corner.toPoint()) / ratio, m_scaledImage);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "viewer/image/framevalues.h"
+#include "viewer/image/imagescaler.h"
 
 #include <QImage>
 #include <QPointer>
@@ -86,6 +87,7 @@ private:
     void zoomByStep(double steps, const QPointF &position);
 
     QImage m_image;
+    Image::CImageScaler m_scaler;
     QImage m_scaledImage; // as it is on the screen, while that is smaller; null: not made yet
     Image::CHistogram m_histogram;
     QString m_title;

@@ -1,12 +1,12 @@
-#include "imagescaling.h"
+#include "imagescaler.h"
 
 #include <opencv2/imgproc.hpp>
 
 namespace Viewer::Image {
 
-QImage scaleDown(const QImage &image, const QSize &size)
+QImage CImageScaler::scaleDown(const QImage &image, const QSize &size)
 {
-    QImage scaled(size, QImage::Format_RGB32);
+    QImage scaled = m_memory.makeImage(size.width(), size.height(), QImage::Format_RGB32);
     if (image.isNull() || scaled.isNull())
         return {};
     const bool isGray = image.format() == QImage::Format_Grayscale8;
@@ -15,10 +15,14 @@ QImage scaleDown(const QImage &image, const QSize &size)
                        static_cast<size_t>(image.bytesPerLine()));
     cv::Mat to(scaled.height(), scaled.width(), CV_8UC4, scaled.bits(),
                static_cast<size_t>(scaled.bytesPerLine()));
-    cv::Mat gray;
-    cv::resize(from, isGray ? gray : to, to.size(), 0, 0, cv::INTER_LINEAR);
-    if (isGray)
-        cv::cvtColor(gray, to, cv::COLOR_GRAY2BGRA);
+    if (!isGray) {
+        cv::resize(from, to, to.size(), 0, 0, cv::INTER_LINEAR);
+        return scaled;
+    }
+    m_gray.resize(static_cast<size_t>(size.width()) * static_cast<size_t>(size.height()));
+    cv::Mat gray(scaled.height(), scaled.width(), CV_8UC1, m_gray.data());
+    cv::resize(from, gray, gray.size(), 0, 0, cv::INTER_LINEAR);
+    cv::cvtColor(gray, to, cv::COLOR_GRAY2BGRA);
     return scaled;
 }
 
