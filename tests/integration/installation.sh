@@ -54,9 +54,14 @@ run 1 "Tools has no entry for the wizard" "$root/bin/nuvexviewer" --speed 100 --
 options() {
   grep --only-matching --extended-regexp -e '(^|[^a-z-])--[a-z][a-z-]*' | grep -oP -e '--[a-z-]+' | sort -u
 }
+# What the program $1 prints as its help; a camera on USB has some options of its own.
+help() {
+  "$root/bin/$1" --help
+  [ "$1" != virtualcamera ] || "$root/bin/$1" usb --help
+}
 for program in guftool nuvexupdate nuvexviewer virtualcamera; do
   page=$root/share/man/man1/$program.1
-  diff <("$root/bin/$program" --help | { options; echo --help; } | sort -u) \
+  diff <(help "$program" | { options; echo --help; } | sort -u) \
     <(sed -n '/^\.SH OPTIONS/,/^\.SH EX/p' "$page" | grep '^\.[BI]' | sed 's/\\-/-/g' | options) \
     || fail "$program: --help (<) and man page (>) differ"
   ! has mandoc || mandoc -T lint -W warning "$page" || fail "$page"

@@ -779,8 +779,8 @@ SHA-256 フィンガープリント:
         <translation>再検索(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Open sample folder</source>
-        <translation>サンプルフォルダーを開く(&amp;O)</translation>
+        <source>Open &amp;sample folder</source>
+        <translation>サンプルフォルダーを開く(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>

@@ -779,8 +779,8 @@ SHA-256 指纹：
         <translation>刷新(&amp;F)</translation>
     </message>
     <message>
-        <source>&amp;Open sample folder</source>
-        <translation>打开示例文件夹(&amp;O)</translation>
+        <source>Open &amp;sample folder</source>
+        <translation>打开示例文件夹(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
