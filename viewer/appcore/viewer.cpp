@@ -256,7 +256,7 @@ void CViewer::fillMenus()
     fileMenu->addAction(refreshAction);
     addSwitches();
     if (!m_options.samplesDirectory.isEmpty()) {
-        fileMenu->addAction(tr("Open &sample folder"), this, [this] {
+        fileMenu->addAction(tr("Open samp&le folder"), this, [this] {
             QDesktopServices::openUrl(QUrl::fromLocalFile(m_options.samplesDirectory));
         });
     }

@@ -779,8 +779,8 @@ SHA-256 フィンガープリント:
         <translation>再検索(&amp;F)</translation>
     </message>
     <message>
-        <source>Open &amp;sample folder</source>
-        <translation>サンプルフォルダーを開く(&amp;S)</translation>
+        <source>Open samp&amp;le folder</source>
+        <translation>サンプルフォルダーを開く(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>

@@ -779,8 +779,8 @@ SHA-256 지문:
         <translation>새로 고침(&amp;F)</translation>
     </message>
     <message>
-        <source>Open &amp;sample folder</source>
-        <translation>샘플 폴더 열기(&amp;S)</translation>
+        <source>Open samp&amp;le folder</source>
+        <translation>샘플 폴더 열기(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>

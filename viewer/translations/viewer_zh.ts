@@ -779,8 +779,8 @@ SHA-256 指纹：
         <translation>刷新(&amp;F)</translation>
     </message>
     <message>
-        <source>Open &amp;sample folder</source>
-        <translation>打开示例文件夹(&amp;S)</translation>
+        <source>Open samp&amp;le folder</source>
+        <translation>打开示例文件夹(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
