@@ -27,14 +27,14 @@ constexpr char STREAM_PROTOCOL = 2;
 
 // Texts, by their index.
 enum EText : char {
-    LANGUAGES,
-    VENDOR,
-    MODEL,
-    SERIAL_NUMBER,
-    UNIQUE_NUMBER,
-    VERSION,
-    INFORMATION,
-    USER_NAME,
+    Languages,
+    Vendor,
+    Model,
+    SerialNumber,
+    UniqueNumber,
+    Version,
+    Information,
+    UserName,
 };
 
 template <typename Number>
@@ -73,7 +73,7 @@ QByteArray CUsbDescriptors::getText(int index) const
 {
     if (index < 0 || index >= texts.size())
         return {};
-    if (index == LANGUAGES)
+    if (index == Languages)
         return makeDescriptor(STRING, little(quint16(0x0409)));
     QByteArray utf16;
     for (const QChar letter : QString::fromUtf8(texts.at(index)).left(126))
@@ -100,13 +100,13 @@ CUsbDescriptors makeUsbDescriptors(const QByteArray &vendor, const QByteArray &m
         = makeDescriptor(DEVICE,
                          little(quint16(0x0300)) + MISCELLANEOUS + '\x02' + '\x01' + '\x09'
                              + little(quint16(0x1209)) + little(quint16(0x0001))
-                             + little(quint16(0x0100)) + VENDOR + MODEL + SERIAL_NUMBER + '\x01');
-    const char userNameIndex = userName.isEmpty() ? '\0' : char(USER_NAME);
+                             + little(quint16(0x0100)) + Vendor + Model + SerialNumber + '\x01');
+    const char userNameIndex = userName.isEmpty() ? '\0' : char(UserName);
     const QByteArray camera
         = makeDescriptor(CAMERA,
-                         QByteArray(1, '\x01') + little(U3v::GENCP_VERSION) + little(U3v::VERSION)
-                             + UNIQUE_NUMBER + VENDOR + MODEL + MODEL + VERSION + INFORMATION
-                             + SERIAL_NUMBER + userNameIndex + static_cast<char>(U3v::SUPER_SPEED));
+                         QByteArray(1, '\x01') + little(U3v::GENCP_VERSION) + little(U3v::Version)
+                             + UniqueNumber + Vendor + Model + Model + Version + Information
+                             + SerialNumber + userNameIndex + static_cast<char>(U3v::SUPER_SPEED));
     const QByteArray rest
         = makeDescriptor(ASSOCIATION,
                          QByteArray(1, '\0') + '\x02' + MISCELLANEOUS + VISION + '\0' + '\0')

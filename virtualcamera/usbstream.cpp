@@ -79,7 +79,7 @@ void CUsbStream::tick(Time now)
 
 int CUsbStream::copy(const QByteArray &bytes, uchar *target, int size)
 {
-    const int count = std::min(bytes.size(), size);
+    const int count = std::min(int(bytes.size()), size);
     std::memcpy(target, bytes.constData(), static_cast<std::size_t>(count));
     return count;
 }

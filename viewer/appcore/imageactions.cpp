@@ -35,17 +35,18 @@ CImageActions::CImageActions(ImageView::CImageGrid &images, QWidget *window)
                 (view->*zoom)();
         });
     };
-    addZoom(QStringLiteral("fit"), tr("&Fit to window"), Qt::CTRL | Qt::Key_0, &CImageView::fit);
-    addZoom(QStringLiteral("originalSize"), tr("Original si&ze"), Qt::CTRL | Qt::Key_1,
-            &CImageView::showOriginalSize);
+    addZoom(QStringLiteral("fit"), tr("&Fit to window"), QKeySequence(QStringLiteral("Ctrl+0")),
+            &CImageView::fit);
+    addZoom(QStringLiteral("originalSize"), tr("Original si&ze"),
+            QKeySequence(QStringLiteral("Ctrl+1")), &CImageView::showOriginalSize);
     addZoom(QStringLiteral("zoomIn"), tr("Zoom &in"), QKeySequence::ZoomIn, &CImageView::zoomIn);
     addZoom(QStringLiteral("zoomOut"), tr("Zoom &out"), QKeySequence::ZoomOut,
             &CImageView::zoomOut);
     m_menu->addSeparator();
     m_saturationAction
         = createAction(QStringLiteral("saturation"), tr("Mark satu&rated pixels"), Qt::Key_F3);
-    m_histogramAction
-        = createAction(QStringLiteral("histogram"), tr("&Histogram"), Qt::CTRL | Qt::Key_H);
+    m_histogramAction = createAction(QStringLiteral("histogram"), tr("&Histogram"),
+                                     QKeySequence(QStringLiteral("Ctrl+H")));
     for (QAction *const action : {m_saturationAction, m_histogramAction}) {
         action->setCheckable(true);
         connect(action, &QAction::toggled, this, &CImageActions::updateOptions);
