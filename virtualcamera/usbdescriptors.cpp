@@ -104,7 +104,7 @@ CUsbDescriptors makeUsbDescriptors(const QByteArray &vendor, const QByteArray &m
     const char userNameIndex = userName.isEmpty() ? '\0' : char(UserName);
     const QByteArray camera
         = makeDescriptor(CAMERA,
-                         QByteArray(1, '\x01') + little(U3v::GENCP_VERSION) + little(U3v::Version)
+                         QByteArray(1, '\x01') + little(U3v::GENCP_VERSION) + little(U3v::VERSION)
                              + UniqueNumber + Vendor + Model + Model + Version + Information
                              + SerialNumber + userNameIndex + static_cast<char>(U3v::SUPER_SPEED));
     const QByteArray rest
