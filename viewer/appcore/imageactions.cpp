@@ -101,8 +101,9 @@ void CImageActions::save()
 void CImageActions::copy()
 {
     const CImageView *const view = findView();
+    // A copy: the image may be in memory of the camera's, which has little.
     if (view)
-        QGuiApplication::clipboard()->setImage(view->getImage());
+        QGuiApplication::clipboard()->setImage(view->getImage().copy());
     emit message(view ? tr("The image has been copied.") : tr("There is no image to copy."));
 }
 

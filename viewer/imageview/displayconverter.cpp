@@ -1,27 +1,11 @@
 #include "displayconverter.h"
 
-#include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace Viewer::ImageView {
 
 static constexpr int HISTOGRAM_INTERVAL = 250; // milliseconds
 static constexpr int HISTOGRAM_BINS = 256;
-
-/// Null where there is no memory.
-static QImage copy(const QImage &image, Image::CImageMemory &memory)
-{
-    QImage result = memory.makeImage(image.width(), image.height(), image.format());
-    if (result.bytesPerLine() == image.bytesPerLine()) {
-        std::memcpy(result.bits(), image.constBits(), static_cast<size_t>(image.sizeInBytes()));
-        return result;
-    }
-    const auto width = static_cast<size_t>(std::min(result.bytesPerLine(), image.bytesPerLine()));
-    for (int y = 0; y < result.height(); ++y)
-        std::memcpy(result.scanLine(y), image.constScanLine(y), width);
-    return result;
-}
 
 CDisplayConverter::CDisplayConverter(QObject *parent)
     : QObject(parent)
@@ -91,9 +75,7 @@ void CDisplayConverter::begin(const Image::CFrame &frame)
         CDisplayedFrame result;
         result.frame = frame;
         Image::CConvertedFrame converted = m_converter.toDisplay(frame, options);
-        // A picture that is the frame's own memory would keep that from making room.
-        const bool isFrame = converted.image.constBits() == frame.data;
-        result.image = isFrame ? copy(converted.image, m_memory) : std::move(converted.image);
+        result.image = std::move(converted.image);
         result.fault = converted.fault.getLocalized();
         if (withHistogram)
             result.histogram = Image::computeHistogram(frame, HISTOGRAM_BINS);

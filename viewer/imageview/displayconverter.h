@@ -16,7 +16,7 @@ namespace Viewer::ImageView {
 struct CDisplayedFrame
 {
     Image::CFrame frame;
-    QImage image; ///< memory of its own; null where there is a fault
+    QImage image; ///< of Mono8 without marks the frame's memory; null where there is a fault
     QString fault; ///< a clause in the user's language
     std::optional<Image::CHistogram> histogram; ///< not of every frame
 };
@@ -25,7 +25,8 @@ struct CDisplayedFrame
 /// they are made and taken, the newest is next, and the others are counted.
 ///
 /// Each frame that is held keeps memory from the camera: there are two at most, that of getFrame()
-/// included. All calls and signals on the GUI thread.
+/// included, and a third in a picture that is still on the screen. All calls and signals on the GUI
+/// thread.
 class CDisplayConverter : public QObject
 {
     Q_OBJECT
@@ -60,7 +61,6 @@ private:
     void finish(const CDisplayedFrame &result, int generation);
 
     Image::CFrameConverter m_converter; // used on the thread alone
-    Image::CImageMemory m_memory; // the same
     Image::CDisplayOptions m_options;
     bool m_isHistogramWanted = false;
     QElapsedTimer m_histogramAge;

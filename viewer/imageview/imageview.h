@@ -36,7 +36,7 @@ public:
     void setContextMenu(QMenu *menu);
 
     [[nodiscard]] bool hasImage() const;
-    /// What is shown, with eight bits.
+    /// What is shown, with eight bits. It may keep memory from the camera as long as it lives.
     [[nodiscard]] QImage getImage() const;
 
     void fit();

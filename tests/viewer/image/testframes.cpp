@@ -32,7 +32,8 @@ QStringList getFormatNames()
 int getBits(const QString &format)
 {
     const QString depth = format.startsWith("YUV") ? "8" : format;
-    return QRegularExpression("[0-9]+").match(depth).captured().toInt();
+    static const QRegularExpression number("[0-9]+");
+    return number.match(depth).captured().toInt();
 }
 
 QVector<int> getSamples(const QString &format, int x, int y, const Picture &picture)

@@ -196,7 +196,7 @@ void CImageViewTest::newestFrameIsShownAndFewAreHeld()
     QTRY_COMPARE(m_view->getImage().width(), 100);
     for (int i = 1; i <= 20; ++i) {
         send(100 + i);
-        QVERIFY2(held <= 2, qPrintable(QString::number(i)));
+        QVERIFY2(held <= 3, qPrintable(QString::number(i)));
     }
     QTRY_COMPARE(m_view->getImage().width(), 120);
     QTRY_COMPARE(held, 1);
