@@ -65,7 +65,7 @@ void CUsbMemory::clear(quint8 endpoint)
 std::optional<int> CUsbMemory::transfer(quint8 endpoint, QByteArray &bytes,
                                         const QDeadlineTimer &deadline)
 {
-    usbdevfs_urb urb{};
+    auto urb = usbdevfs_urb();
     urb.type = USBDEVFS_URB_TYPE_BULK;
     urb.endpoint = endpoint;
     urb.buffer = bytes.data();
