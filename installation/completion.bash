@@ -1,8 +1,8 @@
 # Completion of nuvexviewer, guftool and virtualcamera for bash: the options that --help has, the commands of
-# guftool, files.
+# guftool, the word that puts a camera on USB, files.
 
 _nuvexviewer() {
-  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} words='' files='*'
+  local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} words='' files='*' bus=
   COMPREPLY=()
   case $previous in
     --language) words="en ko ja zh" files= ;;
@@ -11,12 +11,14 @@ _nuvexviewer() {
       case ${1##*/}:$COMP_CWORD in
         guftool:1) words="pack sign stamp inspect verify" files= ;;
         guftool:*) files='*.guf' ;;
+        virtualcamera:1) words=usb files= ;;
         nuvexviewer:*) files='*.guf' ;;
       esac
       ;;
   esac
   if [[ $current == -* ]]; then
-    words=$(LC_ALL=C "$1" --help 2> /dev/null | grep --only-matching --extended-regexp -e '--[a-z][a-z-]*')
+    [ "${1##*/}:${COMP_WORDS[1]}" != virtualcamera:usb ] || bus=usb
+    words=$(LC_ALL=C "$1" $bus --help 2> /dev/null | grep --only-matching --extended-regexp -e '--[a-z][a-z-]*')
     files=
   fi
   [ -z "$words" ] || mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")

@@ -59,19 +59,22 @@ CCommandLine::EResult CCommandLine::parse(QStringList arguments)
         isUsb ? QStringLiteral(
             "A camera without a lens: speaks the control and the stream protocol of USB3 Vision on "
             "an emulated USB, which programs see that run in the environment that is printed "
-            "behind "
-            "READY, or the one whose command follows behind --.\nPrints EVENT lines, and STATS at "
-            "its end. Without a command, a line \"unplug\" or \"plug\" on standard input pulls "
-            "the plug or puts it in.")
+            "behind READY, or the one whose command follows behind --.\nPrints EVENT lines, and "
+            "STATS at its end. Without a command, a line \"unplug\" or \"plug\" on standard "
+            "input pulls the plug or puts it in.")
               : QStringLiteral(
                   "A camera without a lens: speaks the control and the stream protocol of GigE "
-                  "Vision on "
-                  "a loopback address.\nPrints READY with its address, EVENT lines, and STATS at "
-                  "its end.\n\"virtualcamera usb --help\": the same on an emulated USB."));
+                  "Vision on a loopback address.\nPrints READY with its address, EVENT lines, and "
+                  "STATS at its end.\n\"virtualcamera usb --help\": the same on an emulated USB."));
     reader.add(getOptions());
     reader.add(isUsb ? getUsbOptions() : getEthernetOptions());
     const EResult result = reader.parse(arguments);
     message = reader.getMessage();
+    // The parser knows the name of the program only.
+    const QString options = QStringLiteral(" [options]");
+    if (isUsb && result == EResult::Message)
+        message.replace(message.indexOf(options), options.size(),
+                        QStringLiteral(" usb [options] [-- command]"));
     // What is announced must take some time.
     if (settings.neverOpens && settings.openDuration.count() == 0)
         settings.openDuration = std::chrono::seconds(1);

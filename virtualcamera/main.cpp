@@ -54,7 +54,9 @@ static int runOnUsb(const CCommandLine &commandLine)
     return run(shell, commandLine.maximumSeconds);
 #else
     Q_UNUSED(commandLine)
-    std::fputs("virtualcamera: It was built without umockdev, which emulates USB.\n", stderr);
+    std::fputs("virtualcamera: It was built without umockdev, which emulates USB; install "
+               "libumockdev-dev and build it again.\n",
+               stderr);
     return EXIT_FAILURE;
 #endif
 }

@@ -1,3 +1,5 @@
+#include "support/loopbackonly.h"
+#include "support/virtualcameraprocess.h"
 #include "testmaker.h"
 #include "viewer/update/updatehistory.h"
 #include "viewer/update/updatejournal.h"
@@ -35,6 +37,7 @@ private slots:
     void resumesWhatWasInterrupted();
     void updatesWithoutReadersAndFolders();
     void saysWhichFileHasVanished();
+    void updatesCamerasOnUsb();
     void asksAtATerminal();
     void printsWhatTheSchemaSays();
     void completesEveryOption();
@@ -340,6 +343,59 @@ void CNuvexUpdateTest::saysWhichFileHasVanished()
     QVERIFY2(m_output.contains("FAILED: Camera Line 1 right: ")
                  && m_output.contains("own.guf: the file does not exist"),
              m_output);
+}
+
+void CNuvexUpdateTest::updatesCamerasOnUsb()
+{
+    if (!TestSupport::CVirtualCameraProcess::isOnUsb())
+        QSKIP("It is about USB.");
+    SKIP_IF_OTHERS_HEAR_IT();
+    struct CRun
+    {
+        const char *options;
+        int exitCode;
+        const char *sentence;
+        QString flash{};
+        QProcess bus{};
+    };
+    // A device that has restarted has another address on the bus.
+    CRun runs[]{{"", 0, "updated, 1.2.0 -> 2.0.0, in "},
+                {"--lose-ack 30 --cut-ack 40 --mistake-ack 50", 0, "1 updated"},
+                {"--unplug-after 20480", 1, "\"FirmwareImage\" failed at byte 16384: "},
+                {"--stall-after 20480", 1, "\"FirmwareImage\" failed at byte 16384: "},
+                {"--refuse FirmwareActivate", 1, "\"FirmwareActivate\" could not be executed"},
+                {"--old-version", 1, "is \"1.2.0\" instead of \"2.0.0\"; the update had"},
+                {"--never-return", 1, "it did not come back from its reset; switch it off"},
+                {"--never-open", 1, "it did not answer in time; switch it off and on and"},
+                {"--twin", 5, "status is 1001: same serial number as another camera"},
+                {"--no-access", 5,
+                 "status is 1003: no right to open it: the rule "
+                 "70-nuvexviewer-usb3vision.rules for udev is missing"}};
+    // All at once, since what never comes is awaited for a minute.
+    for (CRun &run : runs) {
+        init();
+        run.flash = m_home.filePath("flash");
+        QStringList arguments = QString(run.options).split(' ', Qt::SkipEmptyParts);
+        arguments << "--flash" << run.flash << "--" << NUVEXUPDATE << "update"
+                  << SAMPLES "/gv-1400m_2.0.0.guf"
+                  << "--all"
+                  << "--yes"
+                  << "--network"
+                  << "--no-simulation";
+        run.bus.setProcessChannelMode(QProcess::MergedChannels);
+        run.bus.start(VIRTUAL_CAMERA, QStringList("usb") + arguments);
+    }
+    QFile payload(SAMPLE_PAYLOAD);
+    QVERIFY(payload.open(QIODevice::ReadOnly));
+    const QByteArray image = payload.readAll();
+    for (CRun &run : runs) {
+        QVERIFY(run.bus.waitForFinished(3 * PROGRAM_TIME));
+        m_output = run.options + ('\n' + run.bus.readAll());
+        QVERIFY2(run.bus.exitCode() == run.exitCode && m_output.contains(run.sentence), m_output);
+        QFile flash(run.flash);
+        QVERIFY2(run.exitCode != 0 || flash.open(QIODevice::ReadOnly), m_output);
+        QVERIFY2(run.exitCode != 0 || flash.readAll() == image, m_output);
+    }
 }
 
 void CNuvexUpdateTest::asksAtATerminal()

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
+#include <QtEndian>
 #include <QVector>
 #include <QXmlStreamReader>
 
@@ -259,6 +260,14 @@ QByteArray unpack(const QByteArray &archive, CErrorText &fault)
     }
 }
 
+CErrorText findSizeFault(quint64 size)
+{
+    if (size == 0)
+        return CErrorText::tr("its feature description is empty");
+    return size > quint64(MAXIMUM_PACKED_DESCRIPTION) ? tooLarge(MAXIMUM_PACKED_DESCRIPTION)
+                                                      : CErrorText();
+}
+
 } // namespace
 
 CDescriptionPlace readDescriptionPlace(const QByteArray &url)
@@ -276,10 +285,27 @@ CDescriptionPlace readDescriptionPlace(const QByteArray &url)
     place.isPacked = match.captured(1).compare(QLatin1String("zip"), Qt::CaseInsensitive) == 0;
     place.address = match.captured(2).toULongLong(nullptr, 16);
     place.size = match.captured(3).toLongLong(nullptr, 16);
-    if (place.size == 0)
-        place.fault = CErrorText::tr("its feature description is empty");
-    else if (place.size > MAXIMUM_PACKED_DESCRIPTION)
-        place.fault = tooLarge(MAXIMUM_PACKED_DESCRIPTION);
+    place.fault = findSizeFault(quint64(place.size));
+    return place;
+}
+
+CDescriptionPlace readManifestEntry(const QByteArray &entry)
+{
+    constexpr quint32 PLAIN = 0;
+    constexpr quint32 PACKED = 1;
+    CDescriptionPlace place;
+    if (entry.size() != MANIFEST_SIZE) {
+        place.fault = CErrorText::tr("its feature description does not lie in the camera");
+        return place;
+    }
+    const quint32 kind = qFromLittleEndian<quint32>(entry.constData() + 4) >> 10 & 0x3F;
+    const auto size = qFromLittleEndian<quint64>(entry.constData() + 16);
+    place.fault = kind == PLAIN || kind == PACKED
+        ? findSizeFault(size)
+        : CErrorText::tr("its feature description could not be read");
+    place.isPacked = kind == PACKED;
+    place.address = qFromLittleEndian<quint64>(entry.constData() + 8);
+    place.size = static_cast<qint64>(size);
     return place;
 }
 

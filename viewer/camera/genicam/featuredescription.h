@@ -24,6 +24,13 @@ struct CDescriptionPlace
 /// address of a file of this computer or of the network is a fault. Any thread.
 [[nodiscard]] CDescriptionPlace readDescriptionPlace(const QByteArray &url);
 
+/// Bytes of an entry of the table in which a USB3 Vision camera says the same.
+inline constexpr int MANIFEST_SIZE = 64;
+
+/// Understands @p entry of that table, of which nothing is left where the table has none. Any
+/// thread.
+[[nodiscard]] CDescriptionPlace readManifestEntry(const QByteArray &entry);
+
 /// Why the library must not be given a description: it trusts it, follows references for ever and
 /// unpacks whatever there is. @p file is what lies in the camera, @p isPacked as the place says.
 /// Empty: it may have it. Any thread.

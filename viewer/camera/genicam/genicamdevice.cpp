@@ -2,8 +2,9 @@
 
 #include "fileupload.h"
 #include "logging.h"
-#include "memoryreader.h"
+#include "networkmemory.h"
 #include "unicastdiscovery.h"
+#include "usbmemory.h"
 #include "usbsearch.h"
 
 #include <QDeadlineTimer>
@@ -72,8 +73,6 @@ void CGenICamDevice::checkIdentity(milliseconds timeLimit) const
         fail(CErrorText::tr("you have no right to open it; install the rule %1 for udev and plug "
                             "the camera in again")
                  .arg(getUsbRuleName()));
-    if (m_camera.transport == ETransport::Usb && !prepareUsbCamera(found->address))
-        fail(getInUseText(), CCameraError::EChange::InUse);
 }
 
 std::optional<CFoundCamera> CGenICamDevice::find(milliseconds timeLimit) const
@@ -106,8 +105,10 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadl
     if (m_camera.transport == ETransport::Ethernet) {
         // By address and without the library's list of devices, which a search locks for a second.
         const QHostAddress address(m_camera.address);
-        if (!m_camera.isDescriptionTrusted)
-            checkFeatureDescription(address, deadline);
+        if (!m_camera.isDescriptionTrusted) {
+            CNetworkMemory memory(address, deadline);
+            checkFeatureDescription(memory);
+        }
         const CObjectPointer<GInetAddress> interfaceAddress = findInterface(address);
         const CObjectPointer<GInetAddress> cameraAddress(
             g_inet_address_new_from_string(m_camera.address.toLatin1().constData()));
@@ -118,13 +119,12 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadl
         device.reset(
             arv_gv_device_new(interfaceAddress.get(), cameraAddress.get(), error.receive()));
     } else {
-        device = makeUsbDevice(error);
+        device = makeUsbDevice(deadline, error);
     }
     const CErrorText attempt = CErrorText::tr("it could not be opened");
     // The first that the library says to a camera on USB has come to nothing.
     if (m_camera.transport == ETransport::Usb && error.is(ARV_DEVICE_ERROR_PROTOCOL_ERROR))
-        throw CFeatureError(CErrorText::tr("%1: %2").arg(attempt, getNoAnswerText()),
-                            CFeatureError::EReason::NoAnswer);
+        CMemoryReader::throwNoAnswer();
     if (error)
         throwError(error, attempt);
     if (!device)
@@ -134,8 +134,19 @@ CObjectPointer<ArvDevice> CGenICamDevice::makeDevice(const QDeadlineTimer &deadl
     return device;
 }
 
-CObjectPointer<ArvDevice> CGenICamDevice::makeUsbDevice(CErrorGuard &error) const
+CObjectPointer<ArvDevice> CGenICamDevice::makeUsbDevice(const QDeadlineTimer &deadline,
+                                                        CErrorGuard &error) const
 {
+    // Wherever it is now: a reset has given it another address.
+    const std::optional<CFoundCamera> found = find(IDENTITY_LIMIT);
+    const auto control = found ? findUsbControl(found->address) : std::nullopt;
+    if (!control)
+        CMemoryReader::throwNoAnswer();
+    {
+        CUsbMemory memory(*control, deadline);
+        if (!m_camera.isDescriptionTrusted)
+            checkFeatureDescription(memory);
+    }
     if (!m_camera.hardwareAddress.isEmpty())
         return CObjectPointer<ArvDevice>(arv_uv_device_new_from_guid(
             m_camera.hardwareAddress.toUtf8().constData(), error.receive()));

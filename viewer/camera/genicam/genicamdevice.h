@@ -53,7 +53,8 @@ private:
     /// Addresses can be given to others between a search and an update.
     void checkIdentity(std::chrono::milliseconds timeLimit) const;
     [[nodiscard]] CObjectPointer<ArvDevice> makeDevice(const QDeadlineTimer &deadline) const;
-    [[nodiscard]] CObjectPointer<ArvDevice> makeUsbDevice(CErrorGuard &error) const;
+    [[nodiscard]] CObjectPointer<ArvDevice> makeUsbDevice(const QDeadlineTimer &deadline,
+                                                          CErrorGuard &error) const;
     void waitForReturn(const CFoundCamera &before, const QDeadlineTimer &deadline) const;
 
     /// Who answers now where the camera was found: on Ethernet at its address, on USB by its unique

@@ -45,7 +45,8 @@ std::optional<CUsbTexts> findUsbCamera(const QByteArray &descriptors)
             isControl = isControlInterface(next);
             interface = isControl ? at(2) : quint8(0);
         }
-        if (isControl && at(1) == CAMERA && next.size() >= CAMERA_SIZE && at(2) == INFORMATION)
+        if (isControl && !texts && at(1) == CAMERA && next.size() >= CAMERA_SIZE
+            && at(2) == INFORMATION)
             texts = CUsbTexts{interface, {}, at(11), at(12), at(13), at(15), at(17), at(18)};
         if (texts && at(1) == ENDPOINT && next.size() > 2)
             texts->endpoints += next.at(2);

@@ -36,23 +36,6 @@ public:
     /// This user has no right to open it.
     [[nodiscard]] bool isForbidden() const { return m_isForbidden; }
 
-    /// Ends a stall of the endpoints of the camera's control interface; false: another program has
-    /// that.
-    [[nodiscard]] bool clear(const CUsbTexts &texts)
-    {
-        unsigned int interface = texts.interface;
-        if (m_descriptor < 0)
-            return true;
-        if (::ioctl(m_descriptor, USBDEVFS_CLAIMINTERFACE, &interface) != 0)
-            return errno != EBUSY;
-        for (const char address : texts.endpoints) {
-            unsigned int endpoint = static_cast<quint8>(address);
-            ::ioctl(m_descriptor, USBDEVFS_CLEAR_HALT, &endpoint);
-        }
-        ::ioctl(m_descriptor, USBDEVFS_RELEASEINTERFACE, &interface);
-        return true;
-    }
-
     /// One of its texts; empty: there is none, or it does not answer, and is not asked again.
     [[nodiscard]] QString readText(quint8 index)
     {
@@ -165,15 +148,21 @@ QVector<CFoundCamera> findUsbCameras()
     return cameras;
 }
 
-bool prepareUsbCamera(const QString &address)
+std::optional<CUsbControl> findUsbControl(const QString &address)
 {
-    bool isFree = true;
+    constexpr quint8 TO_HOST = 0x80;
+    std::optional<CUsbControl> control;
     forEachCamera([&](const QString &device, const CUsbTexts &texts) {
         const QByteArray place = readPlace(device);
-        if (QString::fromLatin1(place) == address)
-            isFree = CUsbDevice(getNode(place)).clear(texts);
+        if (QString::fromLatin1(place) != address)
+            return;
+        control = CUsbControl{getNode(place), texts.interface};
+        for (const char number : texts.endpoints) {
+            const auto endpoint = static_cast<quint8>(number);
+            ((endpoint & TO_HOST) != 0 ? control->answers : control->commands) = endpoint;
+        }
     });
-    return isFree;
+    return control;
 }
 
 } // namespace Viewer::Camera::GenICam

@@ -2,7 +2,10 @@
 
 #include "foundcamera.h"
 
+#include <QByteArray>
 #include <QVector>
+
+#include <optional>
 
 namespace Viewer::Camera::GenICam {
 
@@ -11,10 +14,18 @@ namespace Viewer::Camera::GenICam {
 /// answer; any thread.
 [[nodiscard]] QVector<CFoundCamera> findUsbCameras();
 
-/// Clears the control channel of the camera at @p address, as it was found, from what a program
-/// before may have left there. False: another program uses the camera, which has been left alone.
-/// Whoever asks must not use it itself. Any thread.
-[[nodiscard]] bool prepareUsbCamera(const QString &address);
+/// By what a camera is controlled.
+struct CUsbControl
+{
+    QByteArray node; ///< the file of the device
+    quint8 interface = 0;
+    quint8 commands = 0; ///< endpoints of the interface; 0: it has none
+    quint8 answers = 0;
+};
+
+/// By what the camera at @p address, as it was found, is controlled; nothing: it is not there any
+/// more. Nobody is disturbed; any thread.
+[[nodiscard]] std::optional<CUsbControl> findUsbControl(const QString &address);
 
 /// The file with the rule by which udev lets users open such cameras, as it is installed.
 [[nodiscard]] inline QString getUsbRuleName()
