@@ -400,10 +400,11 @@ void CNuvexUpdateTest::updatesCamerasOnUsb()
 
 void CNuvexUpdateTest::asksAtATerminal()
 {
-    // script(1) makes a terminal; what is written to it is typed.
+    // script(1) makes a terminal; what is written to it is typed. The update lasts longer than the
+    // pause between two looks at its progress.
     QProcess terminal;
     const QString command
-        = QString("%1 update %2 --camera 40012345 --speed 100").arg(NUVEXUPDATE, UPDATE_FILE);
+        = QString("%1 update %2 --camera 40012345 --speed 10").arg(NUVEXUPDATE, UPDATE_FILE);
     for (const auto &[answer, exitCode] : {std::pair("n\n", 6), {"y\n", 0}}) {
         terminal.start("script", {"-qec", "stty cols 60; " + command, "/dev/null"});
         waitFor(terminal, "Update 1 camera? [y/N] ");
