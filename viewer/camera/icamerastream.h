@@ -53,8 +53,11 @@ public:
     /// Stops, and gives control back. Never fails; does nothing on a closed stream.
     virtual void close() noexcept = 0;
 
-    /// Those called @p names that the camera has; no names: all that it has.
-    [[nodiscard]] virtual QVector<CFeatureInfo> readFeatures(const QStringList &names) = 0;
+    /// Those called @p names that the camera has; no names: all that it has. Each one can take a
+    /// while: @p pause is called between them.
+    [[nodiscard]] virtual QVector<CFeatureInfo> readFeatures(const QStringList &names,
+                                                             const std::function<void()> &pause)
+        = 0;
 
     virtual void writeFeature(const QString &name, const QString &value) = 0;
     virtual void executeCommand(const QString &name) = 0;

@@ -61,7 +61,9 @@ bool CCameraImages::serve(const Stream::CStreamTask &task, int input, const QByt
         CStreamEvent opened;
         opened.type = CStreamEvent::EType::Opened;
         send(opened);
-        follow(input, bytes);
+        m_input = input;
+        m_bytes = bytes;
+        follow();
         stop();
         m_stream->close();
         return true;
@@ -93,34 +95,55 @@ void CCameraImages::open(const Stream::CStreamTask &task)
     m_stream->open(OPEN_LIMIT);
 }
 
-void CCameraImages::follow(int input, QByteArray bytes)
+void CCameraImages::follow()
 {
     QElapsedTimer sinceStatistics;
     sinceStatistics.start();
+    takeCommands();
     while (true) {
-        bool isBroken = false;
-        while (const std::optional<QCborMap> message = Process::takeMessage(bytes, isBroken)) {
-            if (const auto command = CStreamCommand::fromCbor(*message))
-                obey(*command);
+        while (!m_commands.empty()) {
+            const CStreamCommand command = m_commands.front();
+            m_commands.pop_front();
+            obey(command);
         }
-        if (isBroken)
+        if (m_isOver)
             return;
         m_stream->check();
         if (m_memory && sinceStatistics.hasExpired(STATISTICS_INTERVAL)) {
             sendStatistics();
             sinceStatistics.restart();
         }
-        pollfd wanted = {input, POLLIN, 0};
-        if (poll(&wanted, 1, LOOK_INTERVAL) <= 0)
-            continue;
-        char block[4096];
-        const ssize_t count = ::read(input, block, sizeof(block));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return;
-        bytes.append(block, static_cast<int>(count));
+        listen(LOOK_INTERVAL);
     }
+}
+
+void CCameraImages::listen(int milliseconds)
+{
+    pollfd wanted = {m_input, POLLIN, 0};
+    if (m_isOver || poll(&wanted, 1, milliseconds) <= 0)
+        return;
+    char block[4096];
+    const ssize_t count = ::read(m_input, block, sizeof(block));
+    if (count < 0 && errno == EINTR)
+        return;
+    m_isOver = count <= 0;
+    m_bytes.append(block, static_cast<int>(std::max<ssize_t>(count, 0)));
+    takeCommands();
+}
+
+/// Slots are released at once, in the middle of whatever is being done: the camera goes on and
+/// needs them.
+void CCameraImages::takeCommands()
+{
+    bool isBroken = false;
+    while (const std::optional<QCborMap> message = Process::takeMessage(m_bytes, isBroken)) {
+        const auto command = CStreamCommand::fromCbor(*message);
+        if (command && command->type == CStreamCommand::EType::Release)
+            release(*command);
+        else if (command)
+            m_commands.push_back(*command);
+    }
+    m_isOver |= isBroken;
 }
 
 void CCameraImages::obey(const CStreamCommand &command)
@@ -134,8 +157,7 @@ void CCameraImages::obey(const CStreamCommand &command)
             stop();
             break;
         case CStreamCommand::EType::Release:
-            release(command);
-            break;
+            break; // done when it came
         case CStreamCommand::EType::Read:
             sendFeatures(command.names);
             break;
@@ -166,7 +188,7 @@ void CCameraImages::refuse(const CErrorText &error)
 void CCameraImages::write(const QString &name, const QString &value)
 {
     const auto isLocked = [this, &name] {
-        const QVector<Camera::CFeatureInfo> features = m_stream->readFeatures({name});
+        const QVector<Camera::CFeatureInfo> features = m_stream->readFeatures({name}, [] {});
         return !features.isEmpty() && features.first().isLockedByImages;
     };
     const bool wasLocked = m_memory && isLocked();
@@ -262,7 +284,8 @@ void CCameraImages::release(const CStreamCommand &command)
 
 void CCameraImages::sendFeatures(const QStringList &names)
 {
-    const QVector<Camera::CFeatureInfo> features = m_stream->readFeatures(names);
+    const QVector<Camera::CFeatureInfo> features
+        = m_stream->readFeatures(names, [this] { listen(0); });
     CStreamEvent event;
     event.type = CStreamEvent::EType::Features;
     qint64 size = 0;

@@ -6,6 +6,7 @@
 #include "viewer/stream/streamevent.h"
 #include "viewer/stream/streamtask.h"
 
+#include <deque>
 #include <memory>
 #include <mutex>
 #include <vector>
@@ -29,7 +30,9 @@ public:
 
 private:
     void open(const Stream::CStreamTask &task);
-    void follow(int input, QByteArray bytes);
+    void follow();
+    void listen(int milliseconds);
+    void takeCommands();
     void obey(const Stream::CStreamCommand &command);
     void start();
     void stop();
@@ -43,6 +46,10 @@ private:
 
     CMessageWriter &m_writer;
     Camera::CCameraKinds m_kinds;
+    int m_input = -1;
+    QByteArray m_bytes; ///< from there, of a command that is not whole
+    std::deque<Stream::CStreamCommand> m_commands; ///< that wait for their turn
+    bool m_isOver = false; ///< nothing that can be understood comes from there any more
     std::unique_ptr<Camera::ICameraStream> m_stream;
     std::unique_ptr<Stream::CFrameMemory> m_memory; ///< null: no images come
     qint64 m_startCount = 0;

@@ -131,9 +131,10 @@ CFeatureInfo describe(ArvGcFeatureNode *feature, const QString &category, bool i
 class CTreeReader
 {
 public:
-    CTreeReader(ArvDevice *device, bool isStreaming)
+    CTreeReader(ArvDevice *device, bool isStreaming, const std::function<void()> &pause)
         : m_device(device)
         , m_isStreaming(isStreaming)
+        , m_pause(pause)
     {
     }
 
@@ -150,6 +151,7 @@ public:
             if (m_seen.contains(text) || m_features.size() >= MAXIMUM_COUNT)
                 continue;
             m_seen.insert(text);
+            m_pause();
             if (ARV_IS_GC_CATEGORY(child))
                 read(name, path.isEmpty() ? text : path + QStringLiteral(" / ") + text, depth + 1);
             else if (ARV_IS_GC_FEATURE_NODE(child))
@@ -162,21 +164,24 @@ public:
 private:
     ArvDevice *const m_device;
     const bool m_isStreaming;
+    const std::function<void()> &m_pause;
     QSet<QString> m_seen;
     QVector<CFeatureInfo> m_features;
 };
 
 } // namespace
 
-QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names, bool isStreaming)
+QVector<CFeatureInfo> listFeatures(ArvDevice *device, const QStringList &names, bool isStreaming,
+                                   const std::function<void()> &pause)
 {
     if (names.isEmpty()) {
-        CTreeReader reader(device, isStreaming);
+        CTreeReader reader(device, isStreaming, pause);
         reader.read("Root", {}, 0);
         return reader.getFeatures();
     }
     QVector<CFeatureInfo> features;
     for (const QString &name : names) {
+        pause();
         ArvGcNode *const node = arv_device_get_feature(device, name.toUtf8().constData());
         if (ARV_IS_GC_FEATURE_NODE(node) && !ARV_IS_GC_CATEGORY(node))
             features.append(describe(ARV_GC_FEATURE_NODE(node), {}, isStreaming));

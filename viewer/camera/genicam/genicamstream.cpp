@@ -48,10 +48,11 @@ void CGenICamStream::close() noexcept
     m_device.close();
 }
 
-QVector<CFeatureInfo> CGenICamStream::readFeatures(const QStringList &names)
+QVector<CFeatureInfo> CGenICamStream::readFeatures(const QStringList &names,
+                                                   const std::function<void()> &pause)
 {
     return m_device.translate(
-        [this, &names] { return listFeatures(m_device.getDevice(), names, m_stream != nullptr); });
+        [&] { return listFeatures(m_device.getDevice(), names, m_stream != nullptr, pause); });
 }
 
 void CGenICamStream::writeFeature(const QString &name, const QString &value)

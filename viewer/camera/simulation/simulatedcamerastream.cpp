@@ -74,7 +74,8 @@ static CFeatureInfo makeText(const char *name, const char *category, const QStri
     return info;
 }
 
-QVector<CFeatureInfo> CSimulatedCameraStream::readFeatures(const QStringList &names)
+QVector<CFeatureInfo> CSimulatedCameraStream::readFeatures(const QStringList &names,
+                                                           const std::function<void()> &)
 {
     const CCameraSnapshot &camera = m_camera->getDescription().camera;
     const char *const device = "DeviceControl";

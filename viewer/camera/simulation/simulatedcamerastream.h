@@ -22,7 +22,8 @@ public:
     [[nodiscard]] QString getName() const override;
     void open(std::chrono::milliseconds timeLimit) override;
     void close() noexcept override;
-    [[nodiscard]] QVector<CFeatureInfo> readFeatures(const QStringList &names) override;
+    [[nodiscard]] QVector<CFeatureInfo> readFeatures(const QStringList &names,
+                                                     const std::function<void()> &pause) override;
     void writeFeature(const QString &name, const QString &value) override;
     void executeCommand(const QString &name) override;
     [[nodiscard]] qint64 getFrameSize() override;
