@@ -402,6 +402,7 @@ void CNuvexUpdateTest::asksAtATerminal()
 {
     // script(1) makes a terminal; what is written to it is typed. The update lasts longer than the
     // pause between two looks at its progress.
+    qputenv("TERM", "xterm");
     QProcess terminal;
     const QString command
         = QString("%1 update %2 --camera 40012345 --speed 10").arg(NUVEXUPDATE, UPDATE_FILE);
