@@ -200,6 +200,7 @@ double measureConversion()
     QImage onScreen(WIDTH, HEIGHT, QImage::Format_RGB32);
     cv::Mat to(HEIGHT, WIDTH, CV_8UC4, onScreen.bits());
     std::vector<cv::Mat> images;
+    images.reserve(BARE_BUFFERS);
     for (int i = 0; i < BARE_BUFFERS; ++i)
         images.emplace_back(HEIGHT, WIDTH, CV_8UC1, cv::Scalar(i));
     const double before = getProcessMs(getpid());
