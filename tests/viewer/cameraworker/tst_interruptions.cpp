@@ -29,10 +29,11 @@ Q_DECLARE_METATYPE(IsReached)
 
 static constexpr int LONGEST_WAIT = 60000; // milliseconds; far more than anything needs
 
+// An upload to it takes longer than the second after which its progress is written down again.
 static const char *const CAMERA_DESCRIPTION = R"({ "format": 1, "layers": [{ "id": "layer",
     "displayName": "Layer", "cameras": [{ "id": "camera", "displayName": "Camera",
     "model": "VX-1400M", "serialNumber": "1", "deviceVersion": "R2", "firmwareVersion": "1.2.0",
-    "uploadSpeed": 50000 }] }] })";
+    "uploadSpeed": 10000 }] }] })";
 
 /// What becomes of an update, and of the camera, when the finished viewer or its worker is killed.
 class CInterruptionsTest : public QObject
@@ -57,6 +58,7 @@ private:
     [[nodiscard]] DeviceFirmwareUpdatePtr makeJob(int camera) const;
     void startViewer(QProcess &viewer) const;
     [[nodiscard]] bool waitUntil(IsReached isReached, QProcess &viewer) const;
+    [[nodiscard]] bool updateUntil(IsReached isReached, bool isReal, QProcess &viewer);
     [[nodiscard]] QByteArray readUpTo(const char *text, QProcess &viewer) const;
     [[nodiscard]] QString readInstalledVersion() const;
 
@@ -120,10 +122,29 @@ bool CInterruptionsTest::waitUntil(IsReached isReached, QProcess &viewer) const
 {
     QElapsedTimer waiting;
     waiting.start();
-    while (!waiting.hasExpired(LONGEST_WAIT)) {
+    while (!waiting.hasExpired(LONGEST_WAIT) && !viewer.peek(1 << 20).contains("Step 5: ")) {
         if (isReached(getEntry().record))
             return true;
         viewer.waitForFinished(1);
+    }
+    return false;
+}
+
+/// Has the viewer update its only camera up to a phase. A machine that is busy can miss that: then
+/// all begins anew.
+bool CInterruptionsTest::updateUntil(IsReached isReached, bool isReal, QProcess &viewer)
+{
+    for (int attempt = 0; attempt < 4; ++attempt) {
+        viewer.kill();
+        viewer.waitForFinished();
+        cleanup();
+        init();
+        m_camera = QStringList{"--speed=2", "--cameras", m_folder.filePath("cameras.json")};
+        if (isReal)
+            startVirtualCamera({"--flash", m_home.filePath("flash")});
+        startViewer(viewer);
+        if (waitUntil(isReached, viewer))
+            return true;
     }
     return false;
 }
@@ -207,15 +228,8 @@ void CInterruptionsTest::endsWellWhoeverIsKilled()
     QFETCH(IsReached, isReached);
     if (isReal && makeCameraKinds({"--network"}).empty())
         QSKIP("The viewer was built without the library for real cameras.");
-    const QString flash = m_home.filePath("flash");
-    // No faster: a phase has to last until it is seen, with a sanitizer and other work beside it.
-    m_camera = QStringList{"--speed=2", "--cameras", m_folder.filePath("cameras.json")};
-    if (isReal)
-        startVirtualCamera({"--flash", flash});
-
     QProcess viewer;
-    startViewer(viewer);
-    QVERIFY2(waitUntil(isReached, viewer), "the phase was never seen");
+    QVERIFY2(updateUntil(isReached, isReal, viewer), "the phase was never seen");
     const pid_t worker = findChildProcesses(viewer.processId()).value(0);
     QVERIFY(worker > 0);
     kill(viewerDies ? static_cast<pid_t>(viewer.processId()) : worker, SIGKILL);
@@ -258,7 +272,7 @@ void CInterruptionsTest::endsWellWhoeverIsKilled()
              isRepeated ? EUpdateOutcome::Interrupted : EUpdateOutcome::Updated);
     QCOMPARE(readInstalledVersion(), QString("2.0.0"));
     if (isReal)
-        QVERIFY(readFile(flash) == makeImage("2.0.0", 50'000));
+        QVERIFY(readFile(m_home.filePath("flash")) == makeImage("2.0.0", 50'000));
 }
 
 void CInterruptionsTest::aSecondViewerTouchesNothing()
