@@ -33,6 +33,8 @@ fi
 SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
 export SOURCE_DATE_EPOCH
 export DEB_BUILD_OPTIONS="nocheck noautodbgsym parallel=$(nproc)"
+# With these a cache changes the folders in what debuggers read, and so the packages.
+unset CCACHE_BASEDIR CCACHE_NOHASHDIR
 # debhelper gives a build a home of its own, in which a cache would be of no use to the next one.
 if command -v ccache > /dev/null; then
   CCACHE_DIR=$(ccache --get-config cache_dir)
